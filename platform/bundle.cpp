@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "platform/bundle.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace bundle {
+
+QString dataFolder(const QString &executableFolder) {
+    return QDir::cleanPath(executableFolder + QStringLiteral("/../" TOVAREL_DATA_DIR));
+}
+
+QString pathForTool(const QString &name) {
+    const QString ours =
+        dataFolder(QCoreApplication::applicationDirPath()) + QLatin1Char('/') + name;
+    if (const QFileInfo info(ours); info.isFile() || info.isSymLink())
+        return ours;
+    return QStandardPaths::findExecutable(name);
+}
+
+} // namespace bundle

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/image.h"
+
+#include <QRectF>
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+/// One window on the screen, as the window server describes it.
+struct WindowDescription {
+    /// The window's number, unique among the windows that exist at one time.
+    std::uint32_t number = 0;
+    /// 0 when the window may not be shared (it opted out), another value otherwise.
+    std::int32_t sharingState = 1;
+    /// The name of the application that owns the window, never a title; it may be unknown. Windows
+    /// of this program's own process bear "Tovarel", whatever the executable is called.
+    std::optional<QString> ownerName;
+    /// The process that owns the window; 0 when the server cannot tell.
+    std::int64_t ownerPid = 0;
+    /// Place and size in the desktop's own units (pixels), origin at the desktop's upper left.
+    QRectF bounds;
+    /// The window's layer: 0 for ordinary windows, below 0 for the desktop's background, above for
+    /// panels, menus and other windows that are kept on top.
+    std::int32_t layer = 0;
+};
+
+/// What a back end is able to do.
+struct WindowServerCapabilities {
+    /// It can list the single windows on the screen.
+    bool canList = false;
+    /// It can compose a picture that leaves out some of them.
+    bool canLeaveOut = false;
+    /// It learns what changed, so that a grab costs what changed.
+    bool knowsDamage = false;
+};
+
+/// The window server: the list of the windows on screen, and one picture of those that are asked
+/// for. The contract between the capture and the platform's back ends; it knows nothing of
+/// recordings. All calls come from the main thread.
+class WindowServer {
+public:
+    virtual ~WindowServer() = default;
+
+    virtual WindowServerCapabilities capabilities() const = 0;
+
+    /// Why this server cannot record, in one sentence for the user; empty when it can.
+    virtual QString reason() const = 0;
+
+    /// The windows on screen, front to back, menus and tool tips included. The desktop's background
+    /// is the last entry. Windows that vanish meanwhile are left out; an empty list when the server
+    /// cannot list.
+    virtual std::vector<WindowDescription> listWindows() = 0;
+
+    /// One picture of the whole desktop (all displays, in pixels, upper left origin) that shows
+    /// exactly the windows with these numbers, front to back in the order given; what none of them
+    /// covers is black. Numbers that no window bears any more are passed over. Two calls between
+    /// which nothing changed yield the same picture (`Image::sameAs`). None when the server has no
+    /// picture to give.
+    virtual std::optional<Image> composite(std::span<const std::uint32_t> numbers) = 0;
+};
+
+/// The server of the display that this session runs on; a null one with its reason where nothing
+/// can be recorded. Never null itself.
+std::unique_ptr<WindowServer> makeWindowServer();
