@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+
+#include "app/application.h"
+#include "platform/window_server.h"
+#include "record/frame_saver.h"
+#include "ui_MainWindow.h"
+
+#include <QMessageBox>
+
+#include <utility>
+
+AppDelegate::AppDelegate(Environment environment)
+    : ui(std::make_unique<Ui::MainWindow>()), windowServer_(std::move(environment.windowServer)),
+      documentsFolder_(std::move(environment.documentsFolder)) {}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::RunAlert(const QString &messageText, const QString &informativeText) {
+    QMessageBox alert(shell.window());
+    alert.setObjectName(QStringLiteral("alert"));
+    alert.setWindowTitle(shell.s_App_Name());
+    alert.setIcon(messageText == QLatin1String("Error") ? QMessageBox::Warning
+                                                        : QMessageBox::Information);
+    // Tool output and paths come into these texts: they are shown, never interpreted.
+    alert.setTextFormat(Qt::PlainText);
+    alert.setText(messageText);
+    alert.setInformativeText(informativeText);
+    alert.setWindowModality(Qt::ApplicationModal);
+    alert.addButton(QStringLiteral("Close"), QMessageBox::AcceptRole);
+    alert.exec();
+}
+
+void AppDelegate::ShowStatus(const QString &text) {
+    ui->labelStatus->setText(text);
+    ui->labelStatus->setToolTip(text);
+}
+
+AppDelegate *appDelegate() {
+    const auto *application = qobject_cast<Application *>(QCoreApplication::instance());
+    return application ? application->delegate() : nullptr;
+}

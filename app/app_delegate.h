@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/interface_strings.h"
+#include "app/shell_fields.h"
+#include "export/export_fields.h"
+#include "record/capture_fields.h"
+#include "record/recording_fields.h"
+#include "region/region_fields.h"
+#include "trim/trim_fields.h"
+
+#include <QObject>
+#include <QProcess>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+#include <vector>
+
+class FrameSaver;
+class WindowServer;
+namespace Ui {
+class MainWindow;
+}
+
+/// The application controller: the one owner of state, and the receiver of every action, timer and
+/// notice. A single instance lives as long as the process. It holds no rules and no drawing: rules
+/// are pure functions in the concerns' folders, views draw what they read here.
+///
+/// The methods of a concern are implemented in that concern's folder. Everything runs on the main
+/// thread.
+class AppDelegate : public QObject {
+    Q_OBJECT
+
+public:
+    /// What the controller takes from outside, so that a test can give another one.
+    struct Environment {
+        std::unique_ptr<WindowServer> windowServer;
+        /// The user's Documents folder, absolute, in which the working folders lie.
+        QString documentsFolder;
+    };
+
+    explicit AppDelegate(Environment environment);
+    ~AppDelegate() override;
+
+    // State, by concern -----------------------------------------------------------------------
+
+    ShellFields shell;
+    InterfaceStrings texts;
+    CaptureFields capture;
+    RecordingFields recording;
+    RegionFields region;
+    TrimFields trim;
+    ExportFields exporting;
+
+    /// The controls of the main window, by their established names (`ui->btnRecordRecord`).
+    std::unique_ptr<Ui::MainWindow> ui;
+
+    // Start and end (app/) --------------------------------------------------------------------
+
+    /// Sets what the interface description leaves to the controller; before the start-up.
+    void awakeFromNib();
+    /// The start-up sequence; the window is shown when it returns. False when a working folder
+    /// could not be made (the user has been told): the process must end, with status 0.
+    bool applicationDidFinishLaunching();
+    bool applicationShouldTerminateAfterLastWindowClosed() const { return true; }
+    /// The main window is closing: ends the process, unless a recording is being saved.
+    /// Returns only in that case.
+    void windowWillClose();
+    /// The platform's termination notice (signals, the end of the session).
+    void applicationWillTerminate();
+    /// Ends the process at once with status 0, from wherever it is called: settings are written, a
+    /// running tool is ended, nothing else is released or emptied.
+    [[noreturn]] void Terminate_App();
+    /// Takes the frame of the main window's screen into `frame_Screen` and `size_Screen`; the zero
+    /// rectangle without a screen. Points, lower left origin.
+    void GetScreenSize();
+    /// The smallest allowed size is 556 by 425 points; larger sizes pass unchanged.
+    static QSizeF windowWillResizeToSize(QSizeF proposed);
+    /// The screen configuration changed: an open region overlay whose screen is another now ends,
+    /// and the whole screen is recorded.
+    void screenParametersDidChange();
+
+    // Working folders (app/) ------------------------------------------------------------------
+
+    /// Removes everything inside the folder (hidden files and broken links too) and keeps the
+    /// folder. What cannot be removed is logged as "oops: ..." and skipped.
+    void RemoveAllContentInFolder(const QString &folder);
+    /// Whether a recording exists: whether anything stands at the first frame's path.
+    bool firstFrameFileExists() const;
+
+    // Tabs and menus (app/) -------------------------------------------------------------------
+
+    /// Whether the tab with this identifier ("1" Record, "2" Cut, "3" GIF) may be entered now.
+    bool tabViewShouldSelectTabViewItem(const QString &identifier) const;
+    /// Prepares the tab that was entered: timers, enabling, first values.
+    void tabViewDidSelectTabViewItem(const QString &identifier);
+    void OnMenuTabRecord();
+    void OnMenuTabCut();
+    void OnMenuTabGIF();
+    void OnMenuActionRecordFullScreen();
+    void OnMenuActionRecordRegion();
+    void OnMenuActionRecordRecord();
+    void OnMenuActionRecordPause();
+    void OnMenuActionRecordStop();
+    void OnMenuActionRecordFPS();
+    void OnMenuActionCutPlay();
+    void OnMenuActionCutPause();
+    void OnMenuActionCutStop();
+    void OnMenuActionGIFExport();
+    void OnMenuHelpAppHomePage();
+    void OnMenuHelpCompanyHomePage();
+    void OnMenuHelpPrivacyPolicy();
+    void OnMenuHelpSubmitTicket();
+    void OnMenuAbout();
+    void OnMenuQuit();
+
+    // Telling the user (app/) -----------------------------------------------------------------
+
+    /// An application-modal alert with one button "Close"; returns when it is dismissed.
+    void RunAlert(const QString &messageText, const QString &informativeText);
+    /// Shows `text` in the status line until the next one; an empty text clears it.
+    void ShowStatus(const QString &text);
+
+    // Window-list capture (record/) -----------------------------------------------------------
+
+    void updateWindowList();
+    std::vector<std::uint32_t> newWindowListFromSelection(std::span<const WindowEntry> selection);
+    void createMultiWindowShot(std::span<const WindowEntry> selection);
+    /// Stores a grab in `imgScreenCapture`, halved on a double-density screen; none keeps the
+    /// previous one.
+    void setOutputImage(const std::optional<Image> &grab);
+    Image Scale_Image_By_Percentage(const Image &image, float percentage);
+    WindowServer &windowServer() { return *windowServer_; }
+
+    // Recording (record/) ---------------------------------------------------------------------
+
+    void OnRecordRecord(QObject *sender);
+    void OnRecordPause(QObject *sender);
+    void OnRecordStop(QObject *sender);
+    void OnRecordFPS(QObject *sender);
+    /// The capture tick: list, leave out our own windows, grab, mark the preview.
+    void TimerRefreshVideoRoutine();
+    /// The one-second tick: counts the frames of a second that fell into a recording.
+    void TimerDebug1SecondRoutine();
+    /// Starts the capture timer anew with the interval 1 / `u_FPS`, in single precision.
+    void restartCaptureTimer();
+    void restartOneSecondTimer();
+    void stopRecordTimers();
+    /// The frame-store step: while recording, appends `imageScreenCaptureFinal` to the store.
+    void storeFrame();
+    /// Whether the frames of a stopped recording are still being written.
+    bool isSavingRecording() const;
+
+    // Preview and progress sheet (record/) ----------------------------------------------------
+
+    /// Where an image is drawn in an area, see `bestFitFrame` in record/fitting.h.
+    QRectF return_Best_Fit_Frame(double imageWidth, double imageHeight, double areaWidth,
+                                 double areaHeight);
+    /// Attaches a fresh progress sheet to the main window; its bar runs from 0 to 100.
+    void showProgressSheet();
+    void setProgressRange(double minimum, double maximum);
+    /// Moves the bar; values beyond its range show as empty or full, one that is not finite moves
+    /// nothing. Without a sheet nothing happens.
+    void setProgressValue(double value);
+    /// Turns events other than the user's until the sheet is on screen, then paints it: for work
+    /// that is about to block the main thread.
+    void paintProgressSheet();
+    void closeProgressSheet();
+
+    // Region (region/) ------------------------------------------------------------------------
+
+    void OnRecordFullScreen(QObject *sender);
+    void OnRecordRegion(QObject *sender);
+    /// Ends and closes the open overlay and its modal loop; `pFullScreen` is null afterwards.
+    void endRegionOverlay();
+
+    // Trim editor (trim/) ---------------------------------------------------------------------
+
+    void OnCutPlay(QObject *sender);
+    void OnCutPause(QObject *sender);
+    void OnCutStop(QObject *sender);
+    void TimerRefreshPlayRoutine();
+    /// Works out `uFirstFrame` and `uLastFrame` from the handles' percentages.
+    void updateTrimmedRange();
+
+    // GIF options (export/) -------------------------------------------------------------------
+
+    /// Resets the GIF tab to the original size and rate, or disables it without a recording.
+    void resetGIFOptions();
+
+    // Export (export/) ------------------------------------------------------------------------
+
+    void OnGIFExport(QObject *sender);
+
+private:
+    // Connecting controls to actions, each in its concern's folder.
+    void connectShellControls();
+    void connectRecordControls();
+    void connectTrimControls();
+    void connectExportControls();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    bool createWorkingFolders();
+    void applyTexts();
+
+    std::unique_ptr<WindowServer> windowServer_;
+    QString documentsFolder_;
+    std::unique_ptr<FrameSaver> frameSaver_;
+};
+
+/// The delegate of the application object: how views and dialogs reach the controller. Null before
+/// the controller is made, as in tests of a view that needs none.
+AppDelegate *appDelegate();

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+#include "app/tab_view.h"
+#include "ui_MainWindow.h"
+
+namespace {
+
+/// A button whose face carries an icon: the text is its tool tip, and its name for whoever cannot
+/// see the icon.
+void setToolTip(QAbstractButton &button, const QString &text) {
+    button.setToolTip(text);
+    button.setAccessibleName(text);
+}
+
+} // namespace
+
+void AppDelegate::applyTexts() {
+    const QString &name = shell.s_App_Name();
+    const QString blank = QStringLiteral(" ");
+    ui->menuitemAbout->setText(texts.s_IDD_ABOUT() + blank + name);
+    ui->menuitemQuit->setText(texts.s_IDD_QUIT() + blank + name);
+    ui->menuitemHelp->setText(name + blank + texts.s_IDD_HELP());
+
+    ui->menuitemAppHomePage->setText(texts.s_IDD_APP_HOME_PAGE());
+    ui->menuitemCompanyHomePage->setText(texts.s_IDD_COMPANY_PAGE());
+    ui->menuitemPrivacyPolicy->setText(texts.s_IDD_PRIVACY_POLICY());
+    ui->menuitemSubmitTicket->setText(texts.s_IDD_SUBMIT_TICKET());
+
+    ui->menuitemTabCut->setText(texts.s_IDD_CUT());
+    ui->menuitemTabRecord->setText(texts.s_IDD_RECORD());
+    ui->menuitemTabGIF->setText(texts.s_IDD_SAVE());
+
+    ui->menuitemActionRecordRecord->setText(texts.s_IDD_RECORD());
+    ui->menuitemActionRecordPause->setText(texts.s_IDD_PAUSE());
+    ui->menuitemActionRecordStop->setText(texts.s_IDD_STOP());
+    ui->submenuitemRecord->setTitle(texts.s_IDD_RECORD());
+    ui->submenuitemCut->setTitle(texts.s_IDD_CUT());
+    ui->submenuitemGIF->setTitle(texts.s_IDD_SAVE());
+    ui->menuitemActionCutPlay->setText(texts.s_IDD_PLAY());
+    ui->menuitemActionCutPause->setText(texts.s_IDD_PAUSE());
+    ui->menuitemActionCutStop->setText(texts.s_IDD_STOP());
+    ui->menuitemActionRecordFPS->setText(texts.s_IDD_FPS());
+    ui->menuitemActionRecordFullScreen->setText(texts.s_IDD_FULL_SCREEN());
+    ui->menuitemActionRecordRegion->setText(texts.s_IDD_REGION());
+    ui->menuitemActionGIFExport->setText(texts.s_IDD_GENERATE_GIF());
+
+    for (const QString &label : {texts.s_IDD_RECORD(), texts.s_IDD_CUT(), texts.s_IDD_SAVE()})
+        shell.tabviewMain()->addTab(label);
+
+    setToolTip(*ui->btnRecordFullScreen, texts.s_IDD_FULL_SCREEN());
+    setToolTip(*ui->btnRecordRegion, texts.s_IDD_REGION());
+    setToolTip(*ui->btnRecordFPS, texts.s_IDD_FPS());
+    setToolTip(*ui->btnRecordRecord, texts.s_IDD_RECORD());
+    setToolTip(*ui->btnRecordPause, texts.s_IDD_PAUSE());
+    setToolTip(*ui->btnRecordStop, texts.s_IDD_STOP());
+    setToolTip(*ui->btnCutPlay, texts.s_IDD_PLAY());
+    setToolTip(*ui->btnCutPause, texts.s_IDD_PAUSE());
+    setToolTip(*ui->btnCutStop, texts.s_IDD_STOP());
+
+    ui->labelInstructions->setText(texts.s_IDD_INSTRUCTIONS());
+    ui->radioGIFOriginalDimension->setText(texts.s_IDD_RESOLUTION_EQUAL());
+    ui->radioGIFCustomDimension->setText(texts.s_IDD_RESOLUTION_CUSTOM());
+    ui->labelWidth->setText(texts.s_IDD_WIDTH());
+    ui->labelHeight->setText(texts.s_IDD_HEIGHT());
+    ui->checkGIFKeepAspectRatio->setText(texts.s_IDD_KEEP_ASPECT_RATIO());
+    ui->radioGIFOriginalFPS->setText(texts.s_IDD_FPS_EQUAL());
+    ui->radioGIFCustomFPS->setText(texts.s_IDD_FORCE_FPS());
+    ui->labelFPS->setText(texts.s_IDD_FPS());
+    ui->labelNote->setText(texts.s_IDD_NOTE());
+    ui->btnGIFExport->setToolTip(texts.s_IDD_GENERATE_GIF());
+    ui->btnGIFExport->setText(texts.s_IDD_GENERATE_GIF());
+
+    ui->menuApplication->setTitle(name);
+    ui->menuTab->setTitle(qtTrId("IDD_MENU_TAB"));
+    ui->menuAction->setTitle(qtTrId("IDD_MENU_ACTION"));
+    ui->menuHelp->setTitle(texts.s_IDD_HELP());
+    ui->groupDimension->setTitle(qtTrId("IDD_GROUP_SIZE"));
+    ui->groupFPS->setTitle(qtTrId("IDD_GROUP_RATE"));
+    ui->textGIFWidth->setAccessibleName(texts.s_IDD_WIDTH());
+    ui->textGIFHeigth->setAccessibleName(texts.s_IDD_HEIGHT());
+    ui->comboGIFFPS->setAccessibleName(texts.s_IDD_FPS());
+}

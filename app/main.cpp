@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+#include "app/application.h"
+#include "app/single_instance.h"
+#include "app/strings_table.h"
+#include "app/termination_notice.h"
+#include "platform/display.h"
+#include "platform/window_server.h"
+
+#include <QMainWindow>
+#include <QStandardPaths>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+/// Tools inherit the standard input; a terminal there would stop them for reading from it in the
+/// background, or feed them keys that were meant for the shell.
+void detachStandardInput() {
+    const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    if (nothing < 0)
+        return;
+    dup2(nothing, STDIN_FILENO);
+    if (nothing != STDIN_FILENO)
+        close(nothing);
+}
+
+void bringForward(QWidget &window, const QString &startupId) {
+    // Qt hands this to the window manager as the user's own wish, which a window raised out of
+    // nowhere would not be.
+    if (!startupId.isEmpty())
+        qputenv("DESKTOP_STARTUP_ID", startupId.toUtf8());
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    detachStandardInput();
+    if (!displayIsReachable()) {
+        std::fputs("Tovarel needs a desktop: no display can be reached (is DISPLAY set?).\n",
+                   stderr);
+        return EXIT_FAILURE;
+    }
+    Application application(argc, argv);
+    Application::setApplicationName(QStringLiteral("Tovarel"));
+    Application::setOrganizationName(QStringLiteral("Tovarel"));
+    Application::setApplicationVersion(QStringLiteral(TOVAREL_VERSION));
+    Application::setDesktopFileName(QStringLiteral("tovarel"));
+
+    SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+    if (!instance.isFirst()) {
+        instance.askFirstToComeForward();
+        return EXIT_SUCCESS;
+    }
+
+    strings_table::install();
+    AppDelegate delegate(
+        {.windowServer = makeWindowServer(),
+         .documentsFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)});
+    application.setDelegate(&delegate);
+    application.installEventFilter(&delegate);
+    const TerminationNotice notice([&delegate] { delegate.applicationWillTerminate(); });
+    delegate.awakeFromNib();
+    if (!delegate.applicationDidFinishLaunching())
+        return EXIT_SUCCESS;
+    instance.listen([&delegate](const QString &startupId) {
+        bringForward(*delegate.shell.window(), startupId);
+    });
+    Application::exec();
+    delegate.Terminate_App();
+}

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/screen_watcher.h"
+
+#include "app/app_delegate.h"
+
+#include <QGuiApplication>
+#include <QMainWindow>
+#include <QScreen>
+
+QRectF lowerLeftFrame(const QScreen &screen) {
+    const QRectF frame = screen.geometry();
+    const QScreen *primary = QGuiApplication::primaryScreen();
+    const QRectF origin = primary ? primary->geometry() : frame;
+    return {frame.x() - origin.x(), origin.bottom() - frame.bottom(), frame.width(),
+            frame.height()};
+}
+
+ScreenWatcher::ScreenWatcher(QObject *parent) : QObject(parent) {
+    for (QScreen *screen : QGuiApplication::screens())
+        watch(screen);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen *screen) {
+        watch(screen);
+        Q_EMIT changed();
+    });
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &ScreenWatcher::changed);
+    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &ScreenWatcher::changed);
+}
+
+void ScreenWatcher::watch(QScreen *screen) {
+    connect(screen, &QScreen::geometryChanged, this, &ScreenWatcher::changed);
+}
+
+void AppDelegate::screenParametersDidChange() {
+    if (!region.pFullScreen())
+        return;
+    const QScreen *screen = shell.window()->screen();
+    const QRectF frame = screen ? lowerLeftFrame(*screen) : QRectF();
+    const QRectF known = shell.frame_Screen();
+    // QRectF's own comparison is fuzzy; here every difference counts.
+    const bool same = frame.x() == known.x() && frame.y() == known.y() &&
+                      frame.width() == known.width() && frame.height() == known.height();
+    if (same)
+        return;
+    endRegionOverlay();
+    region.setI_Type_Screen_Capture(CAPTURE_FULL_SCREEN);
+}

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QRectF>
+
+class QScreen;
+
+/// The screen's frame in points, with y growing upwards and the origin at the primary screen's
+/// lower left corner.
+QRectF lowerLeftFrame(const QScreen &screen);
+
+/// Tells of every change of the screen configuration with one signal: screens added and removed,
+/// moved, resized, and another one made primary.
+class ScreenWatcher : public QObject {
+    Q_OBJECT
+
+public:
+    explicit ScreenWatcher(QObject *parent);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void watch(QScreen *screen);
+};

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/settings.h"
+
+#include "platform/text_number.h"
+
+#include <QSettings>
+
+namespace settings {
+
+namespace {
+
+const QString howToKey = QStringLiteral("MACBrenmoor_Lumsey_b_Show_Select_Region_How_To");
+
+void sync(QSettings &store) {
+    store.sync();
+    if (store.status() != QSettings::NoError)
+        qWarning("the settings file %s cannot be written", qUtf8Printable(store.fileName()));
+}
+
+} // namespace
+
+std::int64_t readShowSelectRegionHowTo() {
+    const QString stored = QSettings().value(howToKey).toString();
+    if (!stored.isEmpty())
+        return integerValue(stored);
+    writeShowSelectRegionHowTo(1);
+    return 1;
+}
+
+void writeShowSelectRegionHowTo(std::int64_t flag) {
+    QSettings store;
+    store.setValue(howToKey, QString::number(flag));
+    sync(store);
+}
+
+void flush() {
+    QSettings store;
+    sync(store);
+}
+
+} // namespace settings

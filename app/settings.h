@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+/// The one persisted setting, in the user's settings file. Values are stored as text, so that a
+/// person can read and change them.
+namespace settings {
+
+/// The stored how-to flag as a whole number; 1 is stored and returned when there is none yet. A
+/// text that does not begin with a number reads as 0.
+std::int64_t readShowSelectRegionHowTo();
+
+/// Stores the flag; it is on disk when this returns. A file that cannot be written is logged and
+/// otherwise ignored: the flag then holds until the program ends.
+void writeShowSelectRegionHowTo(std::int64_t flag);
+
+/// Writes what is not on disk yet.
+void flush();
+
+} // namespace settings

@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+#include "app/screen_watcher.h"
+#include "app/settings.h"
+#include "app/tab_view.h"
+#include "app/working_folders.h"
+#include "platform/bundle.h"
+#include "ui_MainWindow.h"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace {
+
+constexpr double smallestWidth = 556;  // points
+constexpr double smallestHeight = 425; // points
+
+/// Rates that the lists offer, in frames per second.
+constexpr int highestRate = 60;
+
+void fillRates(QComboBox &list, std::uint64_t selected) {
+    for (int rate = 1; rate <= highestRate; ++rate)
+        list.addItem(QString::number(rate));
+    const bool listed = selected >= 1 && selected <= highestRate;
+    list.setCurrentIndex(listed ? static_cast<int>(selected) - 1 : 0);
+}
+
+} // namespace
+
+void AppDelegate::awakeFromNib() {
+    auto *mainWindow = new QMainWindow; // The process ends with it: see Terminate_App.
+    mainWindow->setAttribute(Qt::WA_DeleteOnClose, false);
+    ui->setupUi(mainWindow);
+    shell.setWindow(mainWindow);
+    shell.setTabviewMain(new TabView(
+        *ui->tabBar, *ui->tabStack,
+        {.shouldSelect = [this](const QString &id) { return tabViewShouldSelectTabViewItem(id); },
+         .didSelect = [this](const QString &id) { tabViewDidSelectTabViewItem(id); }},
+        mainWindow));
+    capture.setListOptions(1);
+    capture.setImageOptions(0);
+    capture.setImageBounds(std::nullopt);
+    mainWindow->setMinimumSize(windowWillResizeToSize({0, 0}).toSize());
+    mainWindow->installEventFilter(this);
+    connectShellControls();
+}
+
+void AppDelegate::connectShellControls() {
+    const auto on = [this](QAction *item, void (AppDelegate::*action)()) {
+        connect(item, &QAction::triggered, this, action);
+    };
+    on(ui->menuitemAbout, &AppDelegate::OnMenuAbout);
+    on(ui->menuitemQuit, &AppDelegate::OnMenuQuit);
+    on(ui->menuitemTabRecord, &AppDelegate::OnMenuTabRecord);
+    on(ui->menuitemTabCut, &AppDelegate::OnMenuTabCut);
+    on(ui->menuitemTabGIF, &AppDelegate::OnMenuTabGIF);
+    on(ui->menuitemHelp, &AppDelegate::OnMenuHelpAppHomePage);
+    on(ui->menuitemAppHomePage, &AppDelegate::OnMenuHelpAppHomePage);
+    on(ui->menuitemCompanyHomePage, &AppDelegate::OnMenuHelpCompanyHomePage);
+    on(ui->menuitemPrivacyPolicy, &AppDelegate::OnMenuHelpPrivacyPolicy);
+    on(ui->menuitemSubmitTicket, &AppDelegate::OnMenuHelpSubmitTicket);
+}
+
+bool AppDelegate::applicationDidFinishLaunching() {
+    shell.setS_App_Name(QStringLiteral("Tovarel"));
+    texts.load();
+    applyTexts();
+    recording.setU_FPS(defaultFramesPerSecond);
+    shell.setSffmpegPath(bundle::pathForTool(QStringLiteral("ffmpeg")));
+    shell.setSimg2webpPath(bundle::pathForTool(QStringLiteral("img2webp")));
+    if (!createWorkingFolders())
+        return false;
+    RemoveAllContentInFolder(shell.s_Output_Folder());
+    RemoveAllContentInFolder(shell.s_Export_Folder());
+    RemoveAllContentInFolder(shell.s_Pallete_Folder());
+    GetScreenSize();
+    region.setRect_Screen_Region(shell.frame_Screen());
+    capture.arrayController.clear();
+    capture.arrayWindowsMinusHarrowlens.clear();
+    region.arrayScreenPointSquare.clear();
+    region.setB_Show_Select_Region_How_To(settings::readShowSelectRegionHowTo());
+    fillRates(*ui->comboGIFFPS, recording.u_FPS());
+    capture.setImgScreenCapture({});
+    capture.setImageScreenCaptureFinal({});
+    ui->btnRecordFullScreen->setEnabled(true);
+    ui->btnRecordRegion->setEnabled(true);
+    ui->btnRecordRecord->setEnabled(true);
+    ui->btnRecordPause->setEnabled(false);
+    ui->btnRecordStop->setEnabled(false);
+    ui->btnRecordFPS->setEnabled(true);
+    ui->menuitemActionRecordFullScreen->setEnabled(true);
+    ui->menuitemActionRecordRegion->setEnabled(true);
+    ui->menuitemActionRecordRecord->setEnabled(true);
+    ui->menuitemActionRecordPause->setEnabled(false);
+    ui->menuitemActionRecordStop->setEnabled(false);
+    ui->menuitemActionRecordFPS->setEnabled(true);
+    recording.setM_RecordStatus(RECORD_STATUS_STOP);
+    trim.setF_Cut_Percent_Menor(0.0f);
+    trim.setF_Cut_Percent_Maior(100.0f);
+    trim.setM_PlayStatus(PLAY_STATUS_STOP);
+    shell.tabviewMain()->selectTabViewItemAtIndex(0);
+    ui->submenuitemRecord->setEnabled(true);
+    ui->submenuitemCut->setEnabled(false);
+    ui->submenuitemGIF->setEnabled(false);
+    recording.setI_debug_number_of_view_refresh(0);
+    restartOneSecondTimer();
+    restartCaptureTimer();
+    shell.window()->setWindowTitle(QStringLiteral("Tovarel"));
+    shell.window()->show();
+    shell.window()->raise();
+    shell.window()->activateWindow();
+    region.setPFullScreen(nullptr);
+    auto *screens = new ScreenWatcher(this);
+    shell.setLocaleChangeObserver(connect(screens, &ScreenWatcher::changed, this,
+                                          &AppDelegate::screenParametersDidChange,
+                                          Qt::QueuedConnection));
+    return true;
+}
+
+bool AppDelegate::createWorkingFolders() {
+    shell.setS_Output_Folder(working_folders::recordingFolder(documentsFolder_));
+    shell.setS_Export_Folder(working_folders::exportFolder(documentsFolder_));
+    shell.setS_Pallete_Folder(working_folders::paletteFolder(documentsFolder_));
+    const struct {
+        const QString &path;
+        const char *failure;
+    } folders[] = {
+        {shell.s_Output_Folder(), "Error #0008. Application will exit."},
+        {shell.s_Export_Folder(), "Error #0009. Application will exit."},
+        {shell.s_Pallete_Folder(), "Error #0010. Application will exit."},
+    };
+    for (const auto &folder : folders) {
+        if (working_folders::ensureFolder(folder.path))
+            continue;
+        RunAlert(QStringLiteral("Error"), QString::fromLatin1(folder.failure));
+        return false;
+    }
+    return true;
+}
+
+void AppDelegate::GetScreenSize() {
+    const QScreen *screen = shell.window()->screen();
+    const QRectF frame = screen ? lowerLeftFrame(*screen) : QRectF();
+    shell.setFrame_Screen(frame);
+    shell.setSize_Screen(frame.size());
+}
+
+QSizeF AppDelegate::windowWillResizeToSize(QSizeF proposed) {
+    return {std::max(proposed.width(), smallestWidth), std::max(proposed.height(), smallestHeight)};
+}

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+#include "app/tab_view.h"
+#include "ui_MainWindow.h"
+
+namespace {
+
+const QString recordTab = QStringLiteral("1");
+const QString cutTab = QStringLiteral("2");
+const QString gifTab = QStringLiteral("3");
+
+} // namespace
+
+bool AppDelegate::tabViewShouldSelectTabViewItem(const QString &identifier) const {
+    const bool recordStopped = recording.m_RecordStatus() == RECORD_STATUS_STOP;
+    const bool playStopped = trim.m_PlayStatus() == PLAY_STATUS_STOP;
+    if (identifier == recordTab)
+        return playStopped;
+    if (identifier == cutTab)
+        return recordStopped;
+    return recordStopped && playStopped;
+}
+
+void AppDelegate::tabViewDidSelectTabViewItem(const QString &identifier) {
+    if (identifier == recordTab) {
+        restartOneSecondTimer();
+        restartCaptureTimer();
+    } else {
+        stopRecordTimers();
+    }
+    if (identifier == cutTab) {
+        const bool exists = firstFrameFileExists();
+        ui->btnCutPlay->setEnabled(exists);
+        ui->btnCutPause->setEnabled(false);
+        ui->btnCutStop->setEnabled(false);
+        ui->menuitemActionCutPlay->setEnabled(exists);
+        ui->menuitemActionCutPause->setEnabled(false);
+        ui->menuitemActionCutStop->setEnabled(false);
+        // The exports read the range, and nothing may ever be painted (a minimised window).
+        if (exists)
+            updateTrimmedRange();
+    }
+    if (identifier == gifTab)
+        resetGIFOptions();
+    ui->submenuitemRecord->setEnabled(identifier == recordTab);
+    ui->submenuitemCut->setEnabled(identifier == cutTab);
+    ui->submenuitemGIF->setEnabled(identifier == gifTab);
+}
+
+void AppDelegate::OnMenuTabRecord() { shell.tabviewMain()->selectTabViewItemAtIndex(0); }
+void AppDelegate::OnMenuTabCut() { shell.tabviewMain()->selectTabViewItemAtIndex(1); }
+void AppDelegate::OnMenuTabGIF() { shell.tabviewMain()->selectTabViewItemAtIndex(2); }

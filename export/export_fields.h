@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+class Window_Progress;
+
+/// The kind of job that the progress sheet follows: the GIF encoding run.
+inline constexpr std::uint64_t PROGRESS_TYPE_GIF = 0;
+
+/// State of the exports and of the progress sheet. `export/` owns the behaviour.
+class ExportFields {
+public:
+    /// The progress sheet while one is shown; null otherwise. The main window owns the widget.
+    Window_Progress *windowProgress() const { return windowProgress_; }
+    void setWindowProgress(Window_Progress *sheet) { windowProgress_ = sheet; }
+
+    /// Set when the watched tool has ended.
+    bool terminated() const { return terminated_; }
+    void setTerminated(bool ended) { terminated_ = ended; }
+
+    /// Which job the progress sheet follows.
+    std::uint64_t u_Type_Progress() const { return u_Type_Progress_; }
+    void setU_Type_Progress(std::uint64_t type) { u_Type_Progress_ = type; }
+
+    /// Expected length of the clip being encoded, in whole seconds.
+    std::uint64_t i_Orig_Duration_in_Seconds() const { return i_Orig_Duration_in_Seconds_; }
+    void setI_Orig_Duration_in_Seconds(std::uint64_t seconds) {
+        i_Orig_Duration_in_Seconds_ = seconds;
+    }
+
+private:
+    Window_Progress *windowProgress_ = nullptr;
+    bool terminated_ = false;
+    std::uint64_t u_Type_Progress_ = PROGRESS_TYPE_GIF;
+    std::uint64_t i_Orig_Duration_in_Seconds_ = 0;
+};

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/image.h"
+#include "platform/repeating_timer.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+/// States of a recording.
+inline constexpr std::uint64_t RECORD_STATUS_STOP = 0;
+inline constexpr std::uint64_t RECORD_STATUS_RECORD = 1;
+inline constexpr std::uint64_t RECORD_STATUS_PAUSE = 2;
+
+/// The capture rate that the program starts with, in frames per second.
+inline constexpr std::uint64_t defaultFramesPerSecond = 5;
+
+/// State of the recording and its frame store. `record/` owns the behaviour.
+class RecordingFields {
+public:
+    /// Recording state, one of the three above.
+    std::uint64_t m_RecordStatus() const { return m_RecordStatus_; }
+    void setM_RecordStatus(std::uint64_t status) { m_RecordStatus_ = status; }
+
+    /// Capture rate in frames per second, 1 to 60; sets the capture timer's interval. Stop writes
+    /// the measured rate here.
+    std::uint64_t u_FPS() const { return u_FPS_; }
+    void setU_FPS(std::uint64_t rate) { u_FPS_ = rate; }
+
+    /// Measured rate of the last recording in frames per second.
+    std::uint64_t u_Record_Current_FPS() const { return u_Record_Current_FPS_; }
+    void setU_Record_Current_FPS(std::uint64_t rate) { u_Record_Current_FPS_ = rate; }
+
+    /// Number of frames stored so far; after Stop the recording's frame count.
+    std::uint64_t u_Record_Current_Frame() const { return u_Record_Current_Frame_; }
+    void setU_Record_Current_Frame(std::uint64_t count) { u_Record_Current_Frame_ = count; }
+
+    /// Frames stored since the last one-second tick that fell into a recording.
+    std::uint64_t i_debug_number_of_view_refresh() const { return i_debug_number_of_view_refresh_; }
+    void setI_debug_number_of_view_refresh(std::uint64_t count) {
+        i_debug_number_of_view_refresh_ = count;
+    }
+
+    /// Sum of the per-second frame counts of the recording.
+    std::int64_t i_Actual_FPS_while_Recording() const { return i_Actual_FPS_while_Recording_; }
+    void setI_Actual_FPS_while_Recording(std::int64_t sum) { i_Actual_FPS_while_Recording_ = sum; }
+
+    /// One-second ticks that fell into the recording.
+    std::uint64_t u_number_of_seconds() const { return u_number_of_seconds_; }
+    void setU_number_of_seconds(std::uint64_t seconds) { u_number_of_seconds_ = seconds; }
+
+    /// The frame store: frames of the current or last recording, in order. Absent until the first
+    /// recording starts.
+    std::optional<std::vector<Image>> array_Images;
+
+    /// The capture timer; absent while the Record tab is not shown.
+    std::unique_ptr<RepeatingTimer> timerVideoRefresh;
+
+    /// The one-second tally timer; absent while the Record tab is not shown.
+    std::unique_ptr<RepeatingTimer> timerdebug1Second;
+
+private:
+    std::uint64_t m_RecordStatus_ = RECORD_STATUS_STOP;
+    std::uint64_t u_FPS_ = 0;
+    std::uint64_t u_Record_Current_FPS_ = 0;
+    std::uint64_t u_Record_Current_Frame_ = 0;
+    std::uint64_t i_debug_number_of_view_refresh_ = 0;
+    std::int64_t i_Actual_FPS_while_Recording_ = 0;
+    std::uint64_t u_number_of_seconds_ = 0;
+};

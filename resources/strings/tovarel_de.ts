@@ -1,0 +1,151 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Tovarel authors
+     SPDX-License-Identifier: MIT -->
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="IDD_ABOUT">
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message id="IDD_HELP">
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message id="IDD_QUIT">
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message id="IDD_APP_HOME_PAGE">
+        <source>Home Page</source>
+        <translation>Startseite</translation>
+    </message>
+    <message id="IDD_COMPANY_PAGE">
+        <source>Maker's Page</source>
+        <translation>Seite des Herstellers</translation>
+    </message>
+    <message id="IDD_PRIVACY_POLICY">
+        <source>Privacy Policy</source>
+        <translation>Datenschutz</translation>
+    </message>
+    <message id="IDD_SUBMIT_TICKET">
+        <source>Submit a Ticket</source>
+        <translation>Anfrage senden</translation>
+    </message>
+    <message id="IDD_RECORD">
+        <source>Record</source>
+        <translation>Aufnehmen</translation>
+    </message>
+    <message id="IDD_PAUSE">
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message id="IDD_STOP">
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message id="IDD_CUT">
+        <source>Cut</source>
+        <translation>Schneiden</translation>
+    </message>
+    <message id="IDD_SAVE">
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message id="IDD_FULL_SCREEN">
+        <source>Full Screen</source>
+        <translation>Ganzer Bildschirm</translation>
+    </message>
+    <message id="IDD_REGION">
+        <source>Region</source>
+        <translation>Bereich</translation>
+    </message>
+    <message id="IDD_FPS">
+        <source>Frames per second</source>
+        <translation>Bilder pro Sekunde</translation>
+    </message>
+    <message id="IDD_INSTRUCTIONS">
+        <source>Choose the size and the frame rate of the GIF, then generate it.</source>
+        <translation>Größe und Bildrate des GIFs wählen, dann erzeugen.</translation>
+    </message>
+    <message id="IDD_RESOLUTION_EQUAL">
+        <source>Same size as the recording</source>
+        <translation>Größe wie die Aufnahme</translation>
+    </message>
+    <message id="IDD_RESOLUTION_CUSTOM">
+        <source>Custom size</source>
+        <translation>Eigene Größe</translation>
+    </message>
+    <message id="IDD_WIDTH">
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message id="IDD_HEIGHT">
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message id="IDD_KEEP_ASPECT_RATIO">
+        <source>Keep the aspect ratio</source>
+        <translation>Seitenverhältnis beibehalten</translation>
+    </message>
+    <message id="IDD_FPS_EQUAL">
+        <source>Same frame rate as the recording</source>
+        <translation>Bildrate wie die Aufnahme</translation>
+    </message>
+    <message id="IDD_FORCE_FPS">
+        <source>Custom frame rate</source>
+        <translation>Eigene Bildrate</translation>
+    </message>
+    <message id="IDD_NOTE">
+        <source>The rate measured while recording is the one that counts: it can lie below the chosen one.</source>
+        <translation>Es zählt die beim Aufnehmen gemessene Bildrate: Sie kann unter der gewählten liegen.</translation>
+    </message>
+    <message id="IDD_GENERATE_GIF">
+        <source>Generate GIF</source>
+        <translation>GIF erzeugen</translation>
+    </message>
+    <message id="IDD_LOW_FRAME_NUMBER">
+        <source>The chosen range holds too few frames: at least three are needed.</source>
+        <translation>Der gewählte Abschnitt hat zu wenige Bilder: Mindestens drei sind nötig.</translation>
+    </message>
+    <message id="IDD_INVALID_DIMENSION">
+        <source>The width and the height must be numbers other than 0.</source>
+        <translation>Breite und Höhe müssen Zahlen sein, die nicht 0 sind.</translation>
+    </message>
+    <message id="IDD_GIF_SAVED_OK">
+        <source>The GIF has been saved.</source>
+        <translation>Das GIF wurde gespeichert.</translation>
+    </message>
+    <message id="IDD_PLAY">
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <!-- app -->
+    <message id="IDD_MENU_TAB">
+        <source>Tab</source>
+        <translation>Reiter</translation>
+    </message>
+    <message id="IDD_MENU_ACTION">
+        <source>Action</source>
+        <translation>Aktion</translation>
+    </message>
+    <message id="IDD_GROUP_SIZE">
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message id="IDD_GROUP_RATE">
+        <source>Frame rate</source>
+        <translation>Bildrate</translation>
+    </message>
+    <message id="IDD_ABOUT_TEXT">
+        <source>Records the screen and makes an animated GIF of it.</source>
+        <translation>Nimmt den Bildschirm auf und macht daraus ein animiertes GIF.</translation>
+    </message>
+    <!-- platform -->
+    <!-- record -->
+    <!-- region -->
+    <!-- trim -->
+    <!-- export -->
+</context>
+</TS>

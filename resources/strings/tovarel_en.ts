@@ -1,0 +1,151 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Tovarel authors
+     SPDX-License-Identifier: MIT -->
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="IDD_ABOUT">
+        <source>About</source>
+        <translation>About</translation>
+    </message>
+    <message id="IDD_HELP">
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message id="IDD_QUIT">
+        <source>Quit</source>
+        <translation>Quit</translation>
+    </message>
+    <message id="IDD_APP_HOME_PAGE">
+        <source>Home Page</source>
+        <translation>Home Page</translation>
+    </message>
+    <message id="IDD_COMPANY_PAGE">
+        <source>Maker's Page</source>
+        <translation>Maker's Page</translation>
+    </message>
+    <message id="IDD_PRIVACY_POLICY">
+        <source>Privacy Policy</source>
+        <translation>Privacy Policy</translation>
+    </message>
+    <message id="IDD_SUBMIT_TICKET">
+        <source>Submit a Ticket</source>
+        <translation>Submit a Ticket</translation>
+    </message>
+    <message id="IDD_RECORD">
+        <source>Record</source>
+        <translation>Record</translation>
+    </message>
+    <message id="IDD_PAUSE">
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message id="IDD_STOP">
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message id="IDD_CUT">
+        <source>Cut</source>
+        <translation>Cut</translation>
+    </message>
+    <message id="IDD_SAVE">
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message id="IDD_FULL_SCREEN">
+        <source>Full Screen</source>
+        <translation>Full Screen</translation>
+    </message>
+    <message id="IDD_REGION">
+        <source>Region</source>
+        <translation>Region</translation>
+    </message>
+    <message id="IDD_FPS">
+        <source>Frames per second</source>
+        <translation>Frames per second</translation>
+    </message>
+    <message id="IDD_INSTRUCTIONS">
+        <source>Choose the size and the frame rate of the GIF, then generate it.</source>
+        <translation>Choose the size and the frame rate of the GIF, then generate it.</translation>
+    </message>
+    <message id="IDD_RESOLUTION_EQUAL">
+        <source>Same size as the recording</source>
+        <translation>Same size as the recording</translation>
+    </message>
+    <message id="IDD_RESOLUTION_CUSTOM">
+        <source>Custom size</source>
+        <translation>Custom size</translation>
+    </message>
+    <message id="IDD_WIDTH">
+        <source>Width</source>
+        <translation>Width</translation>
+    </message>
+    <message id="IDD_HEIGHT">
+        <source>Height</source>
+        <translation>Height</translation>
+    </message>
+    <message id="IDD_KEEP_ASPECT_RATIO">
+        <source>Keep the aspect ratio</source>
+        <translation>Keep the aspect ratio</translation>
+    </message>
+    <message id="IDD_FPS_EQUAL">
+        <source>Same frame rate as the recording</source>
+        <translation>Same frame rate as the recording</translation>
+    </message>
+    <message id="IDD_FORCE_FPS">
+        <source>Custom frame rate</source>
+        <translation>Custom frame rate</translation>
+    </message>
+    <message id="IDD_NOTE">
+        <source>The rate measured while recording is the one that counts: it can lie below the chosen one.</source>
+        <translation>The rate measured while recording is the one that counts: it can lie below the chosen one.</translation>
+    </message>
+    <message id="IDD_GENERATE_GIF">
+        <source>Generate GIF</source>
+        <translation>Generate GIF</translation>
+    </message>
+    <message id="IDD_LOW_FRAME_NUMBER">
+        <source>The chosen range holds too few frames: at least three are needed.</source>
+        <translation>The chosen range holds too few frames: at least three are needed.</translation>
+    </message>
+    <message id="IDD_INVALID_DIMENSION">
+        <source>The width and the height must be numbers other than 0.</source>
+        <translation>The width and the height must be numbers other than 0.</translation>
+    </message>
+    <message id="IDD_GIF_SAVED_OK">
+        <source>The GIF has been saved.</source>
+        <translation>The GIF has been saved.</translation>
+    </message>
+    <message id="IDD_PLAY">
+        <source>Play</source>
+        <translation>Play</translation>
+    </message>
+    <!-- app -->
+    <message id="IDD_MENU_TAB">
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message id="IDD_MENU_ACTION">
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message id="IDD_GROUP_SIZE">
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message id="IDD_GROUP_RATE">
+        <source>Frame rate</source>
+        <translation>Frame rate</translation>
+    </message>
+    <message id="IDD_ABOUT_TEXT">
+        <source>Records the screen and makes an animated GIF of it.</source>
+        <translation>Records the screen and makes an animated GIF of it.</translation>
+    </message>
+    <!-- platform -->
+    <!-- record -->
+    <!-- region -->
+    <!-- trim -->
+    <!-- export -->
+</context>
+</TS>
