@@ -6,6 +6,7 @@
 #include "app/strings_table.h"
 #include "app/termination_notice.h"
 #include "platform/display.h"
+#include "platform/window_activation.h"
 #include "platform/window_server.h"
 
 #include <QMainWindow>
@@ -30,15 +31,11 @@ void detachStandardInput() {
         close(nothing);
 }
 
-void bringForward(QWidget &window, const QString &startupId) {
-    // Qt hands this to the window manager as the user's own wish, which a window raised out of
-    // nowhere would not be.
-    if (!startupId.isEmpty())
-        qputenv("DESKTOP_STARTUP_ID", startupId.toUtf8());
+void bringForward(QWidget &window) {
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
     window.raise();
-    window.activateWindow();
+    bringToFront(window.winId());
 }
 
 } // namespace
@@ -72,9 +69,7 @@ int main(int argc, char **argv) {
     delegate.awakeFromNib();
     if (!delegate.applicationDidFinishLaunching())
         return EXIT_SUCCESS;
-    instance.listen([&delegate](const QString &startupId) {
-        bringForward(*delegate.shell.window(), startupId);
-    });
+    instance.listen([&delegate] { bringForward(*delegate.shell.window()); });
     Application::exec();
     delegate.Terminate_App();
 }

@@ -15,8 +15,7 @@
 
 namespace {
 
-constexpr int patience = 2000;       // milliseconds
-constexpr qint64 longestToken = 256; // bytes; a start-up id is far shorter
+constexpr int patience = 2000; // milliseconds
 
 } // namespace
 
@@ -36,18 +35,17 @@ SingleInstance::~SingleInstance() {
 }
 
 void SingleInstance::askFirstToComeForward() const {
+    // Connecting is the whole message: there is only one thing to ask for.
     QLocalSocket socket;
     socket.connectToServer(socketPath_);
     if (!socket.waitForConnected(patience))
         return;
-    socket.write(qgetenv("DESKTOP_STARTUP_ID").left(longestToken) + '\n');
-    socket.waitForBytesWritten(patience);
-    // The first instance hangs up once it has read.
+    // The first instance hangs up once it has come forward.
     if (socket.state() != QLocalSocket::UnconnectedState)
         socket.waitForDisconnected(patience);
 }
 
-void SingleInstance::listen(std::function<void(const QString &)> comeForward) {
+void SingleInstance::listen(std::function<void()> comeForward) {
     if (lock_ < 0)
         return;
     // What lies there belongs to an instance that has ended: this one holds the lock.
@@ -55,18 +53,10 @@ void SingleInstance::listen(std::function<void(const QString &)> comeForward) {
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     QObject::connect(&server_, &QLocalServer::newConnection, &server_,
                      [this, comeForward = std::move(comeForward)] {
-                         QLocalSocket *caller = server_.nextPendingConnection();
-                         QObject::connect(caller, &QLocalSocket::disconnected, caller,
-                                          &QObject::deleteLater);
-                         const auto answer = [caller, comeForward] {
-                             if (!caller->canReadLine() && caller->bytesAvailable() < longestToken)
-                                 return;
-                             const QByteArray token = caller->readLine(longestToken).trimmed();
-                             caller->disconnectFromServer();
-                             comeForward(QString::fromUtf8(token));
-                         };
-                         QObject::connect(caller, &QLocalSocket::readyRead, caller, answer);
-                         answer();
+                         const std::unique_ptr<QLocalSocket> caller(
+                             server_.nextPendingConnection());
+                         comeForward();
                      });
-    server_.listen(socketPath_);
+    if (!server_.listen(socketPath_))
+        qWarning("a second start cannot reach this one: %s", qUtf8Printable(server_.errorString()));
 }

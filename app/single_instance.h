@@ -24,9 +24,8 @@ public:
     /// Asks the first instance to bring its window forward; waits two seconds at most.
     void askFirstToComeForward() const;
 
-    /// In the first instance: calls `comeForward` whenever another start asks for it. The text is
-    /// the other start's activation token (an X start-up id); it may be empty.
-    void listen(std::function<void(const QString &)> comeForward);
+    /// In the first instance: calls `comeForward` whenever another start asks for it.
+    void listen(std::function<void()> comeForward);
 
 private:
     QString socketPath_;

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "platform/window_activation.h"
+
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+namespace {
+
+/// The request comes from the user through another program (EWMH 1.5, _NET_ACTIVE_WINDOW).
+constexpr std::uint32_t sourceIsUser = 2;
+
+} // namespace
+
+void bringToFront(quintptr window) {
+    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(
+        xcb_connect(nullptr, nullptr), xcb_disconnect);
+    if (xcb_connection_has_error(connection.get()) != 0)
+        return;
+    const char name[] = "_NET_ACTIVE_WINDOW";
+    const auto cookie = xcb_intern_atom(connection.get(), 0, std::strlen(name), name);
+    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
+        xcb_intern_atom_reply(connection.get(), cookie, nullptr), std::free);
+    if (!atom)
+        return;
+    xcb_client_message_event_t request{};
+    request.response_type = XCB_CLIENT_MESSAGE;
+    request.format = 32;
+    request.window = static_cast<xcb_window_t>(window);
+    request.type = atom->atom;
+    request.data.data32[0] = sourceIsUser;
+    request.data.data32[1] = XCB_CURRENT_TIME;
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection.get())).data->root;
+    xcb_send_event(connection.get(), 0, root,
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   reinterpret_cast<const char *>(&request));
+    xcb_flush(connection.get());
+}
