@@ -159,8 +159,9 @@ public:
     /// Where an image is drawn in an area, see `bestFitFrame` in record/fitting.h.
     QRectF return_Best_Fit_Frame(double imageWidth, double imageHeight, double areaWidth,
                                  double areaHeight);
-    /// Attaches a fresh progress sheet to the main window; its bar runs from 0 to 100.
-    void showProgressSheet();
+    /// Attaches a fresh progress sheet with this caption to the main window, in place of any
+    /// earlier one; its bar runs from 0 to 100.
+    void showProgressSheet(const QString &caption);
     void setProgressRange(double minimum, double maximum);
     /// Moves the bar; values beyond its range show as empty or full, one that is not finite moves
     /// nothing. Without a sheet nothing happens.

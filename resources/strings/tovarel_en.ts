@@ -144,6 +144,14 @@
     </message>
     <!-- platform -->
     <!-- record -->
+    <message id="IDD_SAVING_RECORDING">
+        <source>Saving the recording…</source>
+        <translation>Saving the recording…</translation>
+    </message>
+    <message id="IDD_GENERATING_GIF">
+        <source>Generating the GIF…</source>
+        <translation>Generating the GIF…</translation>
+    </message>
     <!-- region -->
     <!-- trim -->
     <!-- export -->
