@@ -206,6 +206,7 @@ private:
     bool eventFilter(QObject *watched, QEvent *event) override;
     bool createWorkingFolders();
     void applyTexts();
+    void applyIcons();
 
     std::unique_ptr<WindowServer> windowServer_;
     QString documentsFolder_;

@@ -46,6 +46,7 @@ void AppDelegate::awakeFromNib() {
     capture.setImageBounds(std::nullopt);
     mainWindow->setMinimumSize(windowWillResizeToSize({0, 0}).toSize());
     mainWindow->installEventFilter(this);
+    applyIcons();
     connectShellControls();
 }
 

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/palette_icon.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmap>
+#include <QSvgRenderer>
+
+#include <utility>
+
+namespace {
+
+class PaletteIconEngine : public QIconEngine {
+public:
+    PaletteIconEngine(QByteArray drawing, const QColor &accent)
+        : drawing_(std::move(drawing)), accent_(accent) {}
+
+    QIconEngine *clone() const override { return new PaletteIconEngine(*this); }
+
+    void paint(QPainter *painter, const QRect &place, QIcon::Mode mode, QIcon::State) override {
+        QByteArray coloured = drawing_;
+        coloured.replace("currentColor", colour(mode).name(QColor::HexRgb).toLatin1());
+        QSvgRenderer renderer(coloured);
+        const int side = qMin(place.width(), place.height());
+        QRect square(0, 0, side, side);
+        square.moveCenter(place.center());
+        renderer.render(painter, square);
+    }
+
+    /// `size` is in pixels of the screen: a drawing needs no scale beside it.
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
+        QImage image(size, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+        painter.end();
+        return QPixmap::fromImage(image);
+    }
+
+private:
+    QColor colour(QIcon::Mode mode) const {
+        const QPalette palette = QGuiApplication::palette();
+        switch (mode) {
+        case QIcon::Disabled:
+            return palette.color(QPalette::Disabled, QPalette::ButtonText);
+        case QIcon::Selected:
+            return palette.color(QPalette::Active, QPalette::HighlightedText);
+        case QIcon::Normal:
+        case QIcon::Active:
+            break;
+        }
+        return accent_.isValid() ? accent_ : palette.color(QPalette::Active, QPalette::ButtonText);
+    }
+
+    QByteArray drawing_;
+    QColor accent_;
+};
+
+} // namespace
+
+QIcon paletteIcon(const QString &path, const QColor &accent) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qWarning("the icon %s cannot be read", qUtf8Printable(path));
+        return {};
+    }
+    return QIcon(new PaletteIconEngine(file.readAll(), accent));
+}

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QIcon>
+#include <QString>
+
+/// Icons that follow the application's palette: drawings in one colour, painted anew in each size,
+/// scale and state from the palette of that moment. So they stay sharp on every screen, and a theme
+/// that turns dark while the program runs needs nothing more than the repaint that it causes
+/// anyway. Not for pictures with colours of their own.
+///
+/// Every drawing is square and says `currentColor` (SVG 1.1, section 12.2) wherever it is not
+/// transparent.
+
+/// The icon drawn in the SVG file `path`: in the palette's button text, or in `accent` when that is
+/// valid, while its control is enabled, in the palette's disabled button text when it is not, and
+/// in the highlighted text on a selected menu item. A file that cannot be read gives an
+/// empty icon.
+QIcon paletteIcon(const QString &path, const QColor &accent = {});
