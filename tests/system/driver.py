@@ -1,0 +1,384 @@
+# SPDX-FileCopyrightText: 2026 The Tovarel authors
+# SPDX-License-Identifier: MIT
+"""Drives the real program as a user would: a virtual display with a window manager, the
+accessibility bus to find and press controls, the pointer and the keys.
+
+A Session is that display with everything on it, in a home of its own, so that nothing of the
+user's is touched; a Program is one start of Tovarel in it. Nothing here waits for a fixed time:
+every wait is for a condition and has a limit. The output of every process goes to a file in the
+session's folder. One session in a process, since the accessibility library connects once.
+"""
+
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+PATIENCE = 30  # seconds; longer than any step takes on a slow machine with sanitizers
+BINARY = "tovarel"
+COUNTER = "tests/system/counter_window"
+# A button on each tab's page that no other page has.
+PAGES = {"Record": "Region", "Cut": "Play", "GIF": "Generate GIF"}
+
+
+class Late(AssertionError):
+    """What was waited for did not happen in time."""
+
+
+def wait_for(what, condition, patience=PATIENCE, between=0.02):
+    """The first true result of `condition`, which is asked again and again."""
+    end = time.monotonic() + patience
+    while True:
+        result = condition()
+        if result:
+            return result
+        if time.monotonic() > end:
+            raise Late(f"waited {patience} s in vain for {what}")
+        time.sleep(between)
+
+
+class Session:
+    """A display, a window manager and a message bus. To be used as a context manager; what was
+    started in it is ended with it, whatever happened."""
+
+    def __init__(self, build, width=800, height=600):
+        self.build = pathlib.Path(build).resolve()
+        self.width, self.height = width, height
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tovarel-"))
+        self.home = self.folder / "home"
+        self.documents = self.home / "Documents"
+        self.frames = self.documents / "Pallomar"
+        self.runtime = self.folder / "runtime"
+        self.outputs = self.folder / "outputs"
+        self.environment = {}
+
+    def __enter__(self):
+        try:
+            self._start()
+        except BaseException:
+            self.close()
+            raise
+        return self
+
+    def __exit__(self, kind, _value, _trace):
+        self.close(keep_outputs=kind is not None)
+
+    def _start(self):
+        for folder in (self.home, self.documents, self.outputs):
+            folder.mkdir()
+        self.runtime.mkdir(mode=0o700)
+        self.environment = {
+            "HOME": str(self.home),
+            "LC_ALL": "C.UTF-8",
+            "PATH": os.environ["PATH"],
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "TMPDIR": str(self.folder),
+            "XDG_RUNTIME_DIR": str(self.runtime),
+        }
+        for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"):
+            if name in os.environ:
+                self.environment[name] = os.environ[name]
+        screen = f"{self.width}x{self.height}x24"
+        # The server looks for a free number itself.
+        display = self._announce(
+            "Xvfb", lambda end: ["Xvfb", "-displayfd", str(end), "-screen", "0", screen]
+            + ["-nolisten", "tcp", "-noreset"])
+        self.environment["DISPLAY"] = ":" + display
+        bus = self._announce(
+            "dbus-daemon", lambda end: ["dbus-daemon", "--session", "--nofork", "--nopidfile"]
+            + [f"--print-address={end}"])
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus
+        self.start("openbox", ["openbox"])
+        wait_for("the window manager", lambda: self.xdotool("get_num_desktops", check=False))
+        # The accessibility library reads the environment of this process.
+        for name in [name for name in os.environ if name.startswith("XDG_")]:
+            del os.environ[name]
+        os.environ.update(self.environment)
+
+    def _announce(self, name, command):
+        """Starts a server that writes one line to an open file once it is ready: that line."""
+        read, write = os.pipe()
+        try:
+            self.start(name, command(write), pass_fds=(write,))
+        finally:
+            os.close(write)
+        with open(read, encoding="utf-8") as answer:
+            line = answer.readline().strip()
+        if not line:
+            raise AssertionError(f"{name} did not start:\n{self.output(name)}")
+        return line
+
+    def start(self, name, command, environment=None, **options):
+        """Starts a process in the session; its output goes to outputs/NAME.log."""
+        options.setdefault("stdin", subprocess.DEVNULL)
+        with open(self.outputs / f"{name}.log", "ab") as output:
+            return subprocess.Popen(
+                command, stdout=output, stderr=output,
+                env={**self.environment, **(environment or {})}, **options)
+
+    def output(self, name):
+        return (self.outputs / f"{name}.log").read_text(encoding="utf-8", errors="replace")
+
+    def xdotool(self, *arguments, check=True):
+        """What xdotool answers; it moves the pointer and presses keys like a user's hand."""
+        done = subprocess.run(
+            ["xdotool", *map(str, arguments)], env=self.environment, text=True, check=False,
+            stdin=subprocess.DEVNULL, capture_output=True, timeout=PATIENCE)
+        if check and done.returncode:
+            raise AssertionError(f"xdotool {arguments}: {done.stderr}")
+        return done.stdout.strip() if done.returncode == 0 else ""
+
+    def counter(self, *options):
+        """Starts the window with the known picture; its place on the screen, as
+        (x, y, width, height) without the frame."""
+        name = f"counter-{len(list(self.outputs.iterdir()))}"
+        self.start(name, [self.build / COUNTER, *options])
+        lines = wait_for("the counter's window", lambda: self.output(name).split("\n")[:-1])
+        return tuple(int(number) for number in lines[-1].split())
+
+    def processes(self, name=None):
+        """Numbers of the living processes that were started in this session, by anyone."""
+        mark = f"HOME={self.home}".encode()
+        found = []
+        for entry in pathlib.Path("/proc").iterdir():
+            if not entry.name.isdigit() or int(entry.name) == os.getpid():
+                continue
+            try:
+                ours = mark in (entry / "environ").read_bytes().split(b"\0")
+                stat = (entry / "stat").read_text(encoding="utf-8", errors="replace")
+            except OSError:
+                continue
+            command, state = stat[stat.index("(") + 1 :].rsplit(") ", 1)
+            if ours and not state.startswith("Z") and name in (None, command):
+                found.append(int(entry.name))
+        return found
+
+    def close(self, keep_outputs=False):
+        for wanted in (signal.SIGTERM, signal.SIGKILL):
+            end = time.monotonic() + 3
+            while self.processes() and time.monotonic() < end:
+                for number in self.processes():
+                    try:
+                        os.kill(number, wanted)
+                    except ProcessLookupError:
+                        pass
+                time.sleep(0.05)
+        if keep_outputs:
+            for path in sorted(self.outputs.glob("tovarel*.log")):
+                print(f"--- {path.name}\n{self.output(path.stem)[-4000:]}", flush=True)
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+
+class Program:
+    """One start of the program. A control is found by its role and its accessible name, among what
+    is on the screen: what a user sees of it."""
+
+    _count = 0
+
+    def __init__(self, session, environment=None, wait=True):
+        self.session = session
+        Program._count += 1
+        self.log = f"tovarel-{Program._count}"
+        self.process = session.start(self.log, [session.build / BINARY], environment)
+        if wait:
+            wait_for("the main window", lambda: self.ended() or self.find("frame", "Tovarel"))
+            assert not self.ended(), f"ended at start:\n{self.output()}"
+
+    # The process -----------------------------------------------------------------------------
+
+    def output(self):
+        return self.session.output(self.log)
+
+    def ended(self):
+        return self.process.poll() is not None
+
+    def status(self):
+        """The exit status, once the program has ended by itself."""
+        return wait_for("the end of the program", lambda: self.ended() and [self.process.poll()])[0]
+
+    def end(self):
+        if not self.ended():
+            self.process.terminate()
+        return self.status()
+
+    # Finding ---------------------------------------------------------------------------------
+
+    def root(self):
+        """The program on the accessibility bus, or None before it is there."""
+        for index in range(desktop().get_child_count()):
+            try:
+                child = desktop().get_child_at_index(index)
+                if child and child.get_process_id() == self.process.pid:
+                    return child
+            except bus_errors():
+                continue
+        return None
+
+    def all(self, role, name=None, showing=True):
+        """Every control with this role and accessible name, from the root down."""
+        root = self.root()
+        waiting, found = [root] if root else [], []
+        while waiting:
+            item = waiting.pop(0)
+            try:
+                if self._fits(item, role, name, showing):
+                    found.append(item)
+                count = item.get_child_count()
+                waiting += filter(None, (item.get_child_at_index(i) for i in range(count)))
+            except bus_errors():
+                continue  # Gone while we looked.
+        return found
+
+    @staticmethod
+    def _fits(item, role, name, showing):
+        return (
+            item.get_role_name() == role
+            and name in (None, item.get_name())
+            and (not showing or has_state(item, "SHOWING"))
+        )
+
+    def find(self, role, name=None):
+        return next(iter(self.all(role, name)), None)
+
+    def await_control(self, role, name=None, patience=PATIENCE):
+        return wait_for(f"{role} {name or ''}", lambda: self.find(role, name), patience)
+
+    def button(self, name):
+        return self.await_control("push button", name)
+
+    # Doing -----------------------------------------------------------------------------------
+
+    def press(self, name, patience=PATIENCE):
+        """Presses a button as assistive technology does, once it may be pressed."""
+        item = wait_for(
+            f"button {name} to be pressable",
+            lambda: next((found for found in self.all("push button", name)
+                          if has_state(found, "ENABLED")), None), patience)
+        act(item)
+
+    def choose(self, *path):
+        """Chooses from the menu bar with the pointer: the titles of the menus, then the item's."""
+        item = self.await_control("menu bar")
+        for title in path:
+            item = wait_for(f"menu item {title}", lambda title=title, above=item: next(
+                (found for found in descendants(above, "menu item")
+                 if found.get_name() == title and has_state(found, "SHOWING")), None))
+            self.click(item)
+
+    def ask_for_tab(self, name):
+        """Asks for a tab as assistive technology does; it may be refused."""
+        act(self.await_control("page tab", name))
+
+    def shown_tab(self):
+        """The tab whose page is on the screen."""
+        return next((tab for tab, button in PAGES.items() if self.find("push button", button)), None)
+
+    def enter(self, name):
+        self.ask_for_tab(name)
+        wait_for(f"tab {name}", lambda: self.shown_tab() == name)
+
+    def enabled(self, name):
+        """Whether the button that is shown under this name may be pressed."""
+        return has_state(self.button(name), "ENABLED")
+
+    def labels(self):
+        """Everything that stands as text in the window."""
+        return [content(item) for item in self.all("label")]
+
+    def click(self, item, button=1):
+        """Clicks the middle of a control with the pointer."""
+        x, y = middle(item)
+        self.session.xdotool("mousemove", "--sync", x, y, "click", button)
+
+    def window(self):
+        """The main window's number on the display."""
+        return wait_for("the main window on the screen", lambda: self.session.xdotool(
+            "search", "--onlyvisible", "--all", "--pid", self.process.pid, "--name", "^Tovarel$",
+            check=False)).split()[0]
+
+    def alert(self, patience=PATIENCE):
+        """The texts of the alert that is up, once there is one."""
+        item = self.await_control("alert", patience=patience)
+        return [content(label) for label in descendants(item, "label")]
+
+    def dismiss_alert(self):
+        self.press("Close")
+        wait_for("the alert to close", lambda: not self.find("alert"))
+
+    def save_panel(self, path, patience=PATIENCE):
+        """Types the path into the save panel and confirms it."""
+        panel = self.await_control("dialog", "Select a folder to save the GIF image", patience)
+        field = wait_for("the panel's name field", lambda: next(
+            (item for item in descendants(panel, "text") if has_state(item, "SHOWING")), None))
+        wait_for("a preset name", lambda: content(field) == "output.gif")
+        field.set_text_contents(str(path))
+        wait_for("the path in the field", lambda: content(field) == str(path))
+        self.press("Save")
+
+
+# The accessibility library, loaded once the session's environment stands -------------------------
+
+
+def atspi():
+    import gi  # pylint: disable=import-outside-toplevel
+
+    gi.require_version("Atspi", "2.0")
+    from gi.repository import Atspi  # pylint: disable=import-outside-toplevel
+
+    return Atspi
+
+
+def bus_errors():
+    from gi.repository import GLib  # pylint: disable=import-outside-toplevel
+
+    return GLib.Error
+
+
+_desktop = []
+
+
+def desktop():
+    if not _desktop:
+        atspi().init()
+        atspi().set_timeout(5000, PATIENCE * 1000)  # milliseconds: a call, a start
+        _desktop.append(atspi().get_desktop(0))
+        # Nothing is remembered: its events would have to be waited for.
+        _desktop[0].set_cache_mask(atspi().Cache.NONE)
+    return _desktop[0]
+
+
+def has_state(item, state):
+    return item.get_state_set().contains(getattr(atspi().StateType, state))
+
+
+def act(item):
+    """The control's first action: press a button, select a tab, trigger a menu item."""
+    if not item.get_action_iface() or not item.do_action(0):
+        raise AssertionError(f"no action on {item.get_role_name()} {item.get_name()}")
+
+
+def content(item):
+    if item.get_text_iface():
+        return atspi().Text.get_text(item, 0, -1)
+    return item.get_name()
+
+
+def descendants(item, role):
+    found, waiting = [], [item]
+    while waiting:
+        item = waiting.pop(0)
+        try:
+            if item.get_role_name() == role:
+                found.append(item)
+            waiting += filter(None, map(item.get_child_at_index, range(item.get_child_count())))
+        except bus_errors():
+            continue
+    return found
+
+
+def middle(item):
+    box = item.get_extents(atspi().CoordType.SCREEN)
+    return box.x + box.width // 2, box.y + box.height // 2
