@@ -1,7 +1,40 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "platform/null/null_window_server.h"
+#include "platform/x11/x11_window_server.h"
+
+#include <QtGlobal>
+
+namespace {
+
+// In a Wayland session an X server may well answer, but its root window holds only the windows
+// of X clients, and grabs of it show a desktop that nobody sees.
+bool isWaylandSession() {
+    return qgetenv("XDG_SESSION_TYPE") == "wayland" ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+QString sentence(X11WindowServer::Obstacle obstacle) {
+    switch (obstacle) {
+    case X11WindowServer::Obstacle::NoDisplay:
+        return qtTrId("IDD_REASON_NO_DISPLAY");
+    case X11WindowServer::Obstacle::NoComposite:
+        return qtTrId("IDD_REASON_NO_COMPOSITE");
+    case X11WindowServer::Obstacle::MissingExtension:
+        return qtTrId("IDD_REASON_MISSING_EXTENSION");
+    case X11WindowServer::Obstacle::PictureFormat:
+        return qtTrId("IDD_REASON_PICTURE_FORMAT");
+    }
+    return {};
+}
+
+} // namespace
 
 std::unique_ptr<WindowServer> makeWindowServer() {
-    return std::make_unique<NullWindowServer>(QString());
+    if (isWaylandSession())
+        return std::make_unique<NullWindowServer>(qtTrId("IDD_REASON_WAYLAND"));
+    auto obstacle = X11WindowServer::Obstacle::NoDisplay;
+    if (auto server = X11WindowServer::create({}, obstacle))
+        return server;
+    return std::make_unique<NullWindowServer>(sentence(obstacle));
 }

@@ -143,6 +143,26 @@
         <translation>Nimmt den Bildschirm auf und macht daraus ein animiertes GIF.</translation>
     </message>
     <!-- platform -->
+    <message id="IDD_REASON_NO_DISPLAY">
+        <source>The screen cannot be recorded: there is no display server.</source>
+        <translation>Der Bildschirm kann nicht aufgenommen werden: Es ist kein Anzeigeserver erreichbar.</translation>
+    </message>
+    <message id="IDD_REASON_NO_COMPOSITE">
+        <source>The screen cannot be recorded: this display server lacks the Composite extension, so the program could not leave out its own windows.</source>
+        <translation>Der Bildschirm kann nicht aufgenommen werden: Diesem Anzeigeserver fehlt die Erweiterung Composite, so dass das Programm seine eigenen Fenster nicht auslassen könnte.</translation>
+    </message>
+    <message id="IDD_REASON_MISSING_EXTENSION">
+        <source>The screen cannot be recorded: this display server lacks one of the extensions Damage, XFixes, Render and Shape.</source>
+        <translation>Der Bildschirm kann nicht aufgenommen werden: Diesem Anzeigeserver fehlt eine der Erweiterungen Damage, XFixes, Render und Shape.</translation>
+    </message>
+    <message id="IDD_REASON_PICTURE_FORMAT">
+        <source>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</source>
+        <translation>Der Bildschirm kann nicht aufgenommen werden: Dieser Anzeigeserver hält keine Bilder in 24-Bit-Farbe.</translation>
+    </message>
+    <message id="IDD_REASON_WAYLAND">
+        <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
+        <translation>In einer Wayland-Sitzung kann der Bildschirm nicht aufgenommen werden; zum Aufnehmen bitte in einer X11-Sitzung anmelden.</translation>
+    </message>
     <!-- record -->
     <message id="IDD_SAVING_RECORDING">
         <source>Saving the recording…</source>

@@ -143,6 +143,26 @@
         <translation>Records the screen and makes an animated GIF of it.</translation>
     </message>
     <!-- platform -->
+    <message id="IDD_REASON_NO_DISPLAY">
+        <source>The screen cannot be recorded: there is no display server.</source>
+        <translation>The screen cannot be recorded: there is no display server.</translation>
+    </message>
+    <message id="IDD_REASON_NO_COMPOSITE">
+        <source>The screen cannot be recorded: this display server lacks the Composite extension, so the program could not leave out its own windows.</source>
+        <translation>The screen cannot be recorded: this display server lacks the Composite extension, so the program could not leave out its own windows.</translation>
+    </message>
+    <message id="IDD_REASON_MISSING_EXTENSION">
+        <source>The screen cannot be recorded: this display server lacks one of the extensions Damage, XFixes, Render and Shape.</source>
+        <translation>The screen cannot be recorded: this display server lacks one of the extensions Damage, XFixes, Render and Shape.</translation>
+    </message>
+    <message id="IDD_REASON_PICTURE_FORMAT">
+        <source>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</source>
+        <translation>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</translation>
+    </message>
+    <message id="IDD_REASON_WAYLAND">
+        <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
+        <translation>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</translation>
+    </message>
     <!-- record -->
     <message id="IDD_SAVING_RECORDING">
         <source>Saving the recording…</source>

@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "platform/x11/owner_properties.h"
+
+#include <QByteArrayList>
+#include <QStringDecoder>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <span>
+#include <unistd.h>
+
+namespace x11 {
+
+namespace {
+
+constexpr std::int32_t desktopLayer = -1;
+constexpr std::int32_t aboveLayer = 1;
+// In words of four bytes; nobody's class or list of states is longer.
+constexpr std::uint32_t longestProperty = 256;
+
+using Property = Reply<xcb_get_property_reply_t>;
+
+xcb_get_property_cookie_t ask(Connection &connection, xcb_window_t window, xcb_atom_t property,
+                              xcb_atom_t type) {
+    return xcb_get_property(connection.get(), 0, window, property, type, 0, longestProperty);
+}
+
+Property await(Connection &connection, xcb_get_property_cookie_t cookie) {
+    return connection.reply<xcb_get_property_reply>(cookie);
+}
+
+std::vector<std::uint32_t> words(const Property &property) {
+    if (!property || property->format != 32)
+        return {};
+    const auto *first = static_cast<std::uint32_t *>(xcb_get_property_value(property.get()));
+    return {first, first + property->value_len};
+}
+
+std::optional<QString> classOf(const Property &property) {
+    if (!property || property->format != 8)
+        return {};
+    const QByteArray both(static_cast<const char *>(xcb_get_property_value(property.get())),
+                          static_cast<qsizetype>(property->value_len));
+    // The instance's name and the class, each ended by a zero.
+    const auto parts = both.split('\0');
+    if (parts.size() < 2 || parts[1].isEmpty())
+        return {};
+    // Latin-1 by the convention, UTF-8 by the habit of most.
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    const QString text = utf8(parts[1]);
+    return utf8.hasError() ? QString::fromLatin1(parts[1]) : text;
+}
+
+std::optional<xcb_res_query_client_ids_cookie_t> askProcess(Connection &connection,
+                                                            std::uint32_t anyResource) {
+    if (!connection.extensions().resources)
+        return {};
+    const xcb_res_client_id_spec_t spec{anyResource, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
+    return xcb_res_query_client_ids(connection.get(), 1, &spec);
+}
+
+std::int64_t awaitProcess(Connection &connection,
+                          const std::optional<xcb_res_query_client_ids_cookie_t> &cookie) {
+    if (!cookie)
+        return 0;
+    const auto reply = connection.reply<xcb_res_query_client_ids_reply>(*cookie);
+    if (!reply)
+        return 0;
+    auto values = xcb_res_query_client_ids_ids_iterator(reply.get());
+    for (; values.rem > 0; xcb_res_client_id_value_next(&values))
+        if ((values.data->spec.mask & XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID) != 0 &&
+            xcb_res_client_id_value_value_length(values.data) > 0)
+            return *xcb_res_client_id_value_value(values.data);
+    return 0;
+}
+
+std::int32_t layerOf(const Atoms &atoms, std::span<const std::uint32_t> types,
+                     std::span<const std::uint32_t> states) {
+    const auto has = [](auto list, xcb_atom_t atom) {
+        return std::ranges::find(list, atom) != list.end();
+    };
+    if (has(types, atoms.windowTypeDesktop))
+        return desktopLayer;
+    const bool onTop = has(types, atoms.windowTypeDock) || has(states, atoms.netWmStateAbove);
+    return onTop ? aboveLayer : 0;
+}
+
+} // namespace
+
+OwnerQuestion askOwner(Connection &connection, xcb_window_t client) {
+    const Atoms &atoms = connection.atoms();
+    OwnerQuestion question{};
+    question.windowClass = ask(connection, client, XCB_ATOM_WM_CLASS, XCB_GET_PROPERTY_TYPE_ANY);
+    question.claimedPid = ask(connection, client, atoms.netWmPid, XCB_ATOM_CARDINAL);
+    question.type = ask(connection, client, atoms.windowType, XCB_ATOM_ATOM);
+    question.state = ask(connection, client, atoms.netWmState, XCB_ATOM_ATOM);
+    question.sharing = ask(connection, client, atoms.sharing, XCB_ATOM_CARDINAL);
+    question.process = askProcess(connection, client);
+    return question;
+}
+
+WindowOwner awaitOwner(Connection &connection, const OwnerQuestion &question, std::int64_t ownPid) {
+    WindowOwner owner;
+    owner.name = classOf(await(connection, question.windowClass));
+    const auto claimedPid = words(await(connection, question.claimedPid));
+    const auto types = words(await(connection, question.type));
+    const auto states = words(await(connection, question.state));
+    const auto sharing = words(await(connection, question.sharing));
+    owner.pid = awaitProcess(connection, question.process);
+
+    const bool isOurs =
+        owner.pid != 0
+            ? owner.pid == ownPid
+            : !claimedPid.empty() && claimedPid.front() == static_cast<std::uint32_t>(getpid());
+    if (isOurs)
+        owner.name = QStringLiteral("Tovarel");
+    if (owner.pid == 0 && !claimedPid.empty())
+        owner.pid = claimedPid.front();
+    if (!sharing.empty() && sharing.front() == 0)
+        owner.sharingState = 0;
+    owner.layer = layerOf(connection.atoms(), types, states);
+    return owner;
+}
+
+bool tellsOfOwner(const Connection &connection, xcb_atom_t property) {
+    const Atoms &atoms = connection.atoms();
+    const std::array relevant{xcb_atom_t{XCB_ATOM_WM_CLASS}, atoms.netWmPid, atoms.windowType,
+                              atoms.netWmState, atoms.sharing};
+    return std::ranges::find(relevant, property) != relevant.end();
+}
+
+std::int64_t ownProcess(Connection &connection) {
+    return awaitProcess(connection, askProcess(connection, connection.setup().resource_id_base));
+}
+
+} // namespace x11

@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "platform/x11/shared_picture.h"
+
+#include <algorithm>
+#include <cstring>
+#include <sys/ipc.h>
+#include <sys/shm.h>
+
+namespace x11 {
+
+namespace {
+
+constexpr std::uint32_t allPlanes = 0xffffffff;
+
+template <class Number> std::uint16_t extent(Number pixels) {
+    return static_cast<std::uint16_t>(pixels);
+}
+
+std::int16_t coordinate(int pixels) { return static_cast<std::int16_t>(pixels); }
+
+// A fetch costs a request and a reply: many small rectangles cost more than the box around them.
+constexpr int mostFetches = 16;
+
+QRegion fetchable(const QRegion &changed) {
+    return changed.rectCount() > mostFetches ? QRegion(changed.boundingRect()) : changed;
+}
+
+std::size_t area(const QRect &rect) {
+    return static_cast<std::size_t>(rect.width()) * static_cast<std::size_t>(rect.height());
+}
+
+} // namespace
+
+std::unique_ptr<SharedPicture> SharedPicture::create(Connection &connection,
+                                                     const PictureFormats &formats, QSize size,
+                                                     PixelRoad best) {
+    std::unique_ptr<SharedPicture> picture(new SharedPicture(connection, size));
+    const bool memory = best != PixelRoad::PlainFetch && picture->attachMemory();
+    bool made = memory && best == PixelRoad::SharedPixmap &&
+                connection.extensions().sharedPixmaps &&
+                picture->makePixmap(PixelRoad::SharedPixmap);
+    made = made || (memory && picture->makePixmap(PixelRoad::SharedFetch));
+    made = made || picture->makePixmap(PixelRoad::PlainFetch);
+    if (!made)
+        return {};
+    picture->picture_ = connection.newId();
+    const auto cookie = xcb_render_create_picture_checked(
+        connection.get(), picture->picture_, picture->pixmap_, formats.target(), 0, nullptr);
+    return connection.succeeded(cookie) ? std::move(picture) : nullptr;
+}
+
+SharedPicture::SharedPicture(Connection &connection, QSize size)
+    : connection_(connection), size_(size) {}
+
+SharedPicture::~SharedPicture() {
+    if (picture_ != 0)
+        xcb_render_free_picture(connection_.get(), picture_);
+    if (pixmap_ != 0)
+        xcb_free_pixmap(connection_.get(), pixmap_);
+    if (segment_ != 0)
+        xcb_shm_detach(connection_.get(), segment_);
+    if (memory_)
+        shmdt(memory_);
+}
+
+std::size_t SharedPicture::byteCount() const {
+    return area(QRect(QPoint(), size_)) * sizeof(std::uint32_t);
+}
+
+// A server on another machine has the extension too, and refuses only when it is to attach.
+bool SharedPicture::attachMemory() {
+    if (!connection_.extensions().sharedMemory)
+        return false;
+    const int id = shmget(IPC_PRIVATE, byteCount(), IPC_CREAT | 0600);
+    if (id < 0)
+        return false;
+    void *memory = shmat(id, nullptr, 0);
+    const auto segment = connection_.newId();
+    const bool attached = memory != reinterpret_cast<void *>(-1) &&
+                          connection_.succeeded(xcb_shm_attach_checked(
+                              connection_.get(), segment, static_cast<std::uint32_t>(id), 0));
+    // Goes away with its last user, however that one ends.
+    shmctl(id, IPC_RMID, nullptr);
+    if (memory == reinterpret_cast<void *>(-1))
+        return false;
+    memory_ = memory;
+    segment_ = attached ? segment : 0;
+    return attached;
+}
+
+bool SharedPicture::makePixmap(PixelRoad road) {
+    xcb_connection_t *c = connection_.get();
+    const auto pixmap = connection_.newId();
+    const auto width = extent(size_.width()), height = extent(size_.height());
+    const auto cookie =
+        road == PixelRoad::SharedPixmap
+            ? xcb_shm_create_pixmap_checked(c, pixmap, connection_.root(), width, height,
+                                            PictureFormats::targetDepth, segment_, 0)
+            : xcb_create_pixmap_checked(c, PictureFormats::targetDepth, pixmap, connection_.root(),
+                                        width, height);
+    if (!connection_.succeeded(cookie))
+        return false;
+    if (road != PixelRoad::SharedPixmap)
+        fetched_.resize(area(QRect(QPoint(), size_)));
+    pixmap_ = pixmap;
+    road_ = road;
+    return true;
+}
+
+const std::uint32_t *SharedPicture::pixels() const {
+    return road_ == PixelRoad::SharedPixmap ? static_cast<const std::uint32_t *>(memory_)
+                                            : fetched_.data();
+}
+
+bool SharedPicture::update(const QRegion &changed) {
+    switch (road_) {
+    case PixelRoad::SharedPixmap:
+        connection_.roundTrip();
+        return !connection_.broken();
+    case PixelRoad::SharedFetch:
+        return fetchShared(fetchable(changed));
+    case PixelRoad::PlainFetch:
+        return fetchPlain(fetchable(changed));
+    }
+    return false;
+}
+
+// The server packs each rectangle without gaps; together they never exceed the picture.
+bool SharedPicture::fetchShared(const QRegion &changed) {
+    std::vector<xcb_shm_get_image_cookie_t> cookies;
+    std::size_t offset = 0;
+    for (const auto &rect : changed) {
+        cookies.push_back(xcb_shm_get_image(
+            connection_.get(), pixmap_, coordinate(rect.x()), coordinate(rect.y()),
+            extent(rect.width()), extent(rect.height()), allPlanes, XCB_IMAGE_FORMAT_Z_PIXMAP,
+            segment_, static_cast<std::uint32_t>(offset * sizeof(std::uint32_t))));
+        offset += area(rect);
+    }
+    bool complete = true;
+    auto cookie = cookies.begin();
+    const auto *source = static_cast<const std::uint32_t *>(memory_);
+    for (const auto &rect : changed) {
+        if (connection_.reply<xcb_shm_get_image_reply>(*cookie++))
+            store(rect, source);
+        else
+            complete = false;
+        source += area(rect);
+    }
+    return complete;
+}
+
+// On a connection of its own: on one that also gets damage events, image data were seen to arrive
+// with packets of events in their midst.
+bool SharedPicture::fetchPlain(const QRegion &changed) {
+    connection_.roundTrip();
+    if (!fetching_)
+        fetching_ = connection_.another();
+    if (!fetching_)
+        return false;
+    std::vector<xcb_get_image_cookie_t> cookies;
+    for (const auto &rect : changed)
+        cookies.push_back(xcb_get_image(fetching_->get(), XCB_IMAGE_FORMAT_Z_PIXMAP, pixmap_,
+                                        coordinate(rect.x()), coordinate(rect.y()),
+                                        extent(rect.width()), extent(rect.height()), allPlanes));
+    bool complete = true;
+    auto cookie = cookies.begin();
+    for (const auto &rect : changed) {
+        const auto reply = fetching_->reply<xcb_get_image_reply>(*cookie++);
+        const bool whole =
+            reply && static_cast<std::size_t>(xcb_get_image_data_length(reply.get())) >=
+                         area(rect) * sizeof(std::uint32_t);
+        if (whole)
+            store(rect, reinterpret_cast<const std::uint32_t *>(xcb_get_image_data(reply.get())));
+        complete = complete && whole;
+    }
+    return complete;
+}
+
+void SharedPicture::store(const QRect &place, const std::uint32_t *source) {
+    const auto width = static_cast<std::size_t>(place.width());
+    const auto stride = static_cast<std::size_t>(size_.width());
+    auto *row = fetched_.data() + static_cast<std::size_t>(place.y()) * stride + place.x();
+    for (int y = 0; y < place.height(); ++y, row += stride, source += width)
+        std::memcpy(row, source, width * sizeof(std::uint32_t));
+}
+
+} // namespace x11

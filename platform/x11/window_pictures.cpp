@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "platform/x11/window_pictures.h"
+
+#include <xcb/composite.h>
+
+#include <algorithm>
+#include <span>
+#include <utility>
+
+namespace x11 {
+
+WindowPictures::WindowPictures(Connection &connection, const PictureFormats &formats)
+    : connection_(connection), formats_(formats) {}
+
+WindowPictures::Entry *WindowPictures::find(xcb_window_t window) {
+    const auto found = entries_.find(window);
+    return found == entries_.end() ? nullptr : &found->second;
+}
+
+const WindowPictures::Entry *WindowPictures::find(xcb_window_t window) const {
+    const auto found = entries_.find(window);
+    return found == entries_.end() ? nullptr : &found->second;
+}
+
+void WindowPictures::watch(xcb_window_t window) {
+    const auto [place, isNew] = entries_.try_emplace(window);
+    if (!isNew)
+        return;
+    Entry &entry = place->second;
+    entry.generation = ++generations_;
+    entry.damage = connection_.newId();
+    // Boxes, not every rectangle: what a window reports while nobody asks stays bounded.
+    xcb_damage_create(connection_.get(), entry.damage, window,
+                      XCB_DAMAGE_REPORT_LEVEL_BOUNDING_BOX);
+    xcb_shape_select_input(connection_.get(), window, 1);
+    ask(window, true);
+}
+
+void WindowPictures::ask(xcb_window_t window, bool attributesToo) {
+    Question question;
+    question.window = window;
+    if (attributesToo)
+        question.attributes = xcb_get_window_attributes(connection_.get(), window);
+    question.extents = xcb_shape_query_extents(connection_.get(), window);
+    question.rectangles =
+        xcb_shape_get_rectangles(connection_.get(), window, XCB_SHAPE_SK_BOUNDING);
+    questions_.push_back(question);
+}
+
+void WindowPictures::settle() {
+    for (const auto &question : std::exchange(questions_, {}))
+        answer(question);
+}
+
+void WindowPictures::answer(const Question &question) {
+    const auto attributes =
+        question.attributes
+            ? connection_.reply<xcb_get_window_attributes_reply>(*question.attributes)
+            : nullptr;
+    const auto extents = connection_.reply<xcb_shape_query_extents_reply>(question.extents);
+    const auto rectangles = connection_.reply<xcb_shape_get_rectangles_reply>(question.rectangles);
+    Entry *entry = find(question.window);
+    if (!entry)
+        return;
+    if (attributes) {
+        entry->known = true;
+        entry->format = formats_.of(attributes->visual);
+        entry->showable =
+            attributes->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT && entry->format.id != 0;
+    }
+    if (!extents || !rectangles)
+        return;
+    entry->generation = ++generations_;
+    entry->shape.reset();
+    // The rectangles of a window that has no shape leave out its border.
+    if (!extents->bounding_shaped)
+        return;
+    entry->shape.emplace();
+    const std::span list(
+        xcb_shape_get_rectangles_rectangles(rectangles.get()),
+        static_cast<std::size_t>(xcb_shape_get_rectangles_rectangles_length(rectangles.get())));
+    for (const auto &r : list)
+        *entry->shape += QRect(r.x, r.y, r.width, r.height);
+}
+
+void WindowPictures::release(Entry &entry) {
+    if (entry.picture != 0)
+        xcb_render_free_picture(connection_.get(), entry.picture);
+    if (entry.pixmap != 0)
+        xcb_free_pixmap(connection_.get(), entry.pixmap);
+    entry.picture = 0;
+    entry.pixmap = 0;
+}
+
+void WindowPictures::forget(xcb_window_t window) {
+    if (Entry *entry = find(window)) {
+        release(*entry);
+        // A window that was only taken elsewhere keeps its damage object unless we end it.
+        xcb_damage_destroy(connection_.get(), entry->damage);
+        entries_.erase(window);
+    }
+}
+
+void WindowPictures::renew(xcb_window_t window) {
+    if (Entry *entry = find(window)) {
+        release(*entry);
+        entry->failed = false;
+        entry->generation = ++generations_;
+    }
+}
+
+void WindowPictures::drop(xcb_window_t window) {
+    if (Entry *entry = find(window))
+        release(*entry);
+}
+
+bool WindowPictures::onShape(const xcb_shape_notify_event_t &event) {
+    if (event.shape_kind != XCB_SHAPE_SK_BOUNDING || !find(event.affected_window))
+        return false;
+    ask(event.affected_window, false);
+    return true;
+}
+
+bool WindowPictures::onDamage(const xcb_damage_notify_event_t &event) {
+    Entry *entry = find(event.drawable);
+    if (!entry)
+        return false;
+    entry->pending |= QRect(event.area.x, event.area.y, event.area.width, event.area.height);
+    return true;
+}
+
+bool WindowPictures::onError(const xcb_generic_error_t &error) {
+    const auto failed = std::ranges::find_if(entries_, [&error](const auto &entry) {
+        return entry.second.pixmap != 0 && entry.second.naming == error.full_sequence;
+    });
+    if (failed == entries_.end())
+        return false;
+    release(failed->second);
+    failed->second.failed = true;
+    return true;
+}
+
+bool WindowPictures::isShowable(xcb_window_t window) const {
+    const Entry *entry = find(window);
+    return entry && entry->known && entry->showable && !entry->failed;
+}
+
+bool WindowPictures::hasAlpha(xcb_window_t window) const {
+    const Entry *entry = find(window);
+    return entry && entry->format.hasAlpha;
+}
+
+std::uint64_t WindowPictures::generation(xcb_window_t window) const {
+    const Entry *entry = find(window);
+    return entry ? entry->generation : 0;
+}
+
+QRegion WindowPictures::region(xcb_window_t window, const QRect &outer, int border) const {
+    const Entry *entry = find(window);
+    if (!entry || !entry->shape)
+        return outer;
+    return entry->shape->translated(outer.topLeft() + QPoint(border, border)).intersected(outer);
+}
+
+QRect WindowPictures::pendingDamage(xcb_window_t window) const {
+    const Entry *entry = find(window);
+    return entry ? entry->pending : QRect();
+}
+
+void WindowPictures::takeDamage(xcb_window_t window) {
+    if (Entry *entry = find(window)) {
+        entry->pending = QRect();
+        xcb_damage_subtract(connection_.get(), entry->damage, XCB_NONE, XCB_NONE);
+    }
+}
+
+xcb_render_picture_t WindowPictures::picture(xcb_window_t window) {
+    Entry *entry = find(window);
+    if (!entry || !entry->showable || entry->failed)
+        return 0;
+    if (entry->picture == 0) {
+        entry->pixmap = connection_.newId();
+        entry->picture = connection_.newId();
+        entry->naming =
+            xcb_composite_name_window_pixmap(connection_.get(), window, entry->pixmap).sequence;
+        xcb_render_create_picture(connection_.get(), entry->picture, entry->pixmap,
+                                  entry->format.id, 0, nullptr);
+    }
+    return entry->picture;
+}
+
+} // namespace x11

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/pixel_pool.h"
+#include "platform/window_server.h"
+#include "platform/x11/composer.h"
+#include "platform/x11/connection.h"
+#include "platform/x11/desktop_model.h"
+#include "platform/x11/shared_picture.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QSocketNotifier;
+
+/// The window server of an X11 display.
+///
+/// Numbers are those of the root window's children (with a window manager: its frames), and the
+/// root window's own number for the desktop's background. Where a compositing manager runs, windows
+/// with an alpha channel are blended, without one they are shown raw: the screen does the same. Its
+/// effects (shadows, fading, opacity of whole windows) belong to no window and are not in the
+/// picture.
+///
+/// A window opts out of sharing by the property `_TOVAREL_SHARING` on the client window: type
+/// CARDINAL, format 32, one value, 0 = it may not be shared. Any other value, or none, shares it.
+///
+/// It talks to the server over a connection of its own. What is grabbed is kept in one picture on
+/// which only what changed is drawn anew, so that the cost of a grab follows what changed; a grab
+/// of a desktop on which nothing changed sends nothing.
+class X11WindowServer : public WindowServer {
+public:
+    /// Why an X11 display cannot be recorded.
+    enum class Obstacle {
+        NoDisplay,        ///< there is no server, or it refuses
+        NoComposite,      ///< our own windows could not be left out
+        MissingExtension, ///< another extension that the back end stands on is missing
+        PictureFormat,    ///< the server does not hold pictures as words of 32 bits
+    };
+
+    struct Options {
+        const char *display = nullptr; ///< null: what DISPLAY names
+        x11::PixelRoad bestRoad = x11::PixelRoad::SharedPixmap;
+    };
+
+    /// Null, and why, when this display cannot be recorded.
+    static std::unique_ptr<X11WindowServer> create(const Options &options, Obstacle &obstacle);
+    ~X11WindowServer() override;
+
+    WindowServerCapabilities capabilities() const override;
+    QString reason() const override { return {}; }
+    std::vector<WindowDescription> listWindows() override;
+    std::optional<Image> composite(std::span<const std::uint32_t> numbers) override;
+
+    /// How pixels come over; none before the first composite.
+    std::optional<x11::PixelRoad> road() const;
+
+private:
+    X11WindowServer(std::unique_ptr<x11::Connection> connection, x11::PixelRoad bestRoad);
+
+    bool prepareTarget();
+    QRegion findChanges();
+    std::optional<Image> giveUp();
+    std::optional<Image> copyOut() const;
+    void watchWhileIdle();
+
+    std::unique_ptr<x11::Connection> connection_;
+    x11::PixelRoad bestRoad_;
+    x11::DesktopModel model_;
+    x11::Composer composer_;
+    std::unique_ptr<x11::SharedPicture> target_;
+    std::shared_ptr<PixelPool> pool_ = PixelPool::create();
+
+    std::vector<std::uint32_t> numbers_; // what `picture_` shows
+    x11::LayerStack layers_;
+    std::optional<Image> picture_;
+
+    QTimer idle_;
+    std::unique_ptr<QSocketNotifier> notifier_;
+};

@@ -1,0 +1,302 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "tests/system/window_server_fixture.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <random>
+
+// The picture against the slow reference, pixel by pixel, after everything that windows do.
+
+namespace {
+
+class WindowPicture : public WindowServerFixture {};
+
+class WindowPictureByRoad : public WindowServerFixture,
+                            public testing::WithParamInterface<x11::PixelRoad> {
+protected:
+    WindowPictureByRoad() : WindowServerFixture(GetParam()) {}
+};
+
+std::string roadName(const testing::TestParamInfo<x11::PixelRoad> &info) {
+    constexpr std::array names{"SharedPixmap", "SharedFetch", "PlainFetch"};
+    return names[static_cast<std::size_t>(info.param)];
+}
+
+INSTANTIATE_TEST_SUITE_P(Roads, WindowPictureByRoad,
+                         testing::Values(x11::PixelRoad::SharedPixmap, x11::PixelRoad::SharedFetch,
+                                         x11::PixelRoad::PlainFetch),
+                         roadName);
+
+} // namespace
+
+TEST_P(WindowPictureByRoad, followsDrawingMovesRestackingResizingHidingAndEnd) {
+    const auto back = client.show({.place = {40, 30, 300, 200}}, 1);
+    const auto middle = client.show({.place = {-60, 100, 250, 180}, .border = 7}, 2);
+    const auto front = client.show({.place = {500, -50, 300, 150}, .overrideRedirect = true}, 3);
+    const auto inputOnly = client.create({.place = {0, 0, 600, 400}, .inputOnly = true});
+    client.map(inputOnly);
+    ASSERT_TRUE(looksLikeReference());
+
+    client.fill(back, {250, 10, 30, 20}, 0xff12ab34);
+    client.fill(back, {20, 150, 11, 13}, 0xff0000ff); // partly beneath the middle one
+    EXPECT_TRUE(looksLikeReference()) << "drawing";
+    client.setBorder(middle, 7, 0xff00ff00);
+    EXPECT_TRUE(looksLikeReference()) << "another border's colour";
+    client.setBorder(middle, 3, 0xff00ff00);
+    EXPECT_TRUE(looksLikeReference()) << "another border's width";
+    client.moveResize(front, {200, 60, 300, 150});
+    EXPECT_TRUE(looksLikeReference()) << "a move";
+    client.restack(back, XCB_STACK_MODE_ABOVE);
+    EXPECT_TRUE(looksLikeReference()) << "to the top";
+    client.restack(middle, XCB_STACK_MODE_BELOW);
+    EXPECT_TRUE(looksLikeReference()) << "to the bottom";
+    client.restack(front, XCB_STACK_MODE_BELOW, back);
+    client.circulate(true);
+    EXPECT_TRUE(looksLikeReference()) << "between";
+    client.moveResize(back, {10, 10, 420, 90});
+    EXPECT_TRUE(looksLikeReference()) << "resized, blank where it grew";
+    client.drawPattern(back, {0, 0, 420, 90}, 9);
+    EXPECT_TRUE(looksLikeReference()) << "redrawn";
+    client.unmap(front);
+    EXPECT_TRUE(looksLikeReference()) << "hidden";
+    client.map(front);
+    client.drawPattern(front, {0, 0, 100, 100}, 10);
+    EXPECT_TRUE(looksLikeReference()) << "shown again";
+    client.destroy(middle);
+    EXPECT_TRUE(looksLikeReference()) << "destroyed";
+
+    const auto setup = server->road();
+    EXPECT_TRUE(setup.has_value() && *setup >= GetParam()) << "no better road than allowed";
+}
+
+TEST_F(WindowPicture, showsExactlyTheWindowsThatAreAskedForInTheOrderGiven) {
+    const auto below = client.show({.place = {20, 20, 300, 200}}, 1);
+    const auto ours = client.show({.place = {60, 60, 300, 200}}, 2);
+    EXPECT_TRUE(looksLikeReference());
+    EXPECT_TRUE(looksLikeReference({ours})) << "what is below is seen";
+    EXPECT_TRUE(looksLikeReference({below}));
+    EXPECT_TRUE(looksLikeReference({below, ours, client.root()}));
+
+    client.drawPattern(below, {100, 100, 60, 60}, 3);
+    client.drawPattern(ours, {0, 0, 60, 60}, 4);
+    EXPECT_TRUE(looksLikeReference({ours})) << "drawing behind the window that is left out";
+    EXPECT_TRUE(looksLikeReference()) << "drawing in it while it was left out";
+
+    const std::vector<std::uint32_t> turned{below, ours, below, 12345, client.root()};
+    const auto picture = server->composite(turned);
+    client.restack(below, XCB_STACK_MODE_ABOVE);
+    client.sync();
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(picture->toQImage(), client.reference())
+        << "the order asked for, not the order on screen; doubles and unknown numbers do nothing";
+}
+
+TEST_F(WindowPicture, isTheSameHandleUntilSomethingVisibleChanges) {
+    const auto covered = client.show({.place = {50, 50, 100, 100}}, 1);
+    const auto left = client.show({.place = {300, 50, 100, 100}}, 3);
+    const auto cover = client.show({.place = {40, 40, 200, 200}}, 2);
+    ASSERT_TRUE(looksLikeReference());
+    const auto all = numbers();
+    const auto before = *server->composite(all);
+    EXPECT_TRUE(server->composite(all)->sameAs(before));
+
+    client.drawPattern(covered, {0, 0, 100, 100}, 5);
+    client.moveResize(covered, {60, 60, 90, 90});
+    // Whatever is told of the covered window is here once the window on top is told of.
+    const auto pixel = before.toQImage().pixel(310, 60);
+    client.setProperty(cover, "_TOVAREL_SHARING", XCB_ATOM_CARDINAL, {0});
+    client.sync();
+    ASSERT_TRUE(eventually([&] { return described(cover)->sharingState == 0; }));
+    EXPECT_TRUE(server->composite(all)->sameAs(before)) << "nothing that can be seen changed";
+
+    client.fill(left, {0, 0, 100, 100}, ~pixel);
+    client.sync();
+    ASSERT_TRUE(eventually([&] { return !server->composite(all)->sameAs(before); }));
+    EXPECT_EQ(before.toQImage().pixel(310, 60), pixel) << "a handle's pixels stay";
+    client.moveResize(cover, {40, 200, 200, 200});
+    EXPECT_TRUE(looksLikeReference()) << "uncovered, with what was drawn meanwhile";
+    client.drawPattern(covered, {10, 10, 20, 20}, 6);
+    EXPECT_TRUE(looksLikeReference()) << "and drawing is reported again";
+}
+
+TEST_F(WindowPicture, knowsShapesAndTheirChanges) {
+    const auto below = client.show({.place = {10, 10, 320, 300}}, 1);
+    const auto shaped = client.show({.place = {50, 50, 200, 160}, .border = 6}, 2);
+    client.setShape(shaped, {{-6, -6, 80, 60}, {100, 40, 60, 100}, {40, 100, 20, 90}});
+    EXPECT_TRUE(looksLikeReference());
+    client.moveResize(shaped, {90, 40, 200, 160});
+    EXPECT_TRUE(looksLikeReference()) << "moved";
+    client.drawPattern(below, {0, 0, 320, 300}, 3);
+    EXPECT_TRUE(looksLikeReference()) << "drawing seen through the gaps";
+    client.setShape(shaped, {{20, 20, 500, 30}});
+    EXPECT_TRUE(looksLikeReference()) << "another shape, wider than the window";
+    client.setShape(shaped, {});
+    EXPECT_TRUE(looksLikeReference()) << "no shape";
+}
+
+TEST_F(WindowPicture, blendsAlphaWhereACompositingManagerRunsAndShowsItRawWhereNot) {
+    const bool realOne = client.compositingManagerRuns();
+    client.show({.place = {10, 10, 400, 300}}, 1);
+    const auto lower = client.show({.place = {30, 30, 200, 200}, .border = 4, .alpha = true}, 2);
+    const auto upper = client.show({.place = {100, 100, 220, 150}, .alpha = true}, 3);
+    EXPECT_TRUE(looksLikeReference());
+    if (!realOne) {
+        client.actAsCompositingManager(true);
+        EXPECT_TRUE(looksLikeReference()) << "a compositing manager came";
+    }
+    EXPECT_TRUE(looksLikeReference({client.root()})) << "over nothing";
+    client.drawPattern(lower, {50, 50, 150, 150}, 4);
+    EXPECT_TRUE(looksLikeReference()) << "drawing beneath";
+    client.restack(upper, XCB_STACK_MODE_BELOW, lower);
+    EXPECT_TRUE(looksLikeReference()) << "exchanged";
+    client.setShape(lower, {{10, 10, 150, 80}});
+    EXPECT_TRUE(looksLikeReference()) << "with a shape";
+    if (!realOne) {
+        client.actAsCompositingManager(false);
+        EXPECT_TRUE(looksLikeReference()) << "it went";
+    }
+}
+
+TEST_F(WindowPicture, showsTheBackgroundThatWasSetAndBlackForOneThatIsGone) {
+    client.show({.place = {60, 40, 200, 100}}, 1);
+    EXPECT_TRUE(looksLikeReference());
+    client.setBackgroundPixmap(true);
+    EXPECT_TRUE(looksLikeReference());
+    EXPECT_TRUE(looksLikeReference({client.root()})) << "left out";
+    client.setProperty(client.root(), "_XROOTPMAP_ID", XCB_ATOM_PIXMAP, {0x1234567});
+    EXPECT_TRUE(looksLikeReference()) << "a pixmap that does not exist";
+    const auto window = client.create({});
+    client.setProperty(client.root(), "_XROOTPMAP_ID", XCB_ATOM_PIXMAP, {window});
+    client.sync();
+    EXPECT_TRUE(eventually([&] { return grab().pixel(5, 5) == 0xff000000; }));
+    client.setBackgroundPixmap(false);
+    EXPECT_TRUE(looksLikeReference());
+}
+
+namespace {
+
+/// Does at random what windows do, in any order.
+class Unrest {
+public:
+    Unrest(XClient &client, unsigned seed) : client_(client), random_(seed) {}
+
+    void act() {
+        if (windows_.size() < 4 || (windows_.size() < 12 && below(8) == 0)) {
+            add();
+            return;
+        }
+        const auto at = static_cast<std::size_t>(below(static_cast<int>(windows_.size())));
+        const auto window = windows_[at];
+        const auto seed = static_cast<std::uint32_t>(random_());
+        switch (below(14)) {
+        case 0:
+            client_.destroy(window);
+            windows_.erase(windows_.begin() + static_cast<std::ptrdiff_t>(at));
+            break;
+        case 1:
+        case 2:
+            client_.moveResize(window, place());
+            break;
+        case 3:
+            client_.restack(window, XCB_STACK_MODE_ABOVE);
+            break;
+        case 4:
+            client_.restack(window, XCB_STACK_MODE_BELOW, other(window));
+            break;
+        case 5:
+            client_.circulate(below(2) == 0);
+            break;
+        case 6:
+            client_.unmap(window);
+            break;
+        case 7:
+            client_.map(window);
+            break;
+        case 8:
+            client_.setShape(window, below(3) == 0 ? std::vector<QRect>{}
+                                                   : std::vector{within(), within(), within()});
+            break;
+        case 9:
+            client_.setBorder(window, static_cast<std::uint16_t>(below(6)), seed | 0xff000000);
+            break;
+        default:
+            client_.drawPattern(window, within(), seed);
+        }
+    }
+
+private:
+    int below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+    QRect place() { return {below(700) - 80, below(480) - 80, 1 + below(300), 1 + below(250)}; }
+    QRect within() { return {below(200) - 10, below(150) - 10, 1 + below(160), 1 + below(120)}; }
+
+    xcb_window_t other(xcb_window_t window) {
+        const auto sibling =
+            windows_[static_cast<std::size_t>(below(static_cast<int>(windows_.size())))];
+        return sibling == window ? XCB_NONE : sibling;
+    }
+
+    void add() {
+        windows_.push_back(client_.show({.place = place(),
+                                         .border = static_cast<std::uint16_t>(below(4)),
+                                         .alpha = below(3) == 0,
+                                         .overrideRedirect = below(2) == 0},
+                                        static_cast<std::uint32_t>(random_())));
+    }
+
+    XClient &client_;
+    std::mt19937 random_;
+    std::vector<xcb_window_t> windows_;
+};
+
+unsigned seedOfThisRun() {
+    const char *given = std::getenv("TOVAREL_TEST_SEED");
+    return given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
+}
+
+} // namespace
+
+TEST_P(WindowPictureByRoad, isRightAfterAnySequenceOfEvents) {
+    const unsigned seed = seedOfThisRun();
+    SCOPED_TRACE("TOVAREL_TEST_SEED=" + std::to_string(seed));
+    std::mt19937 random(seed);
+    const bool realOne = client.compositingManagerRuns();
+    client.setBackgroundPixmap(true);
+    Unrest unrest(client, seed);
+    for (int round = 0; round < 60; ++round) {
+        for (auto actions = random() % 8; actions > 0; --actions)
+            unrest.act();
+        if (!realOne && round % 15 == 14)
+            client.actAsCompositingManager(round % 2 == 0);
+        // A grab in the midst of it, of whatever is there, must leave nothing wrong behind.
+        if (random() % 2 == 0)
+            grab();
+        std::set<xcb_window_t> without;
+        for (const auto number : numbers())
+            if (random() % 5 == 0)
+                without.insert(number);
+        ASSERT_TRUE(looksLikeReference(without)) << "round " << round;
+    }
+}
+
+TEST_P(WindowPictureByRoad, survivesWindowsThatVanishResizeAndHideThroughoutGrabs) {
+    const unsigned seed = seedOfThisRun();
+    SCOPED_TRACE("TOVAREL_TEST_SEED=" + std::to_string(seed));
+    // On a thread and a connection of its own, and left standing when it ends.
+    XClient other;
+    constexpr int enough = 3000;
+    std::atomic<int> acts = 0;
+    std::thread vandal([&] {
+        Unrest unrest(other, seed);
+        for (; acts < enough; ++acts) {
+            unrest.act();
+            other.sync();
+        }
+    });
+    int grabs = 0;
+    for (; acts < enough; ++grabs)
+        EXPECT_EQ(grab().size(), client.desktop().size());
+    vandal.join();
+    EXPECT_GT(grabs, 10);
+    EXPECT_TRUE(looksLikeReference());
+}

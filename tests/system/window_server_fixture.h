@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/x11/x11_window_server.h"
+#include "tests/system/x_client.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <set>
+#include <thread>
+#include <vector>
+
+/// A window server of ours beside a client of the display that changes things under its hands.
+class WindowServerFixture : public testing::Test {
+protected:
+    /// How long the display may take to come to rest, window managers and all.
+    static constexpr std::chrono::seconds limit{10};
+
+    explicit WindowServerFixture(x11::PixelRoad road = x11::PixelRoad::SharedPixmap) {
+        auto obstacle = X11WindowServer::Obstacle::NoDisplay;
+        server = X11WindowServer::create({.display = nullptr, .bestRoad = road}, obstacle);
+    }
+
+    void SetUp() override { ASSERT_TRUE(server); }
+
+    /// Whether the condition comes true within the limit.
+    template <class Condition> static bool eventually(Condition condition) {
+        const auto deadline = std::chrono::steady_clock::now() + limit;
+        while (!condition()) {
+            if (std::chrono::steady_clock::now() > deadline)
+                return false;
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        }
+        return true;
+    }
+
+    /// The numbers of all windows on screen, front to back, but those.
+    std::vector<std::uint32_t> numbers(const std::set<xcb_window_t> &without = {}) {
+        std::vector<std::uint32_t> list;
+        for (const auto &window : server->listWindows())
+            if (!without.contains(window.number))
+                list.push_back(window.number);
+        return list;
+    }
+
+    QImage grab(const std::set<xcb_window_t> &without = {}) {
+        const auto picture = server->composite(numbers(without));
+        return picture ? picture->toQImage() : QImage();
+    }
+
+    /// Whether the grab comes to equal the slow reference. What the client did last may still be on
+    /// its way to the server under test, which is why one comparison is not enough; a display at
+    /// rest must get there.
+    testing::AssertionResult looksLikeReference(const std::set<xcb_window_t> &without = {}) {
+        QImage expected, seen;
+        const bool equal = eventually([&] {
+            expected = client.reference(without);
+            seen = grab(without);
+            return seen == expected;
+        });
+        if (equal)
+            return testing::AssertionSuccess();
+        auto failure = testing::AssertionFailure();
+        if (seen.size() != expected.size())
+            return failure << "size " << seen.width() << "x" << seen.height();
+        QRegion wrong;
+        for (int y = 0; y < seen.height(); ++y)
+            for (int x = 0; x < seen.width(); ++x)
+                if (seen.pixel(x, y) != expected.pixel(x, y))
+                    wrong += QRect(x, y, 1, 1);
+        const QRect box = wrong.boundingRect();
+        return failure << "wrong from " << box.left() << ", " << box.top() << " to " << box.right()
+                       << ", " << box.bottom() << "; first " << std::hex
+                       << seen.pixel(wrong.begin()->topLeft()) << " for "
+                       << expected.pixel(wrong.begin()->topLeft());
+    }
+
+    std::optional<WindowDescription> described(xcb_window_t window) {
+        for (const auto &description : server->listWindows())
+            if (description.number == window)
+                return description;
+        return {};
+    }
+
+    XClient client;
+    std::unique_ptr<X11WindowServer> server;
+};

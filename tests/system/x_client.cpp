@@ -1,0 +1,204 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "tests/system/x_client.h"
+
+#include <xcb/shape.h>
+
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <random>
+
+namespace {
+
+std::int16_t coordinate(int pixels) { return static_cast<std::int16_t>(pixels); }
+std::uint16_t extent(int pixels) { return static_cast<std::uint16_t>(pixels); }
+
+xcb_rectangle_t rectangle(const QRect &r) {
+    return {coordinate(r.x()), coordinate(r.y()), extent(r.width()), extent(r.height())};
+}
+
+constexpr std::uint32_t background = 0x80404040; // premultiplied
+
+} // namespace
+
+XClient::XClient() : connection_(x11::Connection::open()) {
+    if (!connection_) {
+        std::fputs("no display\n", stderr);
+        std::abort();
+    }
+    alphaColors_ = connection_->newId();
+    xcb_create_colormap(get(), XCB_COLORMAP_ALLOC_NONE, alphaColors_, root(), alphaVisual());
+}
+
+QRect XClient::desktop() {
+    const auto geometry =
+        connection_->reply<xcb_get_geometry_reply>(xcb_get_geometry(get(), root()));
+    return {0, 0, geometry->width, geometry->height};
+}
+
+xcb_visualid_t XClient::alphaVisual() const {
+    auto depths = xcb_screen_allowed_depths_iterator(&connection_->screen());
+    for (; depths.rem > 0; xcb_depth_next(&depths))
+        if (depths.data->depth == 32 && xcb_depth_visuals_length(depths.data) > 0)
+            return xcb_depth_visuals(depths.data)->visual_id;
+    return 0;
+}
+
+xcb_window_t XClient::create(const Spec &spec) {
+    const auto window = connection_->newId();
+    const auto &place = spec.place;
+    const auto windowClass =
+        spec.inputOnly ? XCB_WINDOW_CLASS_INPUT_ONLY : XCB_WINDOW_CLASS_INPUT_OUTPUT;
+    std::vector<std::uint32_t> values;
+    std::uint32_t mask = XCB_CW_OVERRIDE_REDIRECT;
+    if (!spec.inputOnly) {
+        mask |= XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL;
+        values = {background, 0xff808000};
+    }
+    values.push_back(spec.overrideRedirect);
+    if (spec.alpha) {
+        mask |= XCB_CW_COLORMAP;
+        values.push_back(alphaColors_);
+    }
+    const std::uint8_t depth = spec.alpha ? 32 : XCB_COPY_FROM_PARENT;
+    xcb_create_window(get(), depth, window, root(), coordinate(place.x()), coordinate(place.y()),
+                      extent(place.width()), extent(place.height()), spec.border,
+                      static_cast<std::uint16_t>(windowClass),
+                      spec.alpha ? alphaVisual() : XCB_COPY_FROM_PARENT, mask, values.data());
+    return window;
+}
+
+xcb_window_t XClient::show(const Spec &spec, std::uint32_t seed) {
+    const auto window = create(spec);
+    map(window);
+    drawPattern(window, QRect(QPoint(), spec.place.size()), seed);
+    return window;
+}
+
+void XClient::destroy(xcb_window_t window) { xcb_destroy_window(get(), window); }
+void XClient::map(xcb_window_t window) { xcb_map_window(get(), window); }
+void XClient::unmap(xcb_window_t window) { xcb_unmap_window(get(), window); }
+
+void XClient::moveResize(xcb_window_t window, const QRect &place) {
+    const std::array values{place.x(), place.y(), place.width(), place.height()};
+    xcb_configure_window(get(), window,
+                         XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH |
+                             XCB_CONFIG_WINDOW_HEIGHT,
+                         values.data());
+}
+
+void XClient::setBorder(xcb_window_t window, std::uint16_t width, std::uint32_t color) {
+    const std::uint32_t widthValue = width;
+    xcb_configure_window(get(), window, XCB_CONFIG_WINDOW_BORDER_WIDTH, &widthValue);
+    xcb_change_window_attributes(get(), window, XCB_CW_BORDER_PIXEL, &color);
+}
+
+void XClient::restack(xcb_window_t window, xcb_stack_mode_t mode, xcb_window_t sibling) {
+    std::vector<std::uint32_t> values;
+    std::uint16_t mask = XCB_CONFIG_WINDOW_STACK_MODE;
+    if (sibling != 0) {
+        mask |= XCB_CONFIG_WINDOW_SIBLING;
+        values.push_back(sibling);
+    }
+    values.push_back(static_cast<std::uint32_t>(mode));
+    xcb_configure_window(get(), window, mask, values.data());
+}
+
+void XClient::circulate(bool raiseLowest) {
+    xcb_circulate_window(
+        get(), raiseLowest ? XCB_CIRCULATE_RAISE_LOWEST : XCB_CIRCULATE_LOWER_HIGHEST, root());
+}
+
+void XClient::setShape(xcb_window_t window, const std::vector<QRect> &rectangles) {
+    if (rectangles.empty()) {
+        xcb_shape_mask(get(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, window, 0, 0, XCB_NONE);
+        return;
+    }
+    std::vector<xcb_rectangle_t> list;
+    for (const auto &r : rectangles)
+        list.push_back(rectangle(r));
+    xcb_shape_rectangles(get(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, XCB_CLIP_ORDERING_UNSORTED,
+                         window, 0, 0, static_cast<std::uint32_t>(list.size()), list.data());
+}
+
+xcb_gcontext_t XClient::contextFor(xcb_drawable_t drawable) {
+    const auto context = connection_->newId();
+    const std::uint32_t noExposures = 0;
+    xcb_create_gc(get(), context, drawable, XCB_GC_GRAPHICS_EXPOSURES, &noExposures);
+    return context;
+}
+
+void XClient::fill(xcb_drawable_t drawable, const QRect &where, std::uint32_t argb) {
+    const auto context = contextFor(drawable);
+    xcb_change_gc(get(), context, XCB_GC_FOREGROUND, &argb);
+    const auto r = rectangle(where);
+    xcb_poly_fill_rectangle(get(), drawable, context, 1, &r);
+    xcb_free_gc(get(), context);
+}
+
+void XClient::drawPattern(xcb_window_t window, const QRect &where, std::uint32_t seed) {
+    std::minstd_rand random(seed);
+    const auto context = contextFor(window);
+    const int step = 12;
+    for (int y = where.top(); y <= where.bottom(); y += step) {
+        for (int x = where.left(); x <= where.right(); x += step) {
+            // Premultiplied: no colour above the opacity.
+            const auto opacity = static_cast<std::uint32_t>(random() % 256);
+            std::uint32_t argb = opacity << 24;
+            for (int shift = 0; shift < 24; shift += 8)
+                argb |= static_cast<std::uint32_t>(random() % (opacity + 1)) << shift;
+            xcb_change_gc(get(), context, XCB_GC_FOREGROUND, &argb);
+            const auto r = rectangle(QRect(x, y, step, step).intersected(where));
+            xcb_poly_fill_rectangle(get(), window, context, 1, &r);
+        }
+    }
+    xcb_free_gc(get(), context);
+}
+
+xcb_atom_t XClient::atom(const char *name) {
+    const auto answer = connection_->reply<xcb_intern_atom_reply>(
+        xcb_intern_atom(get(), 0, static_cast<std::uint16_t>(std::strlen(name)), name));
+    return answer ? answer->atom : XCB_NONE;
+}
+
+void XClient::setProperty(xcb_window_t window, const char *name, xcb_atom_t type,
+                          std::vector<std::uint32_t> value) {
+    xcb_change_property(get(), XCB_PROP_MODE_REPLACE, window, atom(name), type, 32,
+                        static_cast<std::uint32_t>(value.size()), value.data());
+}
+
+void XClient::setClass(xcb_window_t window, const QByteArray &both) {
+    xcb_change_property(get(), XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
+                        static_cast<std::uint32_t>(both.size()), both.data());
+}
+
+void XClient::reparent(xcb_window_t window, xcb_window_t parent) {
+    xcb_reparent_window(get(), window, parent, 5, 15);
+}
+
+void XClient::setBackgroundPixmap(bool present) {
+    if (!present) {
+        xcb_delete_property(get(), root(), connection_->atoms().rootPixmap);
+        return;
+    }
+    // Smaller than the desktop: it is to be repeated.
+    const auto pixmap = connection_->newId();
+    xcb_create_pixmap(get(), connection_->screen().root_depth, pixmap, root(), 150, 90);
+    drawPattern(pixmap, QRect(0, 0, 150, 90), 77);
+    setProperty(root(), "_XROOTPMAP_ID", XCB_ATOM_PIXMAP, {pixmap});
+}
+
+void XClient::actAsCompositingManager(bool active) {
+    const auto selection = connection_->atoms().compositingManager;
+    if (active && selectionOwner_ == 0)
+        selectionOwner_ = create({});
+    xcb_set_selection_owner(get(), active ? selectionOwner_ : XCB_NONE, selection,
+                            XCB_CURRENT_TIME);
+}
+
+bool XClient::compositingManagerRuns() {
+    const auto owner = connection_->reply<xcb_get_selection_owner_reply>(
+        xcb_get_selection_owner(get(), connection_->atoms().compositingManager));
+    return owner && owner->owner != XCB_NONE;
+}
