@@ -3,6 +3,7 @@
 #pragma once
 
 #include "region/frame_dimension.h"
+#include "region/grab_units.h"
 
 #include <QRectF>
 #include <QSizeF>
@@ -39,6 +40,10 @@ public:
     QRectF rect_Screen_Region() const { return rect_Screen_Region_; }
     void setRect_Screen_Region(const QRectF &region) { rect_Screen_Region_ = region; }
 
+    /// The screen that the region is measured on: that of the main window when the overlay opened.
+    const grab_units::Screen &screenOfRegion() const { return screenOfRegion_; }
+    void setScreenOfRegion(const grab_units::Screen &screen) { screenOfRegion_ = screen; }
+
     /// The open region overlay; null while there is none. Borrowed from the region command, whose
     /// modal loop owns it.
     Window_Transparent_Region *pFullScreen() const { return pFullScreen_; }
@@ -49,5 +54,6 @@ private:
     std::int64_t b_Show_Select_Region_How_To_ = 0;
     QSizeF size_Region_;
     QRectF rect_Screen_Region_;
+    grab_units::Screen screenOfRegion_;
     Window_Transparent_Region *pFullScreen_ = nullptr;
 };

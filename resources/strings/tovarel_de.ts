@@ -173,6 +173,62 @@
         <translation>Das GIF wird erzeugt …</translation>
     </message>
     <!-- region -->
+    <message id="IDD_REGION_OVERLAY">
+        <source>Select a region</source>
+        <translation>Bereich wählen</translation>
+    </message>
+    <message id="IDD_REGION_TIP">
+        <source>%1: %2 × %3 pixels at %4, %5</source>
+        <translation>%1: %2 × %3 Pixel bei %4, %5</translation>
+    </message>
+    <message id="IDD_REGION_LOWER_LEFT">
+        <source>Lower left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message id="IDD_REGION_LOWER_RIGHT">
+        <source>Lower right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message id="IDD_REGION_UPPER_LEFT">
+        <source>Upper left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message id="IDD_REGION_UPPER_RIGHT">
+        <source>Upper right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_TITLE">
+        <source>How to select a region</source>
+        <translation>So wählen Sie einen Bereich</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_TEXT">
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one.</source>
+        <translation>Auf dem Bildschirm erscheint ein Rechteck mit fünf Quadraten. Ziehen Sie die grünen, bis es umrahmt, was Sie aufnehmen möchten, und klicken Sie dann auf das rote.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_PICTURE">
+        <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
+        <translation>Ein Rechteck auf einem Bildschirm: Ein grünes Quadrat an jeder Ecke ändert die Größe, das rote in der Mitte bestätigt.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_DRAG">
+        <source>Drag a corner</source>
+        <translation>Ecke ziehen</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_ACCEPT">
+        <source>Click to accept</source>
+        <translation>Klicken zum Bestätigen</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_KEYS">
+        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</source>
+        <translation>Mit der Tastatur: Die Pfeiltasten bewegen eine Ecke (mit Umschalt schneller), Tabulator wählt eine andere, Eingabe bestätigt, Escape bricht ab.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_AGAIN">
+        <source>&amp;Don't show this again</source>
+        <translation>&amp;Nicht mehr anzeigen</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_OK">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
     <!-- trim -->
     <!-- export -->
 </context>

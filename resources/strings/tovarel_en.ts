@@ -173,6 +173,62 @@
         <translation>Generating the GIF…</translation>
     </message>
     <!-- region -->
+    <message id="IDD_REGION_OVERLAY">
+        <source>Select a region</source>
+        <translation>Select a region</translation>
+    </message>
+    <message id="IDD_REGION_TIP">
+        <source>%1: %2 × %3 pixels at %4, %5</source>
+        <translation>%1: %2 × %3 pixels at %4, %5</translation>
+    </message>
+    <message id="IDD_REGION_LOWER_LEFT">
+        <source>Lower left</source>
+        <translation>Lower left</translation>
+    </message>
+    <message id="IDD_REGION_LOWER_RIGHT">
+        <source>Lower right</source>
+        <translation>Lower right</translation>
+    </message>
+    <message id="IDD_REGION_UPPER_LEFT">
+        <source>Upper left</source>
+        <translation>Upper left</translation>
+    </message>
+    <message id="IDD_REGION_UPPER_RIGHT">
+        <source>Upper right</source>
+        <translation>Upper right</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_TITLE">
+        <source>How to select a region</source>
+        <translation>How to select a region</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_TEXT">
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one.</source>
+        <translation>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_PICTURE">
+        <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
+        <translation>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_DRAG">
+        <source>Drag a corner</source>
+        <translation>Drag a corner</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_ACCEPT">
+        <source>Click to accept</source>
+        <translation>Click to accept</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_KEYS">
+        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</source>
+        <translation>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_AGAIN">
+        <source>&amp;Don't show this again</source>
+        <translation>&amp;Don't show this again</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_OK">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
     <!-- trim -->
     <!-- export -->
 </context>

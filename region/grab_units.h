@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+
+/// Brings a region from the screen on which it was chosen into the grab, which covers the whole
+/// desktop: the one conversion between the two. The toolkit keeps the displays' own origins but
+/// scales what lies on them, so with several displays or a fraction as scale no single factor leads
+/// from one to the other.
+namespace grab_units {
+
+/// The screen on which a region was chosen.
+struct Screen {
+    /// Its upper left corner on the desktop, in pixels from the desktop's upper left corner.
+    double originX = 0;
+    double originY = 0;
+    /// Its height in points.
+    double height = 0;
+    /// Pixels per point; any positive number.
+    double ratio = 1;
+
+    bool operator==(const Screen &) const = default;
+};
+
+/// A rectangle in points from the screen's lower left corner, y upwards; (x, y) is its lower left
+/// corner.
+struct Points {
+    double x = 0;
+    double y = 0;
+    double width = 0;
+    double height = 0;
+};
+
+/// A rectangle in whole units of the grab from the grab's upper left corner, y downwards; (x, y) is
+/// its upper left corner.
+struct Units {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+
+    bool operator==(const Units &) const = default;
+};
+
+/// Where `region` lies in a grab that has `unitsPerPixel` units for one pixel of the desktop (1, or
+/// a half where a grab of double density was halved). Each edge goes to the nearest whole unit, so
+/// that neighbouring regions stay neighbours. At least one unit wide and high, because there is no
+/// picture of nothing.
+inline Units fromPoints(const Points &region, const Screen &screen, double unitsPerPixel) {
+    const auto horizontal = [&](double x) {
+        return std::floor((screen.originX + x * screen.ratio) * unitsPerPixel + 0.5);
+    };
+    const auto vertical = [&](double y) {
+        const double fromTop = screen.height - y;
+        return std::floor((screen.originY + fromTop * screen.ratio) * unitsPerPixel + 0.5);
+    };
+    const double left = horizontal(region.x);
+    const double top = vertical(region.y + region.height);
+    const double width = horizontal(region.x + region.width) - left;
+    const double height = vertical(region.y) - top;
+    return {static_cast<int>(left), static_cast<int>(top), std::max(1, static_cast<int>(width)),
+            std::max(1, static_cast<int>(height))};
+}
+
+} // namespace grab_units

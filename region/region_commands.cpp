@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+#include "region/window_region_how_it_works.h"
+#include "region/window_transparent_region.h"
+
+#include <QApplication>
+#include <QMainWindow>
+
+namespace {
+
+constexpr QSizeF startingSize(320.0, 240.0); // points
+
+} // namespace
+
+void AppDelegate::OnRecordFullScreen(QObject *) {
+    region.setI_Type_Screen_Capture(CAPTURE_FULL_SCREEN);
+}
+
+void AppDelegate::OnRecordRegion(QObject *) {
+    // Assistive technology reaches the command past a modal window.
+    if (QApplication::activeModalWidget())
+        return;
+    if (region.b_Show_Select_Region_How_To() == 1)
+        Window_Region_How_It_Works(shell.window()).exec();
+    region.setI_Type_Screen_Capture(CAPTURE_REGION);
+    GetScreenSize();
+    region.setSize_Region(startingSize);
+    int code = Window_Transparent_Region::cancelled;
+    if (QScreen *screen = shell.window()->screen()) {
+        Window_Transparent_Region overlay(*screen);
+        region.setPFullScreen(&overlay);
+        code = overlay.runModal();
+        region.setPFullScreen(nullptr);
+    }
+    if (code != Window_Transparent_Region::accepted)
+        region.setI_Type_Screen_Capture(CAPTURE_FULL_SCREEN);
+}
+
+void AppDelegate::endRegionOverlay() {
+    if (!region.pFullScreen())
+        return;
+    region.pFullScreen()->stopModalWithCode(Window_Transparent_Region::cancelled);
+    region.pFullScreen()->hide();
+    region.setPFullScreen(nullptr);
+}

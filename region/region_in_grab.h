@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "region/grab_units.h"
+
+#include <QRect>
+
+class AppDelegate;
+class QScreen;
+
+/// A screen as the conversion into the grab's units sees it.
+grab_units::Screen screenOnDesktop(const QScreen &screen);
+
+/// The controller's region in whole units of its latest grab, upper left origin: what is cut out of
+/// the grab, and so the size of a frame. Counted from the screen on which the region was chosen,
+/// wherever the main window has gone since.
+QRect regionInGrab(const AppDelegate &delegate);

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "region/view_region_how_to.h"
+
+#include "region/view_transparent_region.h"
+
+#include <QPainter>
+
+#include <array>
+
+namespace {
+
+constexpr QSize wholeSize(420, 190);          // points
+constexpr double regionWidth = 190;           // points
+constexpr double regionHeight = 86;           // points
+constexpr double arrowLength = 22;            // points
+constexpr double arrowHead = 5;               // points
+const QColor desktopColor(226, 230, 236);     // a screen with nothing on it
+const QColor desktopEdgeColor(150, 156, 166); // its frame
+const QColor inkColor(32, 36, 42);            // arrows and words
+
+/// An arrow along a diagonal, with a head at both ends: a corner goes either way.
+void drawArrow(QPainter &painter, const QPointF &from, double dx, double dy) {
+    const QPointF to = from + QPointF(dx, dy) * arrowLength;
+    painter.drawLine(from, to);
+    painter.drawLine(to, to - QPointF(dx * arrowHead, 0));
+    painter.drawLine(to, to - QPointF(0, dy * arrowHead));
+    painter.drawLine(from, from + QPointF(dx * arrowHead, 0));
+    painter.drawLine(from, from + QPointF(0, dy * arrowHead));
+}
+
+} // namespace
+
+QSize View_Region_How_To::sizeHint() const { return wholeSize; }
+
+void View_Region_How_To::paintEvent(QPaintEvent *) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF screen = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.setPen(desktopEdgeColor);
+    painter.setBrush(desktopColor);
+    painter.drawRoundedRect(screen, 6, 6);
+
+    const auto squares =
+        region_geometry::initialSquares(regionWidth, regionHeight, width(), height());
+    const auto region = region_geometry::boundingRegion(squares);
+    region_drawing::draw(painter, squares, region, height());
+
+    painter.setPen(QPen(inkColor, 1.5));
+    const QRectF box(region.x, height() - region.y - region.height, region.width, region.height);
+    constexpr double clear = 9; // from a corner to its arrow, beyond the square
+    drawArrow(painter, box.topLeft() + QPointF(-clear, -clear), -1, -1);
+    drawArrow(painter, box.topRight() + QPointF(clear, -clear), 1, -1);
+    drawArrow(painter, box.bottomLeft() + QPointF(-clear, clear), -1, 1);
+    drawArrow(painter, box.bottomRight() + QPointF(clear, clear), 1, 1);
+
+    const int line = fontMetrics().height();
+    const auto write = [&](double y, const QString &words) {
+        painter.drawText(QRectF(0, y, width(), line), Qt::AlignCenter, words);
+    };
+    write(box.top() - line - 12, qtTrId("IDD_REGION_HOW_TO_DRAG"));
+    write(box.center().y() + 10, qtTrId("IDD_REGION_HOW_TO_ACCEPT"));
+}

@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "region/view_transparent_region.h"
+
+#include "app/app_delegate.h"
+#include "region/controller_squares.h"
+
+#include <QPainter>
+
+namespace {
+
+using region_geometry::Point;
+using region_geometry::Region;
+using region_geometry::Squares;
+using region_geometry::squareSide;
+
+const QColor outlineColor(0, 0, 255);
+const QColor cornerColor(0, 255, 0);
+const QColor middleColor(255, 0, 0);
+const QColor crossColor(0, 0, 0);
+constexpr double outlineWidth = 3.0; // points
+constexpr double crossWidth = 1.0;   // points
+constexpr double crossInset = 2.0;   // points from the middle square's edge
+
+QPen pen(const QColor &color, double width) {
+    return QPen(color, width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
+}
+
+QRectF squareRect(const Point &corner) { return {corner.x, corner.y, squareSide, squareSide}; }
+
+/// The middle square's cross, for a painter with `scale` units for a point.
+void drawCross(QPainter &painter, const QRectF &square, double scale) {
+    const double inset = crossInset * scale;
+    const QRectF cross = square.adjusted(inset, inset, -inset, -inset);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(pen(crossColor, crossWidth * scale));
+    painter.drawLine(cross.topLeft(), cross.bottomRight());
+    painter.drawLine(cross.topRight(), cross.bottomLeft());
+}
+
+} // namespace
+
+void region_drawing::draw(QPainter &painter, const Squares &squares, const Region &region,
+                          double areaHeight) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(0, areaHeight);
+    painter.scale(1, -1);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(pen(outlineColor, outlineWidth));
+    painter.drawRect(QRectF(region.x, region.y, region.width, region.height));
+    for (std::size_t index = 0; index < squares.size(); ++index) {
+        if (region_geometry::isCorner(static_cast<int>(index)))
+            painter.fillRect(squareRect(squares[index]), cornerColor);
+    }
+    const QRectF middle = squareRect(squares[region_geometry::middle]);
+    painter.fillRect(middle, middleColor);
+    drawCross(painter, middle, 1);
+    painter.restore();
+}
+
+QRegion region_drawing::Pieces::shape() const {
+    QRegion whole = outline;
+    for (const QRect &square : squares)
+        whole += square;
+    return whole;
+}
+
+region_drawing::Pieces region_drawing::pieces(const Squares &squares, const Region &region,
+                                              double areaHeight, double ratio) {
+    // Edges go to the nearest pixel each, as the eye expects of lines that meet.
+    const auto inPixels = [&](const QRectF &box) {
+        const QPoint topLeft(qRound(box.left() * ratio),
+                             qRound((areaHeight - box.bottom()) * ratio));
+        const QPoint end(qRound(box.right() * ratio), qRound((areaHeight - box.top()) * ratio));
+        return QRect(topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y()));
+    };
+    constexpr double half = outlineWidth / 2;
+    const QRectF box(region.x, region.y, region.width, region.height);
+    Pieces result;
+    result.outline = inPixels(box.adjusted(-half, -half, half, half));
+    const QRectF inside = box.adjusted(half, half, -half, -half);
+    if (inside.width() > 0 && inside.height() > 0)
+        result.outline -= inPixels(inside);
+    for (std::size_t index = 0; index < squares.size(); ++index)
+        result.squares[index] = inPixels(squareRect(squares[index]));
+    return result;
+}
+
+void View_Transparent_Region::storeRegion() {
+    RegionFields &fields = appDelegate()->region;
+    const Region region = region_geometry::boundingRegion(controller_squares::read(fields));
+    fields.setRect_Screen_Region(QRectF(region.x, region.y, region.width, region.height));
+}
+
+void View_Transparent_Region::paintEvent(QPaintEvent *) {
+    storeRegion();
+    const RegionFields &fields = appDelegate()->region;
+    const QRect stored = fields.rect_Screen_Region().toRect();
+    const Region region{stored.x(), stored.y(), stored.width(), stored.height()};
+    const Squares squares = controller_squares::read(fields);
+    QPainter painter(this);
+    if (shaped_)
+        paintPieces(painter, squares, region);
+    else
+        region_drawing::draw(painter, squares, region, height());
+}
+
+void View_Transparent_Region::paintPieces(QPainter &painter, const Squares &squares,
+                                          const Region &region) const {
+    const double ratio = devicePixelRatioF();
+    const region_drawing::Pieces pieces = region_drawing::pieces(squares, region, height(), ratio);
+    painter.scale(1 / ratio, 1 / ratio);
+    for (const QRect &box : pieces.outline)
+        painter.fillRect(box, outlineColor);
+    for (std::size_t index = 0; index < squares.size(); ++index) {
+        if (region_geometry::isCorner(static_cast<int>(index)))
+            painter.fillRect(pieces.squares[index], cornerColor);
+    }
+    const QRectF middle = pieces.squares[region_geometry::middle];
+    painter.fillRect(middle, middleColor);
+    drawCross(painter, middle, ratio);
+}

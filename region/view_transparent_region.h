@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "region/region_geometry.h"
+
+#include <QRegion>
+#include <QWidget>
+
+#include <array>
+
+class QPainter;
+
+/// How the region selection looks: the outline, four corner squares, the middle square with its
+/// cross, and nothing else. Pure drawing, shared by the overlay and the picture that explains it.
+namespace region_drawing {
+
+/// Draws region and squares, in points from the lower left corner of an area of the given height.
+void draw(QPainter &painter, const region_geometry::Squares &squares,
+          const region_geometry::Region &region, double areaHeight);
+
+/// The same for a window that shows nothing but its shape, in pixels and without blended edges.
+struct Pieces {
+    QRegion outline;
+    std::array<QRect, 5> squares; // by index
+
+    /// All of it: what the window is shaped to.
+    QRegion shape() const;
+};
+
+/// The pieces in a window `areaHeight` points high with `ratio` pixels per point; pixels from its
+/// upper left corner.
+Pieces pieces(const region_geometry::Squares &squares, const region_geometry::Region &region,
+              double areaHeight, double ratio);
+
+} // namespace region_drawing
+
+/// The overlay's view. It fills the overlay's window, draws the controller's squares, and stores
+/// the region that they stand for with every drawing, so that what is accepted is what was seen
+/// last. Pointer events go to the window.
+class View_Transparent_Region : public QWidget {
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    /// Works out the region from the squares and stores it in the controller.
+    static void storeRegion();
+
+    /// For a desktop that does not blend windows, where the window is shaped to the drawing.
+    void setShaped(bool shaped) { shaped_ = shaped; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void paintPieces(QPainter &painter, const region_geometry::Squares &squares,
+                     const region_geometry::Region &region) const;
+
+    bool shaped_ = false;
+};

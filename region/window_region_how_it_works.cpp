@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "region/window_region_how_it_works.h"
+
+#include "app/app_delegate.h"
+#include "app/settings.h"
+#include "ui_Window_Region_How_It_Works.h"
+
+Window_Region_How_It_Works::Window_Region_How_It_Works(QWidget *parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::Window_Region_How_It_Works>()) {
+    ui_->setupUi(this);
+    windowDidLoad();
+}
+
+Window_Region_How_It_Works::~Window_Region_How_It_Works() = default;
+
+QCheckBox *Window_Region_How_It_Works::checkDontShowAgain() const {
+    return ui_->checkDontShowAgain;
+}
+
+void Window_Region_How_It_Works::windowDidLoad() {
+    setWindowTitle(qtTrId("IDD_REGION_HOW_TO_TITLE"));
+    ui_->labelText->setText(qtTrId("IDD_REGION_HOW_TO_TEXT"));
+    ui_->labelKeys->setText(qtTrId("IDD_REGION_HOW_TO_KEYS"));
+    ui_->viewPicture->setAccessibleName(qtTrId("IDD_REGION_HOW_TO_PICTURE"));
+    ui_->checkDontShowAgain->setText(qtTrId("IDD_REGION_HOW_TO_AGAIN"));
+    ui_->btnOK->setText(qtTrId("IDD_REGION_HOW_TO_OK"));
+    connect(ui_->btnOK, &QPushButton::clicked, this, &Window_Region_How_It_Works::OnOK);
+}
+
+void Window_Region_How_It_Works::OnOK() {
+    if (checkDontShowAgain()->isChecked()) {
+        appDelegate()->region.setB_Show_Select_Region_How_To(0);
+        settings::writeShowSelectRegionHowTo(appDelegate()->region.b_Show_Select_Region_How_To());
+    }
+    accept();
+}
+
+void Window_Region_How_It_Works::windowWillClose() { done(Rejected); }

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "region/region_geometry.h"
+
+#include <QBasicTimer>
+#include <QWidget>
+
+#include <cstdint>
+
+class QEventLoop;
+class RegionTip;
+class View_Transparent_Region;
+
+/// The region selection's overlay: a see-through window over the whole screen of the main window,
+/// on which the corners of the region are dragged. It turns pointer and keys into changes of the
+/// controller's squares; it neither draws (see its view) nor decides what the result means (see the
+/// region command).
+///
+/// Where the desktop blends windows, the window is transparent. Where it does not, the window is
+/// shaped to what is drawn, and pointer and keyboard are held for its time, so that the screen
+/// stays visible and live in both cases.
+class Window_Transparent_Region : public QWidget {
+    Q_OBJECT
+
+public:
+    /// How the modal loop ended.
+    static constexpr int cancelled = 0;
+    static constexpr int accepted = 1;
+
+    /// Covers `screen` and lays out the squares for the controller's `size_Region`, which must be
+    /// set before, centred. Not shown yet.
+    explicit Window_Transparent_Region(QScreen &screen);
+    ~Window_Transparent_Region() override;
+
+    /// Shows the overlay and turns events until it is accepted, cancelled or ended from outside;
+    /// hides it again. Returns one of the two codes above.
+    int runModal();
+    /// Ends the modal loop with `code`; nothing happens outside the loop.
+    void stopModalWithCode(int code);
+
+    /// A corner square was pressed and the button is held.
+    bool b_Mouse_Down() const { return b_Mouse_Down_; }
+    void setB_Mouse_Down(bool down) { b_Mouse_Down_ = down; }
+
+    /// Index of the square that was pressed last; -1 before the first.
+    std::int32_t i_button_index() const { return i_button_index_; }
+    void setI_button_index(std::int32_t index) { i_button_index_ = index; }
+
+    /// The window itself.
+    QWidget *windowTransparentRegion() { return this; }
+
+    /// The drawing view, which fills the window; owned by it.
+    View_Transparent_Region *viewTransparentRegion() const { return viewTransparentRegion_; }
+
+    // Pointer events by their established names; positions in points from the screen's lower left
+    // corner.
+    void mouseDown(region_geometry::Point pointer);
+    void mouseDragged(region_geometry::Point pointer);
+    void mouseUp();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+    void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    void awakeFromNib(QScreen &screen);
+    void windowDidLoad();
+    /// The pointer in points from the screen's lower left corner.
+    region_geometry::Point fromScreenCorner(QPointF inWindow) const;
+    void accept();
+    void moveCorner(double dx, double dy);
+    void chooseCorner(int step);
+    /// The squares have changed: shape, drawing and tip follow.
+    void squaresChanged();
+    void showTip();
+    void showCursor(region_geometry::Point pointer);
+    /// Follows a compositing manager that came or went, and takes the pointer and the keyboard when
+    /// they are needed and were not to be had before.
+    void adaptToDesktop();
+
+    bool b_Mouse_Down_ = false;
+    std::int32_t i_button_index_ = -1;
+    View_Transparent_Region *viewTransparentRegion_;
+    RegionTip *tip_;
+    /// The corner that the arrow keys move and that the tip stands at.
+    int cornerInHand_ = region_geometry::lowerRight;
+    QRect screenFrame_; // points, upper left origin
+    bool blended_ = true;
+    bool holdsInput_ = false;
+    QBasicTimer desktopWatch_;
+    QEventLoop *modalLoop_ = nullptr; // lives in runModal
+};

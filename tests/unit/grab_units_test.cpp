@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "region/grab_units.h"
+#include "region/tip_place.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using grab_units::Points;
+using grab_units::Screen;
+using grab_units::Units;
+
+TEST(GrabUnits, aRegionLiesWhereTheUserFramedItOnAnyScreenAtAnyScale) {
+    const Screen plain{0, 0, 900, 1};
+    const Screen dense{0, 0, 900, 2};
+    const Screen fraction{0, 0, 720, 1.5};                 // 1920 by 1080 pixels
+    const Screen second{1440, 300, 1024, 1};               // right of and below the first
+    const Screen denseSecond{3840, 0, 1080, 2};            // its origin stays in pixels
+    const Screen oddFraction{1920, 56, 683, 1024 / 683.0}; // 1024 pixels do not divide by 1.5
+    const struct {
+        std::string name;
+        Screen screen;
+        double unitsPerPixel;
+        Points region;
+        Units expected;
+    } cases[] = {
+        {"one display", plain, 1, {560, 330, 320, 240}, {560, 330, 320, 240}},
+        {"from below", plain, 1, {10, 0, 100, 50}, {10, 850, 100, 50}},
+        {"double density, halved", dense, 0.5, {560, 330, 320, 240}, {560, 330, 320, 240}},
+        {"double density, not halved", dense, 1, {560, 330, 320, 240}, {1120, 660, 640, 480}},
+        {"one and a half", fraction, 1, {480, 240, 320, 240}, {720, 360, 480, 360}},
+        {"halves go up at every edge", fraction, 1, {1, 0, 2, 1}, {2, 1079, 3, 1}},
+        {"second display", second, 1, {100, 200, 320, 240}, {1540, 884, 320, 240}},
+        {"dense second display", denseSecond, 1, {100, 200, 320, 240}, {4040, 1280, 640, 480}},
+        {"left of and above the desktop", plain, 1, {-30, 800, 100, 200}, {-30, -100, 100, 200}},
+        {"bottom edge of an odd height", oddFraction, 1, {0, 0, 1, 1}, {1920, 1079, 1, 1}},
+        {"nothing becomes one unit", plain, 1, {5, 5, 0, 0}, {5, 895, 1, 1}},
+    };
+    for (const auto &[name, screen, unitsPerPixel, region, expected] : cases) {
+        const Units units = grab_units::fromPoints(region, screen, unitsPerPixel);
+        EXPECT_EQ(units, expected) << name << ": " << units.x << ", " << units.y << " "
+                                   << units.width << " by " << units.height;
+    }
+}
+
+TEST(GrabUnits, neighbouringRegionsNeitherOverlapNorLeaveAGap) {
+    for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0, 3.0}) {
+        const Screen screen{7, 11, 720, ratio};
+        for (int x = -5; x < 60; ++x) {
+            const Points left{static_cast<double>(x), 100, 13, 13};
+            const Points right{x + 13.0, 87, 29, 13};
+            const Units a = grab_units::fromPoints(left, screen, 1);
+            const Units b = grab_units::fromPoints(right, screen, 1);
+            ASSERT_EQ(a.x + a.width, b.x) << ratio;
+            ASSERT_EQ(a.y + a.height, b.y) << ratio;
+        }
+    }
+}
+
+TEST(TipPlace, theTipStaysOnTheScreenAndAwayFromPointerAndCorner) {
+    const tip_place::Box screen{1000, 50, 800, 600};
+    constexpr int width = 260;
+    constexpr int height = 30;
+    const auto place = [&](tip_place::Point corner, tip_place::Point pointer) {
+        return tip_place::choose(corner, pointer, screen, width, height);
+    };
+    EXPECT_EQ(place({1400, 300}, {1100, 100}), (tip_place::Point{1424, 324}));
+    for (int cornerX = 900; cornerX <= 1900; cornerX += 25) {
+        for (int cornerY = 0; cornerY <= 700; cornerY += 25) {
+            for (const auto [dx, dy] : {tip_place::Point{0, 0}, {40, 40}, {-40, 40}, {200, -60}}) {
+                const tip_place::Point pointer{cornerX + dx, cornerY + dy};
+                const auto [x, y] = place({cornerX, cornerY}, pointer);
+                ASSERT_TRUE(x >= screen.x && x + width <= screen.x + screen.width);
+                ASSERT_TRUE(y >= screen.y && y + height <= screen.y + screen.height);
+                ASSERT_FALSE(tip_place::covers({x, y, width, height}, pointer))
+                    << pointer.x << ", " << pointer.y;
+            }
+        }
+    }
+}

@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "region/region_geometry.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace region_geometry;
+
+namespace {
+
+Squares startOn(double width, double height) { return initialSquares(320, 240, width, height); }
+
+std::size_t at(int index) { return static_cast<std::size_t>(index); }
+
+} // namespace
+
+TEST(RegionGeometry, theRegionStartsInTheMiddleOfTheScreen) {
+    const Squares squares = startOn(1440, 900);
+    EXPECT_EQ(squares, (Squares{{{555, 325}, {875, 325}, {715, 445}, {555, 565}, {875, 565}}}));
+    EXPECT_EQ(boundingRegion(squares), (Region{560, 330, 320, 240}));
+
+    // Odd sizes: every half is cut off, towards zero where the region is larger than the screen.
+    const Squares odd = initialSquares(321.9, 241.9, 1440.5, 900.5);
+    EXPECT_EQ(boundingRegion(odd), (Region{559, 329, 321, 241}));
+    EXPECT_EQ(odd[at(middle)], (Point{559 + 160 - 5, 329 + 120 - 5}));
+    EXPECT_EQ(boundingRegion(startOn(319, 239)), (Region{0, 0, 320, 240}));
+    EXPECT_EQ(boundingRegion(startOn(317, 237)), (Region{-1, -1, 320, 240}));
+}
+
+TEST(RegionGeometry, aPressHitsASquareWithItsEdgesAndTheLowestIndexWins) {
+    const Squares apart = startOn(1440, 900);
+    Squares close = apart;
+    drag(close, upperRight, {close[at(lowerLeft)].x + 8, close[at(lowerLeft)].y + 8});
+    const struct {
+        const Squares &squares;
+        Point pointer;
+        std::optional<int> hit;
+    } cases[] = {
+        {apart, {555, 325}, lowerLeft},  {apart, {565, 335}, lowerLeft},
+        {apart, {565.1, 330}, {}},       {apart, {560, 324.9}, {}},
+        {apart, {885, 335}, lowerRight}, {apart, {720, 450}, middle},
+        {apart, {555, 575}, upperLeft},  {apart, {885, 575}, upperRight},
+        {apart, {720, 330}, {}},         {close, {560, 330}, lowerLeft},
+        {close, {566, 337}, middle},     {close, {563, 343}, upperLeft},
+    };
+    for (const auto &[squares, pointer, hit] : cases)
+        EXPECT_EQ(squareAt(squares, pointer), hit) << pointer.x << ", " << pointer.y;
+}
+
+TEST(RegionGeometry, aDraggedCornerTakesItsNeighboursAlongAndKeepsFractions) {
+    // Squares at (555, 325) to (875, 565). The half of an odd distance is cut off on the way from
+    // the left and from below, so it depends on the corner in hand.
+    const struct {
+        int corner;
+        Point pointer;
+        Squares expected;
+        Region region;
+    } cases[] = {
+        {lowerLeft,
+         {100.7, 50.2},
+         {{{100.7, 50.2}, {875, 50.2}, {487, 307}, {100.7, 565}, {875, 565}}},
+         {105, 55, 775, 515}},
+        {lowerRight,
+         {1000.9, 101.5},
+         {{{555, 101.5}, {1000.9, 101.5}, {777, 333}, {555, 565}, {1000.9, 565}}},
+         {560, 106, 445, 464}},
+        {upperLeft,
+         {-20.5, 700},
+         {{{-20.5, 325}, {875, 325}, {427, 512}, {-20.5, 700}, {875, 700}}},
+         {-15, 330, 895, 375}},
+        {upperRight,
+         {556, 326},
+         {{{555, 325}, {556, 325}, {555, 325}, {555, 326}, {556, 326}}},
+         {560, 330, 1, 1}},
+        // Past the opposite corner: the bounding box of all squares.
+        {lowerLeft,
+         {1000, 700},
+         {{{1000, 700}, {875, 700}, {938, 633}, {1000, 565}, {875, 565}}},
+         {880, 570, 125, 135}},
+    };
+    for (const auto &[corner, pointer, expected, region] : cases) {
+        Squares squares = startOn(1440, 900);
+        drag(squares, corner, pointer);
+        EXPECT_EQ(squares, expected) << "corner " << corner;
+        EXPECT_EQ(boundingRegion(squares), region) << "corner " << corner;
+    }
+    Squares untouched = startOn(1440, 900);
+    for (const int notACorner : {middle, -1, 5})
+        drag(untouched, notACorner, {1, 1});
+    EXPECT_EQ(untouched, startOn(1440, 900));
+}
+
+TEST(RegionGeometry, anyDragsLeaveARectangleWithItsMiddleHalfwayAndTheOppositeCornerInPlace) {
+    std::mt19937 random(20261124);
+    std::uniform_int_distribution<int> anyCorner(0, 3);
+    std::uniform_real_distribution<double> anyX(-500, 4500);
+    std::uniform_real_distribution<double> anyY(-500, 2700);
+    Squares squares = startOn(3840, 2160);
+    for (int step = 0; step < 20'000; ++step) {
+        constexpr int corners[] = {lowerLeft, lowerRight, upperLeft, upperRight};
+        const int corner = corners[anyCorner(random)];
+        const Point opposite = squares[at(oppositeOf(corner))];
+        // Every third one to a whole place, and some onto the opposite corner itself.
+        Point pointer{anyX(random), anyY(random)};
+        if (step % 3 == 0)
+            pointer = {std::floor(pointer.x), std::floor(pointer.y)};
+        if (step % 101 == 0)
+            pointer = opposite;
+        drag(squares, corner, pointer);
+
+        ASSERT_EQ(squares[at(corner)], pointer);
+        ASSERT_EQ(squares[at(oppositeOf(corner))], opposite);
+        ASSERT_EQ(squares[at(lowerLeft)].x, squares[at(upperLeft)].x);
+        ASSERT_EQ(squares[at(lowerRight)].x, squares[at(upperRight)].x);
+        ASSERT_EQ(squares[at(lowerLeft)].y, squares[at(lowerRight)].y);
+        ASSERT_EQ(squares[at(upperLeft)].y, squares[at(upperRight)].y);
+        // Within one point of halfway: three numbers lose their fractions on the way.
+        ASSERT_NEAR(squares[at(middle)].x, (pointer.x + opposite.x) / 2, 1.5);
+        ASSERT_NEAR(squares[at(middle)].y, (pointer.y + opposite.y) / 2, 1.5);
+        const Region region = boundingRegion(squares);
+        ASSERT_GE(region.width, 0);
+        ASSERT_GE(region.height, 0);
+        // Fractions are cut off towards zero, so an edge on either side of it adds up to two.
+        ASSERT_NEAR(region.width, std::abs(pointer.x - opposite.x), 2);
+        ASSERT_NEAR(region.height, std::abs(pointer.y - opposite.y), 2);
+        ASSERT_NEAR(region.x - squareInset, std::min(pointer.x, opposite.x), 1);
+        ASSERT_NEAR(region.y - squareInset, std::min(pointer.y, opposite.y), 1);
+    }
+}
+
+TEST(RegionGeometry, aCornerIsNamedByWhereItLiesNow) {
+    Squares squares = startOn(1440, 900);
+    EXPECT_TRUE(placeOf(squares, lowerLeft).left && placeOf(squares, lowerLeft).lower);
+    drag(squares, lowerLeft, {1000, 400}); // Past its right neighbour, still below the upper edge.
+    EXPECT_TRUE(!placeOf(squares, lowerLeft).left && placeOf(squares, lowerLeft).lower);
+    EXPECT_TRUE(placeOf(squares, upperRight).left && !placeOf(squares, upperRight).lower);
+    // On top of each other: as laid out.
+    drag(squares, lowerLeft, squares[at(upperRight)]);
+    EXPECT_TRUE(placeOf(squares, lowerLeft).left && placeOf(squares, lowerLeft).lower);
+    EXPECT_TRUE(!placeOf(squares, upperRight).left && !placeOf(squares, upperRight).lower);
+}
