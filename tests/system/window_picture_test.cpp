@@ -174,6 +174,20 @@ TEST_F(WindowPicture, showsTheBackgroundThatWasSetAndBlackForOneThatIsGone) {
     EXPECT_TRUE(looksLikeReference());
 }
 
+TEST_P(WindowPictureByRoad, followsTheDesktopsSize) {
+    client.setBackgroundPixmap(true);
+    client.show({.place = {60, 40, 500, 300}}, 1);
+    ASSERT_TRUE(looksLikeReference());
+    const QSize before = client.desktop().size();
+    client.resizeDesktop({500, 300});
+    EXPECT_TRUE(looksLikeReference());
+    EXPECT_EQ(grab().size(), QSize(500, 300));
+    client.resizeDesktop(before);
+    EXPECT_TRUE(looksLikeReference());
+    EXPECT_EQ(grab().size(), before);
+    EXPECT_EQ(server->listWindows().back().bounds, QRectF(client.desktop()));
+}
+
 namespace {
 
 /// Does at random what windows do, in any order.

@@ -6,7 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <cstdlib>
 #include <cstring>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -31,6 +34,22 @@ int runForeignProgram(const char *windowClass) {
     return 0;
 }
 
+/// True when the display is meant to have none.
+bool waitForCompositingManager() {
+    if (!std::getenv("TOVAREL_COMPOSITOR"))
+        return true;
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    XClient client;
+    while (!client.compositingManagerRuns()) {
+        if (std::chrono::steady_clock::now() > deadline) {
+            std::fputs("no compositing manager\n", stderr);
+            return false;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
@@ -38,5 +57,7 @@ int main(int argc, char **argv) {
         return runForeignProgram(argv[2]);
     testing::InitGoogleTest(&argc, argv);
     QCoreApplication application(argc, argv);
+    if (!waitForCompositingManager())
+        return 1;
     return RUN_ALL_TESTS();
 }

@@ -80,13 +80,16 @@ if [ -n "$wm" ]; then
     # shellcheck disable=SC2086
     $wm >"$scratch/wm.log" 2>&1 &
     started="$! $started"
-    hasWindowManager() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q '#'; }
+    # Only a window manager tells how many desktops there are.
+    hasWindowManager() { xdotool get_num_desktops >/dev/null 2>&1; }
     waitFor 100 "window manager" hasWindowManager
 fi
 if [ -n "$compositor" ]; then
     # shellcheck disable=SC2086
     $compositor >"$scratch/compositor.log" 2>&1 &
     started="$! $started"
+    # Whoever needs to wait for it has to ask the display.
+    export TOVAREL_COMPOSITOR="$compositor"
 fi
 
 # In the background, because a shell hears no signal while it waits for a command in front.

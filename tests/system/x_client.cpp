@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "tests/system/x_client.h"
 
+#include <xcb/randr.h>
 #include <xcb/shape.h>
 
 #include <array>
 #include <cstdio>
 #include <cstring>
 #include <random>
+#include <span>
 
 namespace {
 
@@ -35,6 +37,21 @@ QRect XClient::desktop() {
     const auto geometry =
         connection_->reply<xcb_get_geometry_reply>(xcb_get_geometry(get(), root()));
     return {0, 0, geometry->width, geometry->height};
+}
+
+// A display that lights the desktop has to be put out before the desktop can become smaller.
+void XClient::resizeDesktop(const QSize &size) {
+    const auto resources = connection_->reply<xcb_randr_get_screen_resources_reply>(
+        xcb_randr_get_screen_resources(get(), root()));
+    const std::span displays(xcb_randr_get_screen_resources_crtcs(resources.get()),
+                             resources->num_crtcs);
+    for (const auto display : displays)
+        connection_->reply<xcb_randr_set_crtc_config_reply>(
+            xcb_randr_set_crtc_config(get(), display, XCB_CURRENT_TIME, XCB_CURRENT_TIME, 0, 0,
+                                      XCB_NONE, XCB_RANDR_ROTATION_ROTATE_0, 0, nullptr));
+    constexpr std::uint32_t millimetres = 200; // any but 0
+    xcb_randr_set_screen_size(get(), root(), extent(size.width()), extent(size.height()),
+                              millimetres, millimetres);
 }
 
 xcb_visualid_t XClient::alphaVisual() const {
@@ -201,4 +218,10 @@ bool XClient::compositingManagerRuns() {
     const auto owner = connection_->reply<xcb_get_selection_owner_reply>(
         xcb_get_selection_owner(get(), connection_->atoms().compositingManager));
     return owner && owner->owner != XCB_NONE;
+}
+
+bool XClient::windowManagerRuns() {
+    const auto check = connection_->reply<xcb_get_property_reply>(xcb_get_property(
+        get(), 0, root(), atom("_NET_SUPPORTING_WM_CHECK"), XCB_ATOM_WINDOW, 0, 1));
+    return check && check->value_len == 1;
 }

@@ -30,6 +30,8 @@ public:
     xcb_connection_t *get() const { return connection_->get(); }
     xcb_window_t root() const { return connection_->root(); }
     QRect desktop();
+    /// To any size up to the one that the display started with.
+    void resizeDesktop(const QSize &size);
 
     /// A window that is not mapped yet; its background is grey and half transparent.
     xcb_window_t create(const Spec &spec);
@@ -58,6 +60,7 @@ public:
     /// Owns or disowns the selection that tells of a compositing manager.
     void actAsCompositingManager(bool active);
     bool compositingManagerRuns();
+    bool windowManagerRuns();
     xcb_atom_t atom(const char *name);
 
     /// Returns when the server has done all of the above.
