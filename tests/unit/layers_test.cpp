@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "platform/x11/layers.h"
+
+#include <gtest/gtest.h>
+
+using x11::changedBetween;
+using x11::Layer;
+using x11::LayerStack;
+
+namespace {
+
+const QRect desktop(0, 0, 100, 100);
+
+Layer layer(std::uint32_t window, const QRect &place, bool blended = false) {
+    return {.window = window,
+            .region = place,
+            .origin = place.topLeft(),
+            .blended = blended,
+            .generation = 1};
+}
+
+LayerStack stack(std::vector<Layer> layers) { return {std::move(layers), desktop}; }
+
+} // namespace
+
+TEST(Layers, areSeenWhereNoOpaqueOneIsInFrontAndWithinTheDesktop) {
+    const auto s = stack({layer(1, {0, 0, 50, 50}), layer(2, {0, 0, 60, 60}, true),
+                          layer(3, {40, 40, 90, 20}), layer(4, {0, 0, 30, 30})});
+    EXPECT_EQ(s.visible(0), QRegion(0, 0, 50, 50));
+    EXPECT_EQ(s.visible(1), QRegion(0, 0, 60, 60) - QRegion(0, 0, 50, 50));
+    EXPECT_EQ(s.visible(2), QRegion(40, 40, 60, 20) - QRegion(0, 0, 50, 50))
+        << "through the blended one, and cut at the edge";
+    EXPECT_TRUE(s.visible(3).isEmpty());
+    EXPECT_EQ(s.bare(), QRegion(desktop) - QRegion(0, 0, 50, 50) - QRegion(40, 40, 60, 20));
+}
+
+TEST(Layers, changeWhereTheyComeGoMoveOrShowAnotherPicture) {
+    const Layer front = layer(1, {0, 0, 20, 20}), back = layer(2, {10, 10, 30, 30});
+    const auto both = stack({front, back});
+    EXPECT_TRUE(changedBetween(both, stack({front, back})).isEmpty());
+    EXPECT_EQ(changedBetween(both, stack({front})), both.visible(1));
+    EXPECT_EQ(changedBetween(stack({back}), both), QRegion(front.region));
+
+    EXPECT_EQ(changedBetween(both, stack({layer(1, {5, 0, 20, 20}), back})),
+              QRegion(0, 0, 20, 20) + QRegion(5, 0, 20, 20))
+        << "what it left, and all of what it shows elsewhere";
+    Layer renewed = back;
+    renewed.generation = 2;
+    EXPECT_EQ(changedBetween(both, stack({front, renewed})), both.visible(1));
+    EXPECT_EQ(changedBetween(both, LayerStack({front, back}, {0, 0, 50, 50})),
+              QRegion(0, 0, 50, 50))
+        << "another desktop";
+}
+
+TEST(Layers, changeWhereTheyExchangePlaces) {
+    const Layer a = layer(1, {0, 0, 20, 20}), b = layer(2, {10, 10, 20, 20});
+    const Layer apart = layer(3, {50, 50, 10, 10});
+    EXPECT_EQ(changedBetween(stack({a, b, apart}), stack({apart, b, a})), QRegion(10, 10, 10, 10));
+
+    const Layer glass = layer(1, {0, 0, 20, 20}, true), pane = layer(2, {10, 10, 20, 20}, true);
+    EXPECT_EQ(changedBetween(stack({glass, pane, apart}), stack({apart, pane, glass})),
+              QRegion(10, 10, 10, 10))
+        << "both stay in sight, and yet it looks different";
+    EXPECT_TRUE(changedBetween(stack({glass, pane}), stack({glass, apart, pane}))
+                    .xored(apart.region)
+                    .isEmpty())
+        << "one that comes between exchanges nothing";
+}
+
+TEST(Layers, whatHappensBeneathAnOpaqueOneIsNoChange) {
+    const Layer cover = layer(1, {0, 0, 50, 50});
+    EXPECT_TRUE(changedBetween(stack({cover, layer(2, {0, 0, 20, 20})}),
+                               stack({cover, layer(2, {20, 20, 20, 20}), layer(3, {5, 5, 9, 9})}))
+                    .isEmpty());
+}
