@@ -74,7 +74,8 @@ void AppDelegate::applyTexts() {
     ui->menuApplication->setTitle(name);
     ui->menuTab->setTitle(qtTrId("IDD_MENU_TAB"));
     ui->menuAction->setTitle(qtTrId("IDD_MENU_ACTION"));
-    ui->menuHelp->setTitle(texts.s_IDD_HELP());
+    // The text of IDD_HELP stands behind the name and need not serve alone in every language.
+    ui->menuHelp->setTitle(qtTrId("IDD_MENU_HELP"));
     ui->groupDimension->setTitle(qtTrId("IDD_GROUP_SIZE"));
     ui->groupFPS->setTitle(qtTrId("IDD_GROUP_RATE"));
     ui->textGIFWidth->setAccessibleName(texts.s_IDD_WIDTH());

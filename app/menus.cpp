@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
+#include "platform/bundle.h"
 #include "ui_MainWindow.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDesktopServices>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QUrl>
-
-#include "platform/bundle.h"
 
 void AppDelegate::OnMenuActionRecordFullScreen() { OnRecordFullScreen(this); }
 void AppDelegate::OnMenuActionRecordRegion() { OnRecordRegion(this); }
@@ -23,11 +23,18 @@ void AppDelegate::OnMenuActionGIFExport() { OnGIFExport(this); }
 
 namespace {
 
-/// The Help pages are installed with the program, so that they need no network and always fit the
-/// version at hand. Whether a browser takes them is not checked.
+const QString licence = QStringLiteral("MIT");
+
+/// The Help pages come with the program, so that they need no network and always fit the version at
+/// hand. Whether a browser takes them is not checked.
 void openHelpPage(const QString &page) {
-    const QString folder = bundle::dataFolder(QCoreApplication::applicationDirPath());
-    QDesktopServices::openUrl(QUrl::fromLocalFile(folder + QStringLiteral("/help/") + page));
+    QDesktopServices::openUrl(QUrl::fromLocalFile(bundle::pathForHelp(page)));
+}
+
+/// Which tool serves, or that none was found: the first thing to know when an export fails.
+QString toolLine(const QString &name, const QString &path) {
+    return QStringLiteral("%1: %2").arg(name,
+                                        path.isEmpty() ? qtTrId("IDD_ABOUT_TOOL_MISSING") : path);
 }
 
 } // namespace
@@ -38,10 +45,27 @@ void AppDelegate::OnMenuHelpPrivacyPolicy() { openHelpPage(QStringLiteral("priva
 void AppDelegate::OnMenuHelpSubmitTicket() { openHelpPage(QStringLiteral("ticket.html")); }
 
 void AppDelegate::OnMenuAbout() {
-    QMessageBox::about(shell.window(), ui->menuitemAbout->text(),
-                       QStringLiteral("%1 %2\n\n%3")
-                           .arg(shell.s_App_Name(), QCoreApplication::applicationVersion(),
-                                qtTrId("IDD_ABOUT_TEXT")));
+    constexpr int iconSide = 64; // points
+    const QStringList lines = {
+        qtTrId("IDD_ABOUT_VERSION").arg(QCoreApplication::applicationVersion()),
+        qtTrId("IDD_ABOUT_TEXT"),
+        qtTrId("IDD_ABOUT_LICENCE").arg(licence),
+        {},
+        qtTrId("IDD_ABOUT_TOOLS"),
+        toolLine(QStringLiteral("ffmpeg"), shell.sffmpegPath()),
+        toolLine(QStringLiteral("img2webp"), shell.simg2webpPath()),
+    };
+    QMessageBox about(shell.window());
+    about.setObjectName(QStringLiteral("about"));
+    about.setWindowTitle(ui->menuitemAbout->text());
+    about.setIconPixmap(QApplication::windowIcon().pixmap(QSize(iconSide, iconSide),
+                                                          shell.window()->devicePixelRatio()));
+    about.setTextFormat(Qt::PlainText); // paths are shown, never interpreted
+    about.setText(shell.s_App_Name());
+    about.setInformativeText(lines.join(QLatin1Char('\n')));
+    about.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    about.addButton(QStringLiteral("Close"), QMessageBox::RejectRole);
+    about.exec();
 }
 
 void AppDelegate::OnMenuQuit() { Terminate_App(); }

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -55,6 +56,13 @@ void install() {
     file.replace(QLatin1Char('-'), QLatin1Char('_'));
     if (translator->load(QStringLiteral("tovarel_%1.qm").arg(file), tablesFolder))
         QCoreApplication::installTranslator(translator);
+
+    // Qt's own texts (the file dialog's), in the same language or not at all. They are looked up by
+    // context, so they can never stand in for a key that our table lacks.
+    auto *qtTranslator = new QTranslator(QCoreApplication::instance());
+    if (qtTranslator->load(QStringLiteral("qtbase_%1").arg(file),
+                           QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(qtTranslator);
 }
 
 } // namespace strings_table

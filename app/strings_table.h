@@ -16,7 +16,8 @@ QStringList available();
 /// language, wins; English when none has one.
 QString bestMatch(const QStringList &preferred, const QStringList &tables);
 
-/// Installs the best table for the user's locale in the application object.
+/// Installs the best table for the user's locale in the application object, and beside it Qt's own
+/// texts in that language where the system has them.
 void install();
 
 } // namespace strings_table

@@ -21,4 +21,11 @@ QString pathForTool(const QString &name) {
     return QStandardPaths::findExecutable(name);
 }
 
+QString pathForHelp(const QString &page) {
+    const QString executableFolder = QCoreApplication::applicationDirPath();
+    const QString relative = QStringLiteral("/help/") + page;
+    const QString installed = dataFolder(executableFolder) + relative;
+    return QFileInfo::exists(installed) ? installed : executableFolder + relative;
+}
+
 } // namespace bundle

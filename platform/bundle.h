@@ -16,4 +16,9 @@ QString pathForTool(const QString &name);
 /// `executableFolder`: `../share/tovarel` from there, so that an installed tree can be moved.
 QString dataFolder(const QString &executableFolder);
 
+/// The path of the Help page with this file name: in the installed data folder, or, when nothing is
+/// installed, in the folder `help` beside the executable, where the build puts it. The file is not
+/// opened; it is missing when neither has it.
+QString pathForHelp(const QString &page);
+
 } // namespace bundle

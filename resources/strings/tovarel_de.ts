@@ -15,7 +15,7 @@
     </message>
     <message id="IDD_QUIT">
         <source>Quit</source>
-        <translation>Beenden</translation>
+        <translation>Beenden von</translation>
     </message>
     <message id="IDD_APP_HOME_PAGE">
         <source>Home Page</source>
@@ -23,15 +23,15 @@
     </message>
     <message id="IDD_COMPANY_PAGE">
         <source>Maker's Page</source>
-        <translation>Seite des Herstellers</translation>
+        <translation>Über die Entwickler</translation>
     </message>
     <message id="IDD_PRIVACY_POLICY">
         <source>Privacy Policy</source>
-        <translation>Datenschutz</translation>
+        <translation>Datenschutzerklärung</translation>
     </message>
     <message id="IDD_SUBMIT_TICKET">
-        <source>Submit a Ticket</source>
-        <translation>Anfrage senden</translation>
+        <source>Report a Problem</source>
+        <translation>Problem melden</translation>
     </message>
     <message id="IDD_RECORD">
         <source>Record</source>
@@ -59,23 +59,23 @@
     </message>
     <message id="IDD_REGION">
         <source>Region</source>
-        <translation>Bereich</translation>
+        <translation>Bildschirmbereich</translation>
     </message>
     <message id="IDD_FPS">
-        <source>Frames per second</source>
+        <source>Frames per Second</source>
         <translation>Bilder pro Sekunde</translation>
     </message>
     <message id="IDD_INSTRUCTIONS">
-        <source>Choose the size and the frame rate of the GIF, then generate it.</source>
-        <translation>Größe und Bildrate des GIFs wählen, dann erzeugen.</translation>
+        <source>Choose the size and the frame rate, then generate the GIF.</source>
+        <translation>Größe und Bildrate wählen, dann das GIF erzeugen.</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
-        <translation>Größe wie die Aufnahme</translation>
+        <translation>Größe der Aufnahme</translation>
     </message>
     <message id="IDD_RESOLUTION_CUSTOM">
         <source>Custom size</source>
-        <translation>Eigene Größe</translation>
+        <translation>Andere Größe</translation>
     </message>
     <message id="IDD_WIDTH">
         <source>Width</source>
@@ -86,32 +86,32 @@
         <translation>Höhe</translation>
     </message>
     <message id="IDD_KEEP_ASPECT_RATIO">
-        <source>Keep the aspect ratio</source>
+        <source>Keep aspect ratio</source>
         <translation>Seitenverhältnis beibehalten</translation>
     </message>
     <message id="IDD_FPS_EQUAL">
         <source>Same frame rate as the recording</source>
-        <translation>Bildrate wie die Aufnahme</translation>
+        <translation>Bildrate der Aufnahme</translation>
     </message>
     <message id="IDD_FORCE_FPS">
         <source>Custom frame rate</source>
-        <translation>Eigene Bildrate</translation>
+        <translation>Andere Bildrate</translation>
     </message>
     <message id="IDD_NOTE">
-        <source>The rate measured while recording is the one that counts: it can lie below the chosen one.</source>
-        <translation>Es zählt die beim Aufnehmen gemessene Bildrate: Sie kann unter der gewählten liegen.</translation>
+        <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
+        <translation>Entscheidend ist die beim Aufnehmen gemessene Bildrate. Sie kann unter der gewählten liegen.</translation>
     </message>
     <message id="IDD_GENERATE_GIF">
         <source>Generate GIF</source>
         <translation>GIF erzeugen</translation>
     </message>
     <message id="IDD_LOW_FRAME_NUMBER">
-        <source>The chosen range holds too few frames: at least three are needed.</source>
-        <translation>Der gewählte Abschnitt hat zu wenige Bilder: Mindestens drei sind nötig.</translation>
+        <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
+        <translation>Der gewählte Abschnitt enthält zu wenige Bilder. Wählen Sie unter „Schneiden“ mindestens drei aus.</translation>
     </message>
     <message id="IDD_INVALID_DIMENSION">
-        <source>The width and the height must be numbers other than 0.</source>
-        <translation>Breite und Höhe müssen Zahlen sein, die nicht 0 sind.</translation>
+        <source>Width and height must be whole numbers greater than 0.</source>
+        <translation>Breite und Höhe müssen ganze Zahlen größer als 0 sein.</translation>
     </message>
     <message id="IDD_GIF_SAVED_OK">
         <source>The GIF has been saved.</source>
@@ -130,6 +130,10 @@
         <source>Action</source>
         <translation>Aktion</translation>
     </message>
+    <message id="IDD_MENU_HELP">
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
     <message id="IDD_GROUP_SIZE">
         <source>Size</source>
         <translation>Größe</translation>
@@ -139,8 +143,24 @@
         <translation>Bildrate</translation>
     </message>
     <message id="IDD_ABOUT_TEXT">
-        <source>Records the screen and makes an animated GIF of it.</source>
+        <source>Records your screen and turns it into an animated GIF.</source>
         <translation>Nimmt den Bildschirm auf und macht daraus ein animiertes GIF.</translation>
+    </message>
+    <message id="IDD_ABOUT_VERSION">
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message id="IDD_ABOUT_LICENCE">
+        <source>Free software under the %1 licence.</source>
+        <translation>Freie Software unter der %1-Lizenz.</translation>
+    </message>
+    <message id="IDD_ABOUT_TOOLS">
+        <source>Tools in use:</source>
+        <translation>Verwendete Werkzeuge:</translation>
+    </message>
+    <message id="IDD_ABOUT_TOOL_MISSING">
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">

@@ -30,8 +30,8 @@
         <translation>Privacy Policy</translation>
     </message>
     <message id="IDD_SUBMIT_TICKET">
-        <source>Submit a Ticket</source>
-        <translation>Submit a Ticket</translation>
+        <source>Report a Problem</source>
+        <translation>Report a Problem</translation>
     </message>
     <message id="IDD_RECORD">
         <source>Record</source>
@@ -62,12 +62,12 @@
         <translation>Region</translation>
     </message>
     <message id="IDD_FPS">
-        <source>Frames per second</source>
-        <translation>Frames per second</translation>
+        <source>Frames per Second</source>
+        <translation>Frames per Second</translation>
     </message>
     <message id="IDD_INSTRUCTIONS">
-        <source>Choose the size and the frame rate of the GIF, then generate it.</source>
-        <translation>Choose the size and the frame rate of the GIF, then generate it.</translation>
+        <source>Choose the size and the frame rate, then generate the GIF.</source>
+        <translation>Choose the size and the frame rate, then generate the GIF.</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
@@ -86,8 +86,8 @@
         <translation>Height</translation>
     </message>
     <message id="IDD_KEEP_ASPECT_RATIO">
-        <source>Keep the aspect ratio</source>
-        <translation>Keep the aspect ratio</translation>
+        <source>Keep aspect ratio</source>
+        <translation>Keep aspect ratio</translation>
     </message>
     <message id="IDD_FPS_EQUAL">
         <source>Same frame rate as the recording</source>
@@ -98,20 +98,20 @@
         <translation>Custom frame rate</translation>
     </message>
     <message id="IDD_NOTE">
-        <source>The rate measured while recording is the one that counts: it can lie below the chosen one.</source>
-        <translation>The rate measured while recording is the one that counts: it can lie below the chosen one.</translation>
+        <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
+        <translation>The rate measured while recording is the one that counts; it may be lower than the one you chose.</translation>
     </message>
     <message id="IDD_GENERATE_GIF">
         <source>Generate GIF</source>
         <translation>Generate GIF</translation>
     </message>
     <message id="IDD_LOW_FRAME_NUMBER">
-        <source>The chosen range holds too few frames: at least three are needed.</source>
-        <translation>The chosen range holds too few frames: at least three are needed.</translation>
+        <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
+        <translation>The selected range has too few frames. Select at least three on the Cut tab.</translation>
     </message>
     <message id="IDD_INVALID_DIMENSION">
-        <source>The width and the height must be numbers other than 0.</source>
-        <translation>The width and the height must be numbers other than 0.</translation>
+        <source>Width and height must be whole numbers greater than 0.</source>
+        <translation>Width and height must be whole numbers greater than 0.</translation>
     </message>
     <message id="IDD_GIF_SAVED_OK">
         <source>The GIF has been saved.</source>
@@ -130,6 +130,10 @@
         <source>Action</source>
         <translation>Action</translation>
     </message>
+    <message id="IDD_MENU_HELP">
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
     <message id="IDD_GROUP_SIZE">
         <source>Size</source>
         <translation>Size</translation>
@@ -139,8 +143,24 @@
         <translation>Frame rate</translation>
     </message>
     <message id="IDD_ABOUT_TEXT">
-        <source>Records the screen and makes an animated GIF of it.</source>
-        <translation>Records the screen and makes an animated GIF of it.</translation>
+        <source>Records your screen and turns it into an animated GIF.</source>
+        <translation>Records your screen and turns it into an animated GIF.</translation>
+    </message>
+    <message id="IDD_ABOUT_VERSION">
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message id="IDD_ABOUT_LICENCE">
+        <source>Free software under the %1 licence.</source>
+        <translation>Free software under the %1 licence.</translation>
+    </message>
+    <message id="IDD_ABOUT_TOOLS">
+        <source>Tools in use:</source>
+        <translation>Tools in use:</translation>
+    </message>
+    <message id="IDD_ABOUT_TOOL_MISSING">
+        <source>not found</source>
+        <translation>not found</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">

@@ -1,0 +1,255 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Tovarel authors
+     SPDX-License-Identifier: MIT -->
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="IDD_ABOUT">
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message id="IDD_HELP">
+        <source>Help</source>
+        <translation>– Ayuda</translation>
+    </message>
+    <message id="IDD_QUIT">
+        <source>Quit</source>
+        <translation>Salir de</translation>
+    </message>
+    <message id="IDD_APP_HOME_PAGE">
+        <source>Home Page</source>
+        <translation>Página de inicio</translation>
+    </message>
+    <message id="IDD_COMPANY_PAGE">
+        <source>Maker's Page</source>
+        <translation>Acerca de los autores</translation>
+    </message>
+    <message id="IDD_PRIVACY_POLICY">
+        <source>Privacy Policy</source>
+        <translation>Política de privacidad</translation>
+    </message>
+    <message id="IDD_SUBMIT_TICKET">
+        <source>Report a Problem</source>
+        <translation>Informar de un problema</translation>
+    </message>
+    <message id="IDD_RECORD">
+        <source>Record</source>
+        <translation>Grabar</translation>
+    </message>
+    <message id="IDD_PAUSE">
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message id="IDD_STOP">
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message id="IDD_CUT">
+        <source>Cut</source>
+        <translation>Recortar</translation>
+    </message>
+    <message id="IDD_SAVE">
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message id="IDD_FULL_SCREEN">
+        <source>Full Screen</source>
+        <translation>Pantalla completa</translation>
+    </message>
+    <message id="IDD_REGION">
+        <source>Region</source>
+        <translation>Zona de la pantalla</translation>
+    </message>
+    <message id="IDD_FPS">
+        <source>Frames per Second</source>
+        <translation>Fotogramas por segundo</translation>
+    </message>
+    <message id="IDD_INSTRUCTIONS">
+        <source>Choose the size and the frame rate, then generate the GIF.</source>
+        <translation>Elija el tamaño y la frecuencia de fotogramas y luego cree el GIF.</translation>
+    </message>
+    <message id="IDD_RESOLUTION_EQUAL">
+        <source>Same size as the recording</source>
+        <translation>Tamaño de la grabación</translation>
+    </message>
+    <message id="IDD_RESOLUTION_CUSTOM">
+        <source>Custom size</source>
+        <translation>Otro tamaño</translation>
+    </message>
+    <message id="IDD_WIDTH">
+        <source>Width</source>
+        <translation>Ancho</translation>
+    </message>
+    <message id="IDD_HEIGHT">
+        <source>Height</source>
+        <translation>Alto</translation>
+    </message>
+    <message id="IDD_KEEP_ASPECT_RATIO">
+        <source>Keep aspect ratio</source>
+        <translation>Mantener la proporción</translation>
+    </message>
+    <message id="IDD_FPS_EQUAL">
+        <source>Same frame rate as the recording</source>
+        <translation>Frecuencia de la grabación</translation>
+    </message>
+    <message id="IDD_FORCE_FPS">
+        <source>Custom frame rate</source>
+        <translation>Otra frecuencia</translation>
+    </message>
+    <message id="IDD_NOTE">
+        <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
+        <translation>La frecuencia que cuenta es la medida durante la grabación; puede ser menor que la elegida.</translation>
+    </message>
+    <message id="IDD_GENERATE_GIF">
+        <source>Generate GIF</source>
+        <translation>Crear GIF</translation>
+    </message>
+    <message id="IDD_LOW_FRAME_NUMBER">
+        <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
+        <translation>El intervalo elegido tiene muy pocos fotogramas. Elija al menos tres en la pestaña Recortar.</translation>
+    </message>
+    <message id="IDD_INVALID_DIMENSION">
+        <source>Width and height must be whole numbers greater than 0.</source>
+        <translation>El ancho y el alto deben ser números enteros mayores que 0.</translation>
+    </message>
+    <message id="IDD_GIF_SAVED_OK">
+        <source>The GIF has been saved.</source>
+        <translation>El GIF se ha guardado.</translation>
+    </message>
+    <message id="IDD_PLAY">
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <!-- app -->
+    <message id="IDD_MENU_TAB">
+        <source>Tab</source>
+        <translation>Pestaña</translation>
+    </message>
+    <message id="IDD_MENU_ACTION">
+        <source>Action</source>
+        <translation>Acción</translation>
+    </message>
+    <message id="IDD_MENU_HELP">
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message id="IDD_GROUP_SIZE">
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message id="IDD_GROUP_RATE">
+        <source>Frame rate</source>
+        <translation>Frecuencia de fotogramas</translation>
+    </message>
+    <message id="IDD_ABOUT_TEXT">
+        <source>Records your screen and turns it into an animated GIF.</source>
+        <translation>Graba la pantalla y la convierte en un GIF animado.</translation>
+    </message>
+    <message id="IDD_ABOUT_VERSION">
+        <source>Version %1</source>
+        <translation>Versión %1</translation>
+    </message>
+    <message id="IDD_ABOUT_LICENCE">
+        <source>Free software under the %1 licence.</source>
+        <translation>Software libre con licencia %1.</translation>
+    </message>
+    <message id="IDD_ABOUT_TOOLS">
+        <source>Tools in use:</source>
+        <translation>Herramientas en uso:</translation>
+    </message>
+    <message id="IDD_ABOUT_TOOL_MISSING">
+        <source>not found</source>
+        <translation>no encontrada</translation>
+    </message>
+    <!-- platform -->
+    <message id="IDD_REASON_NO_DISPLAY">
+        <source>The screen cannot be recorded: there is no display server.</source>
+        <translation>No se puede grabar la pantalla: no hay ningún servidor gráfico.</translation>
+    </message>
+    <message id="IDD_REASON_NO_COMPOSITE">
+        <source>The screen cannot be recorded: this display server lacks the Composite extension, so the program could not leave out its own windows.</source>
+        <translation>No se puede grabar la pantalla: este servidor gráfico no tiene la extensión Composite y el programa no podría dejar fuera sus propias ventanas.</translation>
+    </message>
+    <message id="IDD_REASON_MISSING_EXTENSION">
+        <source>The screen cannot be recorded: this display server lacks one of the extensions Damage, XFixes, Render and Shape.</source>
+        <translation>No se puede grabar la pantalla: a este servidor gráfico le falta una de las extensiones Damage, XFixes, Render y Shape.</translation>
+    </message>
+    <message id="IDD_REASON_PICTURE_FORMAT">
+        <source>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</source>
+        <translation>No se puede grabar la pantalla: este servidor gráfico no usa imágenes en color de 24 bits.</translation>
+    </message>
+    <message id="IDD_REASON_WAYLAND">
+        <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
+        <translation>No se puede grabar la pantalla en una sesión de Wayland; inicie una sesión de X11 para grabar.</translation>
+    </message>
+    <!-- record -->
+    <message id="IDD_SAVING_RECORDING">
+        <source>Saving the recording…</source>
+        <translation>Guardando la grabación…</translation>
+    </message>
+    <message id="IDD_GENERATING_GIF">
+        <source>Generating the GIF…</source>
+        <translation>Creando el GIF…</translation>
+    </message>
+    <!-- region -->
+    <message id="IDD_REGION_OVERLAY">
+        <source>Select a region</source>
+        <translation>Elegir una zona</translation>
+    </message>
+    <message id="IDD_REGION_TIP">
+        <source>%1: %2 × %3 pixels at %4, %5</source>
+        <translation>%1: %2 × %3 píxeles en %4, %5</translation>
+    </message>
+    <message id="IDD_REGION_LOWER_LEFT">
+        <source>Lower left</source>
+        <translation>Abajo a la izquierda</translation>
+    </message>
+    <message id="IDD_REGION_LOWER_RIGHT">
+        <source>Lower right</source>
+        <translation>Abajo a la derecha</translation>
+    </message>
+    <message id="IDD_REGION_UPPER_LEFT">
+        <source>Upper left</source>
+        <translation>Arriba a la izquierda</translation>
+    </message>
+    <message id="IDD_REGION_UPPER_RIGHT">
+        <source>Upper right</source>
+        <translation>Arriba a la derecha</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_TITLE">
+        <source>How to select a region</source>
+        <translation>Cómo elegir una zona</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_TEXT">
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one.</source>
+        <translation>En la pantalla aparece un rectángulo con cinco cuadrados. Arrastre los verdes hasta enmarcar lo que quiere grabar y haga clic en el rojo.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_PICTURE">
+        <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
+        <translation>Un rectángulo en una pantalla: el cuadrado verde de cada esquina cambia su tamaño y el rojo del centro lo acepta.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_DRAG">
+        <source>Drag a corner</source>
+        <translation>Arrastre una esquina</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_ACCEPT">
+        <source>Click to accept</source>
+        <translation>Haga clic para aceptar</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_KEYS">
+        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</source>
+        <translation>Con el teclado: las flechas mueven una esquina (más rápido con Mayús), Tab elige otra, Intro acepta y Esc cancela.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_AGAIN">
+        <source>&amp;Don't show this again</source>
+        <translation>&amp;No volver a mostrar</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_OK">
+        <source>&amp;OK</source>
+        <translation>&amp;Aceptar</translation>
+    </message>
+    <!-- trim -->
+    <!-- export -->
+</context>
+</TS>

@@ -1,0 +1,255 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Tovarel authors
+     SPDX-License-Identifier: MIT -->
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="IDD_ABOUT">
+        <source>About</source>
+        <translation>À propos de</translation>
+    </message>
+    <message id="IDD_HELP">
+        <source>Help</source>
+        <translation>– Aide</translation>
+    </message>
+    <message id="IDD_QUIT">
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message id="IDD_APP_HOME_PAGE">
+        <source>Home Page</source>
+        <translation>Page d’accueil</translation>
+    </message>
+    <message id="IDD_COMPANY_PAGE">
+        <source>Maker's Page</source>
+        <translation>À propos des auteurs</translation>
+    </message>
+    <message id="IDD_PRIVACY_POLICY">
+        <source>Privacy Policy</source>
+        <translation>Politique de confidentialité</translation>
+    </message>
+    <message id="IDD_SUBMIT_TICKET">
+        <source>Report a Problem</source>
+        <translation>Signaler un problème</translation>
+    </message>
+    <message id="IDD_RECORD">
+        <source>Record</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message id="IDD_PAUSE">
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message id="IDD_STOP">
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message id="IDD_CUT">
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message id="IDD_SAVE">
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message id="IDD_FULL_SCREEN">
+        <source>Full Screen</source>
+        <translation>Écran entier</translation>
+    </message>
+    <message id="IDD_REGION">
+        <source>Region</source>
+        <translation>Zone de l’écran</translation>
+    </message>
+    <message id="IDD_FPS">
+        <source>Frames per Second</source>
+        <translation>Images par seconde</translation>
+    </message>
+    <message id="IDD_INSTRUCTIONS">
+        <source>Choose the size and the frame rate, then generate the GIF.</source>
+        <translation>Choisissez la taille et la fréquence d’images, puis créez le GIF.</translation>
+    </message>
+    <message id="IDD_RESOLUTION_EQUAL">
+        <source>Same size as the recording</source>
+        <translation>Taille de l’enregistrement</translation>
+    </message>
+    <message id="IDD_RESOLUTION_CUSTOM">
+        <source>Custom size</source>
+        <translation>Autre taille</translation>
+    </message>
+    <message id="IDD_WIDTH">
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message id="IDD_HEIGHT">
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message id="IDD_KEEP_ASPECT_RATIO">
+        <source>Keep aspect ratio</source>
+        <translation>Conserver les proportions</translation>
+    </message>
+    <message id="IDD_FPS_EQUAL">
+        <source>Same frame rate as the recording</source>
+        <translation>Fréquence de l’enregistrement</translation>
+    </message>
+    <message id="IDD_FORCE_FPS">
+        <source>Custom frame rate</source>
+        <translation>Autre fréquence</translation>
+    </message>
+    <message id="IDD_NOTE">
+        <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
+        <translation>C’est la fréquence mesurée pendant l’enregistrement qui compte ; elle peut être inférieure à celle que vous avez choisie.</translation>
+    </message>
+    <message id="IDD_GENERATE_GIF">
+        <source>Generate GIF</source>
+        <translation>Créer le GIF</translation>
+    </message>
+    <message id="IDD_LOW_FRAME_NUMBER">
+        <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
+        <translation>La plage choisie contient trop peu d’images. Choisissez-en au moins trois dans l’onglet Couper.</translation>
+    </message>
+    <message id="IDD_INVALID_DIMENSION">
+        <source>Width and height must be whole numbers greater than 0.</source>
+        <translation>La largeur et la hauteur doivent être des nombres entiers supérieurs à 0.</translation>
+    </message>
+    <message id="IDD_GIF_SAVED_OK">
+        <source>The GIF has been saved.</source>
+        <translation>Le GIF a été enregistré.</translation>
+    </message>
+    <message id="IDD_PLAY">
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <!-- app -->
+    <message id="IDD_MENU_TAB">
+        <source>Tab</source>
+        <translation>Onglet</translation>
+    </message>
+    <message id="IDD_MENU_ACTION">
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message id="IDD_MENU_HELP">
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message id="IDD_GROUP_SIZE">
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message id="IDD_GROUP_RATE">
+        <source>Frame rate</source>
+        <translation>Fréquence d’images</translation>
+    </message>
+    <message id="IDD_ABOUT_TEXT">
+        <source>Records your screen and turns it into an animated GIF.</source>
+        <translation>Enregistre votre écran et en fait un GIF animé.</translation>
+    </message>
+    <message id="IDD_ABOUT_VERSION">
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message id="IDD_ABOUT_LICENCE">
+        <source>Free software under the %1 licence.</source>
+        <translation>Logiciel libre sous licence %1.</translation>
+    </message>
+    <message id="IDD_ABOUT_TOOLS">
+        <source>Tools in use:</source>
+        <translation>Outils utilisés :</translation>
+    </message>
+    <message id="IDD_ABOUT_TOOL_MISSING">
+        <source>not found</source>
+        <translation>introuvable</translation>
+    </message>
+    <!-- platform -->
+    <message id="IDD_REASON_NO_DISPLAY">
+        <source>The screen cannot be recorded: there is no display server.</source>
+        <translation>Impossible d’enregistrer l’écran : aucun serveur d’affichage n’est disponible.</translation>
+    </message>
+    <message id="IDD_REASON_NO_COMPOSITE">
+        <source>The screen cannot be recorded: this display server lacks the Composite extension, so the program could not leave out its own windows.</source>
+        <translation>Impossible d’enregistrer l’écran : ce serveur d’affichage n’a pas l’extension Composite, et le programme ne pourrait pas exclure ses propres fenêtres.</translation>
+    </message>
+    <message id="IDD_REASON_MISSING_EXTENSION">
+        <source>The screen cannot be recorded: this display server lacks one of the extensions Damage, XFixes, Render and Shape.</source>
+        <translation>Impossible d’enregistrer l’écran : il manque à ce serveur d’affichage l’une des extensions Damage, XFixes, Render et Shape.</translation>
+    </message>
+    <message id="IDD_REASON_PICTURE_FORMAT">
+        <source>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</source>
+        <translation>Impossible d’enregistrer l’écran : ce serveur d’affichage n’utilise pas d’images en couleurs 24 bits.</translation>
+    </message>
+    <message id="IDD_REASON_WAYLAND">
+        <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
+        <translation>Impossible d’enregistrer l’écran dans une session Wayland ; ouvrez une session X11 pour enregistrer.</translation>
+    </message>
+    <!-- record -->
+    <message id="IDD_SAVING_RECORDING">
+        <source>Saving the recording…</source>
+        <translation>Enregistrement des images…</translation>
+    </message>
+    <message id="IDD_GENERATING_GIF">
+        <source>Generating the GIF…</source>
+        <translation>Création du GIF…</translation>
+    </message>
+    <!-- region -->
+    <message id="IDD_REGION_OVERLAY">
+        <source>Select a region</source>
+        <translation>Choisir une zone</translation>
+    </message>
+    <message id="IDD_REGION_TIP">
+        <source>%1: %2 × %3 pixels at %4, %5</source>
+        <translation>%1 : %2 × %3 pixels à %4, %5</translation>
+    </message>
+    <message id="IDD_REGION_LOWER_LEFT">
+        <source>Lower left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message id="IDD_REGION_LOWER_RIGHT">
+        <source>Lower right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message id="IDD_REGION_UPPER_LEFT">
+        <source>Upper left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message id="IDD_REGION_UPPER_RIGHT">
+        <source>Upper right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_TITLE">
+        <source>How to select a region</source>
+        <translation>Comment choisir une zone</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_TEXT">
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one.</source>
+        <translation>Un rectangle muni de cinq carrés apparaît à l’écran. Faites glisser les carrés verts jusqu’à encadrer ce que vous voulez enregistrer, puis cliquez sur le carré rouge.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_PICTURE">
+        <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
+        <translation>Un rectangle sur un écran : un carré vert à chaque coin pour l’ajuster, un carré rouge au milieu pour valider.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_DRAG">
+        <source>Drag a corner</source>
+        <translation>Glissez un coin</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_ACCEPT">
+        <source>Click to accept</source>
+        <translation>Cliquez pour valider</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_KEYS">
+        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</source>
+        <translation>Au clavier : les flèches déplacent un coin (plus vite avec Maj), Tab en choisit un autre, Entrée valide, Échap abandonne.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_AGAIN">
+        <source>&amp;Don't show this again</source>
+        <translation>&amp;Ne plus afficher ce message</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_OK">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <!-- trim -->
+    <!-- export -->
+</context>
+</TS>

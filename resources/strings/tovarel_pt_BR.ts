@@ -1,0 +1,255 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Tovarel authors
+     SPDX-License-Identifier: MIT -->
+<TS version="2.1" language="pt_BR" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="IDD_ABOUT">
+        <source>About</source>
+        <translation>Sobre o</translation>
+    </message>
+    <message id="IDD_HELP">
+        <source>Help</source>
+        <translation>– Ajuda</translation>
+    </message>
+    <message id="IDD_QUIT">
+        <source>Quit</source>
+        <translation>Sair do</translation>
+    </message>
+    <message id="IDD_APP_HOME_PAGE">
+        <source>Home Page</source>
+        <translation>Página inicial</translation>
+    </message>
+    <message id="IDD_COMPANY_PAGE">
+        <source>Maker's Page</source>
+        <translation>Sobre os autores</translation>
+    </message>
+    <message id="IDD_PRIVACY_POLICY">
+        <source>Privacy Policy</source>
+        <translation>Política de privacidade</translation>
+    </message>
+    <message id="IDD_SUBMIT_TICKET">
+        <source>Report a Problem</source>
+        <translation>Relatar um problema</translation>
+    </message>
+    <message id="IDD_RECORD">
+        <source>Record</source>
+        <translation>Gravar</translation>
+    </message>
+    <message id="IDD_PAUSE">
+        <source>Pause</source>
+        <translation>Pausar</translation>
+    </message>
+    <message id="IDD_STOP">
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message id="IDD_CUT">
+        <source>Cut</source>
+        <translation>Cortar</translation>
+    </message>
+    <message id="IDD_SAVE">
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message id="IDD_FULL_SCREEN">
+        <source>Full Screen</source>
+        <translation>Tela inteira</translation>
+    </message>
+    <message id="IDD_REGION">
+        <source>Region</source>
+        <translation>Área da tela</translation>
+    </message>
+    <message id="IDD_FPS">
+        <source>Frames per Second</source>
+        <translation>Quadros por segundo</translation>
+    </message>
+    <message id="IDD_INSTRUCTIONS">
+        <source>Choose the size and the frame rate, then generate the GIF.</source>
+        <translation>Escolha o tamanho e a taxa de quadros e depois crie o GIF.</translation>
+    </message>
+    <message id="IDD_RESOLUTION_EQUAL">
+        <source>Same size as the recording</source>
+        <translation>Tamanho da gravação</translation>
+    </message>
+    <message id="IDD_RESOLUTION_CUSTOM">
+        <source>Custom size</source>
+        <translation>Outro tamanho</translation>
+    </message>
+    <message id="IDD_WIDTH">
+        <source>Width</source>
+        <translation>Largura</translation>
+    </message>
+    <message id="IDD_HEIGHT">
+        <source>Height</source>
+        <translation>Altura</translation>
+    </message>
+    <message id="IDD_KEEP_ASPECT_RATIO">
+        <source>Keep aspect ratio</source>
+        <translation>Manter proporção</translation>
+    </message>
+    <message id="IDD_FPS_EQUAL">
+        <source>Same frame rate as the recording</source>
+        <translation>Taxa da gravação</translation>
+    </message>
+    <message id="IDD_FORCE_FPS">
+        <source>Custom frame rate</source>
+        <translation>Outra taxa</translation>
+    </message>
+    <message id="IDD_NOTE">
+        <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
+        <translation>O que vale é a taxa medida durante a gravação; ela pode ser menor do que a escolhida.</translation>
+    </message>
+    <message id="IDD_GENERATE_GIF">
+        <source>Generate GIF</source>
+        <translation>Criar GIF</translation>
+    </message>
+    <message id="IDD_LOW_FRAME_NUMBER">
+        <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
+        <translation>O trecho escolhido tem poucos quadros. Escolha pelo menos três na aba Cortar.</translation>
+    </message>
+    <message id="IDD_INVALID_DIMENSION">
+        <source>Width and height must be whole numbers greater than 0.</source>
+        <translation>A largura e a altura devem ser números inteiros maiores que 0.</translation>
+    </message>
+    <message id="IDD_GIF_SAVED_OK">
+        <source>The GIF has been saved.</source>
+        <translation>O GIF foi salvo.</translation>
+    </message>
+    <message id="IDD_PLAY">
+        <source>Play</source>
+        <translation>Reproduzir</translation>
+    </message>
+    <!-- app -->
+    <message id="IDD_MENU_TAB">
+        <source>Tab</source>
+        <translation>Aba</translation>
+    </message>
+    <message id="IDD_MENU_ACTION">
+        <source>Action</source>
+        <translation>Ação</translation>
+    </message>
+    <message id="IDD_MENU_HELP">
+        <source>Help</source>
+        <translation>Ajuda</translation>
+    </message>
+    <message id="IDD_GROUP_SIZE">
+        <source>Size</source>
+        <translation>Tamanho</translation>
+    </message>
+    <message id="IDD_GROUP_RATE">
+        <source>Frame rate</source>
+        <translation>Taxa de quadros</translation>
+    </message>
+    <message id="IDD_ABOUT_TEXT">
+        <source>Records your screen and turns it into an animated GIF.</source>
+        <translation>Grava a tela e a transforma em um GIF animado.</translation>
+    </message>
+    <message id="IDD_ABOUT_VERSION">
+        <source>Version %1</source>
+        <translation>Versão %1</translation>
+    </message>
+    <message id="IDD_ABOUT_LICENCE">
+        <source>Free software under the %1 licence.</source>
+        <translation>Software livre sob a licença %1.</translation>
+    </message>
+    <message id="IDD_ABOUT_TOOLS">
+        <source>Tools in use:</source>
+        <translation>Ferramentas em uso:</translation>
+    </message>
+    <message id="IDD_ABOUT_TOOL_MISSING">
+        <source>not found</source>
+        <translation>não encontrada</translation>
+    </message>
+    <!-- platform -->
+    <message id="IDD_REASON_NO_DISPLAY">
+        <source>The screen cannot be recorded: there is no display server.</source>
+        <translation>Não é possível gravar a tela: não há nenhum servidor gráfico.</translation>
+    </message>
+    <message id="IDD_REASON_NO_COMPOSITE">
+        <source>The screen cannot be recorded: this display server lacks the Composite extension, so the program could not leave out its own windows.</source>
+        <translation>Não é possível gravar a tela: este servidor gráfico não tem a extensão Composite, e o programa não conseguiria deixar de fora as próprias janelas.</translation>
+    </message>
+    <message id="IDD_REASON_MISSING_EXTENSION">
+        <source>The screen cannot be recorded: this display server lacks one of the extensions Damage, XFixes, Render and Shape.</source>
+        <translation>Não é possível gravar a tela: falta a este servidor gráfico uma das extensões Damage, XFixes, Render e Shape.</translation>
+    </message>
+    <message id="IDD_REASON_PICTURE_FORMAT">
+        <source>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</source>
+        <translation>Não é possível gravar a tela: este servidor gráfico não usa imagens em cores de 24 bits.</translation>
+    </message>
+    <message id="IDD_REASON_WAYLAND">
+        <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
+        <translation>Não é possível gravar a tela em uma sessão Wayland; entre em uma sessão X11 para gravar.</translation>
+    </message>
+    <!-- record -->
+    <message id="IDD_SAVING_RECORDING">
+        <source>Saving the recording…</source>
+        <translation>Salvando a gravação…</translation>
+    </message>
+    <message id="IDD_GENERATING_GIF">
+        <source>Generating the GIF…</source>
+        <translation>Criando o GIF…</translation>
+    </message>
+    <!-- region -->
+    <message id="IDD_REGION_OVERLAY">
+        <source>Select a region</source>
+        <translation>Escolher uma área</translation>
+    </message>
+    <message id="IDD_REGION_TIP">
+        <source>%1: %2 × %3 pixels at %4, %5</source>
+        <translation>%1: %2 × %3 pixels em %4, %5</translation>
+    </message>
+    <message id="IDD_REGION_LOWER_LEFT">
+        <source>Lower left</source>
+        <translation>Canto inferior esquerdo</translation>
+    </message>
+    <message id="IDD_REGION_LOWER_RIGHT">
+        <source>Lower right</source>
+        <translation>Canto inferior direito</translation>
+    </message>
+    <message id="IDD_REGION_UPPER_LEFT">
+        <source>Upper left</source>
+        <translation>Canto superior esquerdo</translation>
+    </message>
+    <message id="IDD_REGION_UPPER_RIGHT">
+        <source>Upper right</source>
+        <translation>Canto superior direito</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_TITLE">
+        <source>How to select a region</source>
+        <translation>Como escolher uma área</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_TEXT">
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one.</source>
+        <translation>Um retângulo com cinco quadrados aparece na tela. Arraste os verdes até enquadrar o que você quer gravar e clique no vermelho.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_PICTURE">
+        <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
+        <translation>Um retângulo em uma tela: o quadrado verde em cada canto muda o tamanho, o vermelho no meio confirma.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_DRAG">
+        <source>Drag a corner</source>
+        <translation>Arraste um canto</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_ACCEPT">
+        <source>Click to accept</source>
+        <translation>Clique para confirmar</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_KEYS">
+        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</source>
+        <translation>Pelo teclado: as setas movem um canto (Shift: mais rápido), Tab escolhe outro, Enter confirma, Esc cancela.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_AGAIN">
+        <source>&amp;Don't show this again</source>
+        <translation>&amp;Não mostrar novamente</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_OK">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <!-- trim -->
+    <!-- export -->
+</context>
+</TS>

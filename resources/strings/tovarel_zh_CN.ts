@@ -1,0 +1,255 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The Tovarel authors
+     SPDX-License-Identifier: MIT -->
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="IDD_ABOUT">
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message id="IDD_HELP">
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message id="IDD_QUIT">
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message id="IDD_APP_HOME_PAGE">
+        <source>Home Page</source>
+        <translation>主页</translation>
+    </message>
+    <message id="IDD_COMPANY_PAGE">
+        <source>Maker's Page</source>
+        <translation>关于开发者</translation>
+    </message>
+    <message id="IDD_PRIVACY_POLICY">
+        <source>Privacy Policy</source>
+        <translation>隐私政策</translation>
+    </message>
+    <message id="IDD_SUBMIT_TICKET">
+        <source>Report a Problem</source>
+        <translation>报告问题</translation>
+    </message>
+    <message id="IDD_RECORD">
+        <source>Record</source>
+        <translation>录制</translation>
+    </message>
+    <message id="IDD_PAUSE">
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message id="IDD_STOP">
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message id="IDD_CUT">
+        <source>Cut</source>
+        <translation>剪辑</translation>
+    </message>
+    <message id="IDD_SAVE">
+        <source>GIF</source>
+        <translation>GIF</translation>
+    </message>
+    <message id="IDD_FULL_SCREEN">
+        <source>Full Screen</source>
+        <translation>全屏</translation>
+    </message>
+    <message id="IDD_REGION">
+        <source>Region</source>
+        <translation>选择区域</translation>
+    </message>
+    <message id="IDD_FPS">
+        <source>Frames per Second</source>
+        <translation>每秒帧数</translation>
+    </message>
+    <message id="IDD_INSTRUCTIONS">
+        <source>Choose the size and the frame rate, then generate the GIF.</source>
+        <translation>选择尺寸和帧率，然后生成 GIF。</translation>
+    </message>
+    <message id="IDD_RESOLUTION_EQUAL">
+        <source>Same size as the recording</source>
+        <translation>与录制内容相同的尺寸</translation>
+    </message>
+    <message id="IDD_RESOLUTION_CUSTOM">
+        <source>Custom size</source>
+        <translation>自定义尺寸</translation>
+    </message>
+    <message id="IDD_WIDTH">
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message id="IDD_HEIGHT">
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message id="IDD_KEEP_ASPECT_RATIO">
+        <source>Keep aspect ratio</source>
+        <translation>保持宽高比</translation>
+    </message>
+    <message id="IDD_FPS_EQUAL">
+        <source>Same frame rate as the recording</source>
+        <translation>与录制内容相同的帧率</translation>
+    </message>
+    <message id="IDD_FORCE_FPS">
+        <source>Custom frame rate</source>
+        <translation>自定义帧率</translation>
+    </message>
+    <message id="IDD_NOTE">
+        <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
+        <translation>以录制时实测的帧率为准，它可能低于所选的帧率。</translation>
+    </message>
+    <message id="IDD_GENERATE_GIF">
+        <source>Generate GIF</source>
+        <translation>生成 GIF</translation>
+    </message>
+    <message id="IDD_LOW_FRAME_NUMBER">
+        <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
+        <translation>所选范围内的帧太少。请在“剪辑”标签页中至少选择三帧。</translation>
+    </message>
+    <message id="IDD_INVALID_DIMENSION">
+        <source>Width and height must be whole numbers greater than 0.</source>
+        <translation>宽度和高度必须是大于 0 的整数。</translation>
+    </message>
+    <message id="IDD_GIF_SAVED_OK">
+        <source>The GIF has been saved.</source>
+        <translation>GIF 已保存。</translation>
+    </message>
+    <message id="IDD_PLAY">
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <!-- app -->
+    <message id="IDD_MENU_TAB">
+        <source>Tab</source>
+        <translation>标签页</translation>
+    </message>
+    <message id="IDD_MENU_ACTION">
+        <source>Action</source>
+        <translation>操作</translation>
+    </message>
+    <message id="IDD_MENU_HELP">
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message id="IDD_GROUP_SIZE">
+        <source>Size</source>
+        <translation>尺寸</translation>
+    </message>
+    <message id="IDD_GROUP_RATE">
+        <source>Frame rate</source>
+        <translation>帧率</translation>
+    </message>
+    <message id="IDD_ABOUT_TEXT">
+        <source>Records your screen and turns it into an animated GIF.</source>
+        <translation>录制屏幕并将其制作成动画 GIF。</translation>
+    </message>
+    <message id="IDD_ABOUT_VERSION">
+        <source>Version %1</source>
+        <translation>版本 %1</translation>
+    </message>
+    <message id="IDD_ABOUT_LICENCE">
+        <source>Free software under the %1 licence.</source>
+        <translation>基于 %1 许可证的自由软件。</translation>
+    </message>
+    <message id="IDD_ABOUT_TOOLS">
+        <source>Tools in use:</source>
+        <translation>使用的工具：</translation>
+    </message>
+    <message id="IDD_ABOUT_TOOL_MISSING">
+        <source>not found</source>
+        <translation>未找到</translation>
+    </message>
+    <!-- platform -->
+    <message id="IDD_REASON_NO_DISPLAY">
+        <source>The screen cannot be recorded: there is no display server.</source>
+        <translation>无法录制屏幕：没有显示服务器。</translation>
+    </message>
+    <message id="IDD_REASON_NO_COMPOSITE">
+        <source>The screen cannot be recorded: this display server lacks the Composite extension, so the program could not leave out its own windows.</source>
+        <translation>无法录制屏幕：此显示服务器没有 Composite 扩展，程序无法排除自己的窗口。</translation>
+    </message>
+    <message id="IDD_REASON_MISSING_EXTENSION">
+        <source>The screen cannot be recorded: this display server lacks one of the extensions Damage, XFixes, Render and Shape.</source>
+        <translation>无法录制屏幕：此显示服务器缺少 Damage、XFixes、Render、Shape 扩展之一。</translation>
+    </message>
+    <message id="IDD_REASON_PICTURE_FORMAT">
+        <source>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</source>
+        <translation>无法录制屏幕：此显示服务器不使用 24 位色图像。</translation>
+    </message>
+    <message id="IDD_REASON_WAYLAND">
+        <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
+        <translation>在 Wayland 会话中无法录制屏幕；请登录 X11 会话后再录制。</translation>
+    </message>
+    <!-- record -->
+    <message id="IDD_SAVING_RECORDING">
+        <source>Saving the recording…</source>
+        <translation>正在保存录制内容…</translation>
+    </message>
+    <message id="IDD_GENERATING_GIF">
+        <source>Generating the GIF…</source>
+        <translation>正在生成 GIF…</translation>
+    </message>
+    <!-- region -->
+    <message id="IDD_REGION_OVERLAY">
+        <source>Select a region</source>
+        <translation>选择区域</translation>
+    </message>
+    <message id="IDD_REGION_TIP">
+        <source>%1: %2 × %3 pixels at %4, %5</source>
+        <translation>%1：%2 × %3 像素，位于 %4, %5</translation>
+    </message>
+    <message id="IDD_REGION_LOWER_LEFT">
+        <source>Lower left</source>
+        <translation>左下角</translation>
+    </message>
+    <message id="IDD_REGION_LOWER_RIGHT">
+        <source>Lower right</source>
+        <translation>右下角</translation>
+    </message>
+    <message id="IDD_REGION_UPPER_LEFT">
+        <source>Upper left</source>
+        <translation>左上角</translation>
+    </message>
+    <message id="IDD_REGION_UPPER_RIGHT">
+        <source>Upper right</source>
+        <translation>右上角</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_TITLE">
+        <source>How to select a region</source>
+        <translation>如何选择区域</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_TEXT">
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one.</source>
+        <translation>屏幕上会出现一个带有五个方块的矩形。拖动绿色方块框住要录制的内容，然后点击红色方块。</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_PICTURE">
+        <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
+        <translation>屏幕上的一个矩形：四角的绿色方块用于调整大小，中间的红色方块用于确认。</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_DRAG">
+        <source>Drag a corner</source>
+        <translation>拖动角落</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_ACCEPT">
+        <source>Click to accept</source>
+        <translation>点击确认</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_KEYS">
+        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</source>
+        <translation>使用键盘：方向键移动一个角（按住 Shift 更快），Tab 键选择另一个角，回车键确认，Esc 键取消。</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_AGAIN">
+        <source>&amp;Don't show this again</source>
+        <translation>不再显示(&amp;D)</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_OK">
+        <source>&amp;OK</source>
+        <translation>确定(&amp;O)</translation>
+    </message>
+    <!-- trim -->
+    <!-- export -->
+</context>
+</TS>

@@ -1,0 +1,145 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/strings_table.h"
+
+#include "app/interface_strings.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QMap>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QStringList languages = {
+    QStringLiteral("de"), QStringLiteral("en"),    QStringLiteral("es"),   QStringLiteral("fr"),
+    QStringLiteral("ja"), QStringLiteral("pt-BR"), QStringLiteral("zh-CN")};
+
+using Texts = QMap<QString, QString>; // by key
+
+/// The table of a language as it stands in the source. Empty when it is no table.
+Texts read(QString language) {
+    language.replace(QLatin1Char('-'), QLatin1Char('_'));
+    QFile file(QStringLiteral(TOVAREL_SOURCE_DIR "/resources/strings/tovarel_%1.ts").arg(language));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QXmlStreamReader xml(&file);
+    Texts texts;
+    QString key;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == QLatin1String("message")) {
+            key = xml.attributes().value(QLatin1String("id")).toString();
+            EXPECT_FALSE(texts.contains(key)) << qPrintable(language + QLatin1Char(' ') + key);
+        } else if (xml.name() == QLatin1String("translation")) {
+            // An unfinished entry would show its source text instead.
+            EXPECT_TRUE(xml.attributes().isEmpty())
+                << qPrintable(language + QLatin1Char(' ') + key);
+            texts[key] = xml.readElementText();
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << qPrintable(xml.errorString());
+    return texts;
+}
+
+QStringList matches(const QString &text, const char *pattern) {
+    QStringList found;
+    QRegularExpressionMatchIterator each =
+        QRegularExpression(QLatin1String(pattern)).globalMatch(text);
+    while (each.hasNext())
+        found << each.next().captured();
+    found.sort();
+    return found;
+}
+
+TEST(StringsTable, theLanguagesCompiledInAreTheSeven) {
+    QStringList tables = strings_table::available();
+    tables.sort();
+    EXPECT_EQ(tables, languages);
+}
+
+TEST(StringsTable, theFirstPreferenceThatCanBeReadWins) {
+    const struct {
+        const char *preferred;
+        const char *table;
+    } cases[] = {
+        {"de-AT,de", "de"},
+        {"en-AU,de-DE", "en"},
+        {"it-IT,fr-CH,en", "fr"},
+        {"es-419", "es"},
+        {"pt-BR", "pt-BR"},
+        {"pt-PT", "pt-BR"}, // nearer to its readers than English
+        {"ja-JP", "ja"},
+        {"zh-CN", "zh-CN"},
+        {"zh", "zh-CN"},
+        {"zh-Hans-SG", "zh-CN"},
+        // Another script: never given as if it were the same language.
+        {"zh-TW", "en"},
+        {"zh-Hant-HK", "en"},
+        {"zh-TW,ja", "ja"},
+        {"zh-TW,zh-CN", "zh-CN"},
+        {"fi-FI", "en"},
+        {"C", "en"},
+        {"", "en"},
+    };
+    for (const auto &each : cases) {
+        const QStringList preferred =
+            QString::fromLatin1(each.preferred).split(QLatin1Char(','), Qt::SkipEmptyParts);
+        EXPECT_EQ(strings_table::bestMatch(preferred, languages), QLatin1String(each.table))
+            << each.preferred;
+    }
+}
+
+/// The keys that stand in quotes in the program's sources: those asked for while it runs.
+QStringList keysInSources() {
+    QStringList keys;
+    for (const char *folder : {"app", "record", "region", "trim", "export", "platform"}) {
+        QDirIterator files(QStringLiteral(TOVAREL_SOURCE_DIR "/%1").arg(QLatin1String(folder)),
+                           {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(file.fileName());
+            keys << matches(QString::fromUtf8(file.readAll()), "(?<=\")IDD_[A-Z0-9_]+(?=\")");
+        }
+    }
+    keys.removeDuplicates();
+    return keys;
+}
+
+TEST(StringsTable, theTableHoldsWhateverTheProgramAsksFor) {
+    QStringList wanted = keysInSources();
+    EXPECT_GT(wanted.size(), 5);
+#define TOVAREL_WANTED_KEY(key) wanted << QStringLiteral(#key);
+    TOVAREL_INTERFACE_STRINGS(TOVAREL_WANTED_KEY)
+#undef TOVAREL_WANTED_KEY
+    const Texts english = read(QStringLiteral("en"));
+    for (const QString &key : wanted)
+        EXPECT_TRUE(english.contains(key)) << qPrintable(key);
+}
+
+TEST(StringsTable, everyTableSaysEverythingThatEnglishSays) {
+    const Texts english = read(QStringLiteral("en"));
+    for (const QString &language : languages) {
+        const Texts texts = read(language);
+        EXPECT_EQ(texts.keys().join(QLatin1Char('\n')).toStdString(),
+                  english.keys().join(QLatin1Char('\n')).toStdString())
+            << qPrintable(language);
+        for (const QString &key : texts.keys()) {
+            const QString where = language + QLatin1Char(' ') + key;
+            const QString &text = texts[key];
+            EXPECT_FALSE(text.trimmed().isEmpty()) << qPrintable(where);
+            EXPECT_EQ(text, text.trimmed()) << qPrintable(where);
+            // Placeholders, and mnemonics: which letter is the language's affair.
+            for (const char *pattern : {"%L?[1-9n]", "&(?=[^&\\s])"})
+                EXPECT_EQ(matches(text, pattern), matches(english[key], pattern))
+                    << qPrintable(where);
+        }
+    }
+}
+
+} // namespace
