@@ -1,0 +1,93 @@
+# SPDX-FileCopyrightText: 2026 The Tovarel authors
+# SPDX-License-Identifier: MIT
+"""Help and About, from the build and from an installed tree that was moved: the pages are files
+that the user's browser gets, and their links lead somewhere."""
+
+import html.parser
+import os
+import pathlib
+import shutil
+import subprocess
+import unittest
+import urllib.parse
+
+import driver
+from driver import Program, content, descendants, wait_for
+
+PAGES = {
+    "Tovarel Help": "index.html",
+    "Home Page": "index.html",
+    "Maker's Page": "maker.html",
+    "Privacy Policy": "privacy.html",
+    "Report a Problem": "ticket.html",
+}
+
+
+def setUpModule():
+    global session, opened
+    session = unittest.enterModuleContext(driver.Session(os.environ["TOVAREL_BUILD"]))
+    # The user's browser, as far as the program can see.
+    opened = session.folder / "opened"
+    browser = session.folder / "bin" / "xdg-open"
+    browser.parent.mkdir()
+    browser.write_text(f'#!/bin/sh\necho "$1" >> "{opened}"\n')
+    browser.chmod(0o755)
+    session.environment["PATH"] = f"{browser.parent}:{os.environ['PATH']}"
+
+
+class Links(html.parser.HTMLParser):
+    def __init__(self, page):
+        super().__init__()
+        self.found = []
+        self.feed(page.read_text(encoding="utf-8"))
+
+    def handle_starttag(self, tag, attrs):
+        self.found += [value for name, value in attrs if name in ("href", "src")]
+
+
+class Help(unittest.TestCase):
+    def read_everything(self, folder):
+        """Opens every page from the menu; each must come from `folder`."""
+        program = Program(session)
+        for item, page in PAGES.items():
+            opened.unlink(missing_ok=True)
+            program.choose("Help", item)
+            url = wait_for(f"the browser to get {page}",
+                           lambda: opened.exists() and opened.read_text().strip())
+            path = pathlib.Path(urllib.parse.unquote(urllib.parse.urlparse(url).path))
+            self.assertEqual(path.resolve(), (folder / page).resolve())
+            links = Links(path).found
+            self.assertGreater(len(links), 4)
+            for link in links:
+                self.assertTrue((path.parent / link).is_file(), f"{page}: {link}")
+        self.assertEqual(program.end(), 0)
+
+    def test_the_pages_open_from_the_build(self):
+        self.read_everything(session.build / "help")
+
+    def test_the_pages_open_from_an_installed_tree_that_was_moved(self):
+        built, first, moved = session.build, session.folder / "first", session.folder / "moved here"
+        subprocess.run(["cmake", "--install", built, "--prefix", first], check=True,
+                       stdout=subprocess.DEVNULL, timeout=driver.PATIENCE)
+        shutil.move(first, moved)
+        session.build = moved / "bin"
+        try:
+            self.read_everything(moved / "share" / "tovarel" / "help")
+        finally:
+            session.build = built
+
+    def test_about_says_which_version_and_which_tools(self):
+        program = Program(session)
+        program.choose("Tovarel", "About Tovarel")
+        about = program.await_control("alert", "About Tovarel")
+        text = "\n".join(content(label) for label in descendants(about, "label"))
+        self.assertRegex(text, r"Version \d+\.\d+\.\d+")
+        for tool in ("ffmpeg", "img2webp"):
+            self.assertIn(f"{tool}: {shutil.which(tool) or 'not found'}", text)
+        program.press("Close")
+        wait_for("About to close", lambda: not program.find("alert"))
+        self.assertEqual(program.end(), 0)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
