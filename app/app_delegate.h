@@ -6,6 +6,7 @@
 #include "app/shell_fields.h"
 #include "export/export_fields.h"
 #include "record/capture_fields.h"
+#include "record/measured_rate.h"
 #include "record/recording_fields.h"
 #include "region/region_fields.h"
 #include "trim/trim_fields.h"
@@ -151,8 +152,16 @@ public:
     void stopRecordTimers();
     /// The frame-store step: while recording, appends `imageScreenCaptureFinal` to the store.
     void storeFrame();
+    /// What the recording has counted so far.
+    RecordingCounts recordingCounts() const;
     /// Whether the frames of a stopped recording are still being written.
     bool isSavingRecording() const;
+    /// Shows on the Record tab whether this session can be recorded, and what would be.
+    void prepareRecordTab();
+    /// Brings the label beside the capture buttons up to what is recorded: screen or region.
+    void showCaptureMode();
+    /// Brings indicator and status line up to the recording's state and figures.
+    void showRecordingState();
 
     // Preview and progress sheet (record/) ----------------------------------------------------
 
@@ -207,6 +216,12 @@ private:
     bool createWorkingFolders();
     void applyTexts();
     void applyIcons();
+    // The save of a stopped recording (record/).
+    bool mayRecord();
+    void saveRecording();
+    void frameReported(std::uint64_t done);
+    void recordingSaved();
+    void showSaveResult(const FrameSaver &saver);
 
     std::unique_ptr<WindowServer> windowServer_;
     QString documentsFolder_;

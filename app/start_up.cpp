@@ -48,6 +48,7 @@ void AppDelegate::awakeFromNib() {
     mainWindow->installEventFilter(this);
     applyIcons();
     connectShellControls();
+    connectRecordControls();
 }
 
 void AppDelegate::connectShellControls() {
@@ -108,6 +109,7 @@ bool AppDelegate::applicationDidFinishLaunching() {
     ui->submenuitemCut->setEnabled(false);
     ui->submenuitemGIF->setEnabled(false);
     recording.setI_debug_number_of_view_refresh(0);
+    prepareRecordTab();
     restartOneSecondTimer();
     restartCaptureTimer();
     shell.window()->setWindowTitle(QStringLiteral("Tovarel"));

@@ -39,6 +39,10 @@ public:
     const Image &imgScreenCapture() const { return imgScreenCapture_; }
     void setImgScreenCapture(const Image &image) { imgScreenCapture_ = image; }
 
+    /// The grab that `imgScreenCapture` is the half of; empty when it was not halved.
+    const Image &grabBeforeHalving() const { return grabBeforeHalving_; }
+    void setGrabBeforeHalving(const Image &image) { grabBeforeHalving_ = image; }
+
     /// The image that the record preview drew last: the whole grab, or the region cut out of it.
     const Image &imageScreenCaptureFinal() const { return imageScreenCaptureFinal_; }
     void setImageScreenCaptureFinal(const Image &image) { imageScreenCaptureFinal_ = image; }
@@ -48,5 +52,6 @@ private:
     std::uint32_t imageOptions_ = 0;
     std::optional<QRectF> imageBounds_;
     Image imgScreenCapture_;
+    Image grabBeforeHalving_;
     Image imageScreenCaptureFinal_;
 };

@@ -4,6 +4,7 @@
 
 #include "platform/image.h"
 #include "platform/repeating_timer.h"
+#include "record/recording_clock.h"
 
 #include <cstdint>
 #include <memory>
@@ -55,6 +56,9 @@ public:
     /// The frame store: frames of the current or last recording, in order. Absent until the first
     /// recording starts.
     std::optional<std::vector<Image>> array_Images;
+
+    /// The time spent in the recording state, pauses left out.
+    RecordingClock clock;
 
     /// The capture timer; absent while the Record tab is not shown.
     std::unique_ptr<RepeatingTimer> timerVideoRefresh;

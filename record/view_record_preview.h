@@ -2,12 +2,69 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/image.h"
+#include "record/fitting.h"
+
+#include <QImage>
+#include <QPointer>
+#include <QRectF>
 #include <QWidget>
 
-/// The live preview on the Record tab.
+class QLabel;
+class QWindow;
+
+/// The live preview on the Record tab, and the place where a frame comes into being: its draw step
+/// settles which picture is shown, and a recording stores that one.
+///
+/// The draw step and painting are apart. The step runs once for each capture tick, painted or not,
+/// and once for each redisplay that the window system asks for (the view is shown, resized or
+/// uncovered; causes that come together count once). Painting only puts on the screen what the last
+/// step settled: whatever else makes a widget paint (a picture taken of it, a tool tip, a new
+/// style, assistive technology) never makes a frame.
 class View_Record_Preview : public QWidget {
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    explicit View_Record_Preview(QWidget *parent = nullptr);
+
+    /// The draw step: cuts the region out of the latest grab, fits it into the view, sets
+    /// `imageScreenCaptureFinal`, stores the frame while recording, and asks to be painted.
+    void drawFrame();
+
+    /// Shows this sentence in place of the preview; an empty one shows the preview again.
+    void showReason(const QString &reason);
+
+    /// The part of `image` inside `rectangle`, which is in the image's units with its origin at the
+    /// lower left corner. The result has the rectangle's size, in whole pixels; what lies outside
+    /// the image is transparent. Empty when the image is.
+    static Image partOfImage(const Image &image, const QRectF &rectangle);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void redisplay();
+    Image cutRegion(const Image &grab);
+    const QImage &scaledTo(QSize pixels);
+
+    // What the last draw step settled.
+    Image shown_;
+    FittingFrame frame_;
+
+    // The last region that was cut out, for a grab that did not change since.
+    Image cutFrom_;
+    QRectF cutRectangle_;
+    Image cut_;
+
+    // The last picture that was scaled for the screen.
+    Image scaledFrom_;
+    QImage scaled_;
+
+    QPointer<QWindow> watchedWindow_;
+    bool redisplayPending_ = false;
+    QLabel *reason_ = nullptr;
 };

@@ -192,6 +192,46 @@
         <source>Generating the GIF…</source>
         <translation>Das GIF wird erzeugt …</translation>
     </message>
+    <message id="IDD_STATE_RECORDING">
+        <source>Recording</source>
+        <translation>Aufnahme läuft</translation>
+    </message>
+    <message id="IDD_STATE_PAUSED">
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message id="IDD_RECORDING_FIGURES">
+        <source>%1 · Frames: %2 · Frames per second: %3</source>
+        <translation>%1 · Bilder: %2 · Bilder pro Sekunde: %3</translation>
+    </message>
+    <message id="IDD_RECORDING_SAVED">
+        <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
+        <translation>Die Aufnahme ist vollständig. Bilder: %1 · Bilder pro Sekunde: %2</translation>
+    </message>
+    <message id="IDD_NOTHING_RECORDED">
+        <source>Nothing was recorded.</source>
+        <translation>Es wurde nichts aufgenommen.</translation>
+    </message>
+    <message id="IDD_FRAMES_MISSING">
+        <source>%1 of %2 frames could not be written to %3: %4</source>
+        <translation>%1 von %2 Bildern konnten nicht nach %3 geschrieben werden: %4</translation>
+    </message>
+    <message id="IDD_MODE_FULL_SCREEN">
+        <source>Full screen</source>
+        <translation>Ganzer Bildschirm</translation>
+    </message>
+    <message id="IDD_MODE_REGION">
+        <source>Region %1 × %2 at %3, %4</source>
+        <translation>Bereich %1 × %2 bei %3, %4</translation>
+    </message>
+    <message id="IDD_OK">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="IDD_CANCEL">
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
     <!-- region -->
     <message id="IDD_REGION_OVERLAY">
         <source>Select a region</source>

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+#include "platform/window_server.h"
+#include "record/grab_geometry.h"
+#include "record/window_list.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr float halfSize = 50.0f; // percent
+
+std::int32_t stackingOrder(const WindowEntry *entry) {
+    return entry->value(kWindowOrderKey).toInt();
+}
+
+} // namespace
+
+void AppDelegate::updateWindowList() {
+    WindowListApplierData walk;
+    walk.initWindowListData({});
+    for (const WindowDescription &description : windowServer().listWindows())
+        WindowListApplierFunction(description, walk);
+    capture.arrayController = walk.outputArray();
+    capture.windowListData = std::move(walk);
+}
+
+std::vector<std::uint32_t>
+AppDelegate::newWindowListFromSelection(std::span<const WindowEntry> selection) {
+    std::vector<const WindowEntry *> entries;
+    entries.reserve(selection.size());
+    for (const WindowEntry &entry : selection)
+        entries.push_back(&entry);
+    std::ranges::stable_sort(entries, {}, stackingOrder);
+    std::vector<std::uint32_t> numbers;
+    numbers.reserve(entries.size());
+    for (const WindowEntry *entry : entries)
+        numbers.push_back(entry->value(kWindowIDKey).toUInt());
+    return numbers;
+}
+
+void AppDelegate::createMultiWindowShot(std::span<const WindowEntry> selection) {
+    setOutputImage(windowServer().composite(newWindowListFromSelection(selection)));
+}
+
+void AppDelegate::setOutputImage(const std::optional<Image> &grab) {
+    if (!grab)
+        return;
+    if (!isDoubleDensity(shell.frame_Screen().width(), grab->width())) {
+        capture.setGrabBeforeHalving({});
+        capture.setImgScreenCapture(*grab);
+        return;
+    }
+    // A desktop on which nothing changed yields the same picture: so must its half, for what is
+    // drawn and written only once for the same picture.
+    if (!capture.grabBeforeHalving().sameAs(*grab)) {
+        capture.setGrabBeforeHalving(*grab);
+        capture.setImgScreenCapture(Scale_Image_By_Percentage(*grab, halfSize));
+    }
+}
+
+Image AppDelegate::Scale_Image_By_Percentage(const Image &image, float percentage) {
+    if (image.isEmpty())
+        return image;
+    const ScaledSize size = scaledByPercentage(image.width(), image.height(), percentage);
+    // Whole pixels: a fraction would leave a half transparent edge on an opaque picture.
+    const QSize pixels(std::max(1, static_cast<int>(std::lround(size.width))),
+                       std::max(1, static_cast<int>(std::lround(size.height))));
+    return Image::fromQImage(
+        image.toQImage().scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}

@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+#include "platform/window_server.h"
+#include "record/measured_rate.h"
+#include "record/window_list.h"
+#include "ui_MainWindow.h"
+
+namespace {
+
+constexpr double oneSecond = 1.0;
+
+void enable(QAbstractButton *button, QAction *item, bool enabled) {
+    button->setEnabled(enabled);
+    item->setEnabled(enabled);
+}
+
+RecordingClock::TimePoint now() { return std::chrono::steady_clock::now(); }
+
+} // namespace
+
+void AppDelegate::connectRecordControls() {
+    const auto onButton = [this](QAbstractButton *button, void (AppDelegate::*action)(QObject *)) {
+        connect(button, &QAbstractButton::clicked, this,
+                [this, button, action] { (this->*action)(button); });
+    };
+    const auto onItem = [this](QAction *item, void (AppDelegate::*action)()) {
+        connect(item, &QAction::triggered, this, action);
+    };
+    onButton(ui->btnRecordFullScreen, &AppDelegate::OnRecordFullScreen);
+    onButton(ui->btnRecordRegion, &AppDelegate::OnRecordRegion);
+    onButton(ui->btnRecordRecord, &AppDelegate::OnRecordRecord);
+    onButton(ui->btnRecordPause, &AppDelegate::OnRecordPause);
+    onButton(ui->btnRecordStop, &AppDelegate::OnRecordStop);
+    onButton(ui->btnRecordFPS, &AppDelegate::OnRecordFPS);
+    onItem(ui->menuitemActionRecordFullScreen, &AppDelegate::OnMenuActionRecordFullScreen);
+    onItem(ui->menuitemActionRecordRegion, &AppDelegate::OnMenuActionRecordRegion);
+    onItem(ui->menuitemActionRecordRecord, &AppDelegate::OnMenuActionRecordRecord);
+    onItem(ui->menuitemActionRecordPause, &AppDelegate::OnMenuActionRecordPause);
+    onItem(ui->menuitemActionRecordStop, &AppDelegate::OnMenuActionRecordStop);
+    onItem(ui->menuitemActionRecordFPS, &AppDelegate::OnMenuActionRecordFPS);
+}
+
+void AppDelegate::prepareRecordTab() {
+    ui->viewRecordPreview->showReason(windowServer().reason());
+    enable(ui->btnRecordRecord, ui->menuitemActionRecordRecord, mayRecord());
+    showCaptureMode();
+    showRecordingState();
+}
+
+bool AppDelegate::mayRecord() { return windowServer().reason().isEmpty() && !isSavingRecording(); }
+
+void AppDelegate::OnRecordRecord(QObject *) {
+    if (recording.m_RecordStatus() == RECORD_STATUS_RECORD || !mayRecord())
+        return;
+    if (recording.m_RecordStatus() == RECORD_STATUS_STOP) {
+        RemoveAllContentInFolder(shell.s_Output_Folder());
+        recording.setU_Record_Current_Frame(0);
+        recording.setI_Actual_FPS_while_Recording(0);
+        recording.setU_number_of_seconds(0);
+        recording.clock = {};
+        recording.array_Images.emplace();
+    }
+    enable(ui->btnRecordFullScreen, ui->menuitemActionRecordFullScreen, false);
+    enable(ui->btnRecordRegion, ui->menuitemActionRecordRegion, false);
+    enable(ui->btnRecordRecord, ui->menuitemActionRecordRecord, false);
+    enable(ui->btnRecordPause, ui->menuitemActionRecordPause, true);
+    enable(ui->btnRecordStop, ui->menuitemActionRecordStop, true);
+    enable(ui->btnRecordFPS, ui->menuitemActionRecordFPS, false);
+    recording.setM_RecordStatus(RECORD_STATUS_RECORD);
+    recording.clock.run(now());
+    showRecordingState();
+}
+
+void AppDelegate::OnRecordPause(QObject *) {
+    recording.setM_RecordStatus(RECORD_STATUS_PAUSE);
+    recording.clock.hold(now());
+    enable(ui->btnRecordRecord, ui->menuitemActionRecordRecord, mayRecord());
+    enable(ui->btnRecordPause, ui->menuitemActionRecordPause, false);
+    enable(ui->btnRecordStop, ui->menuitemActionRecordStop, true);
+    showRecordingState();
+}
+
+void AppDelegate::OnRecordStop(QObject *) {
+    // The store that is being written stays as it is until the last frame has been reported.
+    if (isSavingRecording())
+        return;
+    recording.clock.hold(now());
+    enable(ui->btnRecordFullScreen, ui->menuitemActionRecordFullScreen, true);
+    enable(ui->btnRecordRegion, ui->menuitemActionRecordRegion, true);
+    // Not before the save has ended: a new recording empties store and folder.
+    enable(ui->btnRecordRecord, ui->menuitemActionRecordRecord, false);
+    enable(ui->btnRecordPause, ui->menuitemActionRecordPause, false);
+    enable(ui->btnRecordStop, ui->menuitemActionRecordStop, false);
+    enable(ui->btnRecordFPS, ui->menuitemActionRecordFPS, true);
+    recording.setM_RecordStatus(RECORD_STATUS_STOP);
+    const std::uint64_t rate = measuredRate(recordingCounts());
+    recording.setU_FPS(rate);
+    recording.setU_Record_Current_FPS(rate);
+    showRecordingState();
+    saveRecording();
+}
+
+void AppDelegate::recordingSaved() {
+    enable(ui->btnRecordRecord, ui->menuitemActionRecordRecord, mayRecord());
+}
+
+RecordingCounts AppDelegate::recordingCounts() const {
+    return {.countedFrames = recording.i_Actual_FPS_while_Recording(),
+            .countedSeconds = recording.u_number_of_seconds(),
+            .storedFrames = recording.u_Record_Current_Frame(),
+            .passedSeconds = recording.clock.seconds(now())};
+}
+
+void AppDelegate::TimerRefreshVideoRoutine() {
+    updateWindowList();
+    capture.arrayWindowsMinusHarrowlens.clear();
+    for (const WindowEntry &entry : capture.arrayController)
+        if (!isOwnWindow(entry))
+            capture.arrayWindowsMinusHarrowlens.push_back(entry);
+    createMultiWindowShot(capture.arrayWindowsMinusHarrowlens);
+    // Drawn at once, not when the window happens to be painted: a recording goes on while nobody
+    // sees the window.
+    ui->viewRecordPreview->drawFrame();
+}
+
+void AppDelegate::TimerDebug1SecondRoutine() {
+    if (recording.m_RecordStatus() != RECORD_STATUS_RECORD)
+        return;
+    recording.setI_Actual_FPS_while_Recording(
+        recording.i_Actual_FPS_while_Recording() +
+        static_cast<std::int64_t>(recording.i_debug_number_of_view_refresh()));
+    recording.setU_number_of_seconds(recording.u_number_of_seconds() + 1);
+    recording.setI_debug_number_of_view_refresh(0);
+    showRecordingState();
+}
+
+void AppDelegate::restartCaptureTimer() {
+    recording.timerVideoRefresh.reset();
+    recording.timerVideoRefresh = std::make_unique<RepeatingTimer>(
+        captureInterval(recording.u_FPS()), [this] { TimerRefreshVideoRoutine(); });
+}
+
+void AppDelegate::restartOneSecondTimer() {
+    recording.timerdebug1Second.reset();
+    recording.timerdebug1Second =
+        std::make_unique<RepeatingTimer>(oneSecond, [this] { TimerDebug1SecondRoutine(); });
+}
+
+void AppDelegate::stopRecordTimers() {
+    recording.timerdebug1Second.reset();
+    recording.timerVideoRefresh.reset();
+}
+
+void AppDelegate::storeFrame() {
+    if (recording.m_RecordStatus() != RECORD_STATUS_RECORD)
+        return;
+    // Before the first grab there is nothing to keep: a file without pixels does not exist.
+    if (capture.imageScreenCaptureFinal().isEmpty())
+        return;
+    if (!recording.array_Images)
+        recording.array_Images.emplace();
+    recording.array_Images->push_back(capture.imageScreenCaptureFinal());
+    recording.setU_Record_Current_Frame(recording.u_Record_Current_Frame() + 1);
+    recording.setI_debug_number_of_view_refresh(recording.i_debug_number_of_view_refresh() + 1);
+}

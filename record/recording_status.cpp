@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+#include "record/measured_rate.h"
+#include "record/recording_indicator.h"
+#include "ui_MainWindow.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr int secondsPerMinute = 60;
+constexpr int decimal = 10;
+
+/// "1:05", minutes and seconds.
+QString minutesAndSeconds(double passed) {
+    const auto seconds = static_cast<std::int64_t>(passed);
+    return QStringLiteral("%1:%2")
+        .arg(seconds / secondsPerMinute)
+        .arg(seconds % secondsPerMinute, 2, decimal, QLatin1Char('0'));
+}
+
+} // namespace
+
+void AppDelegate::showRecordingState() {
+    ui->recordingIndicator->setState(recording.m_RecordStatus());
+    if (recording.m_RecordStatus() == RECORD_STATUS_STOP)
+        return;
+    const RecordingCounts counts = recordingCounts();
+    // No rate is shown before there is one.
+    const QString rate =
+        counts.storedFrames == 0 ? QStringLiteral("–") : QString::number(measuredRate(counts));
+    ShowStatus(qtTrId("IDD_RECORDING_FIGURES")
+                   .arg(minutesAndSeconds(counts.passedSeconds),
+                        QString::number(counts.storedFrames), rate));
+}
+
+void AppDelegate::showCaptureMode() {
+    QString text = qtTrId("IDD_MODE_FULL_SCREEN");
+    if (region.i_Type_Screen_Capture() == CAPTURE_REGION) {
+        const QRectF area = region.rect_Screen_Region();
+        // People count from the upper left corner.
+        const double top = shell.frame_Screen().height() - area.y() - area.height();
+        text = qtTrId("IDD_MODE_REGION")
+                   .arg(static_cast<int>(area.width()))
+                   .arg(static_cast<int>(area.height()))
+                   .arg(std::lround(area.x()))
+                   .arg(std::lround(top));
+    }
+    if (ui->labelCaptureMode->text() != text)
+        ui->labelCaptureMode->setText(text);
+}

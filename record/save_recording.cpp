@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+#include "app/tab_view.h"
+#include "record/frame_saver.h"
+
+#include <QDebug>
+#include <QDir>
+
+namespace {
+
+constexpr int cutTabIndex = 1;
+
+} // namespace
+
+bool AppDelegate::isSavingRecording() const { return frameSaver_ != nullptr; }
+
+void AppDelegate::saveRecording() {
+    const std::size_t frames = recording.array_Images ? recording.array_Images->size() : 0;
+    showProgressSheet(qtTrId("IDD_SAVING_RECORDING"));
+    setProgressRange(0.0, static_cast<double>(frames));
+    setProgressValue(0.0);
+    if (frames == 0) {
+        closeProgressSheet();
+        recordingSaved();
+        ShowStatus(qtTrId("IDD_NOTHING_RECORDED"));
+        return;
+    }
+    frameSaver_ = std::make_unique<FrameSaver>(*recording.array_Images, shell.s_Output_Folder(),
+                                               [this](std::uint64_t done) { frameReported(done); });
+}
+
+void AppDelegate::frameReported(std::uint64_t done) {
+    setProgressValue(static_cast<double>(done));
+    if (done < frameSaver_->count())
+        return;
+    // Its own report is on the stack.
+    FrameSaver *saver = frameSaver_.release();
+    saver->deleteLater();
+    closeProgressSheet();
+    recordingSaved();
+    showSaveResult(*saver);
+    shell.tabviewMain()->selectTabViewItemAtIndex(cutTabIndex);
+}
+
+void AppDelegate::showSaveResult(const FrameSaver &saver) {
+    if (saver.missing() == 0) {
+        ShowStatus(
+            qtTrId("IDD_RECORDING_SAVED").arg(saver.count()).arg(recording.u_Record_Current_FPS()));
+        return;
+    }
+    const QString text =
+        qtTrId("IDD_FRAMES_MISSING")
+            .arg(QString::number(saver.missing()), QString::number(saver.count()),
+                 QDir::toNativeSeparators(shell.s_Output_Folder()), saver.reason());
+    qWarning().noquote() << text;
+    ShowStatus(text);
+}

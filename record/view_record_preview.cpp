@@ -1,0 +1,186 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "record/view_record_preview.h"
+
+#include "app/app_delegate.h"
+#include "record/grab_geometry.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace {
+
+constexpr int reasonMargin = 24; // points
+
+/// Stands in the event queue behind the window system's own events, so that a resize and the
+/// exposure that it brings are over when it comes up.
+QEvent::Type redisplayEvent() {
+    static const auto type = static_cast<QEvent::Type>(QEvent::registerEventType());
+    return type;
+}
+
+/// The controller's region in whole units of the latest grab, upper left origin: the one place
+/// where points of the screen become units of the whole desktop's picture.
+QRect regionInGrab(const AppDelegate &delegate) {
+    const QRectF region = delegate.region.rect_Screen_Region();
+    const PixelRectangle pixels =
+        pixelsOfRegion(region.x(), region.y(), region.width(), region.height(),
+                       delegate.capture.imgScreenCapture().height());
+    return {pixels.left, pixels.top, pixels.width, pixels.height};
+}
+
+bool sameFrame(const FittingFrame &one, const FittingFrame &other) {
+    return one.x == other.x && one.y == other.y && one.width == other.width &&
+           one.height == other.height;
+}
+
+} // namespace
+
+View_Record_Preview::View_Record_Preview(QWidget *parent) : QWidget(parent) {
+    // Every pixel is painted by the view itself: nothing beneath needs to be.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void View_Record_Preview::drawFrame() {
+    redisplayPending_ = false;
+    AppDelegate *delegate = appDelegate();
+    if (!delegate)
+        return;
+    const std::int64_t type = delegate->region.i_Type_Screen_Capture();
+    const FittingFrame before = frame_;
+    const Image previous = shown_;
+    if (type == CAPTURE_REGION || type == CAPTURE_FULL_SCREEN) {
+        const Image &grab = delegate->capture.imgScreenCapture();
+        shown_ = type == CAPTURE_REGION ? cutRegion(grab) : grab;
+        delegate->capture.setImageScreenCaptureFinal(shown_);
+        const QRectF fit =
+            delegate->return_Best_Fit_Frame(shown_.width(), shown_.height(), width(), height());
+        frame_ = {fit.x(), fit.y(), fit.width(), fit.height()};
+    }
+    delegate->showCaptureMode();
+    delegate->storeFrame();
+    if (!shown_.sameAs(previous) || !sameFrame(frame_, before))
+        update();
+}
+
+Image View_Record_Preview::cutRegion(const Image &grab) {
+    const QRect region = regionInGrab(*appDelegate());
+    const QRectF rectangle(region.x(), grab.height() - region.y() - region.height(), region.width(),
+                           region.height());
+    // The same part of the same picture stays the same picture: it is then written only once.
+    if (!cutFrom_.sameAs(grab) || cutRectangle_ != rectangle) {
+        cutFrom_ = grab;
+        cutRectangle_ = rectangle;
+        cut_ = partOfImage(grab, rectangle);
+    }
+    return cut_;
+}
+
+Image View_Record_Preview::partOfImage(const Image &image, const QRectF &rectangle) {
+    if (image.isEmpty())
+        return {};
+    const PixelRectangle part = pixelsOfRegion(rectangle.x(), rectangle.y(), rectangle.width(),
+                                               rectangle.height(), image.height());
+    if (part.width == 0)
+        return {};
+    const QRect pixels(part.left, part.top, part.width, part.height);
+    const QImage source = image.toQImage();
+    if (source.rect().contains(pixels))
+        return Image::fromQImage(source.copy(pixels));
+    QImage canvas(pixels.size(), QImage::Format_ARGB32_Premultiplied);
+    canvas.fill(Qt::transparent);
+    QPainter painter(&canvas);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(-pixels.topLeft(), source);
+    painter.end();
+    return Image::fromQImage(std::move(canvas));
+}
+
+const QImage &View_Record_Preview::scaledTo(QSize pixels) {
+    if (!scaledFrom_.sameAs(shown_) || scaled_.size() != pixels) {
+        scaledFrom_ = shown_;
+        scaled_ = shown_.toQImage().scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    return scaled_;
+}
+
+void View_Record_Preview::paintEvent(QPaintEvent *event) {
+    QPainter painter(this);
+    painter.fillRect(event->rect(), Qt::black);
+    if (shown_.isEmpty() || reason_)
+        return;
+    // The fitting frame counts from the lower left corner of the view, painting from the upper one.
+    const QRectF target(frame_.x, height() - frame_.y - frame_.height, frame_.width, frame_.height);
+    const QSize pixels = (target.size() * devicePixelRatioF()).toSize().expandedTo({1, 1});
+    painter.drawImage(target, scaledTo(pixels));
+}
+
+void View_Record_Preview::redisplay() {
+    if (redisplayPending_ || !isVisible())
+        return;
+    redisplayPending_ = true;
+    QCoreApplication::postEvent(this, new QEvent(redisplayEvent()));
+}
+
+bool View_Record_Preview::event(QEvent *event) {
+    if (event->type() != redisplayEvent())
+        return QWidget::event(event);
+    // A tick in between has drawn already.
+    if (redisplayPending_)
+        drawFrame();
+    return true;
+}
+
+void View_Record_Preview::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    redisplay();
+}
+
+void View_Record_Preview::showEvent(QShowEvent *event) {
+    QWidget::showEvent(event);
+    QWindow *handle = window()->windowHandle();
+    if (handle && handle != watchedWindow_) {
+        handle->installEventFilter(this);
+        watchedWindow_ = handle;
+    }
+    redisplay();
+}
+
+bool View_Record_Preview::eventFilter(QObject *watched, QEvent *event) {
+    // The window system says that part of the window lost its content.
+    if (watched == watchedWindow_ && event->type() == QEvent::Expose && watchedWindow_->isExposed())
+        redisplay();
+    return QWidget::eventFilter(watched, event);
+}
+
+void View_Record_Preview::showReason(const QString &reason) {
+    delete reason_;
+    reason_ = nullptr;
+    setAccessibleDescription(reason);
+    if (reason.isEmpty())
+        return;
+    reason_ = new QLabel(reason, this);
+    reason_->setObjectName(QStringLiteral("labelReason"));
+    reason_->setWordWrap(true);
+    reason_->setAlignment(Qt::AlignCenter);
+    reason_->setTextFormat(Qt::PlainText);
+    // The preview is black in every theme.
+    QPalette palette = reason_->palette();
+    palette.setColor(QPalette::WindowText, Qt::white);
+    reason_->setPalette(palette);
+    if (!layout()) {
+        auto *place = new QVBoxLayout(this);
+        place->setContentsMargins(reasonMargin, reasonMargin, reasonMargin, reasonMargin);
+    }
+    layout()->addWidget(reason_);
+}
+
+QRectF AppDelegate::return_Best_Fit_Frame(double imageWidth, double imageHeight, double areaWidth,
+                                          double areaHeight) {
+    const FittingFrame frame = bestFitFrame(imageWidth, imageHeight, areaWidth, areaHeight);
+    return {frame.x, frame.y, frame.width, frame.height};
+}

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "record/window_fps.h"
+
+#include "app/app_delegate.h"
+#include "record/measured_rate.h"
+#include "ui_Window_FPS.h"
+
+#include <QMainWindow>
+
+Window_FPS::Window_FPS(QWidget *parent) : QDialog(parent), ui_(std::make_unique<Ui::Window_FPS>()) {
+    ui_->setupUi(this);
+    windowDidLoad();
+}
+
+Window_FPS::~Window_FPS() = default;
+
+QComboBox *Window_FPS::comboScreenFPS() const { return ui_->comboScreenFPS; }
+QLabel *Window_FPS::labelFPS() const { return ui_->labelFPS; }
+QLabel *Window_FPS::labelNote() const { return ui_->labelNote; }
+
+void Window_FPS::windowDidLoad() {
+    for (std::uint64_t rate = lowestRate; rate <= highestRate; ++rate)
+        ui_->comboScreenFPS->addItem(QString::number(rate));
+    const std::uint64_t current = appDelegate()->recording.u_FPS();
+    const bool listed = current >= lowestRate && current <= highestRate;
+    ui_->comboScreenFPS->setCurrentIndex(listed ? static_cast<int>(current - lowestRate) : 0);
+    const InterfaceStrings &texts = appDelegate()->texts;
+    ui_->labelFPS->setText(texts.s_IDD_FPS());
+    ui_->labelNote->setText(texts.s_IDD_NOTE());
+    setWindowTitle(texts.s_IDD_FPS());
+    ui_->comboScreenFPS->setAccessibleName(texts.s_IDD_FPS());
+    ui_->btnOK->setText(qtTrId("IDD_OK"));
+    ui_->btnCancel->setText(qtTrId("IDD_CANCEL"));
+    connect(ui_->btnOK, &QPushButton::clicked, this, [this] { OnOK(ui_->btnOK); });
+    connect(ui_->btnCancel, &QPushButton::clicked, this, [this] { OnCancel(ui_->btnCancel); });
+}
+
+void Window_FPS::OnOK(QObject *sender) {
+    const int index = ui_->comboScreenFPS->currentIndex();
+    if (index < 0) {
+        OnCancel(sender);
+        return;
+    }
+    bOK_ = true;
+    appDelegate()->recording.setU_FPS(static_cast<std::uint64_t>(index) + lowestRate);
+    done(Accepted);
+}
+
+void Window_FPS::OnCancel(QObject *) {
+    bOK_ = false;
+    done(Rejected);
+}
+
+void Window_FPS::windowWillClose() { OnCancel(this); }
+
+void AppDelegate::OnRecordFPS(QObject *) {
+    Window_FPS dialog(shell.window());
+    dialog.setWindowModality(Qt::ApplicationModal);
+    dialog.exec();
+    if (dialog.bOK())
+        restartCaptureTimer();
+}

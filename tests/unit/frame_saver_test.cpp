@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "record/frame_saver.h"
+#include "tests/unit/recording_fixture.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <sys/stat.h>
+
+namespace {
+
+/// A picture in which every pixel has another colour, and another opacity when it has alpha.
+Image patterned(QSize size, bool alpha, int seed = 0) {
+    QImage pixels(size, alpha ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x)
+            pixels.setPixel(x, y, qRgba(x * 7 + seed, y * 5, x + y, alpha ? (x * 11) % 256 : 255));
+    return Image::fromQImage(pixels);
+}
+
+/// Saves and waits; the reports as they came.
+std::vector<std::uint64_t> save(FrameSaver *&saver, const std::vector<Image> &frames,
+                                const QString &folder) {
+    std::vector<std::uint64_t> reports;
+    saver = new FrameSaver(frames, folder, [&](std::uint64_t done) { reports.push_back(done); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return reports.size() >= frames.size(); }, 10'000));
+    return reports;
+}
+
+} // namespace
+
+class SavedFrames : public testing::Test {
+protected:
+    std::vector<std::uint64_t> saveAll(const std::vector<Image> &frames) {
+        FrameSaver *made = nullptr;
+        const std::vector<std::uint64_t> reports = save(made, frames, folder.path());
+        saver.reset(made);
+        return reports;
+    }
+    QString path(int number) const {
+        return folder.filePath(QStringLiteral("frame%1.png").arg(number, 8, 10, QLatin1Char('0')));
+    }
+    QImage frame(int number) const { return QImage(path(number), "png"); }
+    ino_t inode(int number) const {
+        struct stat status {};
+        EXPECT_EQ(stat(QFile::encodeName(path(number)).constData(), &status), 0);
+        return status.st_ino;
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<FrameSaver> saver;
+};
+
+TEST_F(SavedFrames, decodeToTheVeryPixelsAndAreReportedInOrder) {
+    std::vector<Image> frames;
+    std::vector<std::uint64_t> expected;
+    for (int i = 0; i < 20; ++i) {
+        frames.push_back(patterned({91, 37}, false, i));
+        expected.push_back(static_cast<std::uint64_t>(i) + 1);
+    }
+    EXPECT_EQ(saveAll(frames), expected);
+    EXPECT_EQ(saver->missing(), 0u);
+    for (int i = 0; i < 20; ++i) {
+        const QImage read = frame(i);
+        EXPECT_FALSE(read.hasAlphaChannel());
+        EXPECT_EQ(read.convertToFormat(QImage::Format_RGB32),
+                  frames[static_cast<std::size_t>(i)].toQImage())
+            << "frame " << i;
+    }
+}
+
+TEST_F(SavedFrames, allHaveTheSizeAndTheFormatOfTheFirst) {
+    saveAll({patterned({40, 30}, false), patterned({20, 50}, false),
+             plainImage({40, 30}, qRgba(200, 100, 0, 255), QImage::Format_ARGB32),
+             plainImage({50, 30}, qRgba(0, 0, 0, 0), QImage::Format_ARGB32)});
+    EXPECT_EQ(saver->missing(), 0u);
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(frame(i).size(), QSize(40, 30)) << i;
+        EXPECT_FALSE(frame(i).hasAlphaChannel()) << i;
+    }
+    const QImage narrow = frame(1);
+    EXPECT_EQ(narrow.pixel(19, 29), patterned({20, 50}, false).toQImage().pixel(19, 29));
+    EXPECT_EQ(narrow.pixel(20, 0), qRgb(0, 0, 0));
+    EXPECT_EQ(frame(2).pixel(5, 5), qRgb(200, 100, 0));
+    EXPECT_EQ(frame(3).pixel(39, 29), qRgb(0, 0, 0));
+}
+
+TEST_F(SavedFrames, keepTheAlphaOfTheFirst) {
+    const Image half = patterned({60, 10}, true);
+    saveAll({half, patterned({60, 10}, false), patterned({30, 5}, false)});
+    EXPECT_EQ(frame(0).format(), QImage::Format_ARGB32);
+    EXPECT_EQ(frame(0).convertToFormat(QImage::Format_ARGB32_Premultiplied), half.toQImage());
+    EXPECT_EQ(frame(1).format(), QImage::Format_ARGB32);
+    EXPECT_EQ(frame(1).pixel(59, 9), patterned({60, 10}, false).toQImage().pixel(59, 9));
+    EXPECT_EQ(frame(2).format(), QImage::Format_ARGB32);
+    EXPECT_EQ(frame(2).pixel(59, 9), qRgba(0, 0, 0, 255));
+}
+
+TEST_F(SavedFrames, shareAFileWhereNothingChanged) {
+    const Image still = patterned({30, 30}, false);
+    const Image equal = patterned({30, 30}, false);
+    saveAll({still, still, still, equal, still});
+    EXPECT_EQ(inode(0), inode(1));
+    EXPECT_EQ(inode(0), inode(2));
+    EXPECT_NE(inode(0), inode(3));
+    EXPECT_NE(inode(0), inode(4));
+    EXPECT_EQ(frame(2).convertToFormat(QImage::Format_RGB32), still.toQImage());
+    // A name that is taken refuses the link: the file is replaced by a fresh one.
+    saveAll({equal, equal});
+    EXPECT_EQ(frame(1).convertToFormat(QImage::Format_RGB32), equal.toQImage());
+}
+
+TEST_F(SavedFrames, areCountedWhenTheFolderIsNone) {
+    QFile file(folder.filePath(QStringLiteral("file")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    FrameSaver *made = nullptr;
+    const Image picture = patterned({8, 8}, false);
+    EXPECT_EQ(save(made, {picture, picture, patterned({8, 8}, false)}, file.fileName()).size(), 3u);
+    EXPECT_EQ(made->missing(), 3u);
+    EXPECT_EQ(made->reason(), QString::fromLocal8Bit(strerror(ENOTDIR)));
+    delete made;
+}
+
+TEST_F(SavedFrames, stopBeingWrittenWhenTheSaverGoes) {
+    std::vector<Image> frames;
+    for (int i = 0; i < 200; ++i)
+        frames.push_back(patterned({200, 200}, false, i));
+    int reports = 0;
+    std::make_unique<FrameSaver>(frames, folder.path(), [&](std::uint64_t) { ++reports; }).reset();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(reports, 0);
+}

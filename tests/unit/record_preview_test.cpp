@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/tab_view.h"
+#include "tests/unit/recording_fixture.h"
+
+#include <QPainter>
+#include <QPixmap>
+
+class RecordPreview : public RecordingFixture {
+protected:
+    RecordPreview() {
+        delegate->TimerRefreshVideoRoutine();
+        delegate->OnRecordRecord(nullptr);
+        settle();
+        before = frames();
+    }
+
+    View_Record_Preview &view() { return *ui().viewRecordPreview; }
+    std::uint64_t stored() {
+        settle();
+        return frames() - before;
+    }
+
+    std::uint64_t before = 0;
+};
+
+TEST_F(RecordPreview, storesOneFrameForEachTickPaintedOrNot) {
+    delegate->TimerRefreshVideoRoutine();
+    delegate->TimerRefreshVideoRoutine();
+    EXPECT_EQ(stored(), 2u);
+    EXPECT_TRUE(delegate->recording.array_Images->back().sameAs(*server->picture));
+    delegate->shell.window()->hide();
+    settle();
+    before = frames();
+    delegate->TimerRefreshVideoRoutine();
+    EXPECT_EQ(stored(), 1u);
+}
+
+TEST_F(RecordPreview, storesNothingWhenItIsOnlyPainted) {
+    view().grab();
+    delegate->shell.window()->grab();
+    QImage canvas(100, 100, QImage::Format_RGB32);
+    view().render(&canvas);
+    view().update();
+    view().repaint();
+    view().setStyleSheet(QStringLiteral("color: red"));
+    QPalette palette = view().palette();
+    palette.setColor(QPalette::Window, Qt::blue);
+    view().setPalette(palette);
+    view().setToolTip(QStringLiteral("a tip"));
+    EXPECT_EQ(stored(), 0u);
+    // Not even while a redisplay is due, which still happens once.
+    delegate->shell.window()->resize(delegate->shell.window()->size() + QSize(40, 30));
+    view().grab();
+    EXPECT_EQ(frames() - before, 0u);
+    EXPECT_EQ(stored(), 1u);
+}
+
+TEST_F(RecordPreview, storesTheSameFrameOnceMoreForEachRedisplay) {
+    delegate->shell.window()->resize(delegate->shell.window()->size() + QSize(60, 20));
+    EXPECT_EQ(stored(), 1u);
+    view().hide();
+    EXPECT_EQ(stored(), 1u);
+    view().show();
+    EXPECT_EQ(stored(), 2u);
+    delegate->shell.window()->hide();
+    delegate->shell.window()->show();
+    EXPECT_EQ(stored(), 3u);
+    // A tick that comes before the redisplay makes it superfluous.
+    delegate->shell.window()->resize(delegate->shell.window()->size() + QSize(10, 10));
+    delegate->TimerRefreshVideoRoutine();
+    EXPECT_EQ(stored(), 4u);
+}
+
+TEST_F(RecordPreview, paintsTheLastFrameFittedOverBlack) {
+    // Twice as wide as high in a square area: bars above and below.
+    server->picture = plainImage({200, 100}, qRgb(200, 100, 50));
+    view().setFixedSize(400, 400);
+    settle();
+    delegate->TimerRefreshVideoRoutine();
+    const QImage shown = view().grab().toImage();
+    EXPECT_EQ(shown.pixel(200, 200), qRgb(200, 100, 50));
+    EXPECT_EQ(shown.pixel(2, 102), qRgb(200, 100, 50));
+    EXPECT_EQ(shown.pixel(200, 90), qRgb(0, 0, 0));
+    EXPECT_EQ(shown.pixel(200, 310), qRgb(0, 0, 0));
+}
+
+TEST_F(RecordPreview, cutsTheRegionFromTheLowerLeftAndLeavesTheOutsideTransparent) {
+    QImage pixels(64, 48, QImage::Format_RGB32);
+    pixels.fill(qRgb(0, 0, 200));
+    QPainter(&pixels).fillRect(0, 40, 10, 8, QColor(200, 0, 0)); // lower left corner
+    server->picture = Image::fromQImage(pixels);
+    delegate->region.setI_Type_Screen_Capture(CAPTURE_REGION);
+    delegate->region.setRect_Screen_Region({0, 0, 20, 16});
+    delegate->TimerRefreshVideoRoutine();
+    const Image inside = delegate->capture.imageScreenCaptureFinal();
+    EXPECT_EQ(inside.size(), QSize(20, 16));
+    EXPECT_FALSE(inside.hasAlpha());
+    EXPECT_EQ(inside.toQImage().pixel(5, 12), qRgb(200, 0, 0));
+    EXPECT_EQ(inside.toQImage().pixel(15, 3), qRgb(0, 0, 200));
+    delegate->TimerRefreshVideoRoutine();
+    EXPECT_TRUE(delegate->capture.imageScreenCaptureFinal().sameAs(inside));
+
+    const Image outside =
+        View_Record_Preview::partOfImage(*server->picture, QRectF(-10, -6, 20, 16));
+    EXPECT_EQ(outside.size(), QSize(20, 16));
+    EXPECT_EQ(outside.toQImage().pixel(12, 8), qRgb(200, 0, 0));
+    EXPECT_EQ(qAlpha(outside.toQImage().pixel(5, 5)), 0);
+    EXPECT_EQ(qAlpha(outside.toQImage().pixel(15, 12)), 0);
+    EXPECT_TRUE(View_Record_Preview::partOfImage(Image(), QRectF(0, 0, 5, 5)).isEmpty());
+}

@@ -1,0 +1,134 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "record/fitting.h"
+#include "record/grab_geometry.h"
+#include "record/measured_rate.h"
+#include "record/recording_clock.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double undefined = std::numeric_limits<double>::quiet_NaN();
+
+} // namespace
+
+TEST(Fitting, growsAndShrinksInFiftiethsAndStopsAsTheRuleSays) {
+    const struct {
+        double imageWidth, imageHeight, areaWidth, areaHeight;
+        FittingFrame expected;
+    } cases[] = {
+        {1000, 500, 500, 500, {-10, 120, 520, 260}}, // Shrunk: one step larger than fits.
+        {100, 50, 500, 500, {0, 125, 500, 250}},     // Grown until it meets the edge.
+        {300, 600, 520, 300, {110, -150, 300, 600}}, // Too large in one dimension only.
+        {640, 400, 640, 400, {0, 0, 640, 400}},
+        {100, 100, 101, 150, {0.5, 25, 100, 100}}, // The first step would go too far.
+        {0, 0, 300, 200, {0, 0, 0, 0}},
+    };
+    for (const auto &c : cases) {
+        const FittingFrame frame =
+            bestFitFrame(c.imageWidth, c.imageHeight, c.areaWidth, c.areaHeight);
+        SCOPED_TRACE(testing::Message() << c.imageWidth << " x " << c.imageHeight);
+        EXPECT_NEAR(frame.x, c.expected.x, 1e-3);
+        EXPECT_NEAR(frame.y, c.expected.y, 1e-3);
+        EXPECT_NEAR(frame.width, c.expected.width, 1e-3);
+        EXPECT_NEAR(frame.height, c.expected.height, 1e-3);
+    }
+}
+
+TEST(Fitting, takesItsStepsAndOffsetsInSinglePrecision) {
+    // A third has no exact form: the height follows the width through the rounded ratio.
+    const FittingFrame frame = bestFitFrame(100, 300, 1000, 330);
+    const double ratio = 100.0f / 300.0f;
+    EXPECT_EQ(frame.width, 110.0);
+    EXPECT_EQ(frame.height, 110.0 / ratio);
+    EXPECT_EQ(frame.y, static_cast<double>(static_cast<float>((330 - 110.0 / ratio) * 0.5)));
+}
+
+TEST(Fitting, endsForSizesThatNoPictureHas) {
+    const double odd[] = {0.0, -1.0, -1e9, 1e-30, 1e300, infinite, undefined};
+    for (const double width : odd) {
+        for (const double other : {100.0, width}) {
+            bestFitFrame(width, other, 300, 200);
+            bestFitFrame(other, width, 300, 200);
+            bestFitFrame(100, 50, width, other);
+            const FittingFrame frame = bestFitFrame(100, 50, other, width);
+            EXPECT_TRUE(std::isfinite(frame.width));
+        }
+    }
+}
+
+TEST(MeasuredRate, isCountedFramesBySecondsRoundedUpWithinItsBounds) {
+    const struct {
+        RecordingCounts counts;
+        std::uint64_t expected;
+    } cases[] = {
+        {{.countedFrames = 25, .countedSeconds = 5, .storedFrames = 30, .passedSeconds = 6.0}, 5},
+        {{.countedFrames = 26, .countedSeconds = 5, .storedFrames = 30, .passedSeconds = 6.0}, 6},
+        {{.countedFrames = 900, .countedSeconds = 5, .storedFrames = 900, .passedSeconds = 5.0},
+         60},
+        // No whole second, or nothing in it: the time that really passed decides.
+        {{.storedFrames = 3, .passedSeconds = 0.4}, 8},
+        {{.countedSeconds = 1, .storedFrames = 3, .passedSeconds = 2.0}, 2},
+        {{.storedFrames = 90, .passedSeconds = 0.5}, 60},
+        {{.storedFrames = 2, .passedSeconds = 0.0}, 60},
+        {{.storedFrames = 0, .passedSeconds = 3.0}, 1},
+        {{.countedFrames = -4, .countedSeconds = 2}, 1},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(measuredRate(c.counts), c.expected)
+            << c.counts.countedFrames << " in " << c.counts.countedSeconds << ", "
+            << c.counts.storedFrames << " in " << c.counts.passedSeconds;
+}
+
+TEST(CaptureInterval, isComputedInSinglePrecision) {
+    EXPECT_EQ(captureInterval(5), 0.20000000298023224);
+    EXPECT_EQ(captureInterval(60), static_cast<double>(1.0f / 60.0f));
+    EXPECT_EQ(captureInterval(0), infinite);
+}
+
+TEST(RecordingClock, leavesPausesOut) {
+    using std::chrono::seconds;
+    const RecordingClock::TimePoint start;
+    RecordingClock clock;
+    EXPECT_EQ(clock.seconds(start + seconds(9)), 0.0);
+    clock.run(start);
+    clock.run(start + seconds(1)); // Runs already.
+    clock.hold(start + seconds(2));
+    clock.hold(start + seconds(3));
+    EXPECT_EQ(clock.seconds(start + seconds(10)), 2.0);
+    clock.run(start + seconds(10));
+    EXPECT_EQ(clock.seconds(start + seconds(11)), 3.0);
+}
+
+TEST(GrabGeometry, halvesOnlyAGrabOfExactlyTwiceTheScreensWidth) {
+    EXPECT_TRUE(isDoubleDensity(1440, 2880));
+    EXPECT_TRUE(isDoubleDensity(1440.7, 2880));
+    EXPECT_FALSE(isDoubleDensity(1920, 2880));
+    EXPECT_FALSE(isDoubleDensity(1440, 2881));
+    EXPECT_FALSE(isDoubleDensity(0, 0)); // A window without a screen.
+}
+
+TEST(GrabGeometry, scalesTheLargerSideAndLetsTheOtherFollow) {
+    const ScaledSize landscape = scaledByPercentage(2880, 1800, 50);
+    EXPECT_EQ(landscape.width, 1440.0f);
+    EXPECT_EQ(landscape.height, 900.0f);
+    const ScaledSize portrait = scaledByPercentage(1000, 2000, 50);
+    EXPECT_EQ(portrait.width, 500.0f);
+    EXPECT_EQ(portrait.height, 1000.0f);
+}
+
+TEST(GrabGeometry, countsARegionsPixelsFromTheUpperLeft) {
+    const PixelRectangle cut = pixelsOfRegion(10.4, 20, 641.6, 480.9, 600);
+    EXPECT_EQ(cut.left, 10);
+    EXPECT_EQ(cut.top, 99);
+    EXPECT_EQ(cut.width, 641);
+    EXPECT_EQ(cut.height, 480);
+    EXPECT_EQ(pixelsOfRegion(-5, 550, 20, 100, 600).top, -50);
+    for (const double odd : {0.0, -3.0, 1e12, infinite, undefined})
+        EXPECT_EQ(pixelsOfRegion(0, 0, odd, 10, 600).width, 0);
+}

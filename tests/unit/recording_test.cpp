@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/tab_view.h"
+#include "record/window_fps.h"
+#include "record/window_progress.h"
+#include "tests/unit/recording_fixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QProgressBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+class Recording : public RecordingFixture {
+protected:
+    using RecordingFixture::RecordingFixture;
+
+    /// Full screen, Region, Record, Pause, Stop, frame rate, as 0 and 1; buttons and menu items
+    /// must agree.
+    std::string enabled() {
+        const std::pair<QAbstractButton *, QAction *> controls[] = {
+            {ui().btnRecordFullScreen, ui().menuitemActionRecordFullScreen},
+            {ui().btnRecordRegion, ui().menuitemActionRecordRegion},
+            {ui().btnRecordRecord, ui().menuitemActionRecordRecord},
+            {ui().btnRecordPause, ui().menuitemActionRecordPause},
+            {ui().btnRecordStop, ui().menuitemActionRecordStop},
+            {ui().btnRecordFPS, ui().menuitemActionRecordFPS}};
+        std::string states;
+        for (const auto &[button, item] : controls) {
+            EXPECT_EQ(button->isEnabled(), item->isEnabled()) << qPrintable(button->objectName());
+            states += button->isEnabled() ? '1' : '0';
+        }
+        return states;
+    }
+
+    void tick(int times) {
+        for (int i = 0; i < times; ++i)
+            delegate->TimerRefreshVideoRoutine();
+    }
+
+    bool waitForSave() {
+        return QTest::qWaitFor([this] { return !delegate->isSavingRecording(); }, 10'000);
+    }
+};
+
+TEST_F(Recording, enablesItsControlsByTheStateAndSavesWhatWasStored) {
+    ASSERT_TRUE(started);
+    EXPECT_EQ(enabled(), "111001");
+    tick(2);
+    EXPECT_FALSE(delegate->recording.array_Images);
+    ui().btnRecordRecord->click();
+    EXPECT_EQ(enabled(), "000110");
+    EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_RECORD);
+    EXPECT_TRUE(ui().recordingIndicator->isVisible());
+    tick(3);
+    ui().menuitemActionRecordPause->trigger();
+    EXPECT_EQ(enabled(), "001010");
+    EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_PAUSE);
+    tick(4);
+    EXPECT_EQ(frames(), 3u);
+    ui().btnRecordRecord->click();
+    tick(1);
+    ui().btnRecordStop->click();
+    // Record stays off until the last frame is on disk.
+    EXPECT_EQ(enabled(), "110001");
+    EXPECT_TRUE(delegate->isSavingRecording());
+    ASSERT_NE(delegate->exporting.windowProgress(), nullptr);
+    EXPECT_EQ(delegate->exporting.windowProgress()->maxValue(), 4.0);
+    delegate->OnRecordRecord(nullptr);
+    EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_STOP);
+    ASSERT_TRUE(waitForSave());
+    EXPECT_EQ(enabled(), "111001");
+    EXPECT_FALSE(ui().recordingIndicator->isVisible());
+    EXPECT_EQ(delegate->exporting.windowProgress(), nullptr);
+    EXPECT_EQ(delegate->shell.tabviewMain()->selectedIndex(), 1);
+    EXPECT_EQ(delegate->recording.array_Images->size(), 4u);
+    EXPECT_TRUE(QFile::exists(frameFile(3)));
+    EXPECT_FALSE(QFile::exists(frameFile(4)));
+}
+
+TEST_F(Recording, countsFramesPerSecondAcrossPausesAndCarriesTheRestOver) {
+    delegate->OnRecordRecord(nullptr);
+    tick(5);
+    delegate->TimerDebug1SecondRoutine();
+    delegate->OnRecordPause(nullptr);
+    delegate->TimerDebug1SecondRoutine(); // Does not count.
+    delegate->OnRecordRecord(nullptr);
+    delegate->OnRecordRecord(nullptr); // Does nothing at all.
+    tick(6);
+    delegate->TimerDebug1SecondRoutine();
+    tick(2);
+    EXPECT_EQ(delegate->recording.i_Actual_FPS_while_Recording(), 11);
+    EXPECT_EQ(delegate->recording.u_number_of_seconds(), 2u);
+    EXPECT_EQ(frames(), 13u);
+    delegate->OnRecordStop(nullptr);
+    EXPECT_EQ(delegate->recording.u_Record_Current_FPS(), 6u);
+    EXPECT_EQ(delegate->recording.u_FPS(), 6u);
+    ASSERT_TRUE(waitForSave());
+
+    delegate->OnRecordRecord(nullptr);
+    EXPECT_FALSE(QFile::exists(frameFile(0)));
+    EXPECT_EQ(frames(), 0u);
+    EXPECT_TRUE(delegate->recording.array_Images->empty());
+    EXPECT_EQ(delegate->recording.u_number_of_seconds(), 0u);
+    EXPECT_EQ(delegate->recording.i_debug_number_of_view_refresh(), 2u);
+}
+
+TEST_F(Recording, withoutAFrameSaysSoAndStays) {
+    delegate->OnRecordRecord(nullptr);
+    delegate->OnRecordStop(nullptr);
+    EXPECT_FALSE(delegate->isSavingRecording());
+    EXPECT_EQ(delegate->exporting.windowProgress(), nullptr);
+    EXPECT_EQ(delegate->shell.tabviewMain()->selectedIndex(), 0);
+    EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_NOTHING_RECORDED"));
+    EXPECT_EQ(enabled(), "111001");
+    EXPECT_EQ(delegate->recording.u_FPS(), 1u);
+}
+
+TEST_F(Recording, storesNoFrameWithoutPixels) {
+    server->picture.reset();
+    delegate->OnRecordRecord(nullptr);
+    tick(3);
+    EXPECT_EQ(frames(), 0u);
+}
+
+TEST_F(Recording, namesTheFramesThatAreMissingAndKeepsThemInMemory) {
+    tick(1);
+    delegate->OnRecordRecord(nullptr);
+    for (int i = 0; i < 4; ++i) {
+        server->picture = plainImage({64, 48}, qRgb(i, i, i));
+        tick(1);
+    }
+    // A folder in a frame's place cannot be replaced by a file.
+    ASSERT_TRUE(QDir().mkpath(frameFile(2)));
+    testing::internal::CaptureStderr();
+    delegate->OnRecordStop(nullptr);
+    ASSERT_TRUE(waitForSave());
+    const std::string log = testing::internal::GetCapturedStderr();
+    const QString status = ui().labelStatus->text();
+    const QString folder = documents.filePath(QStringLiteral("Pallomar"));
+    EXPECT_EQ(status, qtTrId("IDD_FRAMES_MISSING")
+                          .arg(QStringLiteral("1"), QStringLiteral("4"), folder,
+                               QString::fromLocal8Bit(strerror(EISDIR))));
+    EXPECT_NE(log.find(status.toStdString()), std::string::npos) << log;
+    EXPECT_TRUE(QFile::exists(frameFile(3)));
+    EXPECT_EQ(QDir(folder).entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden).size(),
+              0);
+    EXPECT_EQ(delegate->recording.array_Images->size(), 4u);
+}
+
+class WithoutAScreen : public Recording {
+protected:
+    WithoutAScreen() : Recording(QStringLiteral("Here, nothing can be recorded.")) {}
+};
+
+TEST_F(WithoutAScreen, theReasonStandsInThePreviewsPlaceAndRecordIsOff) {
+    EXPECT_EQ(enabled(), "110001");
+    const auto *reason = ui().viewRecordPreview->findChild<QLabel *>(QStringLiteral("labelReason"));
+    ASSERT_NE(reason, nullptr);
+    EXPECT_TRUE(reason->isVisible());
+    EXPECT_EQ(reason->text(), server->why);
+    delegate->OnRecordRecord(nullptr); // A way around the controls.
+    EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_STOP);
+}
+
+TEST_F(Recording, theCaptureTimerRunsAtTheRateChosenInTheDialogAndOnlyAfterOK) {
+    delegate->restartCaptureTimer();
+    EXPECT_EQ(delegate->recording.timerVideoRefresh->interval(), 0.20000000298023224);
+    const RepeatingTimer *timer = delegate->recording.timerVideoRefresh.get();
+    const auto during = [this](auto action) {
+        QTimer::singleShot(0, delegate.get(), [action] {
+            action(*qobject_cast<Window_FPS *>(QApplication::activeModalWidget()));
+        });
+        delegate->OnRecordFPS(nullptr);
+    };
+    during([](Window_FPS &dialog) {
+        EXPECT_EQ(dialog.comboScreenFPS()->count(), 60);
+        EXPECT_EQ(dialog.comboScreenFPS()->currentText(), QStringLiteral("5"));
+        EXPECT_FALSE(dialog.comboScreenFPS()->isEditable());
+        dialog.comboScreenFPS()->setCurrentIndex(59);
+        dialog.OnCancel(nullptr);
+    });
+    during([](Window_FPS &dialog) {
+        dialog.comboScreenFPS()->setCurrentIndex(59);
+        dialog.close();
+    });
+    EXPECT_EQ(delegate->recording.u_FPS(), 5u);
+    EXPECT_EQ(delegate->recording.timerVideoRefresh.get(), timer);
+    during([](Window_FPS &dialog) {
+        dialog.comboScreenFPS()->setCurrentIndex(59);
+        dialog.OnOK(nullptr);
+    });
+    EXPECT_EQ(delegate->recording.u_FPS(), 60u);
+    EXPECT_EQ(delegate->recording.timerVideoRefresh->interval(), static_cast<double>(1.0f / 60.0f));
+    delegate->recording.setU_FPS(77);
+    during([](Window_FPS &dialog) {
+        EXPECT_EQ(dialog.comboScreenFPS()->currentText(), QStringLiteral("1"));
+        dialog.OnCancel(nullptr);
+    });
+}
+
+TEST_F(Recording, theSheetShowsFractionsAndIgnoresWhatWouldDismissIt) {
+    delegate->setProgressValue(50.0); // Without a sheet nothing happens.
+    delegate->showProgressSheet(QStringLiteral("Busy"));
+    Window_Progress *sheet = delegate->exporting.windowProgress();
+    EXPECT_EQ(sheet->labelDescription()->text(), QStringLiteral("Busy"));
+    const auto share = [sheet] {
+        return sheet->progressBar()->value() / static_cast<double>(sheet->progressBar()->maximum());
+    };
+    EXPECT_EQ(share(), 0.0);
+    delegate->setProgressValue(12.5);
+    EXPECT_EQ(share(), 0.125);
+    for (const double notFinite : {std::nan(""), HUGE_VAL, -HUGE_VAL}) {
+        delegate->setProgressValue(notFinite);
+        EXPECT_EQ(share(), 0.125);
+    }
+    delegate->setProgressValue(130.0);
+    EXPECT_EQ(share(), 1.0);
+    delegate->setProgressValue(-1.0);
+    EXPECT_EQ(share(), 0.0);
+    delegate->setProgressRange(0.0, 40.0);
+    delegate->setProgressValue(10.0);
+    EXPECT_EQ(share(), 0.25);
+    delegate->paintProgressSheet();
+    sheet->close();
+    sheet->reject();
+    QTest::keyClick(sheet, Qt::Key_Escape);
+    EXPECT_TRUE(sheet->isVisible());
+    delegate->closeProgressSheet();
+    EXPECT_EQ(delegate->exporting.windowProgress(), nullptr);
+    EXPECT_FALSE(sheet->isVisible());
+    // Nothing of the first sheet carries over.
+    delegate->showProgressSheet(QStringLiteral("Again"));
+    EXPECT_EQ(delegate->exporting.windowProgress()->maxValue(), 100.0);
+    EXPECT_EQ(delegate->exporting.windowProgress()->doubleValue(), 0.0);
+    delegate->closeProgressSheet();
+}
