@@ -4,6 +4,7 @@
 
 #include "app/app_delegate.h"
 #include "record/grab_geometry.h"
+#include "region/region_in_grab.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -21,16 +22,6 @@ constexpr int reasonMargin = 24; // points
 QEvent::Type redisplayEvent() {
     static const auto type = static_cast<QEvent::Type>(QEvent::registerEventType());
     return type;
-}
-
-/// The controller's region in whole units of the latest grab, upper left origin: the one place
-/// where points of the screen become units of the whole desktop's picture.
-QRect regionInGrab(const AppDelegate &delegate) {
-    const QRectF region = delegate.region.rect_Screen_Region();
-    const PixelRectangle pixels =
-        pixelsOfRegion(region.x(), region.y(), region.width(), region.height(),
-                       delegate.capture.imgScreenCapture().height());
-    return {pixels.left, pixels.top, pixels.width, pixels.height};
 }
 
 bool sameFrame(const FittingFrame &one, const FittingFrame &other) {

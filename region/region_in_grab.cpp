@@ -17,8 +17,9 @@ grab_units::Screen screenOnDesktop(const QScreen &screen) {
 
 QRect regionInGrab(const AppDelegate &delegate) {
     const QRectF region = delegate.region.rect_Screen_Region();
+    const bool halved = !delegate.capture.grabBeforeHalving().isEmpty();
     const grab_units::Units units =
         grab_units::fromPoints({region.x(), region.y(), region.width(), region.height()},
-                               delegate.region.screenOfRegion(), 1.0);
+                               delegate.region.screenOfRegion(), halved ? 0.5 : 1.0);
     return {units.x, units.y, units.width, units.height};
 }

@@ -192,6 +192,46 @@
         <source>Generating the GIF…</source>
         <translation>Creando el GIF…</translation>
     </message>
+    <message id="IDD_STATE_RECORDING">
+        <source>Recording</source>
+        <translation>Grabando</translation>
+    </message>
+    <message id="IDD_STATE_PAUSED">
+        <source>Paused</source>
+        <translation>En pausa</translation>
+    </message>
+    <message id="IDD_RECORDING_FIGURES">
+        <source>%1 · Frames: %2 · Frames per second: %3</source>
+        <translation>%1 · Fotogramas: %2 · Fotogramas por segundo: %3</translation>
+    </message>
+    <message id="IDD_RECORDING_SAVED">
+        <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
+        <translation>La grabación está completa. Fotogramas: %1 · Fotogramas por segundo: %2</translation>
+    </message>
+    <message id="IDD_NOTHING_RECORDED">
+        <source>Nothing was recorded.</source>
+        <translation>No se grabó nada.</translation>
+    </message>
+    <message id="IDD_FRAMES_MISSING">
+        <source>%1 of %2 frames could not be written to %3: %4</source>
+        <translation>No se pudieron escribir %1 de %2 fotogramas en %3: %4</translation>
+    </message>
+    <message id="IDD_MODE_FULL_SCREEN">
+        <source>Full screen</source>
+        <translation>Pantalla completa</translation>
+    </message>
+    <message id="IDD_MODE_REGION">
+        <source>Region %1 × %2 at %3, %4</source>
+        <translation>Región %1 × %2 en %3, %4</translation>
+    </message>
+    <message id="IDD_OK">
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message id="IDD_CANCEL">
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
     <!-- region -->
     <message id="IDD_REGION_OVERLAY">
         <source>Select a region</source>

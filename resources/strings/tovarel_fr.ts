@@ -192,6 +192,46 @@
         <source>Generating the GIF…</source>
         <translation>Création du GIF…</translation>
     </message>
+    <message id="IDD_STATE_RECORDING">
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message id="IDD_STATE_PAUSED">
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message id="IDD_RECORDING_FIGURES">
+        <source>%1 · Frames: %2 · Frames per second: %3</source>
+        <translation>%1 · Images : %2 · Images par seconde : %3</translation>
+    </message>
+    <message id="IDD_RECORDING_SAVED">
+        <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
+        <translation>L’enregistrement est complet. Images : %1 · Images par seconde : %2</translation>
+    </message>
+    <message id="IDD_NOTHING_RECORDED">
+        <source>Nothing was recorded.</source>
+        <translation>Rien n’a été enregistré.</translation>
+    </message>
+    <message id="IDD_FRAMES_MISSING">
+        <source>%1 of %2 frames could not be written to %3: %4</source>
+        <translation>%1 images sur %2 n’ont pas pu être écrites dans %3 : %4</translation>
+    </message>
+    <message id="IDD_MODE_FULL_SCREEN">
+        <source>Full screen</source>
+        <translation>Écran entier</translation>
+    </message>
+    <message id="IDD_MODE_REGION">
+        <source>Region %1 × %2 at %3, %4</source>
+        <translation>Zone %1 × %2 à %3, %4</translation>
+    </message>
+    <message id="IDD_OK">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="IDD_CANCEL">
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
     <!-- region -->
     <message id="IDD_REGION_OVERLAY">
         <source>Select a region</source>

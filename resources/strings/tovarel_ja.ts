@@ -192,6 +192,46 @@
         <source>Generating the GIF…</source>
         <translation>GIF を作成しています…</translation>
     </message>
+    <message id="IDD_STATE_RECORDING">
+        <source>Recording</source>
+        <translation>録画中</translation>
+    </message>
+    <message id="IDD_STATE_PAUSED">
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message id="IDD_RECORDING_FIGURES">
+        <source>%1 · Frames: %2 · Frames per second: %3</source>
+        <translation>%1 · フレーム数: %2 · 1 秒あたりのフレーム数: %3</translation>
+    </message>
+    <message id="IDD_RECORDING_SAVED">
+        <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
+        <translation>録画が完了しました。フレーム数: %1 · 1 秒あたりのフレーム数: %2</translation>
+    </message>
+    <message id="IDD_NOTHING_RECORDED">
+        <source>Nothing was recorded.</source>
+        <translation>何も録画されませんでした。</translation>
+    </message>
+    <message id="IDD_FRAMES_MISSING">
+        <source>%1 of %2 frames could not be written to %3: %4</source>
+        <translation>%2 フレームのうち %1 フレームを %3 に書き込めませんでした: %4</translation>
+    </message>
+    <message id="IDD_MODE_FULL_SCREEN">
+        <source>Full screen</source>
+        <translation>全画面</translation>
+    </message>
+    <message id="IDD_MODE_REGION">
+        <source>Region %1 × %2 at %3, %4</source>
+        <translation>範囲 %1 × %2 (位置 %3, %4)</translation>
+    </message>
+    <message id="IDD_OK">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="IDD_CANCEL">
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
     <!-- region -->
     <message id="IDD_REGION_OVERLAY">
         <source>Select a region</source>

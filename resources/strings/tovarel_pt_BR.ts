@@ -192,6 +192,46 @@
         <source>Generating the GIF…</source>
         <translation>Criando o GIF…</translation>
     </message>
+    <message id="IDD_STATE_RECORDING">
+        <source>Recording</source>
+        <translation>Gravando</translation>
+    </message>
+    <message id="IDD_STATE_PAUSED">
+        <source>Paused</source>
+        <translation>Em pausa</translation>
+    </message>
+    <message id="IDD_RECORDING_FIGURES">
+        <source>%1 · Frames: %2 · Frames per second: %3</source>
+        <translation>%1 · Quadros: %2 · Quadros por segundo: %3</translation>
+    </message>
+    <message id="IDD_RECORDING_SAVED">
+        <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
+        <translation>A gravação está completa. Quadros: %1 · Quadros por segundo: %2</translation>
+    </message>
+    <message id="IDD_NOTHING_RECORDED">
+        <source>Nothing was recorded.</source>
+        <translation>Nada foi gravado.</translation>
+    </message>
+    <message id="IDD_FRAMES_MISSING">
+        <source>%1 of %2 frames could not be written to %3: %4</source>
+        <translation>Não foi possível gravar %1 de %2 quadros em %3: %4</translation>
+    </message>
+    <message id="IDD_MODE_FULL_SCREEN">
+        <source>Full screen</source>
+        <translation>Tela inteira</translation>
+    </message>
+    <message id="IDD_MODE_REGION">
+        <source>Region %1 × %2 at %3, %4</source>
+        <translation>Região %1 × %2 em %3, %4</translation>
+    </message>
+    <message id="IDD_OK">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="IDD_CANCEL">
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
     <!-- region -->
     <message id="IDD_REGION_OVERLAY">
         <source>Select a region</source>
