@@ -17,6 +17,10 @@ namespace {
 
 constexpr int reasonMargin = 24; // points
 
+/// How long after a resize the window system's exposure of it may come, in milliseconds: a resize
+/// that the program asked for makes its way through the window manager first.
+constexpr qint64 resizeToExposure = 200;
+
 /// Stands in the event queue behind the window system's own events, so that a resize and the
 /// exposure that it brings are over when it comes up.
 QEvent::Type redisplayEvent() {
@@ -111,7 +115,8 @@ void View_Record_Preview::paintEvent(QPaintEvent *event) {
 }
 
 void View_Record_Preview::redisplay() {
-    if (redisplayPending_ || !isVisible())
+    // A window that is not on the screen yet will be exposed, which then is the one redisplay.
+    if (redisplayPending_ || !isVisible() || !windowIsExposed())
         return;
     redisplayPending_ = true;
     QCoreApplication::postEvent(this, new QEvent(redisplayEvent()));
@@ -126,8 +131,14 @@ bool View_Record_Preview::event(QEvent *event) {
     return true;
 }
 
+bool View_Record_Preview::windowIsExposed() const {
+    return watchedWindow_ && watchedWindow_->isExposed();
+}
+
 void View_Record_Preview::resizeEvent(QResizeEvent *event) {
     QWidget::resizeEvent(event);
+    if (windowIsExposed())
+        resized_.start();
     redisplay();
 }
 
@@ -143,8 +154,12 @@ void View_Record_Preview::showEvent(QShowEvent *event) {
 
 bool View_Record_Preview::eventFilter(QObject *watched, QEvent *event) {
     // The window system says that part of the window lost its content.
-    if (watched == watchedWindow_ && event->type() == QEvent::Expose && watchedWindow_->isExposed())
-        redisplay();
+    if (watched == watchedWindow_ && event->type() == QEvent::Expose && windowIsExposed()) {
+        const bool ofResize = resized_.isValid() && resized_.elapsed() < resizeToExposure;
+        resized_.invalidate();
+        if (!ofResize)
+            redisplay();
+    }
     return QWidget::eventFilter(watched, event);
 }
 

@@ -5,6 +5,7 @@
 #include "platform/image.h"
 #include "record/fitting.h"
 
+#include <QElapsedTimer>
 #include <QImage>
 #include <QPointer>
 #include <QRectF>
@@ -48,6 +49,7 @@ protected:
 
 private:
     void redisplay();
+    bool windowIsExposed() const;
     Image cutRegion(const Image &grab);
     const QImage &scaledTo(QSize pixels);
 
@@ -65,6 +67,8 @@ private:
     QImage scaled_;
 
     QPointer<QWindow> watchedWindow_;
+    /// Runs from a resize on whose exposure has not come yet.
+    QElapsedTimer resized_;
     bool redisplayPending_ = false;
     QLabel *reason_ = nullptr;
 };

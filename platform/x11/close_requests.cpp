@@ -29,7 +29,8 @@ xcb_atom_t atom(xcb_connection_t *connection, std::string_view name) {
 
 CloseRequests::CloseRequests(Handler handler) : handler_(std::move(handler)) {
     const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11)
+    // Platforms that only borrow from X11 have the interface, but no connection.
+    if (!x11 || !x11->connection())
         return;
     protocols_ = atom(x11->connection(), "WM_PROTOCOLS");
     deleteWindow_ = atom(x11->connection(), "WM_DELETE_WINDOW");

@@ -63,13 +63,10 @@ TEST_F(RecordPreview, storesTheSameFrameOnceMoreForEachRedisplay) {
     EXPECT_EQ(stored(), 1u);
     view().show();
     EXPECT_EQ(stored(), 2u);
-    delegate->shell.window()->hide();
-    delegate->shell.window()->show();
-    EXPECT_EQ(stored(), 3u);
     // A tick that comes before the redisplay makes it superfluous.
     delegate->shell.window()->resize(delegate->shell.window()->size() + QSize(10, 10));
     delegate->TimerRefreshVideoRoutine();
-    EXPECT_EQ(stored(), 4u);
+    EXPECT_EQ(stored(), 3u);
 }
 
 TEST_F(RecordPreview, paintsTheLastFrameFittedOverBlack) {
