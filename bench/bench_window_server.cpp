@@ -1,0 +1,257 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+
+// What a tick of the window server costs, beside one shared-memory fetch of the root window on the
+// same display: processor time of this program and of the display server together, the scene's own
+// cost taken off. One row of the table for each scene; the status is 1 when a picture is wrong or a
+// ratio is above its bar. To be run by bench/run, which gives it a display of its own.
+
+#include "bench/processor_time.h"
+#include "platform/x11/x11_window_server.h"
+#include "tests/system/x_client.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <functional>
+#include <optional>
+#include <string>
+#include <sys/ipc.h>
+#include <sys/shm.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+constexpr int windowCount = 6;
+constexpr int repetitions = 5;
+constexpr int ticks = 60;
+constexpr int warmUpTicks = 10;
+
+enum class Scene : char { Everything = 'e', Rectangle = 'r', Nothing = 'n' };
+
+struct Case {
+    Scene scene;
+    const char *name;
+    double bar; ///< highest ratio
+};
+constexpr std::array cases{Case{Scene::Everything, "everything changing", 4.0},
+                           Case{Scene::Rectangle, "200x100 changing", 1.0},
+                           Case{Scene::Nothing, "nothing changing", 0.1}};
+
+/// Another process with six overlapping windows that together cover the desktop. It draws when it
+/// is told to, so that every measured tick meets exactly one change.
+class ScenePainter {
+public:
+    ScenePainter() {
+        if (pipe(orders_.data()) != 0 || pipe(answers_.data()) != 0)
+            std::abort();
+        process_ = fork();
+        if (process_ == 0) {
+            close(orders_[1]);
+            paint();
+            _exit(0);
+        }
+        close(orders_[0]);
+        char ready = 0;
+        if (read(answers_[0], &ready, 1) != 1)
+            std::abort();
+    }
+
+    ~ScenePainter() {
+        close(orders_[1]);
+        waitpid(process_, nullptr, 0);
+    }
+
+    /// Returns when the scene's change is on the display.
+    void change(Scene scene) {
+        char answer = 0;
+        if (write(orders_[1], &scene, 1) != 1 || read(answers_[0], &answer, 1) != 1)
+            std::abort();
+    }
+
+private:
+    struct Window {
+        xcb_window_t id;
+        xcb_gcontext_t context;
+        std::array<xcb_pixmap_t, 2> looks;
+        QSize size;
+    };
+
+    void paint() {
+        XClient client;
+        std::vector<Window> windows;
+        const QSize desktop = client.desktop().size();
+        const QSize size(desktop.width() * 2 / 5, desktop.height() * 3 / 5);
+        for (int i = 0; i < windowCount; ++i) {
+            const int x = i % 3 * (desktop.width() - size.width()) / 2;
+            const int y = i / 3 * (desktop.height() - size.height());
+            windows.push_back(open(client, QRect(QPoint(x, y), size), i));
+        }
+        client.sync();
+        char order = 0;
+        for (unsigned turn = 0;
+             write(answers_[1], &order, 1) == 1 && read(orders_[0], &order, 1) == 1; ++turn) {
+            if (order == static_cast<char>(Scene::Everything))
+                for (const auto &window : windows)
+                    show(client, window, QRect(QPoint(), window.size), turn);
+            if (order == static_cast<char>(Scene::Rectangle))
+                show(client, windows.back(), {50, 60, 200, 100}, turn);
+            client.sync();
+        }
+    }
+
+    static Window open(XClient &client, const QRect &place, int number) {
+        Window window{.id = client.show({.place = place, .overrideRedirect = true}),
+                      .context = xcb_generate_id(client.get()),
+                      .looks = {},
+                      .size = place.size()};
+        const std::uint32_t noExposures = 0;
+        xcb_create_gc(client.get(), window.context, window.id, XCB_GC_GRAPHICS_EXPOSURES,
+                      &noExposures);
+        for (auto &look : window.looks) {
+            look = xcb_generate_id(client.get());
+            xcb_create_pixmap(client.get(), 24, look, window.id,
+                              static_cast<std::uint16_t>(place.width()),
+                              static_cast<std::uint16_t>(place.height()));
+            client.drawPattern(
+                look, QRect(QPoint(), place.size()),
+                static_cast<std::uint32_t>(number * 2 + (&look - window.looks.data()) + 1));
+        }
+        return window;
+    }
+
+    static void show(XClient &client, const Window &window, const QRect &where, unsigned turn) {
+        const auto x = static_cast<std::int16_t>(where.x());
+        const auto y = static_cast<std::int16_t>(where.y());
+        xcb_copy_area(client.get(), window.looks[turn % 2], window.id, window.context, x, y, x, y,
+                      static_cast<std::uint16_t>(where.width()),
+                      static_cast<std::uint16_t>(where.height()));
+    }
+
+    std::array<int, 2> orders_{}, answers_{};
+    pid_t process_ = 0;
+};
+
+/// The floor: the whole root window into shared memory, once a tick.
+class RootFetch {
+public:
+    RootFetch() : connection_(x11::Connection::open()) {
+        const auto &screen = connection_->screen();
+        const int id =
+            shmget(IPC_PRIVATE, std::size_t{4} * screen.width_in_pixels * screen.height_in_pixels,
+                   IPC_CREAT | 0600);
+        memory_ = shmat(id, nullptr, 0);
+        segment_ = connection_->newId();
+        connection_->succeeded(xcb_shm_attach_checked(connection_->get(), segment_,
+                                                      static_cast<std::uint32_t>(id), 0));
+        shmctl(id, IPC_RMID, nullptr);
+    }
+    ~RootFetch() { shmdt(memory_); }
+
+    void operator()() {
+        const auto &screen = connection_->screen();
+        if (!connection_->reply<xcb_shm_get_image_reply>(xcb_shm_get_image(
+                connection_->get(), connection_->root(), 0, 0, screen.width_in_pixels,
+                screen.height_in_pixels, ~0u, XCB_IMAGE_FORMAT_Z_PIXMAP, segment_, 0)))
+            std::abort();
+    }
+
+private:
+    std::unique_ptr<x11::Connection> connection_;
+    xcb_shm_seg_t segment_ = 0;
+    void *memory_ = nullptr;
+};
+
+/// What the capture does: the list, the grab of all windows in it, the last picture held.
+class Tick {
+public:
+    Tick() {
+        auto obstacle = X11WindowServer::Obstacle::NoDisplay;
+        server_ = X11WindowServer::create({}, obstacle);
+        if (!server_)
+            std::abort();
+    }
+
+    void operator()() {
+        std::vector<std::uint32_t> numbers;
+        for (const auto &window : server_->listWindows())
+            numbers.push_back(window.number);
+        picture = server_->composite(numbers);
+    }
+
+    std::optional<Image> picture;
+
+private:
+    std::unique_ptr<X11WindowServer> server_;
+};
+
+/// Processor time of one tick in milliseconds, the scene's included.
+double cost(ScenePainter &painter, Scene scene, const std::function<void()> &tick) {
+    for (int i = 0; i < warmUpTicks; ++i) {
+        painter.change(scene);
+        tick();
+    }
+    const double before = processorSeconds();
+    for (int i = 0; i < ticks; ++i) {
+        painter.change(scene);
+        tick();
+    }
+    return (processorSeconds() - before) * 1000.0 / ticks;
+}
+
+double median(std::vector<double> values) {
+    std::ranges::sort(values);
+    return values[values.size() / 2];
+}
+
+bool measure(ScenePainter &painter, const Case &c, const std::string &size) {
+    std::vector<double> fetches, grabs;
+    bool right = true;
+    for (int i = 0; i < repetitions; ++i) {
+        const double sceneAlone = cost(painter, c.scene, [] {});
+        {
+            RootFetch fetch;
+            fetches.push_back(cost(painter, c.scene, std::ref(fetch)) - sceneAlone);
+        }
+        Tick tick;
+        grabs.push_back(cost(painter, c.scene, std::ref(tick)) - sceneAlone);
+        if (i == 0) {
+            XClient client;
+            painter.change(c.scene);
+            client.sync();
+            tick();
+            right = tick.picture && tick.picture->toQImage() == client.reference();
+        }
+    }
+    const double ratio = median(grabs) / median(fetches);
+    std::printf("| %-9s | %-19s | %8.3f | %8.3f | %6.2f | %4.2f | %s\n", size.c_str(), c.name,
+                median(fetches), median(grabs), ratio, c.bar,
+                !right          ? "WRONG PIXELS |"
+                : ratio > c.bar ? "TOO SLOW |"
+                                : "ok |");
+    std::fflush(stdout);
+    return right && ratio <= c.bar;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    if (argc > 1 && std::string(argv[1]) == "--header") {
+        std::puts("| desktop   | scene               | fetch ms |  tick ms |  ratio |  bar |    |\n"
+                  "|-----------|---------------------|----------|----------|--------|------|----|");
+        return 0;
+    }
+    ScenePainter painter; // before anything of ours talks to the display: it forks
+    QCoreApplication application(argc, argv);
+    const QSize desktop = XClient().desktop().size();
+    const std::string size =
+        std::to_string(desktop.width()) + "x" + std::to_string(desktop.height());
+    bool good = true;
+    for (const auto &c : cases)
+        good = measure(painter, c, size) && good;
+    return good ? 0 : 1;
+}
