@@ -50,6 +50,8 @@ QImage PixelPool::take(QSize size) {
         memory = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
         if (memory == MAP_FAILED)
             return {};
+        // Where the system admits it, fewer and larger pages to touch.
+        madvise(memory, bytes, MADV_HUGEPAGE);
     }
     auto buffer = std::make_unique<Buffer>(shared_from_this(), memory, bytes);
     return QImage(static_cast<uchar *>(memory), size.width(), size.height(),

@@ -15,20 +15,20 @@ std::uint16_t extent(int pixels) { return static_cast<std::uint16_t>(pixels); }
 
 void Composer::paint(xcb_render_picture_t target, const LayerStack &layers,
                      const QRegion &changed) {
-    paintBlack(target, layers.bare().intersected(changed));
+    fill(target, layers.bare().intersected(changed), XCB_RENDER_PICT_OP_SRC);
     for (std::size_t i = layers.layers().size(); i-- > 0;)
         paintLayer(target, layers.layers()[i], layers.visible(i).intersected(changed));
 }
 
-void Composer::paintBlack(xcb_render_picture_t target, const QRegion &where) {
+void Composer::fill(xcb_render_picture_t target, const QRegion &where, std::uint8_t operation) {
     std::vector<xcb_rectangle_t> rectangles;
     for (const auto &r : where)
         rectangles.push_back(
             {coordinate(r.x()), coordinate(r.y()), extent(r.width()), extent(r.height())});
     if (rectangles.empty())
         return;
-    const xcb_render_color_t black{0, 0, 0, 0xffff};
-    xcb_render_fill_rectangles(connection_.get(), XCB_RENDER_PICT_OP_SRC, target, black,
+    const xcb_render_color_t opaqueBlack{0, 0, 0, 0xffff};
+    xcb_render_fill_rectangles(connection_.get(), operation, target, opaqueBlack,
                                static_cast<std::uint32_t>(rectangles.size()), rectangles.data());
 }
 
@@ -37,7 +37,7 @@ void Composer::paintLayer(xcb_render_picture_t target, const Layer &layer, const
         return;
     const auto source = model_.picture(layer);
     if (source == 0) {
-        paintBlack(target, where);
+        fill(target, where, XCB_RENDER_PICT_OP_SRC);
         return;
     }
     const std::uint8_t operation = layer.blended ? XCB_RENDER_PICT_OP_OVER : XCB_RENDER_PICT_OP_SRC;
@@ -46,6 +46,9 @@ void Composer::paintLayer(xcb_render_picture_t target, const Layer &layer, const
                              coordinate(r.x() - layer.origin.x()),
                              coordinate(r.y() - layer.origin.y()), 0, 0, coordinate(r.x()),
                              coordinate(r.y()), extent(r.width()), extent(r.height()));
+    // Its opacity came along; every pixel of the result is opaque.
+    if (layer.raw)
+        fill(target, where, XCB_RENDER_PICT_OP_ADD);
 }
 
 } // namespace x11

@@ -11,7 +11,7 @@
 namespace x11 {
 
 /// Draws layers into a picture by the render extension, each visible piece once: opaque layers are
-/// copied where they are seen, blended ones laid over what is below them.
+/// copied where they are seen, blended ones laid over what is below them. The result is opaque.
 class Composer {
 public:
     Composer(Connection &connection, DesktopModel &model)
@@ -22,7 +22,7 @@ public:
     void paint(xcb_render_picture_t target, const LayerStack &layers, const QRegion &changed);
 
 private:
-    void paintBlack(xcb_render_picture_t target, const QRegion &where);
+    void fill(xcb_render_picture_t target, const QRegion &where, std::uint8_t operation);
     void paintLayer(xcb_render_picture_t target, const Layer &layer, const QRegion &where);
 
     Connection &connection_;

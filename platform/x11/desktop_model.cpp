@@ -300,7 +300,6 @@ std::vector<Layer> DesktopModel::layers(std::span<const std::uint32_t> numbers) 
             layers.push_back({.window = number,
                               .region = desktop_,
                               .origin = {},
-                              .blended = false,
                               .generation = background_.generation()});
             continue;
         }
@@ -308,10 +307,12 @@ std::vector<Layer> DesktopModel::layers(std::span<const std::uint32_t> numbers) 
         if (!window || !window->mapped || !pictures_.isShowable(number) ||
             !window->outer.intersects(desktop_))
             continue;
+        const bool hasAlpha = pictures_.hasAlpha(number);
         layers.push_back({.window = number,
                           .region = pictures_.region(number, window->outer, window->border),
                           .origin = window->outer.topLeft(),
-                          .blended = compositingManager_ && pictures_.hasAlpha(number),
+                          .blended = compositingManager_ && hasAlpha,
+                          .raw = !compositingManager_ && hasAlpha,
                           .generation = pictures_.generation(number)});
     }
     return layers;

@@ -21,6 +21,8 @@ struct Layer {
     QPoint origin;
     /// Whether what lies below may shine through.
     bool blended = false;
+    /// Whether its picture has an opacity that is not to be looked at.
+    bool raw = false;
     /// Another number whenever the window shows through another picture (mapped anew, resized).
     std::uint64_t generation = 0;
 

@@ -23,9 +23,10 @@ bool hasWordsOfOurOrder(const xcb_setup_t &setup) {
 bool isTarget(const xcb_render_pictforminfo_t &format) {
     const auto &direct = format.direct;
     return format.type == XCB_RENDER_PICT_TYPE_DIRECT &&
-           format.depth == PictureFormats::targetDepth && direct.alpha_mask == 0 &&
-           direct.red_mask == 0xff && direct.red_shift == 16 && direct.green_mask == 0xff &&
-           direct.green_shift == 8 && direct.blue_mask == 0xff && direct.blue_shift == 0;
+           format.depth == PictureFormats::targetDepth && direct.alpha_mask == 0xff &&
+           direct.alpha_shift == 24 && direct.red_mask == 0xff && direct.red_shift == 16 &&
+           direct.green_mask == 0xff && direct.green_shift == 8 && direct.blue_mask == 0xff &&
+           direct.blue_shift == 0;
 }
 
 } // namespace

@@ -11,7 +11,7 @@
 namespace x11 {
 
 /// How the server's pixels are to be read: the render format of each visual, and the one format
-/// that we compose in, whatever the root window's own depth is: 24 bits, a byte for each of red,
+/// that we compose in, whatever the root window's own depth is: a byte for each of opacity, red,
 /// green and blue in a word of 32 bits, in this machine's byte order.
 class PictureFormats {
 public:
@@ -21,7 +21,7 @@ public:
     };
 
     /// Depth of the pictures that we compose.
-    static constexpr std::uint8_t targetDepth = 24;
+    static constexpr std::uint8_t targetDepth = 32;
 
     explicit PictureFormats(Connection &connection);
 

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/shared_picture.h"
 
-#include <algorithm>
+#include <atomic>
 #include <cstring>
 #include <sys/ipc.h>
+#include <sys/mman.h>
 #include <sys/shm.h>
+#include <utility>
 
 namespace x11 {
 
@@ -30,7 +32,42 @@ std::size_t area(const QRect &rect) {
     return static_cast<std::size_t>(rect.width()) * static_cast<std::size_t>(rect.height());
 }
 
+std::size_t area(QSize size) { return area(QRect(QPoint(), size)); }
+
 } // namespace
+
+/// A segment of shared memory, as seen from here. Goes away with its last user, however that one
+/// ends.
+class SharedPicture::Memory {
+public:
+    explicit Memory(std::size_t bytes) : id_(shmget(IPC_PRIVATE, bytes, IPC_CREAT | 0600)) {
+        if (id_ < 0)
+            return;
+        address_ = shmat(id_, nullptr, 0);
+        // Where the system admits it, fewer and larger pages.
+        if (isMapped())
+            madvise(address_, bytes, MADV_HUGEPAGE);
+    }
+    ~Memory() {
+        release();
+        if (isMapped())
+            shmdt(address_);
+    }
+    Memory(const Memory &) = delete;
+    Memory &operator=(const Memory &) = delete;
+
+    bool isMapped() const { return address_ != failed(); }
+    std::uint32_t id() const { return static_cast<std::uint32_t>(id_); }
+    const std::uint32_t *words() const { return static_cast<const std::uint32_t *>(address_); }
+    /// Once the server has it too, nobody else needs to find it.
+    void release() const { shmctl(id_, IPC_RMID, nullptr); }
+
+private:
+    static void *failed() { return reinterpret_cast<void *>(-1); }
+
+    int id_;
+    void *address_ = failed();
+};
 
 std::unique_ptr<SharedPicture> SharedPicture::create(Connection &connection,
                                                      const PictureFormats &formats, QSize size,
@@ -60,33 +97,22 @@ SharedPicture::~SharedPicture() {
         xcb_free_pixmap(connection_.get(), pixmap_);
     if (segment_ != 0)
         xcb_shm_detach(connection_.get(), segment_);
-    if (memory_)
-        shmdt(memory_);
-}
-
-std::size_t SharedPicture::byteCount() const {
-    return area(QRect(QPoint(), size_)) * sizeof(std::uint32_t);
 }
 
 // A server on another machine has the extension too, and refuses only when it is to attach.
 bool SharedPicture::attachMemory() {
     if (!connection_.extensions().sharedMemory)
         return false;
-    const int id = shmget(IPC_PRIVATE, byteCount(), IPC_CREAT | 0600);
-    if (id < 0)
+    auto memory = std::make_shared<const Memory>(area(size_) * sizeof(std::uint32_t));
+    if (!memory->isMapped())
         return false;
-    void *memory = shmat(id, nullptr, 0);
     const auto segment = connection_.newId();
-    const bool attached = memory != reinterpret_cast<void *>(-1) &&
-                          connection_.succeeded(xcb_shm_attach_checked(
-                              connection_.get(), segment, static_cast<std::uint32_t>(id), 0));
-    // Goes away with its last user, however that one ends.
-    shmctl(id, IPC_RMID, nullptr);
-    if (memory == reinterpret_cast<void *>(-1))
+    if (!connection_.succeeded(xcb_shm_attach_checked(connection_.get(), segment, memory->id(), 0)))
         return false;
-    memory_ = memory;
-    segment_ = attached ? segment : 0;
-    return attached;
+    memory->release();
+    memory_ = std::move(memory);
+    segment_ = segment;
+    return true;
 }
 
 bool SharedPicture::makePixmap(PixelRoad road) {
@@ -102,15 +128,31 @@ bool SharedPicture::makePixmap(PixelRoad road) {
     if (!connection_.succeeded(cookie))
         return false;
     if (road != PixelRoad::SharedPixmap)
-        fetched_.resize(area(QRect(QPoint(), size_)));
+        fetched_.resize(area(size_));
     pixmap_ = pixmap;
     road_ = road;
     return true;
 }
 
 const std::uint32_t *SharedPicture::pixels() const {
-    return road_ == PixelRoad::SharedPixmap ? static_cast<const std::uint32_t *>(memory_)
-                                            : fetched_.data();
+    return road_ == PixelRoad::SharedPixmap ? memory_->words() : fetched_.data();
+}
+
+QImage SharedPicture::view() const {
+    const auto release = [](void *holder) {
+        delete static_cast<std::shared_ptr<const Memory> *>(holder);
+    };
+    auto holder = std::make_unique<std::shared_ptr<const Memory>>(memory_);
+    return QImage(reinterpret_cast<const uchar *>(pixels()), size_.width(), size_.height(),
+                  qsizetype{4} * size_.width(), QImage::Format_RGB32, release, holder.release());
+}
+
+bool SharedPicture::isHeld() const {
+    if (memory_.use_count() > 1)
+        return true;
+    // Whoever held it on another thread has read all that it wanted to.
+    std::atomic_thread_fence(std::memory_order_acquire);
+    return false;
 }
 
 bool SharedPicture::update(const QRegion &changed) {
@@ -139,7 +181,7 @@ bool SharedPicture::fetchShared(const QRegion &changed) {
     }
     bool complete = true;
     auto cookie = cookies.begin();
-    const auto *source = static_cast<const std::uint32_t *>(memory_);
+    const auto *source = memory_->words();
     for (const auto &rect : changed) {
         if (connection_.reply<xcb_shm_get_image_reply>(*cookie++))
             store(rect, source);

@@ -8,6 +8,7 @@
 #include <xcb/render.h>
 #include <xcb/shm.h>
 
+#include <QImage>
 #include <QRegion>
 #include <QSize>
 
@@ -43,18 +44,25 @@ public:
     bool update(const QRegion &changed);
 
     /// The pixels as of the last `update`, row by row without gaps: 32 bits each, blue in the
-    /// lowest byte, the highest byte undefined. Ours, and written to by the server at any time
-    /// after the next drawing.
+    /// lowest byte, the highest one full (opaque). Ours.
     const std::uint32_t *pixels() const;
 
+    /// The same as a picture that shares the memory with the server, and holds it however long it
+    /// lives and on whatever thread it ends. Only for shared pixmaps, and nothing may be drawn
+    /// while it is held.
+    QImage view() const;
+    /// Whether some view still lives.
+    bool isHeld() const;
+
 private:
+    class Memory;
+
     SharedPicture(Connection &connection, QSize size);
     bool attachMemory();
     bool makePixmap(PixelRoad road);
     bool fetchShared(const QRegion &changed);
     bool fetchPlain(const QRegion &changed);
     void store(const QRect &place, const std::uint32_t *source);
-    std::size_t byteCount() const;
 
     Connection &connection_;
     std::unique_ptr<Connection> fetching_; // see fetchPlain
@@ -63,7 +71,7 @@ private:
     xcb_pixmap_t pixmap_ = 0;
     xcb_render_picture_t picture_ = 0;
     xcb_shm_seg_t segment_ = 0;
-    void *memory_ = nullptr;             // the segment, seen from here
+    std::shared_ptr<const Memory> memory_;
     std::vector<std::uint32_t> fetched_; // what the fetching roads have brought over so far
 };
 

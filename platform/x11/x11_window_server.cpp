@@ -9,8 +9,6 @@
 #include <chrono>
 #include <utility>
 
-using x11::PixelRoad;
-
 namespace {
 
 // How often events are taken in while nobody grabs, at most.
@@ -18,8 +16,6 @@ constexpr std::chrono::milliseconds idlePause{500};
 
 // A grab is repeated when windows vanished in its midst, but not for ever on a restless desktop.
 constexpr int mostAttempts = 3;
-
-constexpr std::uint32_t opaque = 0xff000000;
 
 } // namespace
 
@@ -48,9 +44,10 @@ std::unique_ptr<X11WindowServer> X11WindowServer::create(const Options &options,
     return server;
 }
 
-X11WindowServer::X11WindowServer(std::unique_ptr<x11::Connection> connection, PixelRoad bestRoad)
-    : connection_(std::move(connection)), bestRoad_(bestRoad), model_(*connection_),
-      composer_(*connection_, model_) {
+X11WindowServer::X11WindowServer(std::unique_ptr<x11::Connection> connection,
+                                 x11::PixelRoad bestRoad)
+    : connection_(std::move(connection)), model_(*connection_), composer_(*connection_, model_),
+      ring_(*connection_, model_.formats(), bestRoad) {
     watchWhileIdle();
 }
 
@@ -95,45 +92,42 @@ std::optional<Image> X11WindowServer::composite(std::span<const std::uint32_t> n
         return picture_;
 
     numbers_.assign(numbers.begin(), numbers.end());
-    bool drawn = !picture_;
-    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
-        if (!prepareTarget())
-            return giveUp();
-        const QRegion changed = findChanges();
-        if (changed.isEmpty())
-            break;
-        drawn = true;
-        composer_.paint(target_->picture(), layers_, changed);
-        if (!target_->update(changed))
-            return giveUp();
-        model_.drain();
-        if (!model_.takeFailures())
-            break;
-    }
-    if (drawn)
-        picture_ = copyOut();
+    const QRegion changed = findChanges();
+    if (changed.isEmpty() && picture_)
+        return picture_;
+    // Not held by us any more, it may be the one to be drawn on.
+    picture_.reset();
+    ring_.resize(model_.desktop().size());
+    ring_.invalidate(changed);
+    x11::PictureRing::Turn *turn = ring_.next();
+    if (!turn || !draw(*turn))
+        return giveUp();
+    picture_ = ring_.handOut(*turn);
     return picture_;
 }
 
-// What was taken for drawn may not be: the next grab starts afresh.
+// Again when windows vanished in its midst; what changes besides is left to the next grab.
+bool X11WindowServer::draw(x11::PictureRing::Turn &turn) {
+    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+        composer_.paint(turn.picture->picture(), layers_, turn.stale);
+        if (!turn.picture->update(turn.stale))
+            return false;
+        turn.stale = QRegion();
+        model_.drain();
+        if (!model_.takeFailures() || model_.desktop() != layers_.desktop())
+            break;
+        ring_.invalidate(findChanges());
+    }
+    // Not all of it could be drawn: the next grab starts afresh.
+    if (!turn.stale.isEmpty())
+        layers_ = {};
+    return true;
+}
+
 std::optional<Image> X11WindowServer::giveUp() {
     layers_ = {};
-    picture_.reset();
+    ring_.clear();
     return {};
-}
-
-std::optional<PixelRoad> X11WindowServer::road() const {
-    return target_ ? std::optional(target_->road()) : std::nullopt;
-}
-
-bool X11WindowServer::prepareTarget() {
-    const QSize size = model_.desktop().size();
-    if (target_ && target_->size() == size)
-        return true;
-    target_.reset();
-    layers_ = {};
-    target_ = x11::SharedPicture::create(*connection_, model_.formats(), size, bestRoad_);
-    return target_ != nullptr;
 }
 
 QRegion X11WindowServer::findChanges() {
@@ -145,18 +139,4 @@ QRegion X11WindowServer::findChanges() {
         layers_ = std::move(after);
     }
     return changed + model_.takeDamage(layers_);
-}
-
-std::optional<Image> X11WindowServer::copyOut() const {
-    const QSize size = target_->size();
-    QImage copy = pool_->take(size);
-    if (copy.isNull())
-        return {};
-    const auto count =
-        static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height());
-    const std::uint32_t *source = target_->pixels();
-    auto *pixels = reinterpret_cast<std::uint32_t *>(copy.bits());
-    for (std::size_t i = 0; i < count; ++i)
-        pixels[i] = source[i] | opaque;
-    return Image::fromQImage(std::move(copy));
 }

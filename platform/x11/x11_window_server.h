@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/pixel_pool.h"
 #include "platform/window_server.h"
 #include "platform/x11/composer.h"
 #include "platform/x11/connection.h"
 #include "platform/x11/desktop_model.h"
-#include "platform/x11/shared_picture.h"
+#include "platform/x11/picture_ring.h"
 
 #include <QObject>
 #include <QTimer>
@@ -29,9 +28,9 @@ class QSocketNotifier;
 /// A window opts out of sharing by the property `_TOVAREL_SHARING` on the client window: type
 /// CARDINAL, format 32, one value, 0 = it may not be shared. Any other value, or none, shares it.
 ///
-/// It talks to the server over a connection of its own. What is grabbed is kept in one picture on
-/// which only what changed is drawn anew, so that the cost of a grab follows what changed; a grab
-/// of a desktop on which nothing changed sends nothing.
+/// It talks to the server over a connection of its own. What was grabbed before is drawn anew only
+/// where it changed, so that the cost of a grab follows what changed; a grab of a desktop on which
+/// nothing changed sends nothing.
 class X11WindowServer : public WindowServer {
 public:
     /// Why an X11 display cannot be recorded.
@@ -57,23 +56,20 @@ public:
     std::optional<Image> composite(std::span<const std::uint32_t> numbers) override;
 
     /// How pixels come over; none before the first composite.
-    std::optional<x11::PixelRoad> road() const;
+    std::optional<x11::PixelRoad> road() const { return ring_.road(); }
 
 private:
     X11WindowServer(std::unique_ptr<x11::Connection> connection, x11::PixelRoad bestRoad);
 
-    bool prepareTarget();
+    bool draw(x11::PictureRing::Turn &turn);
     QRegion findChanges();
     std::optional<Image> giveUp();
-    std::optional<Image> copyOut() const;
     void watchWhileIdle();
 
     std::unique_ptr<x11::Connection> connection_;
-    x11::PixelRoad bestRoad_;
     x11::DesktopModel model_;
     x11::Composer composer_;
-    std::unique_ptr<x11::SharedPicture> target_;
-    std::shared_ptr<PixelPool> pool_ = PixelPool::create();
+    x11::PictureRing ring_;
 
     std::vector<std::uint32_t> numbers_; // what `picture_` shows
     x11::LayerStack layers_;

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "platform/x11/picture_ring.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace x11 {
+
+namespace {
+
+// What piles up in a picture that waits for its turn is kept simple rather than exact.
+constexpr int mostRectangles = 64;
+
+QImage copyOf(const SharedPicture &picture, PixelPool &pool) {
+    QImage copy = pool.take(picture.size());
+    if (!copy.isNull())
+        std::memcpy(copy.bits(), picture.pixels(), static_cast<std::size_t>(copy.sizeInBytes()));
+    return copy;
+}
+
+} // namespace
+
+PictureRing::PictureRing(Connection &connection, const PictureFormats &formats, PixelRoad bestRoad)
+    : connection_(connection), formats_(formats), bestRoad_(bestRoad) {
+    shared_.reserve(mostShared);
+}
+
+void PictureRing::clear() {
+    shared_.clear();
+    reserve_ = {};
+}
+
+void PictureRing::resize(QSize size) {
+    if (size == size_)
+        return;
+    clear();
+    size_ = size;
+}
+
+void PictureRing::invalidate(const QRegion &changed) {
+    const auto add = [&changed](Turn &turn) {
+        turn.stale += changed;
+        if (turn.stale.rectCount() > mostRectangles)
+            turn.stale = turn.stale.boundingRect();
+    };
+    std::ranges::for_each(shared_, add);
+    add(reserve_);
+}
+
+PictureRing::Turn PictureRing::make(PixelRoad best) {
+    auto picture = SharedPicture::create(connection_, formats_, size_, best);
+    if (picture)
+        road_ = picture->road();
+    return {std::move(picture), QRect(QPoint(), size_)};
+}
+
+PictureRing::Turn *PictureRing::next() {
+    const bool mayShare = bestRoad_ == PixelRoad::SharedPixmap &&
+                          road_.value_or(PixelRoad::SharedPixmap) == PixelRoad::SharedPixmap;
+    if (mayShare) {
+        const auto free =
+            std::ranges::find_if(shared_, [](const auto &turn) { return !turn.picture->isHeld(); });
+        if (free != shared_.end()) {
+            reserve_ = {};
+            return &*free;
+        }
+        if (shared_.size() < mostShared)
+            if (Turn turn = make(bestRoad_); turn.picture) {
+                if (turn.picture->road() == PixelRoad::SharedPixmap)
+                    return &shared_.emplace_back(std::move(turn));
+                reserve_ = std::move(turn);
+            }
+    }
+    if (!reserve_.picture)
+        reserve_ = make(bestRoad_);
+    return reserve_.picture ? &reserve_ : nullptr;
+}
+
+std::optional<Image> PictureRing::handOut(Turn &turn) {
+    QImage pixels = &turn == &reserve_ ? copyOf(*turn.picture, *pool_) : turn.picture->view();
+    if (pixels.isNull())
+        return {};
+    return Image::fromQImage(std::move(pixels));
+}
+
+} // namespace x11
