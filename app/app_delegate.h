@@ -193,8 +193,12 @@ public:
     void OnCutPause(QObject *sender);
     void OnCutStop(QObject *sender);
     void TimerRefreshPlayRoutine();
+    /// Pauses what plays, plays what does not, if there is something to play.
+    void togglePlayback();
     /// Works out `uFirstFrame` and `uLastFrame` from the handles' percentages.
     void updateTrimmedRange();
+    /// Says under the preview what an export would hold; nothing without a recording.
+    void showTrimmedRange(bool recordingExists);
 
     // GIF options (export/) -------------------------------------------------------------------
 

@@ -49,6 +49,7 @@ void AppDelegate::awakeFromNib() {
     applyIcons();
     connectShellControls();
     connectRecordControls();
+    connectTrimControls();
 }
 
 void AppDelegate::connectShellControls() {

@@ -290,6 +290,34 @@
         <translation>&amp;OK</translation>
     </message>
     <!-- trim -->
+    <message id="IDD_HANDLE_FIRST">
+        <source>First frame</source>
+        <translation>Erstes Bild</translation>
+    </message>
+    <message id="IDD_HANDLE_LAST">
+        <source>Last frame</source>
+        <translation>Letztes Bild</translation>
+    </message>
+    <message id="IDD_RANGE_HOLDS">
+        <source>Frames %1 to %2: %3 frames, %4 s</source>
+        <translation>Bilder %1 bis %2: %3 Bilder, %4 s</translation>
+    </message>
+    <message id="IDD_RANGE_ONE">
+        <source>Frame %1 only, %2 s</source>
+        <translation>Nur Bild %1, %2 s</translation>
+    </message>
+    <message id="IDD_CUT_PREVIEW">
+        <source>Frame preview</source>
+        <translation>Bildvorschau</translation>
+    </message>
+    <message id="IDD_CUT_RANGE">
+        <source>Part of the recording to keep</source>
+        <translation>Abschnitt der Aufnahme, der bleibt</translation>
+    </message>
+    <message id="IDD_RANGE_EMPTY">
+        <source>No frame in this range</source>
+        <translation>Kein Bild in diesem Abschnitt</translation>
+    </message>
     <!-- export -->
 </context>
 </TS>

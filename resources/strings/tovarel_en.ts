@@ -290,6 +290,34 @@
         <translation>&amp;OK</translation>
     </message>
     <!-- trim -->
+    <message id="IDD_HANDLE_FIRST">
+        <source>First frame</source>
+        <translation>First frame</translation>
+    </message>
+    <message id="IDD_HANDLE_LAST">
+        <source>Last frame</source>
+        <translation>Last frame</translation>
+    </message>
+    <message id="IDD_RANGE_HOLDS">
+        <source>Frames %1 to %2: %3 frames, %4 s</source>
+        <translation>Frames %1 to %2: %3 frames, %4 s</translation>
+    </message>
+    <message id="IDD_RANGE_ONE">
+        <source>Frame %1 only, %2 s</source>
+        <translation>Frame %1 only, %2 s</translation>
+    </message>
+    <message id="IDD_CUT_PREVIEW">
+        <source>Frame preview</source>
+        <translation>Frame preview</translation>
+    </message>
+    <message id="IDD_CUT_RANGE">
+        <source>Part of the recording to keep</source>
+        <translation>Part of the recording to keep</translation>
+    </message>
+    <message id="IDD_RANGE_EMPTY">
+        <source>No frame in this range</source>
+        <translation>No frame in this range</translation>
+    </message>
     <!-- export -->
 </context>
 </TS>

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "trim/range_rules.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using namespace range_rules;
+
+TEST(RangeRules, handlesStandInsideTheirPercentagesAndTheBandFillsWhatIsLeft) {
+    const Handles whole{0.0f, 100.0f};
+    EXPECT_EQ(lowerHandle(whole.menor, 600).x, 0.0);
+    EXPECT_EQ(upperHandle(whole.maior, 600).x, 595.0);
+    EXPECT_EQ(bandBetween(whole, 600).x, 5.0);
+    EXPECT_EQ(bandBetween(whole, 600).width, 590.0);
+    // Places are single precision: a third of 1000 points is the float next to it.
+    EXPECT_EQ(lowerHandle(33.333332f, 1000).x, static_cast<double>(333.33332f));
+    EXPECT_LT(bandBetween({50.0f, 50.5f}, 600).width, 0.0);
+}
+
+TEST(RangeRules, aHandleContainsItsLeftEndAndNotItsRightOne) {
+    const Stretch handle{10.0, 5.0};
+    EXPECT_TRUE(contains(handle, 10.0));
+    EXPECT_TRUE(contains(handle, 14.999));
+    EXPECT_FALSE(contains(handle, 15.0));
+    EXPECT_FALSE(contains(handle, 9.999));
+}
+
+TEST(RangeRules, aDragFollowsThePointerInsideThePreviewOnly) {
+    const Handles handles{10.0f, 90.0f};
+    EXPECT_EQ(dragged(handles, Handle::Menor, 150, 600)->menor, 25.0f);
+    EXPECT_EQ(dragged(handles, Handle::Maior, 450, 600)->maior, 75.0f);
+    for (const double x : {0.0, -1.0, 600.0, 700.0, std::numeric_limits<double>::quiet_NaN()})
+        EXPECT_FALSE(dragged(handles, Handle::Menor, x, 600)) << x;
+    EXPECT_FALSE(dragged(handles, Handle::Menor, 1, 0));
+}
+
+TEST(RangeRules, passingHandlesAreSwappedAtEachStepAndTheFurthestPointStays) {
+    Handles handles{20.0f, 50.0f};
+    const auto drag = [&handles](double x) { handles = *dragged(handles, Handle::Menor, x, 100); };
+    drag(60);
+    EXPECT_EQ(handles.menor, 50.0f);
+    EXPECT_EQ(handles.maior, 60.0f);
+    drag(70);
+    EXPECT_EQ(handles.menor, 60.0f);
+    EXPECT_EQ(handles.maior, 70.0f);
+    drag(65);
+    EXPECT_EQ(handles.menor, 65.0f);
+    EXPECT_EQ(handles.maior, 70.0f);
+    const Handles upperBelow = *dragged({20.0f, 50.0f}, Handle::Maior, 10, 100);
+    EXPECT_EQ(upperBelow.menor, 10.0f);
+    EXPECT_EQ(upperBelow.maior, 20.0f);
+}
+
+TEST(RangeRules, percentagesMapToCeilingsOfSinglePrecisionProducts) {
+    const struct {
+        float percent;
+        std::uint64_t frames;
+        std::uint64_t frame;
+    } cases[] = {{0.0f, 10, 0},   {100.0f, 10, 10}, {21.0f, 10, 3},       {29.0f, 10, 3},
+                 {90.1f, 10, 10}, {0.001f, 10, 1},  {33.333332f, 3, 1},   {50.0f, 0, 0},
+                 {7.0f, 100, 7},  {14.0f, 50, 7},   {28.999999f, 100, 29}};
+    for (const auto &c : cases)
+        EXPECT_EQ(frameAt(c.percent, c.frames), c.frame) << c.percent << " of " << c.frames;
+}
+
+TEST(RangeRules, everyFrameNumberHasAPercentageThatLeadsBackToIt) {
+    for (const std::uint64_t frames : {1u, 2u, 3u, 7u, 100u, 999u, 72'000u, 200'000u}) {
+        const std::uint64_t step = frames < 10'000 ? 1 : 97;
+        for (std::uint64_t frame = 0; frame <= frames; frame += step)
+            ASSERT_EQ(frameAt(percentFor(frame, frames), frames), frame) << "of " << frames;
+    }
+    EXPECT_EQ(percentFor(10, 10), 100.0f);
+    EXPECT_EQ(percentFor(0, 10), 0.0f);
+}
+
+TEST(RangeRules, thePlayheadStandsAtAWholePercentageAndAtTheLeftOfAnEmptyRange) {
+    EXPECT_EQ(playhead(5, 0, 10, 640).x, 320.0);
+    EXPECT_EQ(playhead(1, 0, 3, 600).x, 198.0); // 33 percent, the third is cut off
+    EXPECT_EQ(playhead(7, 7, 7, 600).x, 0.0);
+}
+
+TEST(RangeRules, whatIsShownAndExportedExists) {
+    EXPECT_EQ(existingFrame(3, 10), 3u);
+    EXPECT_EQ(existingFrame(10, 10), 9u);
+    EXPECT_FALSE(existingFrame(0, 0));
+    const auto whole = heldByExport(0, 10, 10);
+    ASSERT_TRUE(whole);
+    EXPECT_EQ(whole->first, 0u);
+    EXPECT_EQ(whole->last, 9u);
+    EXPECT_EQ(whole->count(), 10u);
+    EXPECT_EQ(heldByExport(3, 3, 10)->count(), 1u);
+    EXPECT_FALSE(heldByExport(10, 10, 10));
+    EXPECT_FALSE(heldByExport(0, 0, 0));
+}

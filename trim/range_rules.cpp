@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "trim/range_rules.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace range_rules {
+
+namespace {
+
+// Handles and playhead are placed in double precision and then rounded to single precision, so that
+// every part of the strip meets the next one at the same number.
+float placeOf(double percent, double stripWidth) {
+    return static_cast<float>(percent * stripWidth / 100.0);
+}
+
+constexpr float handleWidthSingle = static_cast<float>(handleWidth);
+
+} // namespace
+
+Stretch lowerHandle(float percent, double stripWidth) {
+    return {placeOf(percent, stripWidth), handleWidth};
+}
+
+Stretch upperHandle(float percent, double stripWidth) {
+    return {placeOf(percent, stripWidth) - handleWidthSingle, handleWidth};
+}
+
+Stretch bandBetween(Handles handles, double stripWidth) {
+    const float left = placeOf(handles.menor, stripWidth) + handleWidthSingle;
+    const float right = placeOf(handles.maior, stripWidth) - handleWidthSingle;
+    return {left, right - left};
+}
+
+bool contains(Stretch stretch, double x) { return stretch.x <= x && x < stretch.x + stretch.width; }
+
+std::optional<Handles> dragged(Handles handles, Handle handle, double x, double previewWidth) {
+    // Written so that a pointer or a width that is no number moves nothing.
+    if (!(x > 0.0 && x < previewWidth))
+        return {};
+    return with(handles, handle, static_cast<float>(x * 100.0 / previewWidth));
+}
+
+Handles with(Handles handles, Handle handle, float percent) {
+    (handle == Handle::Menor ? handles.menor : handles.maior) = percent;
+    if (handles.menor > handles.maior)
+        std::swap(handles.menor, handles.maior);
+    return handles;
+}
+
+std::uint64_t frameAt(float percent, std::uint64_t frames) {
+    const float count = static_cast<float>(frames);
+    return static_cast<std::uint64_t>(std::ceil(percent * count / 100.0f));
+}
+
+float percentFor(std::uint64_t frame, std::uint64_t frames) {
+    if (frame == 0 || frames == 0)
+        return 0.0f;
+    if (frame >= frames)
+        return 100.0f;
+    return static_cast<float>((static_cast<double>(frame) - 0.5) * 100.0 /
+                              static_cast<double>(frames));
+}
+
+Stretch playhead(std::uint64_t current, std::uint64_t first, std::uint64_t last,
+                 double stripWidth) {
+    const std::uint64_t percent = last == first ? 0 : (current - first) * 100 / (last - first);
+    return {placeOf(static_cast<double>(percent), stripWidth), handleWidth};
+}
+
+std::optional<std::uint64_t> existingFrame(std::uint64_t frame, std::uint64_t frames) {
+    if (frames == 0)
+        return {};
+    return std::min(frame, frames - 1);
+}
+
+std::optional<Held> heldByExport(std::uint64_t first, std::uint64_t last, std::uint64_t frames) {
+    if (first >= frames || last < first)
+        return {};
+    return Held{first, std::min(last, frames - 1)};
+}
+
+} // namespace range_rules

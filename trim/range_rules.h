@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+/// The arithmetic of the trim editor: where the handles stand, which frames lie between them, where
+/// the playhead is drawn. Percentages are of the recording, in single precision; x and widths are
+/// points from the strip's left end. No drawing and no state.
+namespace range_rules {
+
+/// The two handles' percentages, `menor` (lower) and `maior` (upper).
+struct Handles {
+    float menor = 0.0f;
+    float maior = 100.0f;
+};
+
+/// Which of the two.
+enum class Handle { Menor, Maior };
+
+/// A horizontal stretch: x of its left end, and its width.
+struct Stretch {
+    double x = 0.0;
+    double width = 0.0;
+};
+
+/// Width of a handle and of the playhead, in points.
+inline constexpr double handleWidth = 5.0;
+
+/// The lower handle stands right of its percentage, the upper one left of it.
+Stretch lowerHandle(float percent, double stripWidth);
+Stretch upperHandle(float percent, double stripWidth);
+
+/// The band between the handles; its width is negative where they overlap.
+Stretch bandBetween(Handles handles, double stripWidth);
+
+/// Whether the stretch contains x; its right end lies outside.
+bool contains(Stretch stretch, double x);
+
+/// One step of a drag: `handle` follows the pointer at x, in a preview of `previewWidth`. None when
+/// the pointer is at or beyond an end: the handle keeps its last place. When the lower one passes
+/// the upper one the two values are swapped.
+std::optional<Handles> dragged(Handles handles, Handle handle, double x, double previewWidth);
+
+/// Sets one handle's percentage, and swaps the two when they are out of order.
+Handles with(Handles handles, Handle handle, float percent);
+
+/// The frame number that a percentage maps to in a recording of `frames` frames: 0 to `frames`.
+std::uint64_t frameAt(float percent, std::uint64_t frames);
+
+/// A percentage that maps to the frame number `frame` (0 to `frames`) and stays clear of its
+/// neighbours: halfway between two frames, since frame numbers are ceilings of rounded numbers.
+float percentFor(std::uint64_t frame, std::uint64_t frames);
+
+/// The playhead at `current` in the range from `first` to `last`. An empty range has it at the left
+/// end.
+Stretch playhead(std::uint64_t current, std::uint64_t first, std::uint64_t last, double stripWidth);
+
+/// The frame that is shown for the number `frame`: the last one of the recording where there is no
+/// such frame. None in a recording without frames.
+std::optional<std::uint64_t> existingFrame(std::uint64_t frame, std::uint64_t frames);
+
+/// What an export of the range holds: its first and last existing frame, both included.
+struct Held {
+    std::uint64_t first = 0;
+    std::uint64_t last = 0;
+    std::uint64_t count() const { return last - first + 1; }
+};
+
+/// None when no frame of the range exists.
+std::optional<Held> heldByExport(std::uint64_t first, std::uint64_t last, std::uint64_t frames);
+
+} // namespace range_rules

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "trim/view_cut_preview.h"
+
+#include "app/app_delegate.h"
+#include "trim/range_rules.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <cmath>
+
+namespace {
+
+constexpr int noVideoSize = 46; // points of the screen, which the toolkit calls pixels
+
+} // namespace
+
+View_Cut_Preview::View_Cut_Preview(QWidget *parent) : QWidget(parent) {
+    // Every pixel is painted by the view itself: nothing beneath needs to be.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::ClickFocus);
+}
+
+void View_Cut_Preview::paintEvent(QPaintEvent *event) {
+    QPainter painter(this);
+    painter.fillRect(event->rect(), Qt::black);
+    AppDelegate *delegate = appDelegate();
+    if (!delegate)
+        return;
+    const bool exists = delegate->firstFrameFileExists();
+    if (exists)
+        delegate->updateTrimmedRange();
+    delegate->showTrimmedRange(exists);
+    if (exists)
+        drawFrame(painter);
+    else
+        drawNoVideo(painter);
+}
+
+void View_Cut_Preview::drawNoVideo(QPainter &painter) const {
+    const QString text = QStringLiteral("No Video");
+    QFont font(QStringLiteral("Verdana"));
+    font.setPixelSize(noVideoSize);
+    const QFontMetricsF metrics(font);
+    const double textWidth = metrics.horizontalAdvance(text);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    // The text's box is centred; its baseline lies above the box's lower edge.
+    painter.drawText(QPointF(width() / 2.0 - textWidth / 2.0,
+                             height() / 2.0 + metrics.height() / 2.0 - metrics.descent()),
+                     text);
+}
+
+void View_Cut_Preview::drawFrame(QPainter &painter) {
+    AppDelegate &delegate = *appDelegate();
+    const auto &frames = delegate.recording.array_Images;
+    const bool stopped = delegate.trim.m_PlayStatus() == PLAY_STATUS_STOP;
+    const auto number = range_rules::existingFrame(stopped ? delegate.trim.uFirstFrame()
+                                                           : delegate.trim.uCurrentFrame(),
+                                                   frames ? frames->size() : 0);
+    if (!number)
+        return;
+    const Image &frame = (*frames)[*number];
+    const QRectF fit =
+        delegate.return_Best_Fit_Frame(frame.width(), frame.height(), width(), height());
+    // The picture is scaled to whole pixels of the screen and painted on their grid: anything else
+    // would have the painter scale it once more.
+    const double ratio = devicePixelRatioF();
+    const QSize pixels = (fit.size() * ratio).toSize();
+    if (pixels.isEmpty())
+        return;
+    // The fitting rectangle counts from the lower left corner, painting from the upper one.
+    const double top = height() - fit.y() - fit.height();
+    const QPointF corner(std::round(fit.x() * ratio) / ratio, std::round(top * ratio) / ratio);
+    scale(frame, pixels, delegate.trim.m_PlayStatus() == PLAY_STATUS_PLAY);
+    scaled_.setDevicePixelRatio(ratio);
+    painter.drawImage(corner, scaled_);
+}
+
+void View_Cut_Preview::scale(const Image &frame, QSize pixels, bool quickly) {
+    // A picture that was scaled with care serves in motion as well, not the other way round.
+    if (scaledFrom_.sameAs(frame) && scaled_.size() == pixels && (quickly || !scaledQuickly_))
+        return;
+    const QImage picture = frame.toQImage();
+    const bool needsScaling = picture.size() != pixels;
+    if (needsScaling && quickly) {
+        // The memory of the frame before serves again: fresh memory costs as much as the scaling.
+        if (scaled_.size() != pixels || !scaledQuickly_)
+            scaled_ = QImage(pixels, QImage::Format_RGB32);
+        scaled_.setDevicePixelRatio(1.0);
+        QPainter painter(&scaled_);
+        if (frame.hasAlpha())
+            painter.fillRect(scaled_.rect(), Qt::black);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(scaled_.rect(), picture);
+    } else {
+        scaled_ = picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    scaledFrom_ = frame;
+    scaledQuickly_ = needsScaling && quickly;
+}
+
+void View_Cut_Preview::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Space && appDelegate())
+        return appDelegate()->togglePlayback();
+    QWidget::keyPressEvent(event);
+}

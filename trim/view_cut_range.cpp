@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "trim/view_cut_range.h"
+
+#include "app/app_delegate.h"
+#include "trim/cut_handle.h"
+#include "trim/focus_ring.h"
+#include "trim/view_cut_preview.h"
+#include "ui_MainWindow.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+using range_rules::Handle;
+using range_rules::Handles;
+
+namespace {
+
+constexpr int stripHeight = 28;   // points: comfortable to grab
+constexpr int smallestWidth = 60; // points
+
+const QColor background = QColor::fromRgbF(0.5f, 0.5f, 0.5f);
+const QColor handleColour(255, 0, 0);
+const QColor bandColour(0, 255, 0);
+const QColor playheadColour(0, 0, 255);
+
+Handles handlesOf(const AppDelegate &delegate) {
+    return {delegate.trim.f_Cut_Percent_Menor(), delegate.trim.f_Cut_Percent_Maior()};
+}
+
+bool stopped(const AppDelegate &delegate) {
+    return delegate.trim.m_PlayStatus() == PLAY_STATUS_STOP;
+}
+
+Handle other(Handle handle) { return handle == Handle::Menor ? Handle::Maior : Handle::Menor; }
+
+} // namespace
+
+View_Cut_Range::View_Cut_Range(QWidget *parent) : QWidget(parent) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    handles_[0] = new CutHandle(*this, Handle::Menor);
+    handles_[1] = new CutHandle(*this, Handle::Maior);
+    new FocusRing(*this);
+}
+
+QSize View_Cut_Range::sizeHint() const { return {smallestWidth, stripHeight}; }
+QSize View_Cut_Range::minimumSizeHint() const { return sizeHint(); }
+
+void View_Cut_Range::paintEvent(QPaintEvent *) {
+    QPainter painter(this);
+    painter.fillRect(rect(), background);
+    const AppDelegate *delegate = appDelegate();
+    if (!delegate)
+        return;
+    if (stopped(*delegate))
+        drawHandles(painter, handlesOf(*delegate));
+    else
+        drawPlayhead(painter, delegate->trim);
+    // Play, Pause and Stop change what can be dragged under a pointer that rests.
+    if (underMouse() && !b_Mouse_Down_)
+        showWhatCanBeDragged(mapFromGlobal(QCursor::pos()).x());
+}
+
+QRectF View_Cut_Range::fullHeight(range_rules::Stretch stretch) const {
+    return {stretch.x, 0.0, stretch.width, static_cast<double>(height())};
+}
+
+void View_Cut_Range::drawPlayhead(QPainter &painter, const TrimFields &trim) {
+    rectMenor_ = fullHeight(range_rules::playhead(trim.uCurrentFrame(), trim.uFirstFrame(),
+                                                  trim.uLastFrame(), width()));
+    painter.fillRect(rectMenor_, playheadColour);
+}
+
+void View_Cut_Range::drawHandles(QPainter &painter, Handles handles) {
+    rectMenor_ = fullHeight(range_rules::lowerHandle(handles.menor, width()));
+    rectMaior_ = fullHeight(range_rules::upperHandle(handles.maior, width()));
+    painter.fillRect(rectMenor_, handleColour);
+    painter.fillRect(rectMaior_, handleColour);
+    const range_rules::Stretch band = range_rules::bandBetween(handles, width());
+    if (band.width > 0.0)
+        painter.fillRect(fullHeight(band), bandColour);
+}
+
+QPointF View_Cut_Range::fromLowerLeft(QPointF position) const {
+    // Positions count pixels from 0; the lowest row of pixels is the one at y = 0.
+    return {position.x(), height() - 1.0 / devicePixelRatioF() - position.y()};
+}
+
+void View_Cut_Range::mousePressEvent(QMouseEvent *event) {
+    if (event->button() != Qt::LeftButton)
+        return QWidget::mousePressEvent(event);
+    b_Mouse_Down_ = true;
+    mouseDownPos_ = fromLowerLeft(event->position());
+    // Half-open like the handles' sides; QRectF would count its far edges in.
+    const auto hit = [this](const QRectF &r) {
+        return range_rules::contains({r.x(), r.width()}, mouseDownPos_.x()) &&
+               range_rules::contains({r.y(), r.height()}, mouseDownPos_.y());
+    };
+    if (hit(rectMenor_)) {
+        b_Dragging_Menor_ = true;
+        choose(Handle::Menor);
+    } else if (hit(rectMaior_)) {
+        b_Dragging_Maior_ = true;
+        choose(Handle::Maior);
+    }
+}
+
+void View_Cut_Range::mouseMoveEvent(QMouseEvent *event) {
+    const AppDelegate *delegate = appDelegate();
+    if (!delegate)
+        return;
+    if (!b_Mouse_Down_)
+        showWhatCanBeDragged(event->position().x());
+    if (!stopped(*delegate) || !b_Mouse_Down_ || !(b_Dragging_Menor_ || b_Dragging_Maior_))
+        return;
+    const Handle handle = b_Dragging_Menor_ ? Handle::Menor : Handle::Maior;
+    const auto moved = range_rules::dragged(handlesOf(*delegate), handle, event->position().x(),
+                                            delegate->ui->viewCutPreview->width());
+    if (moved)
+        store(*moved);
+}
+
+void View_Cut_Range::mouseReleaseEvent(QMouseEvent *event) {
+    if (event->button() != Qt::LeftButton)
+        return;
+    b_Mouse_Down_ = false;
+    b_Dragging_Menor_ = false;
+    b_Dragging_Maior_ = false;
+    showWhatCanBeDragged(event->position().x());
+}
+
+void View_Cut_Range::showWhatCanBeDragged(double x) {
+    const AppDelegate *delegate = appDelegate();
+    const bool over = delegate && stopped(*delegate) &&
+                      (range_rules::contains({rectMenor_.x(), rectMenor_.width()}, x) ||
+                       range_rules::contains({rectMaior_.x(), rectMaior_.width()}, x));
+    setCursor(over ? Qt::SizeHorCursor : Qt::ArrowCursor);
+}
+
+void View_Cut_Range::store(Handles handles) {
+    AppDelegate &delegate = *appDelegate();
+    delegate.trim.setF_Cut_Percent_Menor(handles.menor);
+    delegate.trim.setF_Cut_Percent_Maior(handles.maior);
+    for (CutHandle *handle : handles_)
+        handle->announceValue();
+    update();
+    delegate.ui->viewCutPreview->update();
+}
+
+std::uint64_t View_Cut_Range::frameCount() const {
+    const AppDelegate *delegate = appDelegate();
+    return delegate ? delegate->recording.u_Record_Current_Frame() : 0;
+}
+
+std::uint64_t View_Cut_Range::frameOf(Handle handle) const {
+    const AppDelegate *delegate = appDelegate();
+    if (!delegate)
+        return 0;
+    const Handles handles = handlesOf(*delegate);
+    return range_rules::frameAt(handle == Handle::Menor ? handles.menor : handles.maior,
+                                frameCount());
+}
+
+void View_Cut_Range::moveToFrame(Handle handle, std::uint64_t frame) {
+    const AppDelegate *delegate = appDelegate();
+    const std::uint64_t frames = frameCount();
+    if (!delegate || !stopped(*delegate) || frames == 0)
+        return;
+    const Handles before = handlesOf(*delegate);
+    const float percent = range_rules::percentFor(std::min(frame, frames), frames);
+    const bool passes = handle == Handle::Menor ? percent > before.maior : percent < before.menor;
+    store(range_rules::with(before, handle, percent));
+    // A drag is seen, so that the preview's drawing follows; whoever sets a value through assistive
+    // technology may have the window covered.
+    appDelegate()->updateTrimmedRange();
+    if (passes && chosen_ == handle)
+        choose(other(handle));
+}
+
+void View_Cut_Range::keyPressEvent(QKeyEvent *event) {
+    const std::uint64_t frame = frameOf(chosen_);
+    const std::uint64_t frames = frameCount();
+    const std::uint64_t page = std::max<std::uint64_t>(frames / 10, 1);
+    const auto back = [&](std::uint64_t by) { moveToFrame(chosen_, frame - std::min(by, frame)); };
+    const auto forth = [&](std::uint64_t by) { moveToFrame(chosen_, frame + by); };
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Down:
+        return back(1);
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+        return forth(1);
+    case Qt::Key_PageDown:
+        return back(page);
+    case Qt::Key_PageUp:
+        return forth(page);
+    case Qt::Key_Home:
+        return back(frames);
+    case Qt::Key_End:
+        return forth(frames);
+    case Qt::Key_Space:
+        return appDelegate()->togglePlayback();
+    default:
+        return QWidget::keyPressEvent(event);
+    }
+}
+
+void View_Cut_Range::choose(Handle handle) {
+    chosen_ = handle;
+    handles_[handle == Handle::Menor ? 0 : 1]->announceFocus();
+    // The ring shows which handle is chosen.
+    Q_EMIT chosenHandleChanged();
+}
+
+void View_Cut_Range::focusInEvent(QFocusEvent *event) {
+    QWidget::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason)
+        choose(Handle::Menor);
+    if (event->reason() == Qt::BacktabFocusReason)
+        choose(Handle::Maior);
+}
+
+bool View_Cut_Range::focusNextPrevChild(bool next) {
+    const Handle end = next ? Handle::Maior : Handle::Menor;
+    if (!hasFocus() || chosen_ == end)
+        return QWidget::focusNextPrevChild(next);
+    choose(end);
+    return true;
+}
+
+QRect View_Cut_Range::handleArea(Handle handle) const {
+    const QRectF area = handle == Handle::Menor ? rectMenor_ : rectMaior_;
+    return QRectF(area.x(), 0, area.width(), height()).toAlignedRect();
+}
