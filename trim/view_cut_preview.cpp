@@ -74,32 +74,10 @@ void View_Cut_Preview::drawFrame(QPainter &painter) {
     // The fitting rectangle counts from the lower left corner, painting from the upper one.
     const double top = height() - fit.y() - fit.height();
     const QPointF corner(std::round(fit.x() * ratio) / ratio, std::round(top * ratio) / ratio);
-    scale(frame, pixels, delegate.trim.m_PlayStatus() == PLAY_STATUS_PLAY);
-    scaled_.setDevicePixelRatio(ratio);
-    painter.drawImage(corner, scaled_);
-}
-
-void View_Cut_Preview::scale(const Image &frame, QSize pixels, bool quickly) {
-    // A picture that was scaled with care serves in motion as well, not the other way round.
-    if (scaledFrom_.sameAs(frame) && scaled_.size() == pixels && (quickly || !scaledQuickly_))
-        return;
-    const QImage picture = frame.toQImage();
-    const bool needsScaling = picture.size() != pixels;
-    if (needsScaling && quickly) {
-        // The memory of the frame before serves again: fresh memory costs as much as the scaling.
-        if (scaled_.size() != pixels || !scaledQuickly_)
-            scaled_ = QImage(pixels, QImage::Format_RGB32);
-        scaled_.setDevicePixelRatio(1.0);
-        QPainter painter(&scaled_);
-        if (frame.hasAlpha())
-            painter.fillRect(scaled_.rect(), Qt::black);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(scaled_.rect(), picture);
-    } else {
-        scaled_ = picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    }
-    scaledFrom_ = frame;
-    scaledQuickly_ = needsScaling && quickly;
+    const bool moving = delegate.trim.m_PlayStatus() == PLAY_STATUS_PLAY;
+    painter.drawImage(corner,
+                      scaler_.scaled(frame, pixels, ratio,
+                                     moving ? ImageScaler::Care::Quick : ImageScaler::Care::Fine));
 }
 
 void View_Cut_Preview::keyPressEvent(QKeyEvent *event) {

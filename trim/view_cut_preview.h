@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/image.h"
+#include "platform/image_scaler.h"
 
-#include <QImage>
 #include <QWidget>
 
 /// The preview on the Cut tab: one frame of the recording, fitted over black. Each drawing also
@@ -23,11 +22,6 @@ protected:
 private:
     void drawNoVideo(QPainter &painter) const;
     void drawFrame(QPainter &painter);
-    /// Brings `scaled_` up to the frame at this size: quickly while it plays, with care otherwise.
-    void scale(const Image &frame, QSize pixels, bool quickly);
 
-    // The last picture that was scaled for the screen, and what it was made of.
-    Image scaledFrom_;
-    QImage scaled_;
-    bool scaledQuickly_ = false;
+    ImageScaler scaler_;
 };

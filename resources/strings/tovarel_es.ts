@@ -290,6 +290,34 @@
         <translation>&amp;Aceptar</translation>
     </message>
     <!-- trim -->
+    <message id="IDD_HANDLE_FIRST">
+        <source>First frame</source>
+        <translation>Primer fotograma</translation>
+    </message>
+    <message id="IDD_HANDLE_LAST">
+        <source>Last frame</source>
+        <translation>Último fotograma</translation>
+    </message>
+    <message id="IDD_RANGE_HOLDS">
+        <source>Frames %1 to %2: %3 frames, %4 s</source>
+        <translation>Fotogramas %1 a %2: %3 fotogramas, %4 s</translation>
+    </message>
+    <message id="IDD_RANGE_ONE">
+        <source>Frame %1 only, %2 s</source>
+        <translation>Solo el fotograma %1, %2 s</translation>
+    </message>
+    <message id="IDD_CUT_PREVIEW">
+        <source>Frame preview</source>
+        <translation>Vista previa del fotograma</translation>
+    </message>
+    <message id="IDD_CUT_RANGE">
+        <source>Part of the recording to keep</source>
+        <translation>Parte de la grabación que se conserva</translation>
+    </message>
+    <message id="IDD_RANGE_EMPTY">
+        <source>No frame in this range</source>
+        <translation>Ningún fotograma en este intervalo</translation>
+    </message>
     <!-- export -->
 </context>
 </TS>

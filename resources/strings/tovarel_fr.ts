@@ -290,6 +290,34 @@
         <translation>&amp;OK</translation>
     </message>
     <!-- trim -->
+    <message id="IDD_HANDLE_FIRST">
+        <source>First frame</source>
+        <translation>Première image</translation>
+    </message>
+    <message id="IDD_HANDLE_LAST">
+        <source>Last frame</source>
+        <translation>Dernière image</translation>
+    </message>
+    <message id="IDD_RANGE_HOLDS">
+        <source>Frames %1 to %2: %3 frames, %4 s</source>
+        <translation>Images %1 à %2 : %3 images, %4 s</translation>
+    </message>
+    <message id="IDD_RANGE_ONE">
+        <source>Frame %1 only, %2 s</source>
+        <translation>Image %1 seulement, %2 s</translation>
+    </message>
+    <message id="IDD_CUT_PREVIEW">
+        <source>Frame preview</source>
+        <translation>Aperçu de l’image</translation>
+    </message>
+    <message id="IDD_CUT_RANGE">
+        <source>Part of the recording to keep</source>
+        <translation>Partie de l’enregistrement à conserver</translation>
+    </message>
+    <message id="IDD_RANGE_EMPTY">
+        <source>No frame in this range</source>
+        <translation>Aucune image dans cette plage</translation>
+    </message>
     <!-- export -->
 </context>
 </TS>

@@ -290,6 +290,34 @@
         <translation>OK(&amp;O)</translation>
     </message>
     <!-- trim -->
+    <message id="IDD_HANDLE_FIRST">
+        <source>First frame</source>
+        <translation>最初のフレーム</translation>
+    </message>
+    <message id="IDD_HANDLE_LAST">
+        <source>Last frame</source>
+        <translation>最後のフレーム</translation>
+    </message>
+    <message id="IDD_RANGE_HOLDS">
+        <source>Frames %1 to %2: %3 frames, %4 s</source>
+        <translation>フレーム %1～%2：%3 フレーム、%4 秒</translation>
+    </message>
+    <message id="IDD_RANGE_ONE">
+        <source>Frame %1 only, %2 s</source>
+        <translation>フレーム %1 のみ、%2 秒</translation>
+    </message>
+    <message id="IDD_CUT_PREVIEW">
+        <source>Frame preview</source>
+        <translation>フレームのプレビュー</translation>
+    </message>
+    <message id="IDD_CUT_RANGE">
+        <source>Part of the recording to keep</source>
+        <translation>録画のうち残す範囲</translation>
+    </message>
+    <message id="IDD_RANGE_EMPTY">
+        <source>No frame in this range</source>
+        <translation>この範囲にフレームはありません</translation>
+    </message>
     <!-- export -->
 </context>
 </TS>
