@@ -235,8 +235,9 @@ TEST_F(TrimEditor, whateverIsPressedTheHandlesStayInOrderAndAKeyMovesOneFrame) {
                 std::max(after.first, before.first) - std::min(after.first, before.first) +
                 std::max(after.second, before.second) - std::min(after.second, before.second);
             const bool atEnd = key == Qt::Key_Left ? chosen == 0 : chosen == strip->frameCount();
-            if (key == Qt::Key_Left || key == Qt::Key_Right)
+            if (key == Qt::Key_Left || key == Qt::Key_Right) {
                 ASSERT_EQ(moved, stopped && !atEnd ? 1u : 0u) << "step " << step;
+            }
         }
         ASSERT_LE(delegate.trim.f_Cut_Percent_Menor(), delegate.trim.f_Cut_Percent_Maior());
         ASSERT_FALSE(strip->grab().isNull());
