@@ -20,25 +20,31 @@ RecordingClock::TimePoint now() { return std::chrono::steady_clock::now(); }
 } // namespace
 
 void AppDelegate::connectRecordControls() {
-    const auto onButton = [this](QAbstractButton *button, void (AppDelegate::*action)(QObject *)) {
-        connect(button, &QAbstractButton::clicked, this,
-                [this, button, action] { (this->*action)(button); });
+    const auto onButton = [this](QAbstractButton *button, void (AppDelegate::*action)(QObject *),
+                                 Qt::ConnectionType type = Qt::AutoConnection) {
+        connect(
+            button, &QAbstractButton::clicked, this,
+            [this, button, action] { (this->*action)(button); }, type);
     };
-    const auto onItem = [this](QAction *item, void (AppDelegate::*action)()) {
-        connect(item, &QAction::triggered, this, action);
+    const auto onItem = [this](QAction *item, void (AppDelegate::*action)(),
+                               Qt::ConnectionType type = Qt::AutoConnection) {
+        connect(item, &QAction::triggered, this, action, type);
     };
+    // What runs a dialog is started from the event loop: assistive technology waits for the answer
+    // to its press, and would wait until the dialog ends.
+    constexpr Qt::ConnectionType later = Qt::QueuedConnection;
     onButton(ui->btnRecordFullScreen, &AppDelegate::OnRecordFullScreen);
-    onButton(ui->btnRecordRegion, &AppDelegate::OnRecordRegion);
+    onButton(ui->btnRecordRegion, &AppDelegate::OnRecordRegion, later);
     onButton(ui->btnRecordRecord, &AppDelegate::OnRecordRecord);
     onButton(ui->btnRecordPause, &AppDelegate::OnRecordPause);
     onButton(ui->btnRecordStop, &AppDelegate::OnRecordStop);
-    onButton(ui->btnRecordFPS, &AppDelegate::OnRecordFPS);
+    onButton(ui->btnRecordFPS, &AppDelegate::OnRecordFPS, later);
     onItem(ui->menuitemActionRecordFullScreen, &AppDelegate::OnMenuActionRecordFullScreen);
-    onItem(ui->menuitemActionRecordRegion, &AppDelegate::OnMenuActionRecordRegion);
+    onItem(ui->menuitemActionRecordRegion, &AppDelegate::OnMenuActionRecordRegion, later);
     onItem(ui->menuitemActionRecordRecord, &AppDelegate::OnMenuActionRecordRecord);
     onItem(ui->menuitemActionRecordPause, &AppDelegate::OnMenuActionRecordPause);
     onItem(ui->menuitemActionRecordStop, &AppDelegate::OnMenuActionRecordStop);
-    onItem(ui->menuitemActionRecordFPS, &AppDelegate::OnMenuActionRecordFPS);
+    onItem(ui->menuitemActionRecordFPS, &AppDelegate::OnMenuActionRecordFPS, later);
 }
 
 void AppDelegate::prepareRecordTab() {

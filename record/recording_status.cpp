@@ -3,9 +3,9 @@
 #include "app/app_delegate.h"
 #include "record/measured_rate.h"
 #include "record/recording_indicator.h"
+#include "region/region_in_grab.h"
 #include "ui_MainWindow.h"
 
-#include <cmath>
 
 namespace {
 
@@ -38,14 +38,13 @@ void AppDelegate::showRecordingState() {
 void AppDelegate::showCaptureMode() {
     QString text = qtTrId("IDD_MODE_FULL_SCREEN");
     if (region.i_Type_Screen_Capture() == CAPTURE_REGION) {
-        const QRectF area = region.rect_Screen_Region();
-        // People count from the upper left corner.
-        const double top = shell.frame_Screen().height() - area.y() - area.height();
+        // What a frame will hold: its size, and its place counted from the upper left corner.
+        const QRect area = regionInGrab(*this);
         text = qtTrId("IDD_MODE_REGION")
-                   .arg(static_cast<int>(area.width()))
-                   .arg(static_cast<int>(area.height()))
-                   .arg(std::lround(area.x()))
-                   .arg(std::lround(top));
+                   .arg(area.width())
+                   .arg(area.height())
+                   .arg(area.x())
+                   .arg(area.y());
     }
     if (ui->labelCaptureMode->text() != text)
         ui->labelCaptureMode->setText(text);

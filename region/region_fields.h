@@ -9,6 +9,7 @@
 #include <QSizeF>
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 class Window_Transparent_Region;
@@ -41,7 +42,9 @@ public:
     void setRect_Screen_Region(const QRectF &region) { rect_Screen_Region_ = region; }
 
     /// The screen that the region is measured on: that of the main window when the overlay opened.
-    const grab_units::Screen &screenOfRegion() const { return screenOfRegion_; }
+    /// None until then; the region then counts from the lower left corner of the grab, in its
+    /// units.
+    const std::optional<grab_units::Screen> &screenOfRegion() const { return screenOfRegion_; }
     void setScreenOfRegion(const grab_units::Screen &screen) { screenOfRegion_ = screen; }
 
     /// The open region overlay; null while there is none. Borrowed from the region command, whose
@@ -54,6 +57,6 @@ private:
     std::int64_t b_Show_Select_Region_How_To_ = 0;
     QSizeF size_Region_;
     QRectF rect_Screen_Region_;
-    grab_units::Screen screenOfRegion_;
+    std::optional<grab_units::Screen> screenOfRegion_;
     Window_Transparent_Region *pFullScreen_ = nullptr;
 };

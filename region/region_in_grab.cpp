@@ -16,10 +16,19 @@ grab_units::Screen screenOnDesktop(const QScreen &screen) {
 }
 
 QRect regionInGrab(const AppDelegate &delegate) {
+    const CaptureFields &capture = delegate.capture;
+    const QSize grab = capture.imgScreenCapture().size();
+    const Image &whole = capture.grabBeforeHalving();
+    double unitsPerPixel = 1;
+    if (!whole.isEmpty())
+        unitsPerPixel = static_cast<double>(grab.width()) / whole.width();
+    grab_units::Screen screen{.height = static_cast<double>(grab.height())};
+    if (delegate.region.screenOfRegion())
+        screen = *delegate.region.screenOfRegion();
+    else
+        unitsPerPixel = 1;
     const QRectF region = delegate.region.rect_Screen_Region();
-    const bool halved = !delegate.capture.grabBeforeHalving().isEmpty();
-    const grab_units::Units units =
-        grab_units::fromPoints({region.x(), region.y(), region.width(), region.height()},
-                               delegate.region.screenOfRegion(), halved ? 0.5 : 1.0);
+    const grab_units::Units units = grab_units::fromPoints(
+        {region.x(), region.y(), region.width(), region.height()}, screen, unitsPerPixel);
     return {units.x, units.y, units.width, units.height};
 }

@@ -140,18 +140,19 @@ void Window_Transparent_Region::mouseDragged(Point pointer) {
 void Window_Transparent_Region::mouseUp() { setB_Mouse_Down(false); }
 
 Point Window_Transparent_Region::fromScreenCorner(QPointF inWindow) const {
-    // A window manager may have put the window elsewhere; what counts is the screen.
+    // Not the position in the widget, which loses its fraction on the way up from the view. A window
+    // manager may have put the window elsewhere; what counts is the screen.
     const QPointF inScreen = inWindow + geometry().topLeft() - screenFrame_.topLeft();
     return {inScreen.x(), screenFrame_.height() - inScreen.y()};
 }
 
 void Window_Transparent_Region::mousePressEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton)
-        mouseDown(fromScreenCorner(event->position()));
+        mouseDown(fromScreenCorner(event->scenePosition()));
 }
 
 void Window_Transparent_Region::mouseMoveEvent(QMouseEvent *event) {
-    const Point pointer = fromScreenCorner(event->position());
+    const Point pointer = fromScreenCorner(event->scenePosition());
     if (event->buttons() & Qt::LeftButton)
         mouseDragged(pointer);
     showCursor(pointer);
