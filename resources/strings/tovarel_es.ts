@@ -210,7 +210,7 @@
     </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
-        <translation>No se grabó nada.</translation>
+        <translation>No se ha grabado nada.</translation>
     </message>
     <message id="IDD_FRAMES_MISSING">
         <source>%1 of %2 frames could not be written to %3: %4</source>
@@ -222,7 +222,7 @@
     </message>
     <message id="IDD_MODE_REGION">
         <source>Region %1 × %2 at %3, %4</source>
-        <translation>Región %1 × %2 en %3, %4</translation>
+        <translation>Zona %1 × %2 en %3, %4</translation>
     </message>
     <message id="IDD_OK">
         <source>OK</source>
@@ -316,7 +316,7 @@
     </message>
     <message id="IDD_RANGE_EMPTY">
         <source>No frame in this range</source>
-        <translation>Ningún fotograma en este intervalo</translation>
+        <translation>No hay fotogramas en este intervalo</translation>
     </message>
     <!-- export -->
 </context>

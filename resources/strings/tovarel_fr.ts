@@ -194,7 +194,7 @@
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
-        <translation>Enregistrement</translation>
+        <translation>Enregistrement en cours</translation>
     </message>
     <message id="IDD_STATE_PAUSED">
         <source>Paused</source>
@@ -206,7 +206,7 @@
     </message>
     <message id="IDD_RECORDING_SAVED">
         <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
-        <translation>L’enregistrement est complet. Images : %1 · Images par seconde : %2</translation>
+        <translation>L’enregistrement est terminé. Images : %1 · Images par seconde : %2</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
@@ -312,7 +312,7 @@
     </message>
     <message id="IDD_CUT_RANGE">
         <source>Part of the recording to keep</source>
-        <translation>Partie de l’enregistrement à conserver</translation>
+        <translation>Partie de l’enregistrement à garder</translation>
     </message>
     <message id="IDD_RANGE_EMPTY">
         <source>No frame in this range</source>

@@ -222,7 +222,7 @@
     </message>
     <message id="IDD_MODE_REGION">
         <source>Region %1 × %2 at %3, %4</source>
-        <translation>範囲 %1 × %2 (位置 %3, %4)</translation>
+        <translation>範囲 %1 × %2（位置 %3, %4）</translation>
     </message>
     <message id="IDD_OK">
         <source>OK</source>
@@ -300,7 +300,7 @@
     </message>
     <message id="IDD_RANGE_HOLDS">
         <source>Frames %1 to %2: %3 frames, %4 s</source>
-        <translation>フレーム %1～%2：%3 フレーム、%4 秒</translation>
+        <translation>フレーム %1～%2: %3 フレーム、%4 秒</translation>
     </message>
     <message id="IDD_RANGE_ONE">
         <source>Frame %1 only, %2 s</source>
@@ -312,7 +312,7 @@
     </message>
     <message id="IDD_CUT_RANGE">
         <source>Part of the recording to keep</source>
-        <translation>録画のうち残す範囲</translation>
+        <translation>録画のうち残す部分</translation>
     </message>
     <message id="IDD_RANGE_EMPTY">
         <source>No frame in this range</source>

@@ -222,7 +222,7 @@
     </message>
     <message id="IDD_MODE_REGION">
         <source>Region %1 × %2 at %3, %4</source>
-        <translation>Região %1 × %2 em %3, %4</translation>
+        <translation>Área %1 × %2 em %3, %4</translation>
     </message>
     <message id="IDD_OK">
         <source>OK</source>
@@ -304,7 +304,7 @@
     </message>
     <message id="IDD_RANGE_ONE">
         <source>Frame %1 only, %2 s</source>
-        <translation>Somente o quadro %1, %2 s</translation>
+        <translation>Só o quadro %1, %2 s</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>

@@ -3,6 +3,7 @@
 #include "app/app_delegate.h"
 #include "app/application.h"
 #include "platform/null/null_window_server.h"
+#include "record/window_fps.h"
 #include "region/window_region_how_it_works.h"
 #include "ui_MainWindow.h"
 
@@ -131,6 +132,7 @@ TEST_F(InterfaceTexts, ofDialogsComeFromTheTable) {
     checkDialog([this] { controller.OnMenuAbout(); });
     checkDialog([this] { controller.RunAlert(QStringLiteral("Error"), {}); });
     checkAll(Window_Region_How_It_Works(controller.shell.window()));
+    checkAll(Window_FPS(controller.shell.window()));
 }
 
 TEST(InterfaceTextsRule, whatIsNotFromTheTableIsFound) {
