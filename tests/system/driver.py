@@ -17,6 +17,8 @@ import subprocess
 import tempfile
 import time
 
+import counter
+
 PATIENCE = 30  # seconds; longer than any step takes on a slow machine with sanitizers
 BINARY = "tovarel"
 COUNTER = "tests/system/counter_window"
@@ -131,6 +133,15 @@ class Session:
             raise AssertionError(f"xdotool {arguments}: {done.stderr}")
         return done.stdout.strip() if done.returncode == 0 else ""
 
+    def picture(self):
+        """What the screen shows."""
+        raw = subprocess.run(
+            ["ffmpeg", "-v", "error", "-f", "x11grab", "-video_size", f"{self.width}x{self.height}"]
+            + ["-i", self.environment["DISPLAY"], "-frames:v", "1"]
+            + ["-f", "rawvideo", "-pix_fmt", "rgb24", "-"],
+            check=True, stdin=subprocess.DEVNULL, capture_output=True, timeout=PATIENCE).stdout
+        return counter.Picture(self.width, self.height, raw)
+
     def counter(self, *options):
         """Starts the window with the known picture; its place on the screen, as
         (x, y, width, height) without the frame."""
@@ -217,34 +228,33 @@ class Program:
                 continue
         return None
 
-    def all(self, role, name=None, showing=True):
-        """Every control with this role and accessible name, from the root down."""
+    def walk(self, role, name=None, showing=True):
+        """The controls with this role and name, where given, nearest to the root first. What is not
+        on the screen is passed over with everything in it, unless `showing` is false."""
         root = self.root()
-        waiting, found = [root] if root else [], []
-        while waiting:
-            item = waiting.pop(0)
-            try:
-                if self._fits(item, role, name, showing):
-                    found.append(item)
-                count = item.get_child_count()
-                waiting += filter(None, (item.get_child_at_index(i) for i in range(count)))
-            except bus_errors():
-                continue  # Gone while we looked.
-        return found
+        return search(root, role, name, showing) if root else iter(())
 
-    @staticmethod
-    def _fits(item, role, name, showing):
-        return (
-            item.get_role_name() == role
-            and name in (None, item.get_name())
-            and (not showing or has_state(item, "SHOWING"))
-        )
+    def all(self, role, name=None, showing=True):
+        return list(self.walk(role, name, showing))
 
     def find(self, role, name=None):
-        return next(iter(self.all(role, name)), None)
+        return next(self.walk(role, name), None)
 
     def await_control(self, role, name=None, patience=PATIENCE):
-        return wait_for(f"{role} {name or ''}", lambda: self.find(role, name), patience)
+        return self.wait_for(f"{role} {name or ''}", lambda: self.find(role, name), patience)
+
+    def wait_for(self, what, condition, patience=PATIENCE):
+        """The same, and what is on the screen if it does not happen."""
+        try:
+            return wait_for(what, condition, patience)
+        except Late as late:
+            raise Late(f"{late}; on the screen: {self.describe()}") from None
+
+    def describe(self):
+        """Role and name of everything that is on the screen."""
+        seen = [f"{item.get_role_name()} {item.get_name()!r}" for item in self.walk(None)
+                if item.get_name()]
+        return ", ".join(seen) or "nothing"
 
     def button(self, name):
         return self.await_control("push button", name)
@@ -253,19 +263,18 @@ class Program:
 
     def press(self, name, patience=PATIENCE):
         """Presses a button as assistive technology does, once it may be pressed."""
-        item = wait_for(
+        item = self.wait_for(
             f"button {name} to be pressable",
-            lambda: next((found for found in self.all("push button", name)
-                          if has_state(found, "ENABLED")), None), patience)
+            lambda: next(filter(is_enabled, self.walk("push button", name)), None), patience)
         act(item)
 
     def choose(self, *path):
         """Chooses from the menu bar with the pointer: the titles of the menus, then the item's."""
         item = self.await_control("menu bar")
         for title in path:
-            item = wait_for(f"menu item {title}", lambda title=title, above=item: next(
-                (found for found in descendants(above, "menu item")
-                 if found.get_name() == title and has_state(found, "SHOWING")), None))
+            item = self.wait_for(
+                f"menu item {title}",
+                lambda title=title, above=item: next(search(above, "menu item", title), None))
             self.click(item)
 
     def ask_for_tab(self, name):
@@ -276,13 +285,16 @@ class Program:
         """The tab whose page is on the screen."""
         return next((tab for tab, button in PAGES.items() if self.find("push button", button)), None)
 
+    def await_tab(self, name, patience=PATIENCE):
+        self.wait_for(f"tab {name}", lambda: self.shown_tab() == name, patience)
+
     def enter(self, name):
         self.ask_for_tab(name)
-        wait_for(f"tab {name}", lambda: self.shown_tab() == name)
+        self.await_tab(name)
 
     def enabled(self, name):
         """Whether the button that is shown under this name may be pressed."""
-        return has_state(self.button(name), "ENABLED")
+        return is_enabled(self.button(name))
 
     def labels(self):
         """Everything that stands as text in the window."""
@@ -299,24 +311,47 @@ class Program:
             "search", "--onlyvisible", "--all", "--pid", self.process.pid, "--name", "^Tovarel$",
             check=False)).split()[0]
 
+    def place(self):
+        """Where the main window lies on the screen, without its frame."""
+        return self.await_control("frame", "Tovarel").get_extents(atspi().CoordType.SCREEN)
+
+    def recording_for(self, seconds):
+        """Lets a recording that was just asked for grow: its length is what takes the time."""
+        self.wait_for("the recording to run", lambda: self.enabled("Stop") and self.enabled("Pause"))
+        time.sleep(seconds)
+
+    def record(self, seconds):
+        """Record, Stop, and the frames saved: ends on the Cut tab."""
+        self.press("Record")
+        self.recording_for(seconds)
+        self.press("Stop")
+        self.await_tab("Cut")
+
     def alert(self, patience=PATIENCE):
-        """The texts of the alert that is up, once there is one."""
+        """The texts of the alert that is up, once there is one, in one string."""
         item = self.await_control("alert", patience=patience)
-        return [content(label) for label in descendants(item, "label")]
+        return "\n".join([item.get_name(), *(content(label) for label in search(item, "label"))])
 
-    def dismiss_alert(self):
+    def dismiss_alert(self, wanted):
+        """Closes the alert, which has to say what is wanted: its texts."""
+        said = self.alert()
+        assert wanted in said, f"expected {wanted!r}, the alert says {said!r}"
         self.press("Close")
-        wait_for("the alert to close", lambda: not self.find("alert"))
+        self.wait_for("the alert to close", lambda: not self.find("alert"))
+        return said
 
-    def save_panel(self, path, patience=PATIENCE):
-        """Types the path into the save panel and confirms it."""
-        panel = self.await_control("dialog", "Select a folder to save the GIF image", patience)
-        field = wait_for("the panel's name field", lambda: next(
-            (item for item in descendants(panel, "text") if has_state(item, "SHOWING")), None))
+    def save_panel(self, path, replace=False, patience=PATIENCE):
+        """Types the path into the save panel and confirms it, once more if a file is replaced."""
+        panel_title = "Select a folder to save the GIF image"
+        panel = self.await_control("dialog", panel_title, patience)
+        field = wait_for("the panel's name field", lambda: next(search(panel, "text"), None))
         wait_for("a preset name", lambda: content(field) == "output.gif")
         field.set_text_contents(str(path))
         wait_for("the path in the field", lambda: content(field) == str(path))
         self.press("Save")
+        if replace:
+            self.press("Yes")
+        self.wait_for("the panel to close", lambda: not self.find("dialog", panel_title))
 
 
 # The accessibility library, loaded once the session's environment stands -------------------------
@@ -354,6 +389,10 @@ def has_state(item, state):
     return item.get_state_set().contains(getattr(atspi().StateType, state))
 
 
+def is_enabled(item):
+    return has_state(item, "ENABLED")
+
+
 def act(item):
     """The control's first action: press a button, select a tab, trigger a menu item."""
     if not item.get_action_iface() or not item.do_action(0):
@@ -366,17 +405,20 @@ def content(item):
     return item.get_name()
 
 
-def descendants(item, role):
-    found, waiting = [], [item]
+def search(top, role, name=None, showing=True):
+    """What lies below a control, see Program.walk."""
+    waiting = [top]
     while waiting:
         item = waiting.pop(0)
         try:
-            if item.get_role_name() == role:
-                found.append(item)
+            if item is not top:
+                if showing and not has_state(item, "SHOWING"):
+                    continue
+                if role in (None, item.get_role_name()) and name in (None, item.get_name()):
+                    yield item
             waiting += filter(None, map(item.get_child_at_index, range(item.get_child_count())))
         except bus_errors():
-            continue
-    return found
+            continue  # Gone while we looked.
 
 
 def middle(item):

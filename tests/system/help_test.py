@@ -12,7 +12,7 @@ import unittest
 import urllib.parse
 
 import driver
-from driver import Program, content, descendants, wait_for
+from driver import Program, content, search, wait_for
 
 PAGES = {
     "Tovarel Help": "index.html",
@@ -80,7 +80,7 @@ class Help(unittest.TestCase):
         program = Program(session)
         program.choose("Tovarel", "About Tovarel")
         about = program.await_control("alert", "About Tovarel")
-        text = "\n".join(content(label) for label in descendants(about, "label"))
+        text = "\n".join(content(label) for label in search(about, "label"))
         self.assertRegex(text, r"Version \d+\.\d+\.\d+")
         for tool in ("ffmpeg", "img2webp"):
             self.assertIn(f"{tool}: {shutil.which(tool) or 'not found'}", text)

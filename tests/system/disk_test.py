@@ -1,0 +1,81 @@
+# SPDX-FileCopyrightText: 2026 The Tovarel authors
+# SPDX-License-Identifier: MIT
+"""A disk that is full and a folder that is none: the user is told what is missing, and the program
+stays usable. Runs in a mount space of its own, where a small disk can be had."""
+
+import os
+import re
+import subprocess
+import sys
+
+import case
+from driver import Program, wait_for
+
+# A few frames of the known picture fit, not a whole recording.
+SMALL_DISK = 64  # KB
+
+
+class Disk(case.Case):
+    def check_missing(self, program, every=False):
+        """The status line says how many frames of how many are missing: the truth."""
+        def counts():
+            return next((match for text in program.labels()
+                         if (match := re.search(r"\b(\d+) of (\d+)\b", text))), None)
+        said = wait_for("the status line", counts)
+        missing, total = int(said[1]), int(said[2])
+        written = [] if every else list(self.session.frames.glob("frame*.png"))
+        self.assertGreater(missing, 0)
+        self.assertEqual(missing, total - len(written), said.string)
+        if every:
+            self.assertEqual(missing, total, said.string)
+        self.assertIn(str(self.session.frames), said.string)
+
+    def test_a_full_disk(self):
+        self.session.counter("--at", "60,80")
+        program = Program(self.session)
+        subprocess.run(["mount", "-t", "tmpfs", "-o", f"size={SMALL_DISK}k", "none",
+                        self.session.frames], check=True)
+        try:
+            program.record(5)
+            self.check_missing(program)
+            self.assertEqual(sorted(path.suffix for path in self.session.frames.iterdir()),
+                             [".png"] * len(list(self.session.frames.iterdir())))
+        finally:
+            subprocess.run(["umount", self.session.frames], check=True)
+        self.check_usable(program)
+
+    def test_a_folder_that_is_a_file(self):
+        self.session.counter("--at", "60,80")
+        program = Program(self.session)
+        self.session.frames.rmdir()
+        self.session.frames.write_text("in the way")
+        program.record(1.5)
+        self.check_missing(program, every=True)
+        self.session.frames.unlink()
+        self.session.frames.mkdir()
+        self.check_usable(program)
+
+    def check_usable(self, program):
+        program.enter("Record")
+        program.record(1.5)
+        self.assertTrue(program.enabled("Play"))
+        self.assertGreater(len(list(self.session.frames.glob("frame*.png"))), 0)
+        self.assertFalse([text for text in program.labels() if re.search(r"\d+ of \d+", text)])
+        self.assertEqual(program.end(), 0)
+
+
+def in_own_mount_space():
+    """Starts this file again where mounting is allowed and seen by nobody else."""
+    if os.environ.get("OWN_MOUNT_SPACE"):
+        return
+    unshare = ["unshare", "--mount"] if os.geteuid() == 0 else ["unshare", "--mount", "--map-root-user"]
+    if subprocess.run([*unshare, "true"], check=False, capture_output=True).returncode:
+        print("skipped: no mount space of its own is allowed here")
+        sys.exit(77)
+    os.environ["OWN_MOUNT_SPACE"] = "1"
+    os.execvp("unshare", [*unshare, sys.executable, "-B", *sys.argv])
+
+
+if __name__ == "__main__":
+    in_own_mount_space()
+    case.main()
