@@ -134,11 +134,11 @@ class Session:
         return done.stdout.strip() if done.returncode == 0 else ""
 
     def picture(self):
-        """What the screen shows."""
+        """What the screen shows, without the pointer."""
         raw = subprocess.run(
-            ["ffmpeg", "-v", "error", "-f", "x11grab", "-video_size", f"{self.width}x{self.height}"]
-            + ["-i", self.environment["DISPLAY"], "-frames:v", "1"]
-            + ["-f", "rawvideo", "-pix_fmt", "rgb24", "-"],
+            ["ffmpeg", "-v", "error", "-f", "x11grab", "-draw_mouse", "0"]
+            + ["-video_size", f"{self.width}x{self.height}", "-i", self.environment["DISPLAY"]]
+            + ["-frames:v", "1", "-f", "rawvideo", "-pix_fmt", "rgb24", "-"],
             check=True, stdin=subprocess.DEVNULL, capture_output=True, timeout=PATIENCE).stdout
         return counter.Picture(self.width, self.height, raw)
 
