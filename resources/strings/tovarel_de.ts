@@ -319,5 +319,117 @@
         <translation>Kein Bild in diesem Abschnitt</translation>
     </message>
     <!-- export -->
+    <message id="IDD_PROGRESS_GIF">
+        <source>Making the GIF…</source>
+        <translation>Das GIF wird erzeugt …</translation>
+    </message>
+    <message id="IDD_TOOL_MISSING">
+        <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
+        <translation>Das Programm „%1“ fehlt: Es wurde beim Start von Tovarel nicht gefunden.</translation>
+    </message>
+    <message id="IDD_TOOL_NOT_STARTED">
+        <source>The program “%1” could not be started: %2</source>
+        <translation>Das Programm „%1“ konnte nicht gestartet werden: %2</translation>
+    </message>
+    <message id="IDD_TOOL_TOO_MANY_FRAMES">
+        <source>The chosen range holds more frames than fit on one command line. Choose a shorter range.</source>
+        <translation>Der gewählte Abschnitt hat mehr Bilder, als auf eine Befehlszeile passen. Wählen Sie einen kürzeren Abschnitt.</translation>
+    </message>
+    <message id="IDD_TOOL_CRASHED">
+        <source>The program “%1” crashed (signal %2, %3).</source>
+        <translation>Das Programm „%1“ ist abgestürzt (Signal %2, %3).</translation>
+    </message>
+    <message id="IDD_TOOL_FAILED">
+        <source>The program “%1” failed (exit status %2).</source>
+        <translation>Das Programm „%1“ ist gescheitert (Rückgabewert %2).</translation>
+    </message>
+    <message id="IDD_TOOL_NO_RESULT">
+        <source>The program “%1” ended without writing its result, %2.</source>
+        <translation>Das Programm „%1“ endete, ohne sein Ergebnis zu schreiben: %2.</translation>
+    </message>
+    <message id="IDD_REFUSED_SIZE">
+        <source>The size asked for was %1 × %2.</source>
+        <translation>Die verlangte Größe war %1 × %2.</translation>
+    </message>
+    <message id="IDD_MOVE_FAILED">
+        <source>The file could not be saved as %1. %2
+
+It remains at %3.</source>
+        <translation>Die Datei konnte nicht als %1 gespeichert werden. %2
+
+Sie bleibt unter %3.</translation>
+    </message>
+    <message id="IDD_MOVE_IS_FOLDER">
+        <source>A folder of that name stands there.</source>
+        <translation>Dort steht ein Ordner dieses Namens.</translation>
+    </message>
+    <message id="IDD_MOVE_NOT_A_FILE">
+        <source>What stands there is not an ordinary file.</source>
+        <translation>Was dort steht, ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message id="IDD_MOVE_SAME_FILE">
+        <source>That is the file itself.</source>
+        <translation>Das ist die Datei selbst.</translation>
+    </message>
+    <message id="IDD_MOVE_WORKING_FOLDER">
+        <source>Tovarel empties that folder itself: choose another one.</source>
+        <translation>Tovarel leert diesen Ordner selbst: Wählen Sie einen anderen.</translation>
+    </message>
+    <message id="IDD_STATUS_SAVED">
+        <source>Saved: %1 (%2).</source>
+        <translation>Gespeichert: %1 (%2).</translation>
+    </message>
+    <message id="IDD_STATUS_GAP">
+        <source>The GIF holds %1 of %2 frames: the others were missing.</source>
+        <translation>Das GIF enthält %1 von %2 Bildern: Die übrigen fehlten.</translation>
+    </message>
+    <message id="IDD_STATUS_WEBP_GAP">
+        <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
+        <translation>Das WebP enthält %1 von %2 Bildern: Das nächste fehlte.</translation>
+    </message>
+    <message id="IDD_STATUS_WEBP_RUNS">
+        <source>Making the WebP…</source>
+        <translation>Das WebP wird erzeugt …</translation>
+    </message>
+    <message id="IDD_GENERATE_WEBP">
+        <source>Generate WebP</source>
+        <translation>WebP erzeugen</translation>
+    </message>
+    <message id="IDD_GENERATE_WEBP_TIP">
+        <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
+        <translation>Erzeugt ein WebP in der Größe der Aufnahme und mit der Bildrate des Werkzeugs</translation>
+    </message>
+    <message id="IDD_WEBP_LOOPS">
+        <source>WebP loops</source>
+        <translation>WebP-Wiederholungen</translation>
+    </message>
+    <message id="IDD_WEBP_LOOPS_HINT">
+        <source>0 means for ever</source>
+        <translation>0 heißt endlos</translation>
+    </message>
+    <message id="IDD_SIZE_HINT">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="IDD_SIZE_ZERO">
+        <source>must begin with a number other than 0</source>
+        <translation>muss mit einer Zahl außer 0 beginnen</translation>
+    </message>
+    <message id="IDD_SIZE_NEGATIVE">
+        <source>negative, will be refused</source>
+        <translation>negativ, wird abgelehnt</translation>
+    </message>
+    <message id="IDD_SIZE_NOT_PLAIN">
+        <source>digits only, or it will be refused</source>
+        <translation>nur Ziffern, sonst wird sie abgelehnt</translation>
+    </message>
+    <message id="IDD_SIZE_TOO_LARGE">
+        <source>65,535 pixels at most</source>
+        <translation>höchstens 65.535 Pixel</translation>
+    </message>
+    <message id="IDD_GIF_SUMMARY">
+        <source>The range: %1 frames, %2 seconds at %3 frames per second</source>
+        <translation>Der Abschnitt: %1 Bilder, %2 Sekunden bei %3 Bildern pro Sekunde</translation>
+    </message>
 </context>
 </TS>

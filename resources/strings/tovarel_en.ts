@@ -319,5 +319,117 @@
         <translation>No frame in this range</translation>
     </message>
     <!-- export -->
+    <message id="IDD_PROGRESS_GIF">
+        <source>Making the GIF…</source>
+        <translation>Making the GIF…</translation>
+    </message>
+    <message id="IDD_TOOL_MISSING">
+        <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
+        <translation>The program “%1” is missing: it was not found when Tovarel was started.</translation>
+    </message>
+    <message id="IDD_TOOL_NOT_STARTED">
+        <source>The program “%1” could not be started: %2</source>
+        <translation>The program “%1” could not be started: %2</translation>
+    </message>
+    <message id="IDD_TOOL_TOO_MANY_FRAMES">
+        <source>The chosen range holds more frames than fit on one command line. Choose a shorter range.</source>
+        <translation>The chosen range holds more frames than fit on one command line. Choose a shorter range.</translation>
+    </message>
+    <message id="IDD_TOOL_CRASHED">
+        <source>The program “%1” crashed (signal %2, %3).</source>
+        <translation>The program “%1” crashed (signal %2, %3).</translation>
+    </message>
+    <message id="IDD_TOOL_FAILED">
+        <source>The program “%1” failed (exit status %2).</source>
+        <translation>The program “%1” failed (exit status %2).</translation>
+    </message>
+    <message id="IDD_TOOL_NO_RESULT">
+        <source>The program “%1” ended without writing its result, %2.</source>
+        <translation>The program “%1” ended without writing its result, %2.</translation>
+    </message>
+    <message id="IDD_REFUSED_SIZE">
+        <source>The size asked for was %1 × %2.</source>
+        <translation>The size asked for was %1 × %2.</translation>
+    </message>
+    <message id="IDD_MOVE_FAILED">
+        <source>The file could not be saved as %1. %2
+
+It remains at %3.</source>
+        <translation>The file could not be saved as %1. %2
+
+It remains at %3.</translation>
+    </message>
+    <message id="IDD_MOVE_IS_FOLDER">
+        <source>A folder of that name stands there.</source>
+        <translation>A folder of that name stands there.</translation>
+    </message>
+    <message id="IDD_MOVE_NOT_A_FILE">
+        <source>What stands there is not an ordinary file.</source>
+        <translation>What stands there is not an ordinary file.</translation>
+    </message>
+    <message id="IDD_MOVE_SAME_FILE">
+        <source>That is the file itself.</source>
+        <translation>That is the file itself.</translation>
+    </message>
+    <message id="IDD_MOVE_WORKING_FOLDER">
+        <source>Tovarel empties that folder itself: choose another one.</source>
+        <translation>Tovarel empties that folder itself: choose another one.</translation>
+    </message>
+    <message id="IDD_STATUS_SAVED">
+        <source>Saved: %1 (%2).</source>
+        <translation>Saved: %1 (%2).</translation>
+    </message>
+    <message id="IDD_STATUS_GAP">
+        <source>The GIF holds %1 of %2 frames: the others were missing.</source>
+        <translation>The GIF holds %1 of %2 frames: the others were missing.</translation>
+    </message>
+    <message id="IDD_STATUS_WEBP_GAP">
+        <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
+        <translation>The WebP holds %1 of %2 frames: the next one was missing.</translation>
+    </message>
+    <message id="IDD_STATUS_WEBP_RUNS">
+        <source>Making the WebP…</source>
+        <translation>Making the WebP…</translation>
+    </message>
+    <message id="IDD_GENERATE_WEBP">
+        <source>Generate WebP</source>
+        <translation>Generate WebP</translation>
+    </message>
+    <message id="IDD_GENERATE_WEBP_TIP">
+        <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
+        <translation>Makes a WebP in the recording's own size, at the tool's own rate</translation>
+    </message>
+    <message id="IDD_WEBP_LOOPS">
+        <source>WebP loops</source>
+        <translation>WebP loops</translation>
+    </message>
+    <message id="IDD_WEBP_LOOPS_HINT">
+        <source>0 means for ever</source>
+        <translation>0 means for ever</translation>
+    </message>
+    <message id="IDD_SIZE_HINT">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="IDD_SIZE_ZERO">
+        <source>must begin with a number other than 0</source>
+        <translation>must begin with a number other than 0</translation>
+    </message>
+    <message id="IDD_SIZE_NEGATIVE">
+        <source>negative, will be refused</source>
+        <translation>negative, will be refused</translation>
+    </message>
+    <message id="IDD_SIZE_NOT_PLAIN">
+        <source>digits only, or it will be refused</source>
+        <translation>digits only, or it will be refused</translation>
+    </message>
+    <message id="IDD_SIZE_TOO_LARGE">
+        <source>65,535 pixels at most</source>
+        <translation>65,535 pixels at most</translation>
+    </message>
+    <message id="IDD_GIF_SUMMARY">
+        <source>The range: %1 frames, %2 seconds at %3 frames per second</source>
+        <translation>The range: %1 frames, %2 seconds at %3 frames per second</translation>
+    </message>
 </context>
 </TS>

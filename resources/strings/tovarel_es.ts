@@ -319,5 +319,117 @@
         <translation>No hay fotogramas en este intervalo</translation>
     </message>
     <!-- export -->
+    <message id="IDD_PROGRESS_GIF">
+        <source>Making the GIF…</source>
+        <translation>Creando el GIF…</translation>
+    </message>
+    <message id="IDD_TOOL_MISSING">
+        <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
+        <translation>Falta el programa «%1»: no se encontró al iniciar Tovarel.</translation>
+    </message>
+    <message id="IDD_TOOL_NOT_STARTED">
+        <source>The program “%1” could not be started: %2</source>
+        <translation>No se pudo iniciar el programa «%1»: %2</translation>
+    </message>
+    <message id="IDD_TOOL_TOO_MANY_FRAMES">
+        <source>The chosen range holds more frames than fit on one command line. Choose a shorter range.</source>
+        <translation>El intervalo elegido tiene más fotogramas de los que caben en una línea de órdenes. Elija un intervalo más corto.</translation>
+    </message>
+    <message id="IDD_TOOL_CRASHED">
+        <source>The program “%1” crashed (signal %2, %3).</source>
+        <translation>El programa «%1» se cerró de forma inesperada (señal %2, %3).</translation>
+    </message>
+    <message id="IDD_TOOL_FAILED">
+        <source>The program “%1” failed (exit status %2).</source>
+        <translation>El programa «%1» falló (estado de salida %2).</translation>
+    </message>
+    <message id="IDD_TOOL_NO_RESULT">
+        <source>The program “%1” ended without writing its result, %2.</source>
+        <translation>El programa «%1» terminó sin escribir su resultado, %2.</translation>
+    </message>
+    <message id="IDD_REFUSED_SIZE">
+        <source>The size asked for was %1 × %2.</source>
+        <translation>El tamaño pedido era %1 × %2.</translation>
+    </message>
+    <message id="IDD_MOVE_FAILED">
+        <source>The file could not be saved as %1. %2
+
+It remains at %3.</source>
+        <translation>No se pudo guardar el archivo como %1. %2
+
+Sigue en %3.</translation>
+    </message>
+    <message id="IDD_MOVE_IS_FOLDER">
+        <source>A folder of that name stands there.</source>
+        <translation>Ahí hay una carpeta con ese nombre.</translation>
+    </message>
+    <message id="IDD_MOVE_NOT_A_FILE">
+        <source>What stands there is not an ordinary file.</source>
+        <translation>Lo que hay ahí no es un archivo corriente.</translation>
+    </message>
+    <message id="IDD_MOVE_SAME_FILE">
+        <source>That is the file itself.</source>
+        <translation>Ese es el propio archivo.</translation>
+    </message>
+    <message id="IDD_MOVE_WORKING_FOLDER">
+        <source>Tovarel empties that folder itself: choose another one.</source>
+        <translation>Tovarel vacía esa carpeta por su cuenta: elija otra.</translation>
+    </message>
+    <message id="IDD_STATUS_SAVED">
+        <source>Saved: %1 (%2).</source>
+        <translation>Guardado: %1 (%2).</translation>
+    </message>
+    <message id="IDD_STATUS_GAP">
+        <source>The GIF holds %1 of %2 frames: the others were missing.</source>
+        <translation>El GIF contiene %1 de %2 fotogramas: los demás faltaban.</translation>
+    </message>
+    <message id="IDD_STATUS_WEBP_GAP">
+        <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
+        <translation>El WebP contiene %1 de %2 fotogramas: faltaba el siguiente.</translation>
+    </message>
+    <message id="IDD_STATUS_WEBP_RUNS">
+        <source>Making the WebP…</source>
+        <translation>Creando el WebP…</translation>
+    </message>
+    <message id="IDD_GENERATE_WEBP">
+        <source>Generate WebP</source>
+        <translation>Generar WebP</translation>
+    </message>
+    <message id="IDD_GENERATE_WEBP_TIP">
+        <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
+        <translation>Crea un WebP con el tamaño de la grabación y la velocidad propia de la herramienta</translation>
+    </message>
+    <message id="IDD_WEBP_LOOPS">
+        <source>WebP loops</source>
+        <translation>Repeticiones del WebP</translation>
+    </message>
+    <message id="IDD_WEBP_LOOPS_HINT">
+        <source>0 means for ever</source>
+        <translation>0 significa sin fin</translation>
+    </message>
+    <message id="IDD_SIZE_HINT">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="IDD_SIZE_ZERO">
+        <source>must begin with a number other than 0</source>
+        <translation>debe empezar por un número distinto de 0</translation>
+    </message>
+    <message id="IDD_SIZE_NEGATIVE">
+        <source>negative, will be refused</source>
+        <translation>negativo, será rechazado</translation>
+    </message>
+    <message id="IDD_SIZE_NOT_PLAIN">
+        <source>digits only, or it will be refused</source>
+        <translation>solo cifras, o será rechazado</translation>
+    </message>
+    <message id="IDD_SIZE_TOO_LARGE">
+        <source>65,535 pixels at most</source>
+        <translation>65 535 píxeles como máximo</translation>
+    </message>
+    <message id="IDD_GIF_SUMMARY">
+        <source>The range: %1 frames, %2 seconds at %3 frames per second</source>
+        <translation>El intervalo: %1 fotogramas, %2 segundos a %3 fotogramas por segundo</translation>
+    </message>
 </context>
 </TS>

@@ -319,5 +319,117 @@
         <translation>Aucune image dans cette plage</translation>
     </message>
     <!-- export -->
+    <message id="IDD_PROGRESS_GIF">
+        <source>Making the GIF…</source>
+        <translation>Création du GIF…</translation>
+    </message>
+    <message id="IDD_TOOL_MISSING">
+        <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
+        <translation>Le programme « %1 » manque : il n’a pas été trouvé au démarrage de Tovarel.</translation>
+    </message>
+    <message id="IDD_TOOL_NOT_STARTED">
+        <source>The program “%1” could not be started: %2</source>
+        <translation>Le programme « %1 » n’a pas pu être lancé : %2</translation>
+    </message>
+    <message id="IDD_TOOL_TOO_MANY_FRAMES">
+        <source>The chosen range holds more frames than fit on one command line. Choose a shorter range.</source>
+        <translation>La plage choisie contient plus d’images que n’en accepte une ligne de commande. Choisissez une plage plus courte.</translation>
+    </message>
+    <message id="IDD_TOOL_CRASHED">
+        <source>The program “%1” crashed (signal %2, %3).</source>
+        <translation>Le programme « %1 » s’est arrêté brutalement (signal %2, %3).</translation>
+    </message>
+    <message id="IDD_TOOL_FAILED">
+        <source>The program “%1” failed (exit status %2).</source>
+        <translation>Le programme « %1 » a échoué (code de sortie %2).</translation>
+    </message>
+    <message id="IDD_TOOL_NO_RESULT">
+        <source>The program “%1” ended without writing its result, %2.</source>
+        <translation>Le programme « %1 » s’est terminé sans écrire son résultat, %2.</translation>
+    </message>
+    <message id="IDD_REFUSED_SIZE">
+        <source>The size asked for was %1 × %2.</source>
+        <translation>La taille demandée était %1 × %2.</translation>
+    </message>
+    <message id="IDD_MOVE_FAILED">
+        <source>The file could not be saved as %1. %2
+
+It remains at %3.</source>
+        <translation>Le fichier n’a pas pu être enregistré sous %1. %2
+
+Il reste à l’emplacement %3.</translation>
+    </message>
+    <message id="IDD_MOVE_IS_FOLDER">
+        <source>A folder of that name stands there.</source>
+        <translation>Un dossier de ce nom s’y trouve.</translation>
+    </message>
+    <message id="IDD_MOVE_NOT_A_FILE">
+        <source>What stands there is not an ordinary file.</source>
+        <translation>Ce qui s’y trouve n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message id="IDD_MOVE_SAME_FILE">
+        <source>That is the file itself.</source>
+        <translation>C’est le fichier lui-même.</translation>
+    </message>
+    <message id="IDD_MOVE_WORKING_FOLDER">
+        <source>Tovarel empties that folder itself: choose another one.</source>
+        <translation>Tovarel vide ce dossier de lui-même : choisissez-en un autre.</translation>
+    </message>
+    <message id="IDD_STATUS_SAVED">
+        <source>Saved: %1 (%2).</source>
+        <translation>Enregistré : %1 (%2).</translation>
+    </message>
+    <message id="IDD_STATUS_GAP">
+        <source>The GIF holds %1 of %2 frames: the others were missing.</source>
+        <translation>Le GIF contient %1 images sur %2 : les autres manquaient.</translation>
+    </message>
+    <message id="IDD_STATUS_WEBP_GAP">
+        <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
+        <translation>Le WebP contient %1 images sur %2 : la suivante manquait.</translation>
+    </message>
+    <message id="IDD_STATUS_WEBP_RUNS">
+        <source>Making the WebP…</source>
+        <translation>Création du WebP…</translation>
+    </message>
+    <message id="IDD_GENERATE_WEBP">
+        <source>Generate WebP</source>
+        <translation>Générer le WebP</translation>
+    </message>
+    <message id="IDD_GENERATE_WEBP_TIP">
+        <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
+        <translation>Crée un WebP à la taille de l’enregistrement et à la cadence propre à l’outil</translation>
+    </message>
+    <message id="IDD_WEBP_LOOPS">
+        <source>WebP loops</source>
+        <translation>Répétitions du WebP</translation>
+    </message>
+    <message id="IDD_WEBP_LOOPS_HINT">
+        <source>0 means for ever</source>
+        <translation>0 signifie sans fin</translation>
+    </message>
+    <message id="IDD_SIZE_HINT">
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message id="IDD_SIZE_ZERO">
+        <source>must begin with a number other than 0</source>
+        <translation>doit commencer par un nombre autre que 0</translation>
+    </message>
+    <message id="IDD_SIZE_NEGATIVE">
+        <source>negative, will be refused</source>
+        <translation>négatif, sera refusé</translation>
+    </message>
+    <message id="IDD_SIZE_NOT_PLAIN">
+        <source>digits only, or it will be refused</source>
+        <translation>des chiffres seulement, sinon refus</translation>
+    </message>
+    <message id="IDD_SIZE_TOO_LARGE">
+        <source>65,535 pixels at most</source>
+        <translation>65 535 pixels au plus</translation>
+    </message>
+    <message id="IDD_GIF_SUMMARY">
+        <source>The range: %1 frames, %2 seconds at %3 frames per second</source>
+        <translation>La plage : %1 images, %2 secondes à %3 images par seconde</translation>
+    </message>
 </context>
 </TS>

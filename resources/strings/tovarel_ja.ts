@@ -319,5 +319,117 @@
         <translation>この範囲にフレームはありません</translation>
     </message>
     <!-- export -->
+    <message id="IDD_PROGRESS_GIF">
+        <source>Making the GIF…</source>
+        <translation>GIF を作成しています…</translation>
+    </message>
+    <message id="IDD_TOOL_MISSING">
+        <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
+        <translation>プログラム「%1」がありません。Tovarel の起動時に見つかりませんでした。</translation>
+    </message>
+    <message id="IDD_TOOL_NOT_STARTED">
+        <source>The program “%1” could not be started: %2</source>
+        <translation>プログラム「%1」を起動できませんでした: %2</translation>
+    </message>
+    <message id="IDD_TOOL_TOO_MANY_FRAMES">
+        <source>The chosen range holds more frames than fit on one command line. Choose a shorter range.</source>
+        <translation>選択した範囲のフレームが多すぎて、1 つのコマンドラインに収まりません。範囲を短くしてください。</translation>
+    </message>
+    <message id="IDD_TOOL_CRASHED">
+        <source>The program “%1” crashed (signal %2, %3).</source>
+        <translation>プログラム「%1」が異常終了しました (シグナル %2、%3)。</translation>
+    </message>
+    <message id="IDD_TOOL_FAILED">
+        <source>The program “%1” failed (exit status %2).</source>
+        <translation>プログラム「%1」が失敗しました (終了ステータス %2)。</translation>
+    </message>
+    <message id="IDD_TOOL_NO_RESULT">
+        <source>The program “%1” ended without writing its result, %2.</source>
+        <translation>プログラム「%1」は結果 %2 を書き出さずに終了しました。</translation>
+    </message>
+    <message id="IDD_REFUSED_SIZE">
+        <source>The size asked for was %1 × %2.</source>
+        <translation>指定されたサイズは %1 × %2 です。</translation>
+    </message>
+    <message id="IDD_MOVE_FAILED">
+        <source>The file could not be saved as %1. %2
+
+It remains at %3.</source>
+        <translation>ファイルを %1 に保存できませんでした。%2
+
+ファイルは %3 に残っています。</translation>
+    </message>
+    <message id="IDD_MOVE_IS_FOLDER">
+        <source>A folder of that name stands there.</source>
+        <translation>その名前のフォルダーがあります。</translation>
+    </message>
+    <message id="IDD_MOVE_NOT_A_FILE">
+        <source>What stands there is not an ordinary file.</source>
+        <translation>そこにあるのは通常のファイルではありません。</translation>
+    </message>
+    <message id="IDD_MOVE_SAME_FILE">
+        <source>That is the file itself.</source>
+        <translation>それは元のファイルそのものです。</translation>
+    </message>
+    <message id="IDD_MOVE_WORKING_FOLDER">
+        <source>Tovarel empties that folder itself: choose another one.</source>
+        <translation>そのフォルダーは Tovarel が空にします。別のフォルダーを選んでください。</translation>
+    </message>
+    <message id="IDD_STATUS_SAVED">
+        <source>Saved: %1 (%2).</source>
+        <translation>保存しました: %1 (%2)</translation>
+    </message>
+    <message id="IDD_STATUS_GAP">
+        <source>The GIF holds %1 of %2 frames: the others were missing.</source>
+        <translation>GIF に含まれるのは %2 フレーム中 %1 フレームです。残りは見つかりませんでした。</translation>
+    </message>
+    <message id="IDD_STATUS_WEBP_GAP">
+        <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
+        <translation>WebP に含まれるのは %2 フレーム中 %1 フレームです。次のフレームが見つかりませんでした。</translation>
+    </message>
+    <message id="IDD_STATUS_WEBP_RUNS">
+        <source>Making the WebP…</source>
+        <translation>WebP を作成しています…</translation>
+    </message>
+    <message id="IDD_GENERATE_WEBP">
+        <source>Generate WebP</source>
+        <translation>WebP を作成</translation>
+    </message>
+    <message id="IDD_GENERATE_WEBP_TIP">
+        <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
+        <translation>録画と同じサイズ、ツール既定のフレームレートで WebP を作成します</translation>
+    </message>
+    <message id="IDD_WEBP_LOOPS">
+        <source>WebP loops</source>
+        <translation>WebP の繰り返し回数</translation>
+    </message>
+    <message id="IDD_WEBP_LOOPS_HINT">
+        <source>0 means for ever</source>
+        <translation>0 は無限</translation>
+    </message>
+    <message id="IDD_SIZE_HINT">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="IDD_SIZE_ZERO">
+        <source>must begin with a number other than 0</source>
+        <translation>0 以外の数で始めてください</translation>
+    </message>
+    <message id="IDD_SIZE_NEGATIVE">
+        <source>negative, will be refused</source>
+        <translation>負の数は拒否されます</translation>
+    </message>
+    <message id="IDD_SIZE_NOT_PLAIN">
+        <source>digits only, or it will be refused</source>
+        <translation>数字以外があると拒否されます</translation>
+    </message>
+    <message id="IDD_SIZE_TOO_LARGE">
+        <source>65,535 pixels at most</source>
+        <translation>65,535 ピクセルまでです</translation>
+    </message>
+    <message id="IDD_GIF_SUMMARY">
+        <source>The range: %1 frames, %2 seconds at %3 frames per second</source>
+        <translation>範囲: %1 フレーム、%2 秒 (毎秒 %3 フレーム)</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+// How the encoder's error output becomes a percentage. The output arrives in chunks of any size;
+// each is read by itself, so that a stamp split between two chunks is lost and the next one counts.
+
+/// Text of these bytes; none when they are not valid UTF-8, a sequence cut off at the end included.
+std::optional<QString> strictUtf8(QByteArrayView bytes);
+
+/// Whole seconds of a stamp "HH:MM:SS" of at least 8 characters. The separators are not looked at,
+/// fractions not read; a field that does not begin with a number counts as 0. A negative field is
+/// computed with in 64 unsigned bits.
+std::uint64_t secondsFromStamp(QStringView stamp);
+
+/// Seconds of the last complete "time=" stamp in a chunk; none when there is none, or when the
+/// chunk is not UTF-8. Only the first occurrence must be in lower case and complete.
+std::optional<std::uint64_t> secondsInChunk(QByteArrayView chunk);
+
+/// Position in percent, in single precision: beyond 100 when the clip runs longer than `duration`
+/// seconds, not finite when that is 0.
+double progressPercentage(std::uint64_t seconds, std::uint64_t duration);

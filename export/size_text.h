@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringView>
+
+/// What is wrong with the text of a size field. The field takes anything; whether an export starts
+/// depends on the number that the text begins with, and whether it succeeds on the encoder, which
+/// reads the text as it stands.
+enum class SizeTextProblem {
+    None,
+    Zero,     ///< Does not begin with a number other than 0: the export will not start.
+    Negative, ///< The encoder refuses it.
+    NotPlain, ///< Something beside the digits ("320px"): the encoder refuses it.
+    TooLarge, ///< More pixels a side than the GIF format can hold.
+};
+
+SizeTextProblem sizeTextProblem(QStringView text);

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "export/tool_process.h"
+
+#include <signal.h>
+#include <sys/prctl.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace tool_process {
+
+void prepare(QProcess &process, const QString &toolPath, const QStringList &arguments) {
+    process.setProgram(toolPath);
+    process.setArguments(arguments);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setChildProcessModifier([parent = getpid()] {
+        // Between fork and exec: only calls that are safe in a signal handler.
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        // The parent may have died before the kernel was told.
+        if (getppid() != parent)
+            raise(SIGKILL);
+    });
+}
+
+ToolExit exitOf(const QProcess &process, QByteArrayView errorOutput) {
+    if (process.error() == QProcess::FailedToStart) {
+        QString reason = process.errorString();
+        if (reason.contains(qt_error_string(E2BIG)))
+            reason = qtTrId("IDD_TOOL_TOO_MANY_FRAMES");
+        return {.kind = ToolExit::Kind::NotStarted, .reason = reason};
+    }
+    const bool crashed = process.exitStatus() == QProcess::CrashExit;
+    return {.kind = crashed ? ToolExit::Kind::Crashed : ToolExit::Kind::Ended,
+            .code = process.exitCode(),
+            .lastLines = lastMeaningfulLines(errorOutput)};
+}
+
+} // namespace tool_process

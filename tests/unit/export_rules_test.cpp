@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "export/aspect_ratio.h"
+#include "export/duration.h"
+#include "export/encoder_arguments.h"
+#include "export/progress_parser.h"
+#include "export/size_text.h"
+#include "export/tool_failure.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace {
+
+using Limits = std::numeric_limits<std::uint64_t>;
+
+TEST(EncoderArguments, AreTheThreeRunsInOrder) {
+    using namespace encoder_arguments;
+    const QString exports = QStringLiteral("/d/Ex");
+    const QString palette = QStringLiteral("/d/Pal");
+    EXPECT_EQ(paletteVideoArguments(palette).join(u'|').toStdString(),
+              "-i|/d/Pal/image%d.png|-vf|scale=640x480|/d/Pal/output.mp4");
+    EXPECT_EQ(paletteArguments(palette).join(u'|').toStdString(),
+              "-i|/d/Pal/output.mp4|-vf|scale=320:-1:flags=lanczos,palettegen|/d/Pal/palette.png");
+    EXPECT_EQ(gifArguments(exports, palette, 10, QStringLiteral("320px"), QStringLiteral("%1"))
+                  .join(u'|')
+                  .toStdString(),
+              "-f|image2|-framerate|10|-i|/d/Ex/image%d.png|-i|/d/Pal/palette.png|-filter_complex|"
+              "scale=320pxx%1:flags=lanczos[x];[x][1:v]paletteuse|/d/Ex/output.gif");
+}
+
+TEST(EncoderArguments, DoubleAPercentSignOfTheFolderInInputPatternsOnly) {
+    using namespace encoder_arguments;
+    const QString folder = QStringLiteral("/100% a/%1");
+    const QStringList video = paletteVideoArguments(folder);
+    EXPECT_EQ(video[1], QStringLiteral("/100%% a/%%1/image%d.png"));
+    EXPECT_EQ(video.last(), QStringLiteral("/100% a/%1/output.mp4"));
+    EXPECT_EQ(paletteArguments(folder)[1], QStringLiteral("/100% a/%1/output.mp4"));
+}
+
+TEST(EncoderArguments, TakeTheLoopCountThatTheTextBeginsWith) {
+    const struct {
+        const char16_t *text;
+        const char *loops;
+    } cases[] = {{u"3", "3"},   {u"", "0"},    {u"abc", "0"},
+                 {u" 7x", "7"}, {u"-2", "-2"}, {u"99999999999", "2147483647"}};
+    for (const auto &[text, loops] : cases)
+        EXPECT_EQ(encoder_arguments::webpArguments(text, {QStringLiteral("a"), QStringLiteral("b")},
+                                                   QStringLiteral("out"))
+                      .join(u'|')
+                      .toStdString(),
+                  std::string("-loop|") + loops + "|a|b|-o|out");
+}
+
+TEST(Duration, IsTheDistanceOverTheRateRoundedUpInSinglePrecision) {
+    const struct {
+        std::uint64_t first, last, rate, seconds;
+    } cases[] = {
+        {0, 29, 10, 3},
+        {0, 30, 10, 3},
+        {0, 31, 10, 4},
+        {100, 189, 10, 9},
+        {0, 16777217, 1, 16777216}, // the odd number has no single-precision value
+        {0, 9, 0, 0},               // no rate, no length
+        {1, 0, 1, Limits::max()},   // the difference is unsigned
+    };
+    for (const auto &[first, last, rate, seconds] : cases)
+        EXPECT_EQ(expectedDuration(first, last, rate), seconds) << first << " " << last;
+}
+
+TEST(Duration, RefusesFewerThanThreeFrames) {
+    EXPECT_TRUE(rangeIsTooShort(0, 0));
+    EXPECT_TRUE(rangeIsTooShort(4, 5));
+    EXPECT_FALSE(rangeIsTooShort(0, 2));
+    EXPECT_FALSE(rangeIsTooShort(1, 0)) << "the difference is unsigned";
+}
+
+TEST(ProgressParser, TakesTheLastCompleteStampOfAChunk) {
+    const struct {
+        const char *chunk;
+        std::optional<std::uint64_t> seconds;
+    } cases[] = {
+        {"frame=   12 fps=0.0 size=0kB time=00:00:01.20 bitrate=1\r", 1},
+        {"time=00:00:01.00 x\rtime=00:00:02.00 x\r", 2},
+        {"time=00:01:05.97", 65},
+        {"time=01:00:00", 3600},
+        {"time=00:00:0", std::nullopt},
+        {"time=00:00:03 time=00:00:0", 3},
+        {"", std::nullopt},
+        {"no stamp", std::nullopt},
+        {"TIME=00:00:04", std::nullopt},            // the first one in lower case only
+        {"time=00:00:03 TIME=00:00:04", 4},         // the others in any case
+        {"time=N/A bitrate", 0},                    // no digits
+        {"time=00-00*07", 7},                       // separators are not looked at
+        {"time=time=00:00:09.00", 0},               // the next search starts behind the stamp
+        {"time=00:00:05 time=00 time=00:00:08", 0}, // a short one takes what follows it
+    };
+    for (const auto &[chunk, seconds] : cases)
+        EXPECT_EQ(secondsInChunk(chunk), seconds) << chunk;
+}
+
+TEST(ProgressParser, TakesNothingFromBytesThatAreNotUtf8) {
+    EXPECT_EQ(secondsInChunk("time=00:00:01 \xff"), std::nullopt);
+    EXPECT_EQ(secondsInChunk("time=00:00:01 \xc3"), std::nullopt) << "a sequence cut off";
+    EXPECT_EQ(secondsInChunk("\xa4 time=00:00:01"), std::nullopt) << "the rest of one";
+    EXPECT_EQ(secondsInChunk("\xed\xa0\x80 time=00:00:01"), std::nullopt) << "half a pair";
+    EXPECT_EQ(secondsInChunk("Wärme \xf0\x9f\x8e\xac time=00:00:01"), 1u);
+}
+
+TEST(ProgressParser, ReadsNegativeFieldsInUnsignedArithmetic) {
+    EXPECT_EQ(secondsFromStamp(u"00:00:-1"), Limits::max());
+    EXPECT_EQ(secondsFromStamp(u" 1: 2:+3"), 3723u);
+}
+
+TEST(ProgressParser, ComputesThePercentageInSinglePrecision) {
+    EXPECT_EQ(progressPercentage(1, 3), static_cast<double>(33.333332f));
+    EXPECT_EQ(progressPercentage(8, 4), 200.0);
+    EXPECT_FALSE(std::isfinite(progressPercentage(1, 0)));
+    EXPECT_FALSE(std::isfinite(progressPercentage(0, 0)));
+}
+
+TEST(AspectRatio, RoundsTheDerivedSideUp) {
+    using namespace aspect_ratio;
+    EXPECT_EQ(heightForWidth(800.0f, ratio(1366, 768)), 450);
+    EXPECT_EQ(widthForHeight(450.0f, ratio(1366, 768)), 801);
+    EXPECT_EQ(heightForWidth(320.7f, ratio(1920, 1080)), 181);
+    EXPECT_EQ(heightForWidth(100.0f, ratio(2880, 1800)), 63);
+    EXPECT_EQ(heightForWidth(-100.0f, ratio(2880, 1800)), -62);
+    EXPECT_EQ(cut(320.7f), 320);
+    EXPECT_EQ(cut(-0.9f), 0);
+    EXPECT_EQ(cut(std::numeric_limits<float>::max()), std::numeric_limits<std::int64_t>::max());
+    EXPECT_EQ(cut(std::numeric_limits<double>::quiet_NaN()), 0);
+}
+
+TEST(SizeText, SaysWhatTheExportOrTheEncoderWillRefuse) {
+    using Problem = SizeTextProblem;
+    const struct {
+        const char16_t *text;
+        Problem problem;
+    } cases[] = {{u"320", Problem::None},       {u" +0320", Problem::None},
+                 {u"65535", Problem::None},     {u"65536", Problem::TooLarge},
+                 {u"", Problem::Zero},          {u"abc", Problem::Zero},
+                 {u"0", Problem::Zero},         {u"-100", Problem::Negative},
+                 {u"320px", Problem::NotPlain}, {u"320.5", Problem::NotPlain},
+                 {u"320 ", Problem::NotPlain},  {u"320x240", Problem::NotPlain}};
+    for (const auto &[text, problem] : cases)
+        EXPECT_EQ(sizeTextProblem(text), problem) << QString::fromUtf16(text).toStdString();
+}
+
+TEST(ToolFailure, ShowsTheLastLinesThatSaySomething) {
+    EXPECT_EQ(lastMeaningfulLines("banner\none\r\nInvalid size '32px'\nError\x01here\n"
+                                  "frame= 1 time=00:00:01 x\rframe= 2 time=00:00:02 x\r\n \n"
+                                  "Conversion failed!\n")
+                  .toStdString(),
+              "one\nInvalid size '32px'\nError here\nConversion failed!");
+    EXPECT_EQ(lastMeaningfulLines("").size(), 0);
+    EXPECT_EQ(lastMeaningfulLines(QByteArray(5000, 'a')).size(), 201);
+    EXPECT_TRUE(lastMeaningfulLines("bad \xff byte").startsWith(QStringLiteral("bad ")));
+}
+
+} // namespace
