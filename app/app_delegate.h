@@ -17,11 +17,15 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
 class FrameSaver;
 class WindowServer;
+struct SaveRequest;
+struct ToolExit;
+struct ToolRun;
 namespace Ui {
 class MainWindow;
 }
@@ -204,12 +208,53 @@ public:
 
     /// Resets the GIF tab to the original size and rate, or disables it without a recording.
     void resetGIFOptions();
+    void OnGIFOriginalResolution(QObject *sender);
+    void OnGIFCustomResolution(QObject *sender);
+    void OnGIFOriginalFPS(QObject *sender);
+    void OnGIFCustomFPS(QObject *sender);
+    void OnGIFChangeWidth(QObject *sender);
+    void OnGIFChangeHeigth(QObject *sender);
+    void OnGIFChangeKeepAspectRatio(QObject *sender);
+    /// Sends the actions of the size fields whose edits have not been acted upon yet.
+    void finishEditingGIFSize();
+    /// Says beside the size fields what is wrong with what is typed there, if anything.
+    void updateGIFDimensionHint();
+    /// Says what the GIF will hold: frames, and seconds at the chosen rate.
+    void updateGIFSummary();
+    /// Size of the recording in points; none without a known capture mode.
+    std::optional<QSizeF> originalSize() const;
+    /// Ratio that the typed size is tied to; none when it is free.
+    std::optional<float> tiedAspectRatio() const;
 
     // Export (export/) ------------------------------------------------------------------------
 
     void OnGIFExport(QObject *sender);
+    void Generate_WebP(QObject *sender);
+
+    // Running the tools (export/) -------------------------------------------------------------
+
+    /// Runs a tool to its end and returns all that it wrote. The event loop does not turn; only the
+    /// termination notice is heard.
+    ToolRun RunToolReadAllOutput(const QString &toolPath, const QStringList &arguments);
+    /// Runs the GIF encoder while the event loop turns and its error output moves the bar of the
+    /// progress sheet. The sheet is closed when it returns, however the run ended.
+    ToolExit RunToolWithProgress(const QString &toolPath, const QStringList &arguments);
+    /// The watched tool has written to its output: takes it and forgets it.
+    void outData(QProcess &tool);
+    /// A chunk of the watched tool's error output; empty at its end.
+    void errData(const QByteArray &data);
+    /// The watched tool has ended, or could not be started; nothing of it is handled afterwards.
+    void terminated(int exitCode, QProcess::ExitStatus status);
+    static std::uint64_t Return_Seconds_From_VOB_Duration_Str(const QString &stamp);
 
 private:
+    /// The three runs and the look at their result: why there is no GIF, or none.
+    std::optional<QString> encodeGIF();
+    /// Likewise for the WebP.
+    std::optional<QString> encodeWebP(const QStringList &frames);
+    /// Lets the user choose a place for a finished file and puts it there.
+    void saveResult(const SaveRequest &request);
+
     // Connecting controls to actions, each in its concern's folder.
     void connectShellControls();
     void connectRecordControls();
@@ -230,6 +275,7 @@ private:
     std::unique_ptr<WindowServer> windowServer_;
     QString documentsFolder_;
     std::unique_ptr<FrameSaver> frameSaver_;
+    QProcess *watchedTool_ = nullptr; // while `RunToolWithProgress` waits for it
 };
 
 /// The delegate of the application object: how views and dialogs reach the controller. Null before

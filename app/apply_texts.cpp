@@ -81,4 +81,9 @@ void AppDelegate::applyTexts() {
     ui->textGIFWidth->setAccessibleName(texts.s_IDD_WIDTH());
     ui->textGIFHeigth->setAccessibleName(texts.s_IDD_HEIGHT());
     ui->comboGIFFPS->setAccessibleName(texts.s_IDD_FPS());
+    ui->labelWebPLoops->setText(qtTrId("IDD_WEBP_LOOPS"));
+    ui->labelWebPLoopsHint->setText(qtTrId("IDD_WEBP_LOOPS_HINT"));
+    ui->txtWebPLoops->setAccessibleName(qtTrId("IDD_WEBP_LOOPS"));
+    ui->btnWebPGenerate->setText(qtTrId("IDD_GENERATE_WEBP"));
+    ui->btnWebPGenerate->setToolTip(qtTrId("IDD_GENERATE_WEBP_TIP"));
 }

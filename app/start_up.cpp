@@ -50,6 +50,7 @@ void AppDelegate::awakeFromNib() {
     connectShellControls();
     connectRecordControls();
     connectTrimControls();
+    connectExportControls();
 }
 
 void AppDelegate::connectShellControls() {

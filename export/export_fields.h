@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
+#include <QString>
+
 #include <cstdint>
 
 class Window_Progress;
@@ -30,9 +33,22 @@ public:
         i_Orig_Duration_in_Seconds_ = seconds;
     }
 
+    /// What the watched tool wrote to its error output, or the end of it.
+    QByteArray toolErrors;
+
+    /// Whether an export is under way, its save panel and alerts included.
+    bool exportRuns() const { return exportRuns_; }
+    void setExportRuns(bool runs) { exportRuns_ = runs; }
+
+    /// Folder of the last file that was saved; empty before the first.
+    const QString &lastSaveFolder() const { return lastSaveFolder_; }
+    void setLastSaveFolder(const QString &folder) { lastSaveFolder_ = folder; }
+
 private:
     Window_Progress *windowProgress_ = nullptr;
     bool terminated_ = false;
     std::uint64_t u_Type_Progress_ = PROGRESS_TYPE_GIF;
     std::uint64_t i_Orig_Duration_in_Seconds_ = 0;
+    bool exportRuns_ = false;
+    QString lastSaveFolder_;
 };

@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+#include "export/duration.h"
+#include "export/encoder_arguments.h"
+#include "export/export_checks.h"
+#include "export/save_request.h"
+#include "export/staging.h"
+#include "export/tool_run.h"
+#include "ui_MainWindow.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+#include <QLocale>
+
+namespace {
+
+const QString encoder = QStringLiteral("ffmpeg");
+const QString errorTitle = QStringLiteral("Error");
+
+} // namespace
+
+void AppDelegate::OnGIFExport(QObject *) {
+    if (!mayExport(*this))
+        return;
+    const ExportMark mark(exporting);
+    finishEditingGIFSize();
+    if (rangeIsTooShort(trim.uFirstFrame(), trim.uLastFrame())) {
+        RunAlert(errorTitle, texts.s_IDD_LOW_FRAME_NUMBER());
+        return;
+    }
+    exporting.setI_Orig_Duration_in_Seconds(
+        expectedDuration(trim.uFirstFrame(), trim.uLastFrame(), recording.u_Record_Current_FPS()));
+    if (!sizeIsUsable(*ui)) {
+        RunAlert(errorTitle, texts.s_IDD_INVALID_DIMENSION());
+        return;
+    }
+    RemoveAllContentInFolder(shell.s_Export_Folder());
+    showProgressSheet(qtTrId("IDD_PROGRESS_GIF"));
+    paintProgressSheet();
+    RemoveAllContentInFolder(shell.s_Pallete_Folder());
+    const StagedFrames staged =
+        stageFrames(shell.s_Output_Folder(), trim.uFirstFrame(), trim.uLastFrame(),
+                    shell.s_Export_Folder(), shell.s_Pallete_Folder());
+    const std::optional<QString> failure = encodeGIF();
+    if (failure) {
+        closeProgressSheet();
+        RunAlert(errorTitle, *failure);
+        return;
+    }
+    const QString gif = encoder_arguments::gifFile(shell.s_Export_Folder());
+    QString note;
+    if (staged.staged < staged.asked) {
+        // The input ends at the gap, or begins after it: only the file knows what it holds.
+        const QLocale locale;
+        note = qtTrId("IDD_STATUS_GAP")
+                   .arg(locale.toString(QImageReader(gif).imageCount()),
+                        locale.toString(qulonglong{staged.asked}));
+        ShowStatus(note);
+    }
+    saveResult({.file = gif,
+                .panelTitle = QStringLiteral("Select a folder to save the GIF image"),
+                .successText = texts.s_IDD_GIF_SAVED_OK(),
+                .note = note});
+}
+
+std::optional<QString> AppDelegate::encodeGIF() {
+    using namespace encoder_arguments;
+    const QString &tool = shell.sffmpegPath();
+    const QString &palette = shell.s_Pallete_Folder();
+    for (const QStringList &arguments :
+         {paletteVideoArguments(palette), paletteArguments(palette)}) {
+        const ToolRun run = RunToolReadAllOutput(tool, arguments);
+        if (!run.exit.succeeded())
+            return toolFailureText(encoder, run.exit);
+    }
+    const QString width = ui->textGIFWidth->text();
+    const QString height = ui->textGIFHeigth->text();
+    const auto rate = static_cast<std::uint64_t>(ui->comboGIFFPS->currentIndex() + 1);
+    const ToolExit exit = RunToolWithProgress(
+        tool, gifArguments(shell.s_Export_Folder(), palette, rate, width, height));
+    if (exit.kind == ToolExit::Kind::Ended && exit.code != 0)
+        return toolFailureText(encoder, exit) + QStringLiteral("\n\n") +
+               qtTrId("IDD_REFUSED_SIZE").arg(width, height);
+    if (!exit.succeeded())
+        return toolFailureText(encoder, exit);
+    const QString gif = gifFile(shell.s_Export_Folder());
+    if (QFileInfo(gif).size() == 0)
+        return noResultText(encoder, gif, exit);
+    return std::nullopt;
+}

@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// A finished export that the user is asked to give a place.
+struct SaveRequest {
+    QString file;        ///< The encoder's output; its name is offered.
+    QString panelTitle;  ///< Title of the save panel.
+    QString successText; ///< Informative text of the alert after a confirmed save.
+    QString note;        ///< What the status line says beside the path and size; may be empty.
+};

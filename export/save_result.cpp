@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+#include "export/safe_move.h"
+#include "export/save_request.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMainWindow>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+/// The folder that the save panel shows first: the last one used, else the one for pictures.
+QString startFolder(const QString &lastUsed) {
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    for (const QString &folder : {lastUsed, pictures})
+        if (!folder.isEmpty() && QFileInfo(folder).isDir())
+            return folder;
+    return QDir::homePath();
+}
+
+/// Whether a file of that path would lie in a folder that the program empties.
+bool liesInWorkingFolder(const QString &path, const ShellFields &shell) {
+    const QString folder = QFileInfo(path).dir().canonicalPath() + QLatin1Char('/');
+    const std::array working{shell.s_Output_Folder(), shell.s_Export_Folder(),
+                             shell.s_Pallete_Folder()};
+    return std::any_of(working.begin(), working.end(), [&folder](const QString &own) {
+        const QString canonical = QDir(own).canonicalPath();
+        return !canonical.isEmpty() && folder.startsWith(canonical + QLatin1Char('/'));
+    });
+}
+
+/// Asks for the place; an empty text when the user cancels.
+QString runSavePanel(QWidget *parent, const SaveRequest &request, const QString &folder) {
+    QFileDialog panel(parent, request.panelTitle, folder);
+    panel.setObjectName(QStringLiteral("savePanel"));
+    panel.setAcceptMode(QFileDialog::AcceptSave);
+    panel.setFileMode(QFileDialog::AnyFile);
+    panel.selectFile(QFileInfo(request.file).fileName());
+    if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty())
+        return {};
+    return panel.selectedFiles().first();
+}
+
+} // namespace
+
+void AppDelegate::saveResult(const SaveRequest &request) {
+    const QString path =
+        runSavePanel(shell.window(), request, startFolder(exporting.lastSaveFolder()));
+    if (path.isEmpty())
+        return;
+    const std::optional<QString> failure = liesInWorkingFolder(path, shell)
+                                               ? qtTrId("IDD_MOVE_WORKING_FOLDER")
+                                               : safeMove(request.file, path);
+    if (failure) {
+        RunAlert(QStringLiteral("Error"),
+                 qtTrId("IDD_MOVE_FAILED").arg(path, *failure, request.file));
+        return;
+    }
+    const QFileInfo saved(path);
+    exporting.setLastSaveFolder(saved.absolutePath());
+    const QString size = QLocale().formattedDataSize(saved.size());
+    QString status = qtTrId("IDD_STATUS_SAVED").arg(path, size);
+    if (!request.note.isEmpty())
+        status += QLatin1Char(' ') + request.note;
+    ShowStatus(status);
+    RunAlert(QStringLiteral("Success"), request.successText);
+}

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "export_fixture.h"
+
+#include "app/tab_view.h"
+#include "app/working_folders.h"
+#include "platform/null/null_window_server.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QMainWindow>
+#include <QMessageBox>
+
+namespace {
+
+constexpr int frameWidth = 64;
+constexpr int frameHeight = 48;
+constexpr int recordedRate = 10; // frames per second
+
+AppDelegate::Environment environment(const QString &documents) {
+    return {.windowServer = std::make_unique<NullWindowServer>(QStringLiteral("a test")),
+            .documentsFolder = documents};
+}
+
+} // namespace
+
+QByteArray contentOf(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+}
+
+void put(const QString &path, const QByteArray &content) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write(content), content.size());
+}
+
+Answerer::Answerer() {
+    connect(&timer_, &QTimer::timeout, this, &Answerer::answer);
+    timer_.start(5);
+}
+
+void Answerer::answer() {
+    QWidget *modal = QApplication::activeModalWidget();
+    if (auto *alert = qobject_cast<QMessageBox *>(modal)) {
+        // A save panel asks by a box of its own whether a file may be replaced.
+        if (alert->objectName() == QLatin1String("alert"))
+            alerts.push_back({alert->text(), alert->informativeText()});
+        QAbstractButton *yes = alert->button(QMessageBox::Yes);
+        (yes ? yes : alert->buttons().first())->click();
+    } else if (auto *panel = qobject_cast<QFileDialog *>(modal); panel && panel != answered_) {
+        answered_ = panel;
+        const QString name = QFileInfo(panel->selectedFiles().value(0)).fileName();
+        panels += panel->windowTitle() + u'|' + name;
+        if (!savePath.isEmpty())
+            panel->selectFile(savePath);
+        // Later: the panel may ask about an existing file, and this timer must tick for that.
+        QMetaObject::invokeMethod(panel, savePath.isEmpty() ? "reject" : "accept",
+                                  Qt::QueuedConnection);
+    }
+}
+
+ExportTest::ExportTest()
+    : documents(folder.filePath(QStringLiteral("100% real %1/Döcuments"))),
+      controller(environment(documents)), ui(*controller.ui) {
+    controller.awakeFromNib();
+    controller.applicationDidFinishLaunching();
+}
+
+ExportTest::~ExportTest() { delete controller.shell.window(); }
+
+QColor ExportTest::colourOf(int frame) { return QColor::fromHsv((frame * 67) % 360, 200, 220); }
+
+QString ExportTest::frameFile(int number) const {
+    return working_folders::frameFile(controller.shell.s_Output_Folder(),
+                                      static_cast<std::uint64_t>(number));
+}
+
+void ExportTest::record(int count) {
+    QImage picture(frameWidth, frameHeight, QImage::Format_RGB32);
+    for (int frame = 0; frame < count; ++frame) {
+        picture.fill(colourOf(frame));
+        ASSERT_TRUE(picture.save(frameFile(frame)));
+    }
+    controller.capture.setImgScreenCapture(Image::fromQImage(picture));
+    controller.recording.setU_Record_Current_FPS(recordedRate);
+    controller.shell.tabviewMain()->selectTabViewItemAtIndex(2);
+    // Set last: with no frame in memory the Cut tab would work out an empty range.
+    controller.trim.setUFirstFrame(0);
+    controller.trim.setULastFrame(static_cast<std::uint64_t>(count - 1));
+}
+
+QString ExportTest::standIn(const QByteArray &script) {
+    const QString path = folder.filePath(QStringLiteral("tool %1").arg(++standIns_));
+    put(path, "#!/bin/bash\nlast=\"${@: -1}\"\n" + script + '\n');
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return path;
+}

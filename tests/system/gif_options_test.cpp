@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "export_fixture.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QMainWindow>
+#include <QTest>
+
+namespace {
+
+/// The GIF tab of the real window, with a recording of 30 frames at 12 frames per second.
+class GifOptions : public ExportTest {
+protected:
+    GifOptions() {
+        QApplication::setActiveWindow(controller.shell.window());
+        controller.region.setI_Type_Screen_Capture(CAPTURE_REGION);
+        controller.region.setRect_Screen_Region({10, 10, 1366, 768});
+    }
+
+    void enterTab() {
+        record(30);
+        controller.recording.setU_Record_Current_FPS(12);
+        controller.resetGIFOptions();
+    }
+    void chooseCustomSize(bool tied) {
+        ui.radioGIFCustomDimension->click();
+        if (ui.checkGIFKeepAspectRatio->isChecked() != tied)
+            ui.checkGIFKeepAspectRatio->click();
+    }
+    static void type(QLineEdit *field, const QString &text) {
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, text);
+        if (text.isEmpty())
+            QTest::keyClick(field, Qt::Key_Delete);
+    }
+    std::string size() const {
+        return (ui.textGIFWidth->text() + u'x' + ui.textGIFHeigth->text()).toStdString();
+    }
+};
+
+} // namespace
+
+TEST_F(GifOptions, StayUnusableWithoutARecording) {
+    controller.resetGIFOptions();
+    for (const QWidget *control :
+         {static_cast<QWidget *>(ui.radioGIFOriginalDimension),
+          static_cast<QWidget *>(ui.radioGIFCustomDimension),
+          static_cast<QWidget *>(ui.textGIFWidth), static_cast<QWidget *>(ui.textGIFHeigth),
+          static_cast<QWidget *>(ui.checkGIFKeepAspectRatio),
+          static_cast<QWidget *>(ui.radioGIFOriginalFPS),
+          static_cast<QWidget *>(ui.radioGIFCustomFPS), static_cast<QWidget *>(ui.comboGIFFPS),
+          static_cast<QWidget *>(ui.btnGIFExport), static_cast<QWidget *>(ui.btnWebPGenerate),
+          static_cast<QWidget *>(ui.txtWebPLoops)})
+        EXPECT_FALSE(control->isEnabled()) << control->objectName().toStdString();
+    EXPECT_FALSE(ui.menuitemActionGIFExport->isEnabled());
+    EXPECT_TRUE(ui.labelGIFSummary->text().isEmpty());
+}
+
+TEST_F(GifOptions, BeginWithTheRecordingsOwnSizeAndRate) {
+    controller.region.setRect_Screen_Region({0, 0, 641.6, 480.9});
+    enterTab();
+    EXPECT_TRUE(ui.btnGIFExport->isEnabled() && ui.btnWebPGenerate->isEnabled());
+    EXPECT_TRUE(ui.radioGIFOriginalDimension->isChecked() && ui.radioGIFOriginalFPS->isChecked());
+    EXPECT_FALSE(ui.textGIFWidth->isEnabled() || ui.textGIFHeigth->isEnabled() ||
+                 ui.checkGIFKeepAspectRatio->isEnabled() || ui.comboGIFFPS->isEnabled());
+    EXPECT_EQ(size(), "641x480");
+    EXPECT_EQ(ui.comboGIFFPS->currentText(), QStringLiteral("12"));
+
+    controller.region.setI_Type_Screen_Capture(CAPTURE_FULL_SCREEN);
+    controller.capture.setImgScreenCapture(Image::fromQImage({1440, 900, QImage::Format_RGB32}));
+    controller.recording.setU_Record_Current_FPS(61);
+    controller.resetGIFOptions();
+    EXPECT_EQ(size(), "1440x900");
+    EXPECT_EQ(ui.comboGIFFPS->currentText(), QStringLiteral("60")) << "never without a selection";
+}
+
+TEST_F(GifOptions, FormTwoPairsThatDoNotTouchEachOther) {
+    enterTab();
+    chooseCustomSize(false);
+    type(ui.textGIFWidth, QStringLiteral("500"));
+    ui.radioGIFCustomFPS->click();
+    ui.comboGIFFPS->setCurrentIndex(29);
+    for (int clicks = 0; clicks < 2; ++clicks) {
+        EXPECT_TRUE(ui.radioGIFCustomDimension->isChecked() && ui.radioGIFCustomFPS->isChecked());
+        EXPECT_FALSE(ui.radioGIFOriginalDimension->isChecked() ||
+                     ui.radioGIFOriginalFPS->isChecked());
+        EXPECT_TRUE(ui.textGIFWidth->isEnabled() && ui.comboGIFFPS->isEnabled());
+        EXPECT_EQ(size(), "500x768");
+        // A click on what is on changes nothing.
+        ui.radioGIFCustomDimension->click();
+        ui.radioGIFCustomFPS->click();
+    }
+    EXPECT_TRUE(ui.labelGIFSummary->text().contains(QLocale().toString(1.0, 'f', 1)));
+
+    ui.radioGIFOriginalDimension->click();
+    EXPECT_EQ(size(), "1366x768");
+    EXPECT_FALSE(ui.textGIFWidth->isEnabled());
+    EXPECT_TRUE(ui.comboGIFFPS->isEnabled());
+    ui.radioGIFOriginalFPS->click();
+    EXPECT_EQ(ui.comboGIFFPS->currentIndex(), 11);
+    EXPECT_TRUE(ui.labelGIFSummary->text().contains(QLocale().toString(2.5, 'f', 1)));
+}
+
+TEST_F(GifOptions, TieTheOtherSideWhenAFieldSendsItsAction) {
+    enterTab();
+    chooseCustomSize(true);
+    type(ui.textGIFWidth, QStringLiteral("800"));
+    EXPECT_EQ(size(), "800x768") << "typing alone derives nothing";
+    QTest::keyClick(ui.textGIFWidth, Qt::Key_Return);
+    EXPECT_EQ(size(), "800x450");
+    ui.textGIFHeigth->setFocus();
+    ui.textGIFWidth->setFocus();
+    EXPECT_EQ(size(), "800x450") << "passing through an untouched field is no edit";
+    type(ui.textGIFHeigth, QStringLiteral("450"));
+    ui.textGIFWidth->setFocus();
+    EXPECT_EQ(size(), "801x450") << "an edited field sends it when editing ends";
+    for (const char16_t *nothing : {u"0", u"abc", u""}) {
+        type(ui.textGIFWidth, QString::fromUtf16(nothing));
+        QTest::keyClick(ui.textGIFWidth, Qt::Key_Return);
+        EXPECT_EQ(ui.textGIFHeigth->text(), QStringLiteral("450"));
+        EXPECT_EQ(ui.textGIFWidth->text(), QString::fromUtf16(nothing));
+    }
+    controller.region.setI_Type_Screen_Capture(7);
+    type(ui.textGIFWidth, QStringLiteral("100"));
+    QTest::keyClick(ui.textGIFWidth, Qt::Key_Return);
+    EXPECT_EQ(size(), "100x450") << "without an original size there is no ratio";
+}
+
+TEST_F(GifOptions, DeriveNothingWhileTheSizeIsFree) {
+    enterTab();
+    chooseCustomSize(false);
+    type(ui.textGIFWidth, QStringLiteral("320.7"));
+    QTest::keyClick(ui.textGIFWidth, Qt::Key_Return);
+    EXPECT_EQ(size(), "320.7x768");
+    ui.checkGIFKeepAspectRatio->click();
+    EXPECT_EQ(size(), "320x181") << "tying derives the height from the width at once";
+    ui.checkGIFKeepAspectRatio->click();
+    EXPECT_EQ(size(), "320x181");
+}
+
+TEST_F(GifOptions, SayWhileTypingWhatTheEncoderWillRefuse) {
+    enterTab();
+    EXPECT_TRUE(ui.labelDimensionHint->text().isEmpty());
+    chooseCustomSize(false);
+    type(ui.textGIFHeigth, QStringLiteral("-5"));
+    EXPECT_TRUE(ui.labelDimensionHint->text().contains(controller.texts.s_IDD_HEIGHT()));
+    type(ui.textGIFWidth, QStringLiteral("320px"));
+    EXPECT_TRUE(ui.labelDimensionHint->text().contains(controller.texts.s_IDD_WIDTH()));
+    type(ui.textGIFWidth, QStringLiteral("320"));
+    type(ui.textGIFHeigth, QStringLiteral("180"));
+    EXPECT_TRUE(ui.labelDimensionHint->text().isEmpty());
+    type(ui.textGIFHeigth, QStringLiteral("0"));
+    ui.radioGIFOriginalDimension->click();
+    EXPECT_TRUE(ui.labelDimensionHint->text().isEmpty());
+}

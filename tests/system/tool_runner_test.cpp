@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "export/tool_run.h"
+#include "export_fixture.h"
+#include "record/window_progress.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTest>
+
+#include <signal.h>
+
+namespace {
+
+using Kind = ToolExit::Kind;
+
+class ToolRunner : public ExportTest {
+protected:
+    /// Both modes, after one another.
+    std::vector<ToolExit> runBoth(const QString &tool) {
+        std::vector<ToolExit> exits{controller.RunToolReadAllOutput(tool, {}).exit};
+        controller.showProgressSheet(QStringLiteral("a test"));
+        exits.push_back(controller.RunToolWithProgress(tool, {}));
+        EXPECT_TRUE(controller.exporting.terminated());
+        EXPECT_EQ(controller.exporting.windowProgress(), nullptr) << "the sheet is closed";
+        return exits;
+    }
+};
+
+TEST_F(ToolRunner, TellsHowARunEndedInBothModes) {
+    const QString notExecutable = folder.filePath(QStringLiteral("data"));
+    put(notExecutable, "no program");
+    const struct {
+        QString tool;
+        Kind kind;
+        int code;
+        const char *lines;
+    } cases[] = {
+        {{}, Kind::Missing, 0, ""},
+        {folder.filePath(QStringLiteral("gone")), Kind::NotStarted, 0, ""},
+        {notExecutable, Kind::NotStarted, 0, ""},
+        {standIn("exit 0"), Kind::Ended, 0, ""},
+        {standIn("echo why >&2; exit 3"), Kind::Ended, 3, "why"},
+        {standIn("echo last words >&2; kill -SEGV $$"), Kind::Crashed, SIGSEGV, "last words"},
+    };
+    for (const auto &[tool, kind, code, lines] : cases)
+        for (const ToolExit &exit : runBoth(tool)) {
+            EXPECT_EQ(exit.kind, kind) << tool.toStdString();
+            EXPECT_EQ(exit.code, code) << tool.toStdString();
+            EXPECT_EQ(exit.lastLines.toStdString(), lines);
+            EXPECT_EQ(exit.kind == Kind::NotStarted, !exit.reason.isEmpty());
+        }
+}
+
+TEST_F(ToolRunner, IsNotBlockedByMegabytesOnBothStreamsNorByAnEmptyInput) {
+    const QString tool = standIn("cat; yes | head -c 4000000; yes | head -c 4000000 >&2; exit 0");
+    for (const ToolExit &exit : runBoth(tool))
+        EXPECT_TRUE(exit.succeeded());
+    EXPECT_EQ(controller.RunToolReadAllOutput(tool, {}).text.size(), 8000000);
+}
+
+TEST_F(ToolRunner, PassesArgumentsUnchanged) {
+    const QString tool = standIn("printf '<%s>' \"$@\"");
+    const QStringList arguments{QStringLiteral("a b"), QStringLiteral("$HOME '\"*"), QString(),
+                                QStringLiteral("ü")};
+    EXPECT_EQ(controller.RunToolReadAllOutput(tool, arguments).text,
+              QStringLiteral("<a b><$HOME '\"*><><ü>"));
+    EXPECT_EQ(controller.RunToolReadAllOutput(standIn("printf '\\377'"), {}).text, QString());
+}
+
+TEST_F(ToolRunner, MovesTheBarByWhatArrivesInOneChunk) {
+    // Each line is one chunk: the tool waits until the bar has been looked at.
+    const QString tool = standIn("next() { until [ -e \"$0.$1\" ]; do sleep 0.01; done; }\n"
+                                 "printf 'frame=1 time=00:00:01.20 x\\r' >&2; next 1\n"
+                                 "printf 'time=00:00:02.00 x\\rtime=00:00:0' >&2; next 2\n"
+                                 "printf '3.00 split\\r \\377 time=00:00:03.00\\r' >&2; next 3\n"
+                                 "printf 'time=00:00:05.00 x\\r' >&2; next 4");
+    controller.exporting.setI_Orig_Duration_in_Seconds(3);
+    controller.showProgressSheet(QStringLiteral("a test"));
+    std::vector<double> seen;
+    int step = 0;
+    QByteArray read;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        // A chunk that moves nothing is known by its bytes.
+        if (!controller.exporting.windowProgress() || controller.exporting.toolErrors == read)
+            return;
+        read = controller.exporting.toolErrors;
+        seen.push_back(controller.exporting.windowProgress()->doubleValue());
+        put(tool + u'.' + QString::number(++step), {});
+    });
+    look.start(5);
+    EXPECT_TRUE(controller.RunToolWithProgress(tool, {}).succeeded());
+    const auto percent = [](float value) { return static_cast<double>(value); };
+    EXPECT_EQ(seen, std::vector({percent(33.333332f), percent(66.666664f), percent(66.666664f),
+                                 percent(500.0f / 3.0f)}));
+    EXPECT_EQ(controller.Return_Seconds_From_VOB_Duration_Str(QStringLiteral("00:01:05.97")), 65u);
+}
+
+TEST_F(ToolRunner, IsDeafAfterTheEnd) {
+    controller.showProgressSheet(QStringLiteral("a test"));
+    EXPECT_TRUE(controller.RunToolWithProgress(standIn("exit 0"), {}).succeeded());
+    controller.errData("time=00:00:01");
+    controller.terminated(0, QProcess::NormalExit);
+    EXPECT_EQ(controller.exporting.windowProgress(), nullptr);
+}
+
+/// A process of ours that waits for a tool with its event loop at rest.
+class EndWhileToolRuns : public ExportTest, public testing::WithParamInterface<int> {};
+
+INSTANTIATE_TEST_SUITE_P(Signals, EndWhileToolRuns, testing::Values(SIGTERM, SIGKILL));
+
+TEST_P(EndWhileToolRuns, TheToolEndsWithUs) {
+    constexpr int limit = 10000; // milliseconds
+    const QString pidFile = folder.filePath(QStringLiteral("pid"));
+    const QString tool = standIn("trap '' TERM INT HUP; mkfifo \"$0.pipe\"; exec 3<>\"$0.pipe\"\n"
+                                 "echo $$ > '" +
+                                 pidFile.toUtf8() + "'; read -t 600 -u 3");
+    QProcess program;
+    program.start(QCoreApplication::applicationFilePath(),
+                  {QStringLiteral("--wait-for-tool"), tool});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return contentOf(pidFile).endsWith('\n'); }, limit));
+    const auto toolPid = static_cast<pid_t>(contentOf(pidFile).toInt());
+    ASSERT_EQ(kill(toolPid, 0), 0);
+    ASSERT_EQ(kill(static_cast<pid_t>(program.processId()), GetParam()), 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, limit));
+    if (GetParam() == SIGTERM) {
+        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(program.exitCode(), 0);
+    }
+    const auto gone = [toolPid] {
+        // Nobody may collect an orphan here (a container without an init): a zombie has ended.
+        const QByteArray state = contentOf(QStringLiteral("/proc/%1/stat").arg(toolPid));
+        return state == "(none)" || state.mid(state.lastIndexOf(')') + 2, 1) == "Z";
+    };
+    EXPECT_TRUE(QTest::qWaitFor(gone, limit));
+}
+
+} // namespace

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "export_fixture.h"
+
+#include <QGuiApplication>
+#include <QProcess>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace {
+
+class WebPExport : public ExportTest {
+protected:
+    QString output() const {
+        return controller.shell.s_Output_Folder() + QStringLiteral("/output.webp");
+    }
+};
+
+QString run(const char *program, const QStringList &arguments) {
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QString::fromLatin1(program), arguments);
+    process.waitForFinished(-1);
+    EXPECT_EQ(process.exitCode(), 0) << program;
+    return QString::fromUtf8(process.readAll());
+}
+
+TEST_F(WebPExport, HoldsTheRecordingsOwnPixels) {
+    record(6);
+    controller.trim.setUFirstFrame(2);
+    answers.savePath = place("mine.webp");
+    put(answers.savePath, "old");
+    ui.txtWebPLoops->setText(QStringLiteral("3 times"));
+    // The tool's frames have the recording's size, whatever is asked of the GIF.
+    ui.textGIFWidth->setText(QStringLiteral("10"));
+    ui.btnWebPGenerate->click();
+
+    ASSERT_EQ(answers.alerts.size(), 1u);
+    EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Success"));
+    EXPECT_EQ(answers.alerts[0].text, QStringLiteral("Success"));
+    EXPECT_EQ(answers.panels,
+              QStringList(QStringLiteral("Select a folder to save the WebP image|output.webp")));
+    EXPECT_TRUE(ui.labelStatus->text().contains(answers.savePath));
+    EXPECT_FALSE(QFile::exists(output()));
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    const QString info = run("webpinfo", {answers.savePath});
+    EXPECT_TRUE(info.contains(QStringLiteral("Loop count      : 3"))) << info.toStdString();
+    EXPECT_EQ(info.count(QStringLiteral("Chunk ANMF")), 4);
+    for (int number = 1; number <= 4; ++number) {
+        const QString frame = place("frame.webp");
+        const QString picture = place("frame.png");
+        run("webpmux", {QStringLiteral("-get"), QStringLiteral("frame"), QString::number(number),
+                        answers.savePath, QStringLiteral("-o"), frame});
+        run("dwebp", {frame, QStringLiteral("-o"), picture});
+        EXPECT_EQ(QImage(picture).convertToFormat(QImage::Format_RGB32),
+                  QImage(frameFile(number + 1)).convertToFormat(QImage::Format_RGB32))
+            << number;
+    }
+}
+
+TEST_F(WebPExport, EndsAtTheFirstMissingFrameAndSaysSo) {
+    record(8);
+    ASSERT_TRUE(QFile::remove(frameFile(4)));
+    controller.trim.setUFirstFrame(2);
+    ui.btnWebPGenerate->click();
+    EXPECT_TRUE(answers.alerts.empty()) << "a cancelled panel is followed by nothing";
+    EXPECT_EQ(run("webpinfo", {output()}).count(QStringLiteral("Chunk ANMF")), 2);
+    EXPECT_TRUE(ui.labelStatus->text().contains(
+        qtTrId("IDD_STATUS_WEBP_GAP").arg(QStringLiteral("2"), QStringLiteral("6"))));
+}
+
+TEST_F(WebPExport, RefusesTooFewFramesAndAnEmptySize) {
+    record(3);
+    controller.trim.setULastFrame(1);
+    ui.btnWebPGenerate->click();
+    controller.trim.setULastFrame(2);
+    ui.textGIFHeigth->setText(QString());
+    ui.btnWebPGenerate->click();
+    ASSERT_EQ(answers.alerts.size(), 2u);
+    EXPECT_EQ(answers.alerts[0].text, controller.texts.s_IDD_LOW_FRAME_NUMBER());
+    EXPECT_EQ(answers.alerts[1].text, controller.texts.s_IDD_INVALID_DIMENSION());
+}
+
+TEST_F(WebPExport, EndsWithOneAlertWhateverGoesWrong) {
+    record(3);
+    const struct {
+        const char *what;
+        QString tool;
+        QString reason;
+    } cases[] = {
+        {"missing", {}, QStringLiteral("missing")},
+        {"failing", standIn("echo no memory >&2; exit 3"), QStringLiteral("no memory")},
+        {"crashing", standIn("kill -ABRT $$"), QStringLiteral("signal 6")},
+        {"silent", standIn("exit 0"), QStringLiteral("output.webp")},
+        {"empty", standIn(": > \"$last\""), QStringLiteral("output.webp")},
+    };
+    answers.savePath = place("never.webp");
+    for (const auto &[what, tool, reason] : cases) {
+        SCOPED_TRACE(what);
+        answers.alerts.clear();
+        // One of an earlier run must not pass for the result.
+        put(output(), "stale");
+        controller.shell.setSimg2webpPath(tool);
+        ui.btnWebPGenerate->click();
+        ASSERT_EQ(answers.alerts.size(), 1u);
+        EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
+        EXPECT_TRUE(answers.alerts[0].text.contains(QStringLiteral("img2webp")));
+        EXPECT_TRUE(answers.alerts[0].text.contains(reason))
+            << answers.alerts[0].text.toStdString();
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    }
+    EXPECT_TRUE(answers.panels.isEmpty());
+}
+
+TEST_F(WebPExport, SaysWhenTheFramesDoNotFitOnACommandLine) {
+    constexpr int many = 4000;
+    record(3);
+    for (int frame = 3; frame < many; ++frame)
+        ASSERT_EQ(link(QFile::encodeName(frameFile(0)), QFile::encodeName(frameFile(frame))), 0);
+    controller.trim.setULastFrame(many - 1);
+    // The system takes a quarter of the stack's limit for arguments, and 128 KiB at least.
+    rlimit before{};
+    getrlimit(RLIMIT_STACK, &before);
+    const rlimit lower{512 * 1024, before.rlim_max};
+    setrlimit(RLIMIT_STACK, &lower);
+    ui.btnWebPGenerate->click();
+    setrlimit(RLIMIT_STACK, &before);
+    ASSERT_EQ(answers.alerts.size(), 1u);
+    EXPECT_TRUE(answers.alerts[0].text.contains(qtTrId("IDD_TOOL_TOO_MANY_FRAMES")))
+        << answers.alerts[0].text.toStdString();
+    EXPECT_TRUE(answers.panels.isEmpty());
+}
+
+TEST_F(WebPExport, IsSeenToRunBeforeItWaits) {
+    record(3);
+    class Watch : public QObject {
+    public:
+        bool eventFilter(QObject *watched, QEvent *event) override {
+            if (event->type() == QEvent::Paint && QGuiApplication::overrideCursor())
+                painted = static_cast<QLabel *>(watched)->text();
+            return false;
+        }
+        QString painted;
+    } watch;
+    ui.labelStatus->installEventFilter(&watch);
+    ui.btnWebPGenerate->click();
+    EXPECT_EQ(watch.painted, qtTrId("IDD_STATUS_WEBP_RUNS"));
+}
+
+} // namespace
