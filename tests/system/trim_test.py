@@ -1,0 +1,97 @@
+# SPDX-FileCopyrightText: 2026 The Tovarel authors
+# SPDX-License-Identifier: MIT
+"""Trims a real recording with the pointer and the keys, plays it, and holds the exported GIF to the
+frames that were kept."""
+
+import re
+
+import case
+import counter
+import driver
+from driver import Program, middle, wait_for
+
+HELD = re.compile(r"Frames (\d+) to (\d+): (\d+) frames")
+
+
+class Trim(case.Case):
+    def handle(self, name):
+        return self.program.await_control("slider", name)
+
+    def drag(self, name, to):
+        """Drags a handle to a place, given as a share of the strip's width."""
+        strip = self.program.await_control("panel", "Part of the recording to keep")
+        box = strip.get_extents(driver.atspi().CoordType.SCREEN)
+        x, y = middle(self.handle(name))
+        move = self.session.xdotool
+        move("mousemove", "--sync", x, y, "mousedown", 1)
+        goal = box.x + round(box.width * to)
+        # In two steps, as a hand would: a drag is what lies between press and release.
+        move("mousemove", "--sync", (x + goal) // 2, y)
+        move("mousemove", "--sync", goal, y, "mouseup", 1)
+
+    def held(self):
+        """First and last frame of what the line under the preview says an export would hold."""
+        found = [match for text in self.program.labels() if (match := HELD.search(text))]
+        if not found:
+            return None
+        first, last, count = map(int, found[0].groups())
+        self.assertEqual(count, last - first + 1)
+        return first, last
+
+    def value(self, name):
+        return int(self.handle(name).get_value_iface().get_current_value())
+
+    def test_trim_play_and_export(self):
+        inside = self.session.counter("--at", "60,80", "--rate", "5")
+        self.program = program = Program(self.session)
+        program.record(5)
+        files = sorted(self.session.frames.glob("frame*.png"))
+        total = len(files)
+        self.assertGreaterEqual(total, 15)
+        wait_for("the whole recording to be kept", lambda: self.held() == (0, total - 1))
+
+        # The lower handle goes past the upper one: the two change places, and stay in order.
+        self.drag("Last frame", 0.5)
+        wait_for("the upper handle in the middle", lambda: self.held()[1] < total - 1)
+        self.drag("First frame", 0.8)
+        first, last = wait_for(
+            "the handles to have passed", lambda: (h := self.held()) and h[0] >= total // 3 and h)
+        self.assertLess(first, last)
+        self.drag("First frame", 0.2)
+        wait_for("the lower handle back", lambda: self.held()[0] < total // 2)
+
+        # The last press chose the lower handle: a key moves it by one frame, End past the other.
+        before = self.value("First frame")
+        self.session.xdotool("key", "Right")
+        wait_for("one frame on", lambda: self.value("First frame") == before + 1)
+        self.session.xdotool("key", "Left")
+        wait_for("and back", lambda: self.value("First frame") == before)
+        first, last = self.held()
+        self.assertEqual(first, before)
+
+        program.press("Play")
+        program.wait_for("playing", lambda: not program.enabled("Play"))
+        self.session.xdotool("key", "Right")
+        program.press("Pause")
+        program.wait_for("the pause", lambda: program.enabled("Play"))
+        program.ask_for_tab("GIF")
+        self.assertEqual(program.shown_tab(), "Cut")
+        program.press("Play")
+        program.press("Stop")
+        program.wait_for("the stop", lambda: not program.enabled("Stop"))
+        self.assertEqual(self.held(), (first, last))
+
+        program.enter("GIF")
+        result = self.session.home / "trimmed.gif"
+        program.press("Generate GIF")
+        program.save_panel(result, patience=120)
+        program.dismiss_alert("Success")
+        wanted = [counter.read(counter.decode(path)[0], *inside) for path in files[first : last + 1]]
+        self.assertNotIn(None, wanted)
+        got = [counter.read(picture, *inside) for picture in counter.decode(result)]
+        self.assertEqual(got, wanted)
+        self.assertEqual(program.end(), 0)
+
+
+if __name__ == "__main__":
+    case.main()
