@@ -18,6 +18,7 @@ constexpr QColor recordingRed(0xe5, 0x48, 0x4d);
 RecordingIndicator::RecordingIndicator(QWidget *parent)
     : QLabel(parent), state_(RECORD_STATUS_STOP) {
     setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     setContentsMargins(edge + signSize + signGap, 0, edge, 0);
     QFont bold = font();
     bold.setBold(true);

@@ -4,6 +4,7 @@
 
 #include "app/app_delegate.h"
 #include "record/grab_geometry.h"
+#include "record/preview_scaling.h"
 #include "region/region_in_grab.h"
 
 #include <QCoreApplication>
@@ -98,7 +99,7 @@ Image View_Record_Preview::partOfImage(const Image &image, const QRectF &rectang
 const QImage &View_Record_Preview::scaledTo(QSize pixels) {
     if (!scaledFrom_.sameAs(shown_) || scaled_.size() != pixels) {
         scaledFrom_ = shown_;
-        scaled_ = shown_.toQImage().scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        scaled_ = scaledForPreview(shown_.toQImage(), pixels);
     }
     return scaled_;
 }
