@@ -4,7 +4,6 @@
 
 #include "app/app_delegate.h"
 #include "record/grab_geometry.h"
-#include "record/preview_scaling.h"
 #include "region/region_in_grab.h"
 
 #include <QCoreApplication>
@@ -96,14 +95,6 @@ Image View_Record_Preview::partOfImage(const Image &image, const QRectF &rectang
     return Image::fromQImage(std::move(canvas));
 }
 
-const QImage &View_Record_Preview::scaledTo(QSize pixels) {
-    if (!scaledFrom_.sameAs(shown_) || scaled_.size() != pixels) {
-        scaledFrom_ = shown_;
-        scaled_ = scaledForPreview(shown_.toQImage(), pixels);
-    }
-    return scaled_;
-}
-
 void View_Record_Preview::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), Qt::black);
@@ -112,7 +103,9 @@ void View_Record_Preview::paintEvent(QPaintEvent *event) {
     // The fitting frame counts from the lower left corner of the view, painting from the upper one.
     const QRectF target(frame_.x, height() - frame_.y - frame_.height, frame_.width, frame_.height);
     const QSize pixels = (target.size() * devicePixelRatioF()).toSize().expandedTo({1, 1});
-    painter.drawImage(target, scaledTo(pixels));
+    const QImage &scaled =
+        scaler_.scaled(shown_, pixels, devicePixelRatioF(), ImageScaler::Care::Quick);
+    painter.drawImage(target, scaled, scaled.rect());
 }
 
 void View_Record_Preview::redisplay() {

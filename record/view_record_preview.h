@@ -3,10 +3,10 @@
 #pragma once
 
 #include "platform/image.h"
+#include "platform/image_scaler.h"
 #include "record/fitting.h"
 
 #include <QElapsedTimer>
-#include <QImage>
 #include <QPointer>
 #include <QRectF>
 #include <QWidget>
@@ -51,7 +51,6 @@ private:
     void redisplay();
     bool windowIsExposed() const;
     Image cutRegion(const Image &grab);
-    const QImage &scaledTo(QSize pixels);
 
     // What the last draw step settled.
     Image shown_;
@@ -62,9 +61,7 @@ private:
     QRectF cutRectangle_;
     Image cut_;
 
-    // The last picture that was scaled for the screen.
-    Image scaledFrom_;
-    QImage scaled_;
+    ImageScaler scaler_;
 
     QPointer<QWindow> watchedWindow_;
     /// Runs from a resize on whose exposure has not come yet.

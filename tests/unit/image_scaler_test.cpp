@@ -31,3 +31,16 @@ TEST(ImageScaler, bothCaresFillTheSizeAndTransparencyShowsBlack) {
         EXPECT_EQ(second.pixelColor(75, 5), QColor(Qt::blue));
     }
 }
+
+TEST(ImageScaler, linesOfOnePixelBecomeGreyInsteadOfVanishingWhenShrunk) {
+    QImage lines(64, 64, QImage::Format_RGB32);
+    for (int y = 0; y < 64; ++y)
+        for (int x = 0; x < 64; ++x)
+            lines.setPixel(x, y, x % 2 == 0 ? qRgb(255, 128, 0) : qRgb(0, 0, 0));
+    for (const QSize size : {QSize(32, 32), QSize(20, 20), QSize(16, 16)}) {
+        ImageScaler scaler;
+        const QImage &small =
+            scaler.scaled(Image::fromQImage(lines), size, 1.0, ImageScaler::Care::Quick);
+        EXPECT_EQ(small.pixel(9, 9), qRgb(127, 64, 0)) << size.width();
+    }
+}

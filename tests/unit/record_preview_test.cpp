@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/tab_view.h"
-#include "record/preview_scaling.h"
 #include "tests/unit/recording_fixture.h"
 
 #include <QPainter>
@@ -81,24 +80,6 @@ TEST_F(RecordPreview, paintsTheLastFrameFittedOverBlack) {
     EXPECT_EQ(shown.pixel(2, 102), qRgb(200, 100, 50));
     EXPECT_EQ(shown.pixel(200, 90), qRgb(0, 0, 0));
     EXPECT_EQ(shown.pixel(200, 310), qRgb(0, 0, 0));
-}
-
-TEST(PreviewScaling, keepsTheColoursOfAreasAndTheirMeans) {
-    QImage picture(64, 32, QImage::Format_ARGB32_Premultiplied);
-    picture.fill(qRgba(0, 0, 0, 0));
-    QPainter(&picture).fillRect(0, 0, 32, 32, QColor(250, 130, 7));
-    for (const QSize size : {QSize(64, 32), QSize(100, 70), QSize(32, 16), QSize(11, 5)}) {
-        const QImage scaled = scaledForPreview(picture, size);
-        ASSERT_EQ(scaled.size(), size);
-        EXPECT_EQ(scaled.pixel(size.width() / 4, 1), qRgb(250, 130, 7)) << size.width();
-        EXPECT_EQ(scaled.pixel(size.width() - 1, size.height() - 1), 0u) << size.width();
-    }
-    // Lines of one pixel become grey instead of vanishing.
-    QImage lines(60, 60, QImage::Format_RGB32);
-    lines.fill(Qt::black);
-    for (int x = 0; x < 60; x += 2)
-        QPainter(&lines).fillRect(x, 0, 1, 60, Qt::white);
-    EXPECT_EQ(qGreen(scaledForPreview(lines, {30, 30}).pixel(15, 15)), 127);
 }
 
 TEST_F(RecordPreview, cutsTheRegionFromTheLowerLeftAndLeavesTheOutsideTransparent) {
