@@ -188,10 +188,6 @@
         <source>Saving the recording…</source>
         <translation>Die Aufnahme wird gespeichert …</translation>
     </message>
-    <message id="IDD_GENERATING_GIF">
-        <source>Generating the GIF…</source>
-        <translation>Das GIF wird erzeugt …</translation>
-    </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
         <translation>Aufnahme läuft</translation>
@@ -428,8 +424,8 @@ Sie bleibt unter %3.</translation>
         <translation>höchstens 65.535 Pixel</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>The range: %1 frames, %2 seconds at %3 frames per second</source>
-        <translation>Der Abschnitt: %1 Bilder, %2 Sekunden bei %3 Bildern pro Sekunde</translation>
+        <source>%1 frames, %2 s at %3 frames per second</source>
+        <translation>%1 Bilder, %2 s bei %3 Bildern pro Sekunde</translation>
     </message>
 </context>
 </TS>

@@ -188,10 +188,6 @@
         <source>Saving the recording…</source>
         <translation>Saving the recording…</translation>
     </message>
-    <message id="IDD_GENERATING_GIF">
-        <source>Generating the GIF…</source>
-        <translation>Generating the GIF…</translation>
-    </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
         <translation>Recording</translation>
@@ -428,8 +424,8 @@ It remains at %3.</translation>
         <translation>65,535 pixels at most</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>The range: %1 frames, %2 seconds at %3 frames per second</source>
-        <translation>The range: %1 frames, %2 seconds at %3 frames per second</translation>
+        <source>%1 frames, %2 s at %3 frames per second</source>
+        <translation>%1 frames, %2 s at %3 frames per second</translation>
     </message>
 </context>
 </TS>

@@ -188,10 +188,6 @@
         <source>Saving the recording…</source>
         <translation>Guardando la grabación…</translation>
     </message>
-    <message id="IDD_GENERATING_GIF">
-        <source>Generating the GIF…</source>
-        <translation>Creando el GIF…</translation>
-    </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
         <translation>Grabando</translation>
@@ -393,11 +389,11 @@ Sigue en %3.</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
-        <translation>Generar WebP</translation>
+        <translation>Crear WebP</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
-        <translation>Crea un WebP con el tamaño de la grabación y la velocidad propia de la herramienta</translation>
+        <translation>Crea un WebP con el tamaño de la grabación y la frecuencia propia de la herramienta</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
         <source>WebP loops</source>
@@ -428,8 +424,8 @@ Sigue en %3.</translation>
         <translation>65 535 píxeles como máximo</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>The range: %1 frames, %2 seconds at %3 frames per second</source>
-        <translation>El intervalo: %1 fotogramas, %2 segundos a %3 fotogramas por segundo</translation>
+        <source>%1 frames, %2 s at %3 frames per second</source>
+        <translation>%1 fotogramas, %2 s a %3 por segundo</translation>
     </message>
 </context>
 </TS>

@@ -188,10 +188,6 @@
         <source>Saving the recording…</source>
         <translation>Enregistrement des images…</translation>
     </message>
-    <message id="IDD_GENERATING_GIF">
-        <source>Generating the GIF…</source>
-        <translation>Création du GIF…</translation>
-    </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
         <translation>Enregistrement en cours</translation>
@@ -393,11 +389,11 @@ Il reste à l’emplacement %3.</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
-        <translation>Générer le WebP</translation>
+        <translation>Créer le WebP</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
-        <translation>Crée un WebP à la taille de l’enregistrement et à la cadence propre à l’outil</translation>
+        <translation>Crée un WebP à la taille de l’enregistrement, à la fréquence propre à l’outil</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
         <source>WebP loops</source>
@@ -428,8 +424,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>65 535 pixels au plus</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>The range: %1 frames, %2 seconds at %3 frames per second</source>
-        <translation>La plage : %1 images, %2 secondes à %3 images par seconde</translation>
+        <source>%1 frames, %2 s at %3 frames per second</source>
+        <translation>%1 images, %2 s à %3 images par seconde</translation>
     </message>
 </context>
 </TS>

@@ -188,10 +188,6 @@
         <source>Saving the recording…</source>
         <translation>録画を保存しています…</translation>
     </message>
-    <message id="IDD_GENERATING_GIF">
-        <source>Generating the GIF…</source>
-        <translation>GIF を作成しています…</translation>
-    </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
         <translation>録画中</translation>
@@ -428,8 +424,8 @@ It remains at %3.</source>
         <translation>65,535 ピクセルまでです</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>The range: %1 frames, %2 seconds at %3 frames per second</source>
-        <translation>範囲: %1 フレーム、%2 秒 (毎秒 %3 フレーム)</translation>
+        <source>%1 frames, %2 s at %3 frames per second</source>
+        <translation>%1 フレーム、%2 秒（毎秒 %3 フレーム）</translation>
     </message>
 </context>
 </TS>

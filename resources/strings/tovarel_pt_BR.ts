@@ -188,10 +188,6 @@
         <source>Saving the recording…</source>
         <translation>Salvando a gravação…</translation>
     </message>
-    <message id="IDD_GENERATING_GIF">
-        <source>Generating the GIF…</source>
-        <translation>Criando o GIF…</translation>
-    </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
         <translation>Gravando</translation>
@@ -393,11 +389,11 @@ Ele continua em %3.</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
-        <translation>Gerar WebP</translation>
+        <translation>Criar WebP</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
-        <translation>Cria um WebP no tamanho da gravação e na taxa própria da ferramenta</translation>
+        <translation>Cria um WebP com o tamanho da gravação e a taxa própria da ferramenta</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
         <source>WebP loops</source>
@@ -428,8 +424,8 @@ Ele continua em %3.</translation>
         <translation>no máximo 65.535 pixels</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>The range: %1 frames, %2 seconds at %3 frames per second</source>
-        <translation>O intervalo: %1 quadros, %2 segundos a %3 quadros por segundo</translation>
+        <source>%1 frames, %2 s at %3 frames per second</source>
+        <translation>%1 quadros, %2 s a %3 por segundo</translation>
     </message>
 </context>
 </TS>

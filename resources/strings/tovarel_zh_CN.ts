@@ -188,10 +188,6 @@
         <source>Saving the recording…</source>
         <translation>正在保存录制内容…</translation>
     </message>
-    <message id="IDD_GENERATING_GIF">
-        <source>Generating the GIF…</source>
-        <translation>正在生成 GIF…</translation>
-    </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
         <translation>正在录制</translation>
@@ -397,7 +393,7 @@ It remains at %3.</source>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
-        <translation>按录制的原始尺寸和工具自身的帧率生成 WebP</translation>
+        <translation>以录制内容的尺寸和工具自身的帧率生成 WebP</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
         <source>WebP loops</source>
@@ -428,8 +424,8 @@ It remains at %3.</source>
         <translation>最多 65,535 像素</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>The range: %1 frames, %2 seconds at %3 frames per second</source>
-        <translation>范围：%1 帧，%2 秒，每秒 %3 帧</translation>
+        <source>%1 frames, %2 s at %3 frames per second</source>
+        <translation>%1 帧，%2 秒，每秒 %3 帧</translation>
     </message>
 </context>
 </TS>
