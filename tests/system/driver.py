@@ -9,11 +9,13 @@ every wait is for a condition and has a limit. The output of every process goes 
 session's folder. One session in a process, since the accessibility library connects once.
 """
 
+import ctypes
 import os
 import pathlib
 import shutil
 import signal
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -42,6 +44,15 @@ def wait_for(what, condition, patience=PATIENCE, between=0.02):
         time.sleep(between)
 
 
+C_LIBRARY = ctypes.CDLL(None)
+PR_SET_PDEATHSIG = 1  # prctl(2)
+
+
+def end_with_us():
+    """Lets the kernel end the process when this one is gone, however that came."""
+    C_LIBRARY.prctl(PR_SET_PDEATHSIG, signal.SIGKILL)
+
+
 class Session:
     """A display, a window manager and a message bus. To be used as a context manager; what was
     started in it is ended with it, whatever happened."""
@@ -58,6 +69,8 @@ class Session:
         self.environment = {}
 
     def __enter__(self):
+        # A limit that strikes from outside must not leave anything behind either.
+        signal.signal(signal.SIGTERM, lambda *_: sys.exit("ended by a signal"))
         try:
             self._start()
         except BaseException:
@@ -118,7 +131,7 @@ class Session:
         options.setdefault("stdin", subprocess.DEVNULL)
         with open(self.outputs / f"{name}.log", "ab") as output:
             return subprocess.Popen(
-                command, stdout=output, stderr=output,
+                command, stdout=output, stderr=output, preexec_fn=end_with_us,
                 env={**self.environment, **(environment or {})}, **options)
 
     def output(self, name):

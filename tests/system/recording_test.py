@@ -1,0 +1,89 @@
+# SPDX-FileCopyrightText: 2026 The Tovarel authors
+# SPDX-License-Identifier: MIT
+"""From a known changing picture on the screen to the frames and the GIF, which are read back."""
+
+import itertools
+import time
+
+import case
+import counter
+from driver import Program, content
+
+RATE = 20  # steps of the counter a second
+PART = 2.2  # seconds that each part of the recording takes
+PAUSE = 1.5
+CHOSEN_RATE = 5  # frames a second, at the start of the program
+
+
+class Recording(case.Case):
+    def test_the_frames_and_the_gif_hold_the_counter_in_order_without_our_window(self):
+        place = self.session.counter("--at", "60,80", "--size", "400x240", "--rate", str(RATE))
+        program = Program(self.session)
+        self.cover(program, place)
+
+        program.press("Record")
+        program.recording_for(PART)
+        program.press("Pause")
+        time.sleep(PAUSE)  # The counter goes on, and what it shows meanwhile must be missing.
+        program.press("Record")
+        program.recording_for(PART)
+        program.press("Stop")
+        program.await_tab("Cut")
+
+        files = sorted(self.session.frames.iterdir())
+        self.assertEqual([path.name for path in files],
+                         [f"frame{number:08}.png" for number in range(len(files))])
+        frames = counter.decode(str(self.session.frames / "frame%08d.png"), pattern=True)
+        self.assertEqual(len(frames), len(files))
+        self.check_pictures(frames, place)
+        numbers = [counter.read(frame, *place) for frame in frames]
+        gap = max(after - before for before, after in itertools.pairwise(numbers))
+        self.assertGreaterEqual(gap, PAUSE * RATE * 0.8, numbers)
+
+        program.enter("GIF")
+        rate = int(content(program.await_control("combo box")))
+        # The measured rate, rounded up: the clock of whole seconds runs beside the recording.
+        self.assertIn(rate, range(1, CHOSEN_RATE + 2))
+        self.check_gif(program, frames, numbers, rate, place)
+
+    def cover(self, program, place):
+        """Puts the program's window over the counter and makes sure that it is in front."""
+        window = program.window()
+        self.session.xdotool("windowmove", "--sync", window, place[0] + 40, place[1] + 40)
+        self.session.xdotool("windowactivate", "--sync", window)
+        screen = self.session.picture()
+        self.assertIsNone(counter.read(screen, *place), "the counter is not covered")
+
+    def check_pictures(self, pictures, place):
+        """Right size, a whole counter, and nothing beside it: our window stood there."""
+        x, y, width, height = place
+        for index, picture in enumerate(pictures):
+            self.assertEqual((picture.width, picture.height), self.screen)
+            self.assertIsNotNone(counter.read(picture, *place), f"no counter in picture {index}")
+            for row in range(y + height + 40, picture.height, 10):
+                line = picture.data[row * picture.width * 3 : (row + 1) * picture.width * 3]
+                self.assertLess(max(line), 16, f"picture {index} shows something in row {row}")
+            right = x + width + 40
+            for row in range(0, picture.height, 10):
+                at = row * picture.width * 3
+                line = picture.data[at + right * 3 : at + picture.width * 3]
+                self.assertLess(max(line), 16, f"picture {index} shows something in row {row}")
+        numbers = [counter.read(picture, *place) for picture in pictures]
+        self.assertEqual(numbers, sorted(numbers))
+        self.assertGreater(len(set(numbers)), len(numbers) * 0.5)
+
+    def check_gif(self, program, frames, numbers, rate, place):
+        target = self.session.home / "a 100% new folder.gif"
+        target.write_text("an older file")
+        program.press("Generate GIF")
+        program.save_panel(target, replace=True)
+        program.dismiss_alert("Success")
+        pictures = counter.decode(str(target))
+        self.check_pictures(pictures, place)
+        self.assertEqual([counter.read(picture, *place) for picture in pictures], numbers)
+        self.assertAlmostEqual(sum(counter.durations(str(target))), len(frames) / rate, delta=0.1)
+        self.assertEqual(program.end(), 0)
+
+
+if __name__ == "__main__":
+    case.main()
