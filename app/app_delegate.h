@@ -201,6 +201,9 @@ public:
     void togglePlayback();
     /// Works out `uFirstFrame` and `uLastFrame` from the handles' percentages.
     void updateTrimmedRange();
+    /// How many frames of the trimmed range the recording has: the upper handle's frame number may
+    /// lie one past the last frame.
+    std::uint64_t framesInTrimmedRange() const;
     /// Says under the preview what an export would hold; nothing without a recording.
     void showTrimmedRange(bool recordingExists);
 

@@ -39,7 +39,7 @@ void AppDelegate::OnGIFExport(QObject *) {
     showProgressSheet(qtTrId("IDD_PROGRESS_GIF"));
     paintProgressSheet();
     RemoveAllContentInFolder(shell.s_Pallete_Folder());
-    const StagedFrames staged =
+    const std::uint64_t staged =
         stageFrames(shell.s_Output_Folder(), trim.uFirstFrame(), trim.uLastFrame(),
                     shell.s_Export_Folder(), shell.s_Pallete_Folder());
     const std::optional<QString> failure = encodeGIF();
@@ -50,12 +50,13 @@ void AppDelegate::OnGIFExport(QObject *) {
     }
     const QString gif = encoder_arguments::gifFile(shell.s_Export_Folder());
     QString note;
-    if (staged.staged < staged.asked) {
+    const std::uint64_t wanted = framesInTrimmedRange();
+    if (staged < wanted) {
         // The input ends at the gap, or begins after it: only the file knows what it holds.
         const QLocale locale;
         note = qtTrId("IDD_STATUS_GAP")
                    .arg(locale.toString(QImageReader(gif).imageCount()),
-                        locale.toString(qulonglong{staged.asked}));
+                        locale.toString(qulonglong{wanted}));
         ShowStatus(note);
     }
     saveResult({.file = gif,

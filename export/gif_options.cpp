@@ -182,7 +182,7 @@ void AppDelegate::updateGIFSummary() {
         ui->labelGIFSummary->setText(texts.s_IDD_LOW_FRAME_NUMBER());
         return;
     }
-    const std::uint64_t frames = last - first + 1;
+    const std::uint64_t frames = framesInTrimmedRange();
     const QLocale locale;
     ui->labelGIFSummary->setText(
         qtTrId("IDD_GIF_SUMMARY")

@@ -20,19 +20,18 @@ bool stage(const QString &source, const QString &target) {
 
 } // namespace
 
-StagedFrames stageFrames(const QString &recordingFolder, std::uint64_t first, std::uint64_t last,
-                         const QString &exportFolder, const QString &paletteFolder) {
-    StagedFrames result;
+std::uint64_t stageFrames(const QString &recordingFolder, std::uint64_t first, std::uint64_t last,
+                          const QString &exportFolder, const QString &paletteFolder) {
+    std::uint64_t staged = 0;
     for (std::uint64_t frame = first; frame <= last; ++frame) {
         const std::uint64_t number = frame - first;
         const QString source = working_folders::frameFile(recordingFolder, frame);
-        ++result.asked;
         if (stage(source, working_folders::stagedFile(exportFolder, number)))
-            ++result.staged;
+            ++staged;
         if (number < encoder_arguments::paletteFrames)
             stage(source, working_folders::stagedFile(paletteFolder, number));
         if (frame == last)
             break; // the largest number has no successor
     }
-    return result;
+    return staged;
 }

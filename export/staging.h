@@ -6,15 +6,9 @@
 
 #include <cstdint>
 
-/// What stands in the export folder after staging.
-struct StagedFrames {
-    std::uint64_t asked = 0;  ///< Frames in the range.
-    std::uint64_t staged = 0; ///< Of these, how many could be staged: fewer mean a gap.
-};
-
 /// Lays the frames `first` to `last` of the recording out as a fresh sequence from 0 in the export
 /// folder, and the first ones of them in the palette folder. Files are linked, since nobody writes
 /// into an existing frame file, or copied where a link is refused. A frame that cannot be staged is
-/// left out, the others keep their numbers.
-StagedFrames stageFrames(const QString &recordingFolder, std::uint64_t first, std::uint64_t last,
-                         const QString &exportFolder, const QString &paletteFolder);
+/// left out, the others keep their numbers. Returns how many were staged.
+std::uint64_t stageFrames(const QString &recordingFolder, std::uint64_t first, std::uint64_t last,
+                          const QString &exportFolder, const QString &paletteFolder);

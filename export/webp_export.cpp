@@ -56,11 +56,11 @@ void AppDelegate::Generate_WebP(QObject *) {
         return;
     }
     QString note;
-    const std::uint64_t asked = trim.uLastFrame() - trim.uFirstFrame() + 1;
-    if (static_cast<std::uint64_t>(frames.size()) < asked) {
+    const std::uint64_t wanted = framesInTrimmedRange();
+    if (static_cast<std::uint64_t>(frames.size()) < wanted) {
         const QLocale locale;
         note = qtTrId("IDD_STATUS_WEBP_GAP")
-                   .arg(locale.toString(frames.size()), locale.toString(qulonglong{asked}));
+                   .arg(locale.toString(frames.size()), locale.toString(qulonglong{wanted}));
         ShowStatus(note);
     }
     saveResult({.file = encoder_arguments::webpFile(shell.s_Output_Folder()),

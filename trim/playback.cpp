@@ -111,6 +111,12 @@ void AppDelegate::updateTrimmedRange() {
     trim.setULastFrame(range_rules::frameAt(trim.f_Cut_Percent_Maior(), frames));
 }
 
+std::uint64_t AppDelegate::framesInTrimmedRange() const {
+    const auto held = range_rules::heldByExport(trim.uFirstFrame(), trim.uLastFrame(),
+                                                recording.u_Record_Current_Frame());
+    return held ? held->count() : 0;
+}
+
 void AppDelegate::showTrimmedRange(bool recordingExists) {
     QString text;
     if (recordingExists)

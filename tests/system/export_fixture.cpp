@@ -86,6 +86,7 @@ void ExportTest::record(int count) {
     }
     controller.capture.setImgScreenCapture(Image::fromQImage(picture));
     controller.recording.setU_Record_Current_FPS(recordedRate);
+    controller.recording.setU_Record_Current_Frame(static_cast<std::uint64_t>(count));
     controller.shell.tabviewMain()->selectTabViewItemAtIndex(2);
     // Set last: with no frame in memory the Cut tab would work out an empty range.
     controller.trim.setUFirstFrame(0);
