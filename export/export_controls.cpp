@@ -3,6 +3,32 @@
 #include "app/app_delegate.h"
 #include "ui_MainWindow.h"
 
+#include <QKeyEvent>
+
+namespace {
+
+/// Lets the export's shortcut reach the menu while a field has the focus: a line of text would take
+/// it for the end of the line, which has a key of its own.
+class ShortcutPassage : public QObject {
+public:
+    explicit ShortcutPassage(const QAction &item, QObject *parent) : QObject(parent), item_(item) {}
+
+    bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() != QEvent::ShortcutOverride)
+            return false;
+        const QKeyCombination keys = static_cast<QKeyEvent *>(event)->keyCombination();
+        if (!item_.shortcuts().contains(QKeySequence(keys)))
+            return false;
+        event->ignore();
+        return true;
+    }
+
+private:
+    const QAction &item_;
+};
+
+} // namespace
+
 void AppDelegate::connectExportControls() {
     using Action = void (AppDelegate::*)(QObject *);
     const auto radio = [this](QRadioButton *button, Action action) {
@@ -30,6 +56,10 @@ void AppDelegate::connectExportControls() {
     };
     field(ui->textGIFWidth, &AppDelegate::OnGIFChangeWidth);
     field(ui->textGIFHeigth, &AppDelegate::OnGIFChangeHeigth);
+
+    auto *passage = new ShortcutPassage(*ui->menuitemActionGIFExport, this);
+    for (QLineEdit *edit : {ui->textGIFWidth, ui->textGIFHeigth, ui->txtWebPLoops})
+        edit->installEventFilter(passage);
 
     connect(ui->checkGIFKeepAspectRatio, &QCheckBox::clicked, this,
             [this] { OnGIFChangeKeepAspectRatio(ui->checkGIFKeepAspectRatio); });

@@ -35,6 +35,7 @@ void AppDelegate::OnGIFExport(QObject *) {
         RunAlert(errorTitle, texts.s_IDD_INVALID_DIMENSION());
         return;
     }
+    ShowStatus({});
     RemoveAllContentInFolder(shell.s_Export_Folder());
     showProgressSheet(qtTrId("IDD_PROGRESS_GIF"));
     paintProgressSheet();

@@ -157,13 +157,15 @@ void AppDelegate::finishEditingGIFSize() {
 void AppDelegate::updateGIFDimensionHint() {
     QString hint;
     const struct {
-        const QLineEdit *field;
+        QLineEdit *field;
         const QString &name;
     } fields[] = {{ui->textGIFWidth, texts.s_IDD_WIDTH()},
                   {ui->textGIFHeigth, texts.s_IDD_HEIGHT()}};
     for (const auto &[field, name] : fields) {
-        const QString problem = problemText(sizeTextProblem(field->text()));
-        if (hint.isEmpty() && field->isEnabled() && !problem.isEmpty())
+        const QString problem =
+            field->isEnabled() ? problemText(sizeTextProblem(field->text())) : QString();
+        field->setAccessibleDescription(problem);
+        if (hint.isEmpty() && !problem.isEmpty())
             hint = qtTrId("IDD_SIZE_HINT").arg(name, problem);
     }
     ui->labelDimensionHint->setText(hint);

@@ -59,9 +59,11 @@ TEST_F(GifExport, GivesTheRangeAsItWasRecordedOverAnOldFile) {
 
 TEST_F(GifExport, StagesEveryFrameAndTheFirstSixtyForThePalette) {
     record(62);
+    controller.trim.setULastFrame(62); // as the Cut tab has it: one beyond the recording
     ui.btnGIFExport->click();
     EXPECT_TRUE(answers.alerts.empty()) << "a cancelled panel is followed by nothing";
     EXPECT_EQ(answers.panels.size(), 1);
+    EXPECT_TRUE(ui.labelStatus->text().isEmpty()) << ui.labelStatus->text().toStdString();
     EXPECT_EQ(filesIn(controller.shell.s_Pallete_Folder()).filter(QStringLiteral("image")).size(),
               60);
     const QString exports = controller.shell.s_Export_Folder();

@@ -155,3 +155,14 @@ TEST_F(GifOptions, SayWhileTypingWhatTheEncoderWillRefuse) {
     ui.radioGIFOriginalDimension->click();
     EXPECT_TRUE(ui.labelDimensionHint->text().isEmpty());
 }
+
+TEST_F(GifOptions, ActOnAnEditThatTheExportsShortcutFinds) {
+    enterTab();
+    chooseCustomSize(true);
+    type(ui.textGIFWidth, QStringLiteral("800"));
+    controller.trim.setULastFrame(1); // an export that ends at its first check
+    QTest::keyClick(ui.textGIFWidth, Qt::Key_E, Qt::ControlModifier);
+    EXPECT_EQ(size(), "800x450");
+    ASSERT_EQ(answers.alerts.size(), 1u);
+    EXPECT_EQ(answers.alerts[0].text, controller.texts.s_IDD_LOW_FRAME_NUMBER());
+}
