@@ -43,6 +43,8 @@ QString runSavePanel(QWidget *parent, const SaveRequest &request, const QString 
     panel.setAcceptMode(QFileDialog::AcceptSave);
     panel.setFileMode(QFileDialog::AnyFile);
     panel.selectFile(QFileInfo(request.file).fileName());
+    // A name typed without an ending gets the one that other programs know the file by.
+    panel.setDefaultSuffix(QFileInfo(request.file).suffix());
     if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty())
         return {};
     return panel.selectedFiles().first();
