@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Tovarel authors
 # SPDX-License-Identifier: MIT
-"""What the whole program manages, worked through its own interface: recording.py BUILD
+"""What the whole program manages, worked through its own interface: recording.py BUILD frames|save
 
 A window that changes 60 times a second is recorded at 30 frames a second, and the frames that hold
 a picture of their own are set against those that were due. A terminal in which somebody types is
@@ -18,7 +18,7 @@ import counter  # noqa: E402  pylint: disable=wrong-import-position
 import driver  # noqa: E402  pylint: disable=wrong-import-position
 
 SCREEN = (1920, 1080)
-LENGTH = 15  # seconds of each recording
+LENGTH = 8  # seconds of each recording
 CHANGES = 60  # a second, of the counter
 RATE = 30
 TYPING = "while :; do for word in make test commit; do printf '%s ' $word; sleep .1; done; done"
@@ -77,19 +77,20 @@ def save_share(build):
     return save / length, len(files)
 
 
-def main(build):
-    missed = False
-    for what, value, frames, bar, good in (
-        ("distinct frames / frames due, 30 a second", *distinct_frames(build), 0.98,
-         lambda v, b: v >= b),
-        ("save / recording, typing at 10 a second", *save_share(build), 1 / 3,
-         lambda v, b: v <= b),
-    ):
-        verdict = "" if good(value, bar) else "  MISSED"
-        missed |= bool(verdict)
-        print(f"{what:<44} {value:6.3f}   bar {bar:.2f}   {frames} frames{verdict}", flush=True)
-    return 1 if missed else 0
+MEASURES = {
+    "frames": ("distinct frames / frames due, 30 a second", distinct_frames, 0.98, True),
+    "save": ("save / recording, typing at 10 a second", save_share, 1 / 3, False),
+}
+
+
+def main(build, name):
+    what, measure, bar, higher_is_better = MEASURES[name]
+    value, frames = measure(build)
+    met = value >= bar if higher_is_better else value <= bar
+    verdict = "" if met else "  MISSED"
+    print(f"{what:<44} {value:6.3f}   bar {bar:.2f}   {frames} frames{verdict}")
+    return 0 if met else 1
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1]))
+    sys.exit(main(*sys.argv[1:]))
