@@ -74,11 +74,12 @@ install_packages() {
         "${as_root[@]}" apt-get "${patience[@]}" install -y --no-install-recommends "${missing[@]}"
 }
 
-# build PRESET: configures once, then builds what changed.
+# build PRESET [TARGET...]: configures once, then builds what changed of these, or of everything.
 build() {
     local preset=$1
+    shift
     if [[ ! -e build/$preset/build.ninja ]]; then
         step "configure-$preset" "Configuring ($preset)" cmake --preset "$preset"
     fi
-    step "build-$preset" "Building ($preset)" cmake --build --preset "$preset"
+    step "build-$preset" "Building ($preset)" cmake --build --preset "$preset" ${1:+--target "$@"}
 }

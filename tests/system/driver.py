@@ -106,8 +106,11 @@ class Session:
             "dbus-daemon", lambda end: ["dbus-daemon", "--session", "--nofork", "--nopidfile"]
             + [f"--print-address={end}"])
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus
-        self.start("openbox", ["openbox"])
-        wait_for("the window manager", lambda: self.xdotool("get_num_desktops", check=False))
+        # The window manager forgets a window that asks to be shown while it starts, so neither its
+        # process nor its properties on the root window are enough to go by.
+        started = self.folder / "window-manager-started"
+        self.start("openbox", ["openbox", "--startup", f"touch {started}"])
+        wait_for("the window manager", started.exists)
         # The accessibility library reads the environment of this process.
         for name in [name for name in os.environ if name.startswith("XDG_")]:
             del os.environ[name]
