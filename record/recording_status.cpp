@@ -6,7 +6,6 @@
 #include "region/region_in_grab.h"
 #include "ui_MainWindow.h"
 
-
 namespace {
 
 constexpr int secondsPerMinute = 60;

@@ -140,8 +140,8 @@ void Window_Transparent_Region::mouseDragged(Point pointer) {
 void Window_Transparent_Region::mouseUp() { setB_Mouse_Down(false); }
 
 Point Window_Transparent_Region::fromScreenCorner(QPointF inWindow) const {
-    // Not the position in the widget, which loses its fraction on the way up from the view. A window
-    // manager may have put the window elsewhere; what counts is the screen.
+    // Not the position in the widget, which loses its fraction on the way up from the view. A
+    // window manager may have put the window elsewhere; what counts is the screen.
     const QPointF inScreen = inWindow + geometry().topLeft() - screenFrame_.topLeft();
     return {inScreen.x(), screenFrame_.height() - inScreen.y()};
 }
