@@ -68,12 +68,16 @@ def in_own_mount_space():
     """Starts this file again where mounting is allowed and seen by nobody else."""
     if os.environ.get("OWN_MOUNT_SPACE"):
         return
-    unshare = ["unshare", "--mount"] if os.geteuid() == 0 else ["unshare", "--mount", "--map-root-user"]
-    if subprocess.run([*unshare, "true"], check=False, capture_output=True).returncode:
-        print("skipped: no mount space of its own is allowed here")
-        sys.exit(77)
-    os.environ["OWN_MOUNT_SPACE"] = "1"
-    os.execvp("unshare", [*unshare, sys.executable, "-B", *sys.argv])
+    # The second one is for a changed root (a build's bare system): such a root is no mount of its
+    # own, and what does not spread from it cannot be told to.
+    ways = (["unshare", "--mount", "--map-root-user"],) if os.geteuid() else (
+        ["unshare", "--mount"], ["unshare", "--mount", "--propagation", "unchanged"])
+    for way in ways:
+        if subprocess.run([*way, "true"], check=False, capture_output=True).returncode == 0:
+            os.environ["OWN_MOUNT_SPACE"] = "1"
+            os.execvp(way[0], [*way, sys.executable, "-B", *sys.argv])
+    print("skipped: no mount space of its own is allowed here")
+    sys.exit(77)
 
 
 if __name__ == "__main__":
