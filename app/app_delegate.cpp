@@ -8,6 +8,7 @@
 #include "ui_MainWindow.h"
 
 #include <QMessageBox>
+#include <QTextDocument>
 
 #include <utility>
 
@@ -34,7 +35,8 @@ void AppDelegate::RunAlert(const QString &messageText, const QString &informativ
 
 void AppDelegate::ShowStatus(const QString &text) {
     ui->labelStatus->setText(text);
-    ui->labelStatus->setToolTip(text);
+    // A path may look like markup, which a tip would follow; the label itself is set to plain text.
+    ui->labelStatus->setToolTip(text.isEmpty() ? text : Qt::convertFromPlainText(text));
 }
 
 AppDelegate *appDelegate() {

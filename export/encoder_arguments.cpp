@@ -12,6 +12,14 @@ namespace encoder_arguments {
 // Everywhere below texts are joined, never filled in with QString::arg: a folder's name may hold
 // "%1".
 
+namespace {
+
+/// Whether the path of a single picture in this folder may be taken for that of a sequence.
+/// Doubling does not help there: with no number left in it, such a path is used as it stands.
+bool looksLikePattern(const QString &folder) { return folder.contains(QLatin1Char('%')); }
+
+} // namespace
+
 QString inputPattern(const QString &folder) {
     QString literal = folder;
     literal.replace(QLatin1Char('%'), QStringLiteral("%%"));
@@ -40,25 +48,24 @@ QStringList paletteVideoArguments(const QString &paletteFolder) {
 }
 
 QStringList paletteArguments(const QString &paletteFolder) {
-    return {QStringLiteral("-i"), videoFile(paletteFolder), QStringLiteral("-vf"),
-            QStringLiteral("scale=320:-1:flags=lanczos,palettegen"), paletteFile(paletteFolder)};
+    QStringList arguments{QStringLiteral("-i"), videoFile(paletteFolder), QStringLiteral("-vf"),
+                          QStringLiteral("scale=320:-1:flags=lanczos,palettegen")};
+    if (looksLikePattern(paletteFolder))
+        arguments += {QStringLiteral("-update"), QStringLiteral("1")};
+    return arguments += paletteFile(paletteFolder);
 }
 
 QStringList gifArguments(const QString &exportFolder, const QString &paletteFolder,
                          std::uint64_t rate, const QString &width, const QString &height) {
     const QString filter = QStringLiteral("scale=") + width + QLatin1Char('x') + height +
                            QStringLiteral(":flags=lanczos[x];[x][1:v]paletteuse");
-    return {QStringLiteral("-f"),
-            QStringLiteral("image2"),
-            QStringLiteral("-framerate"),
-            QString::number(rate),
-            QStringLiteral("-i"),
-            inputPattern(exportFolder),
-            QStringLiteral("-i"),
-            paletteFile(paletteFolder),
-            QStringLiteral("-filter_complex"),
-            filter,
-            gifFile(exportFolder)};
+    QStringList arguments{QStringLiteral("-f"),         QStringLiteral("image2"),
+                          QStringLiteral("-framerate"), QString::number(rate),
+                          QStringLiteral("-i"),         inputPattern(exportFolder)};
+    if (looksLikePattern(paletteFolder))
+        arguments += {QStringLiteral("-f"), QStringLiteral("png_pipe")};
+    return arguments += {QStringLiteral("-i"), paletteFile(paletteFolder),
+                         QStringLiteral("-filter_complex"), filter, gifFile(exportFolder)};
 }
 
 QStringList webpArguments(QStringView loopsText, const QStringList &frameFiles,

@@ -12,7 +12,9 @@
 /// are written in the C locale.
 ///
 /// Encoders read a sequence by a pattern ("image%d.png"), in which a percent sign of the folder's
-/// own name would be taken for the number: there, and only there, it is doubled.
+/// own name would be taken for the number: there, and only there, it is doubled. A single picture's
+/// path is searched for a number too ("/%d/palette.png"): in such a folder, and only there, an
+/// option more says that it is one picture.
 namespace encoder_arguments {
 
 /// Frames that the palette is made of, at most: the first ones of the range.

@@ -15,11 +15,12 @@ REPORT = re.compile(r"runtime error:|ERROR: \w+Sanitizer|Segmentation fault|ASSE
 
 class Case(unittest.TestCase):
     screen = (800, 600)  # pixels
+    session_type = driver.Session
 
     @classmethod
     def setUpClass(cls):
         cls.session = cls.enterClassContext(
-            driver.Session(os.environ["TOVAREL_BUILD"], *cls.screen))
+            cls.session_type(os.environ["TOVAREL_BUILD"], *cls.screen))
 
     def tearDown(self):
         self.end_programs(signal.SIGKILL)

@@ -356,12 +356,12 @@ class Program:
         self.wait_for("the alert to close", lambda: not self.find("alert"))
         return said
 
-    def save_panel(self, path, replace=False, patience=PATIENCE):
+    def save_panel(self, path, replace=False, patience=PATIENCE, kind="GIF"):
         """Types the path into the save panel and confirms it, once more if a file is replaced."""
-        panel_title = "Select a folder to save the GIF image"
+        panel_title = f"Select a folder to save the {kind} image"
         panel = self.await_control("dialog", panel_title, patience)
         field = wait_for("the panel's name field", lambda: next(search(panel, "text"), None))
-        wait_for("a preset name", lambda: content(field) == "output.gif")
+        wait_for("a preset name", lambda: content(field) == f"output.{kind.lower()}")
         field.set_text_contents(str(path))
         wait_for("the path in the field", lambda: content(field) == str(path))
         self.press("Save")

@@ -30,13 +30,17 @@ TEST(EncoderArguments, AreTheThreeRunsInOrder) {
               "scale=320pxx%1:flags=lanczos[x];[x][1:v]paletteuse|/d/Ex/output.gif");
 }
 
-TEST(EncoderArguments, DoubleAPercentSignOfTheFolderInInputPatternsOnly) {
+TEST(EncoderArguments, KeepAPercentSignOfTheFolderFromBeingTakenForANumber) {
     using namespace encoder_arguments;
     const QString folder = QStringLiteral("/100% a/%1");
     const QStringList video = paletteVideoArguments(folder);
     EXPECT_EQ(video[1], QStringLiteral("/100%% a/%%1/image%d.png"));
     EXPECT_EQ(video.last(), QStringLiteral("/100% a/%1/output.mp4"));
     EXPECT_EQ(paletteArguments(folder)[1], QStringLiteral("/100% a/%1/output.mp4"));
+    EXPECT_EQ(paletteArguments(folder).mid(4).join(u'|').toStdString(),
+              "-update|1|/100% a/%1/palette.png");
+    EXPECT_EQ(gifArguments(folder, folder, 10, {}, {}).mid(6, 4).join(u'|').toStdString(),
+              "-f|png_pipe|-i|/100% a/%1/palette.png");
 }
 
 TEST(EncoderArguments, TakeTheLoopCountThatTheTextBeginsWith) {
