@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
+#include "app/mnemonics.h"
 #include "app/tab_view.h"
 #include "ui_MainWindow.h"
 
@@ -86,4 +87,8 @@ void AppDelegate::applyTexts() {
     ui->txtWebPLoops->setAccessibleName(qtTrId("IDD_WEBP_LOOPS"));
     ui->btnWebPGenerate->setText(qtTrId("IDD_GENERATE_WEBP"));
     ui->btnWebPGenerate->setToolTip(qtTrId("IDD_GENERATE_WEBP_TIP"));
+
+    const QString taken = mnemonics::mark(*ui->menubar, *ui->tabBar, *ui->tabStack);
+    for (const QWidget *page : {ui->pageRecord, ui->pageCut, ui->pageGIF})
+        mnemonics::mark(*page, taken);
 }

@@ -57,7 +57,7 @@ void AppDelegate::OnMenuAbout() {
     };
     QMessageBox about(shell.window());
     about.setObjectName(QStringLiteral("about"));
-    about.setWindowTitle(ui->menuitemAbout->text());
+    about.setWindowTitle(texts.s_IDD_ABOUT() + QLatin1Char(' ') + shell.s_App_Name());
     about.setIconPixmap(QApplication::windowIcon().pixmap(QSize(iconSide, iconSide),
                                                           shell.window()->devicePixelRatio()));
     about.setTextFormat(Qt::PlainText); // paths are shown, never interpreted

@@ -3,6 +3,7 @@
 #include "record/window_fps.h"
 
 #include "app/app_delegate.h"
+#include "app/mnemonics.h"
 #include "record/measured_rate.h"
 #include "ui_Window_FPS.h"
 
@@ -32,6 +33,7 @@ void Window_FPS::windowDidLoad() {
     ui_->comboScreenFPS->setAccessibleName(texts.s_IDD_FPS());
     ui_->btnOK->setText(qtTrId("IDD_OK"));
     ui_->btnCancel->setText(qtTrId("IDD_CANCEL"));
+    mnemonics::mark(*this);
     connect(ui_->btnOK, &QPushButton::clicked, this, [this] { OnOK(ui_->btnOK); });
     connect(ui_->btnCancel, &QPushButton::clicked, this, [this] { OnCancel(ui_->btnCancel); });
 }

@@ -3,6 +3,7 @@
 #include "region/window_region_how_it_works.h"
 
 #include "app/app_delegate.h"
+#include "app/mnemonics.h"
 #include "app/settings.h"
 #include "ui_Window_Region_How_It_Works.h"
 
@@ -24,7 +25,8 @@ void Window_Region_How_It_Works::windowDidLoad() {
     ui_->labelKeys->setText(qtTrId("IDD_REGION_HOW_TO_KEYS"));
     ui_->viewPicture->setAccessibleName(qtTrId("IDD_REGION_HOW_TO_PICTURE"));
     ui_->checkDontShowAgain->setText(qtTrId("IDD_REGION_HOW_TO_AGAIN"));
-    ui_->btnOK->setText(qtTrId("IDD_REGION_HOW_TO_OK"));
+    ui_->btnOK->setText(qtTrId("IDD_OK"));
+    mnemonics::mark(*this);
     connect(ui_->btnOK, &QPushButton::clicked, this, &Window_Region_How_It_Works::OnOK);
 }
 

@@ -278,12 +278,8 @@
         <translation>Mit der Tastatur: Die Pfeiltasten bewegen eine Ecke (mit Umschalt schneller), Tabulator wählt eine andere, Eingabe bestätigt, Escape bricht ab.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>&amp;Don't show this again</source>
-        <translation>&amp;Nicht mehr anzeigen</translation>
-    </message>
-    <message id="IDD_REGION_HOW_TO_OK">
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
+        <source>Don't show this again</source>
+        <translation>Nicht mehr anzeigen</translation>
     </message>
     <!-- trim -->
     <message id="IDD_HANDLE_FIRST">

@@ -278,12 +278,8 @@
         <translation>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>&amp;Don't show this again</source>
-        <translation>&amp;Don't show this again</translation>
-    </message>
-    <message id="IDD_REGION_HOW_TO_OK">
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
+        <source>Don't show this again</source>
+        <translation>Don't show this again</translation>
     </message>
     <!-- trim -->
     <message id="IDD_HANDLE_FIRST">

@@ -278,12 +278,8 @@
         <translation>Con el teclado: las flechas mueven una esquina (más rápido con Mayús), Tab elige otra, Intro acepta y Esc cancela.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>&amp;Don't show this again</source>
-        <translation>&amp;No volver a mostrar</translation>
-    </message>
-    <message id="IDD_REGION_HOW_TO_OK">
-        <source>&amp;OK</source>
-        <translation>&amp;Aceptar</translation>
+        <source>Don't show this again</source>
+        <translation>No volver a mostrar</translation>
     </message>
     <!-- trim -->
     <message id="IDD_HANDLE_FIRST">

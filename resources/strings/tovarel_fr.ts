@@ -278,12 +278,8 @@
         <translation>Au clavier : les flèches déplacent un coin (plus vite avec Maj), Tab en choisit un autre, Entrée valide, Échap abandonne.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>&amp;Don't show this again</source>
-        <translation>&amp;Ne plus afficher ce message</translation>
-    </message>
-    <message id="IDD_REGION_HOW_TO_OK">
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
+        <source>Don't show this again</source>
+        <translation>Ne plus afficher ce message</translation>
     </message>
     <!-- trim -->
     <message id="IDD_HANDLE_FIRST">

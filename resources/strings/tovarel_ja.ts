@@ -278,12 +278,8 @@
         <translation>キーボード操作: 矢印キーで角を移動（Shift で速く）、Tab で別の角を選択、Enter で確定、Esc で中止。</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>&amp;Don't show this again</source>
-        <translation>次回から表示しない(&amp;D)</translation>
-    </message>
-    <message id="IDD_REGION_HOW_TO_OK">
-        <source>&amp;OK</source>
-        <translation>OK(&amp;O)</translation>
+        <source>Don't show this again</source>
+        <translation>次回から表示しない</translation>
     </message>
     <!-- trim -->
     <message id="IDD_HANDLE_FIRST">

@@ -278,12 +278,8 @@
         <translation>Pelo teclado: as setas movem um canto (Shift: mais rápido), Tab escolhe outro, Enter confirma, Esc cancela.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>&amp;Don't show this again</source>
-        <translation>&amp;Não mostrar novamente</translation>
-    </message>
-    <message id="IDD_REGION_HOW_TO_OK">
-        <source>&amp;OK</source>
-        <translation>&amp;OK</translation>
+        <source>Don't show this again</source>
+        <translation>Não mostrar novamente</translation>
     </message>
     <!-- trim -->
     <message id="IDD_HANDLE_FIRST">

@@ -278,12 +278,8 @@
         <translation>使用键盘：方向键移动一个角（按住 Shift 更快），Tab 键选择另一个角，回车键确认，Esc 键取消。</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>&amp;Don't show this again</source>
-        <translation>不再显示(&amp;D)</translation>
-    </message>
-    <message id="IDD_REGION_HOW_TO_OK">
-        <source>&amp;OK</source>
-        <translation>确定(&amp;O)</translation>
+        <source>Don't show this again</source>
+        <translation>不再显示</translation>
     </message>
     <!-- trim -->
     <message id="IDD_HANDLE_FIRST">

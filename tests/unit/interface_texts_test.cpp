@@ -38,7 +38,7 @@ QString foreign(QString text) {
         QStringLiteral("«[A-Z_]+»|Tovarel|Error|Success|Close|No Video|GIF|WebP|MIT|ffmpeg|img2webp"
                        "|(/[\\w.-]+)+"));
     static const QRegularExpression letters(QStringLiteral("\\p{L}+"));
-    const QRegularExpressionMatch rest = letters.match(text.remove(fixed));
+    const QRegularExpressionMatch rest = letters.match(text.remove(QLatin1Char('&')).remove(fixed));
     return rest.captured();
 }
 
@@ -123,9 +123,10 @@ TEST_F(InterfaceTexts, allComeFromTheTable) {
         controller.ui->tabBar->setCurrentIndex(tab);
         checkAll(*controller.shell.window());
     }
-    EXPECT_EQ(controller.ui->menuitemAbout->text(), QStringLiteral("«IDD_ABOUT» Tovarel"));
-    EXPECT_EQ(controller.ui->menuitemQuit->text(), QStringLiteral("«IDD_QUIT» Tovarel"));
-    EXPECT_EQ(controller.ui->menuitemHelp->text(), QStringLiteral("Tovarel «IDD_HELP»"));
+    const auto text = [](const QAction *item) { return item->text().remove(QLatin1Char('&')); };
+    EXPECT_EQ(text(controller.ui->menuitemAbout), QStringLiteral("«IDD_ABOUT» Tovarel"));
+    EXPECT_EQ(text(controller.ui->menuitemQuit), QStringLiteral("«IDD_QUIT» Tovarel"));
+    EXPECT_EQ(text(controller.ui->menuitemHelp), QStringLiteral("Tovarel «IDD_HELP»"));
 }
 
 TEST_F(InterfaceTexts, ofDialogsComeFromTheTable) {

@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/mnemonics.h"
+
+#include "app/app_delegate.h"
+#include "app/application.h"
+#include "app/strings_table.h"
+#include "platform/null/null_window_server.h"
+#include "record/window_fps.h"
+#include "region/window_region_how_it_works.h"
+#include "ui_MainWindow.h"
+
+#include <QMainWindow>
+#include <QTemporaryDir>
+#include <QTranslator>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using mnemonics::marked;
+
+TEST(Mnemonics, aWordsInitialIsPreferredAndEveryoneIsServed) {
+    const struct {
+        std::vector<std::pair<const char *, const char *>> bearers;
+        const char *taken;
+        std::vector<const char *> expected;
+    } cases[] = {
+        {{{"Record", ""}, {"Region", ""}, {"Full Screen", ""}},
+         "",
+         {"&Record", "R&egion", "&Full Screen"}},
+        {{{"Keep aspect ratio", ""}, {"Keep", ""}}, "K", {"Keep &aspect ratio", "K&eep"}},
+        // The first gives way, because the second has no other letter.
+        {{{"Ab", ""}, {"A", ""}}, "", {"A&b", "&A"}},
+        {{{"A", ""}, {"A", ""}}, "", {"&A", "A"}},
+        {{{"Été", ""}, {"Äü", ""}}, "", {"É&té", "Äü"}},
+        {{{"録画", "Record"}, {"GIF を作成", "GIFExport"}}, "G", {"録画(&R)", "GIF を作成(&I)"}},
+        {{{"R & B", ""}}, "R", {"R && &B"}},
+    };
+    for (const auto &each : cases) {
+        std::vector<mnemonics::Bearer> bearers;
+        for (const auto &[text, latinName] : each.bearers)
+            bearers.push_back({QString::fromUtf8(text), QLatin1String(latinName)});
+        const std::vector<QString> texts = marked(bearers, QLatin1String(each.taken));
+        ASSERT_EQ(texts.size(), each.expected.size());
+        for (std::size_t at = 0; at < texts.size(); ++at)
+            EXPECT_EQ(texts[at], QString::fromUtf8(each.expected[at]));
+    }
+}
+
+/// Notes the letters of one group, each of which has to have one that nobody else there has.
+class Letters {
+public:
+    explicit Letters(QString where) : where_(std::move(where)) {}
+
+    void add(const QString &text) {
+        const QString letter = QKeySequence::mnemonic(text).toString();
+        EXPECT_FALSE(letter.isEmpty()) << qPrintable(where_ + text);
+        EXPECT_FALSE(seen_.contains(letter))
+            << qPrintable(where_ + text + QStringLiteral(" and ") + seen_[letter]);
+        seen_[letter] = text;
+    }
+    void addItems(const QList<QAction *> &items) {
+        for (const QAction *item : items)
+            if (!item->isSeparator())
+                add(item->text());
+    }
+    void addControls(const QWidget &page) {
+        for (const auto *button : page.findChildren<QAbstractButton *>())
+            if (!button->text().isEmpty())
+                add(button->text());
+        for (const auto *label : page.findChildren<QLabel *>())
+            if (label->buddy())
+                add(label->text());
+    }
+    qsizetype count() const { return seen_.size(); }
+
+private:
+    QString where_;
+    QMap<QString, QString> seen_;
+};
+
+TEST(Mnemonics, differWithinEveryGroupInEveryLanguage) {
+    auto *application = qobject_cast<Application *>(QCoreApplication::instance());
+    for (QString language : strings_table::available()) {
+        QTranslator table;
+        ASSERT_TRUE(table.load(QStringLiteral(":/strings/tovarel_%1.qm")
+                                   .arg(language.replace(QLatin1Char('-'), QLatin1Char('_')))));
+        QCoreApplication::installTranslator(&table);
+        const QTemporaryDir documents;
+        AppDelegate controller({.windowServer = std::make_unique<NullWindowServer>(QString()),
+                                .documentsFolder = documents.path()});
+        application->setDelegate(&controller);
+        controller.awakeFromNib();
+        ASSERT_TRUE(controller.applicationDidFinishLaunching());
+        const QString where = language + QStringLiteral(": ");
+        for (const QMenu *menu : controller.ui->menubar->findChildren<QMenu *>())
+            Letters(where).addItems(menu->actions());
+        Letters always(where);
+        always.addItems(controller.ui->menubar->actions());
+        for (int tab = 0; tab < controller.ui->tabBar->count(); ++tab)
+            always.add(controller.ui->tabBar->tabText(tab));
+        for (const QWidget *page :
+             {controller.ui->pageRecord, controller.ui->pageCut, controller.ui->pageGIF}) {
+            Letters letters = always;
+            letters.addControls(*page);
+            if (page == controller.ui->pageGIF) {
+                EXPECT_GE(letters.count(), 18);
+            }
+        }
+        Letters(where).addControls(Window_FPS(controller.shell.window()));
+        Letters(where).addControls(Window_Region_How_It_Works(controller.shell.window()));
+        controller.stopRecordTimers();
+        delete controller.shell.window();
+        application->setDelegate(nullptr);
+        QCoreApplication::removeTranslator(&table);
+    }
+}
+
+} // namespace
