@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/owner_properties.h"
 
-#include <QByteArrayList>
-#include <QStringDecoder>
+#include "platform/x11/property_values.h"
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <span>
 #include <unistd.h>
 
@@ -31,26 +29,16 @@ Property await(Connection &connection, xcb_get_property_cookie_t cookie) {
     return connection.reply<xcb_get_property_reply>(cookie);
 }
 
-std::vector<std::uint32_t> words(const Property &property) {
-    if (!property || property->format != 32)
+/// The property's bytes when its values have that many bits; none otherwise, as when it is missing.
+QByteArrayView bytes(const Property &property, std::uint8_t bits) {
+    if (!property || property->format != bits)
         return {};
-    const auto *first = static_cast<std::uint32_t *>(xcb_get_property_value(property.get()));
-    return {first, first + property->value_len};
+    return {static_cast<const char *>(xcb_get_property_value(property.get())),
+            xcb_get_property_value_length(property.get())};
 }
 
-std::optional<QString> classOf(const Property &property) {
-    if (!property || property->format != 8)
-        return {};
-    const QByteArray both(static_cast<const char *>(xcb_get_property_value(property.get())),
-                          static_cast<qsizetype>(property->value_len));
-    // The instance's name and the class, each ended by a zero.
-    const auto parts = both.split('\0');
-    if (parts.size() < 2 || parts[1].isEmpty())
-        return {};
-    // Latin-1 by the convention, UTF-8 by the habit of most.
-    QStringDecoder utf8(QStringDecoder::Utf8);
-    const QString text = utf8(parts[1]);
-    return utf8.hasError() ? QString::fromLatin1(parts[1]) : text;
+std::vector<std::uint32_t> words(const Property &property) {
+    return wordsFromProperty(bytes(property, 32));
 }
 
 std::optional<xcb_res_query_client_ids_cookie_t> askProcess(Connection &connection,
@@ -103,7 +91,7 @@ OwnerQuestion askOwner(Connection &connection, xcb_window_t client) {
 
 WindowOwner awaitOwner(Connection &connection, const OwnerQuestion &question, std::int64_t ownPid) {
     WindowOwner owner;
-    owner.name = classOf(await(connection, question.windowClass));
+    owner.name = classFromProperty(bytes(await(connection, question.windowClass), 8));
     const auto claimedPid = words(await(connection, question.claimedPid));
     const auto types = words(await(connection, question.type));
     const auto states = words(await(connection, question.state));

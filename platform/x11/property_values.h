@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+/// What the bytes of window properties mean. Any client may put anything into them; nothing here
+/// asks the server.
+namespace x11 {
+
+/// The class in a WM_CLASS (ICCCM, 4.1.2.5): the second of two texts, each ended by a zero. None
+/// when there is no second one or it is empty.
+std::optional<QString> classFromProperty(QByteArrayView both);
+
+/// The values of a property of 32 bits a value; bytes at the end that make no whole one are left.
+std::vector<std::uint32_t> wordsFromProperty(QByteArrayView bytes);
+
+} // namespace x11
