@@ -128,6 +128,8 @@ public:
     void RunAlert(const QString &messageText, const QString &informativeText);
     /// Shows `text` in the status line until the next one; an empty text clears it.
     void ShowStatus(const QString &text);
+    /// Lets the main window's title and icon tell of a recording, for whoever sees only a task bar.
+    void showStateInTaskBar();
 
     // Window-list capture (record/) -----------------------------------------------------------
 

@@ -23,6 +23,7 @@ QString minutesAndSeconds(double passed) {
 
 void AppDelegate::showRecordingState() {
     ui->recordingIndicator->setState(recording.m_RecordStatus());
+    showStateInTaskBar();
     if (recording.m_RecordStatus() == RECORD_STATUS_STOP)
         return;
     const RecordingCounts counts = recordingCounts();

@@ -211,7 +211,7 @@ class Program:
         self.log = f"tovarel-{Program._count}"
         self.process = session.start(self.log, [session.build / BINARY], environment)
         if wait:
-            wait_for("the main window", lambda: self.ended() or self.find("frame", "Tovarel"))
+            wait_for("the main window", lambda: self.ended() or self.frame())
             assert not self.ended(), f"ended at start:\n{self.output()}"
 
     # The process -----------------------------------------------------------------------------
@@ -321,15 +321,29 @@ class Program:
         x, y = middle(item)
         self.session.xdotool("mousemove", "--sync", x, y, "click", button)
 
+    def frame(self):
+        """The main window, whose title ends with the program's name and begins with what it is
+        doing; None before it is there."""
+        return next((item for item in self.walk("frame") if item.get_name().endswith("Tovarel")), None)
+
     def window(self):
         """The main window's number on the display."""
         return wait_for("the main window on the screen", lambda: self.session.xdotool(
-            "search", "--onlyvisible", "--all", "--pid", self.process.pid, "--name", "^Tovarel$",
+            "search", "--onlyvisible", "--all", "--pid", self.process.pid, "--name", "(^|– )Tovarel$",
             check=False)).split()[0]
+
+    def in_task_bar(self):
+        """What a task bar can show of the window: its title and its icon's pixels."""
+        title = self.session.xdotool("getwindowname", self.window())
+        icon = subprocess.run(
+            ["xprop", "-id", self.window(), "-notype", "32c", "_NET_WM_ICON"], check=True,
+            env=self.session.environment, stdin=subprocess.DEVNULL, capture_output=True,
+            timeout=PATIENCE).stdout
+        return title, icon
 
     def place(self):
         """Where the main window lies on the screen, without its frame."""
-        return self.await_control("frame", "Tovarel").get_extents(atspi().CoordType.SCREEN)
+        return wait_for("the main window", self.frame).get_extents(atspi().CoordType.SCREEN)
 
     def recording_for(self, seconds):
         """Lets a recording that was just asked for grow: its length is what takes the time."""

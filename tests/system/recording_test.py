@@ -21,14 +21,22 @@ class Recording(case.Case):
         program = Program(self.session)
         self.cover(program, place)
 
+        plain = program.in_task_bar()
         program.press("Record")
         program.recording_for(PART)
+        recording = program.in_task_bar()
         program.press("Pause")
         time.sleep(PAUSE)  # The counter goes on, and what it shows meanwhile must be missing.
+        paused = program.in_task_bar()
         program.press("Record")
         program.recording_for(PART)
         program.press("Stop")
         program.await_tab("Cut")
+
+        self.assertEqual([title for title, icon in (plain, recording, paused)],
+                         ["Tovarel", "● Recording – Tovarel", "❚❚ Paused – Tovarel"])
+        self.assertEqual(len({icon for title, icon in (plain, recording, paused)}), 3)
+        self.assertEqual(program.in_task_bar(), plain)
 
         files = sorted(self.session.frames.iterdir())
         self.assertEqual([path.name for path in files],

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+
+#include <QApplication>
+#include <QMainWindow>
+
+void AppDelegate::showStateInTaskBar() {
+    const struct {
+        std::uint64_t state;
+        const char *sign; // drawn in front, where a narrow task bar does not cut it off
+        QString words;
+        QIcon icon;
+    } states[] = {
+        {RECORD_STATUS_RECORD, "●", qtTrId("IDD_STATE_RECORDING"),
+         QIcon(QStringLiteral(":/icons/tovarel-recording.svg"))},
+        {RECORD_STATUS_PAUSE, "❚❚", qtTrId("IDD_STATE_PAUSED"),
+         QIcon(QStringLiteral(":/icons/tovarel-paused.svg"))},
+    };
+    QString title = shell.s_App_Name();
+    QIcon icon = QApplication::windowIcon();
+    for (const auto &each : states)
+        if (each.state == recording.m_RecordStatus()) {
+            title =
+                QStringLiteral("%1 %2 – %3").arg(QString::fromUtf8(each.sign), each.words, title);
+            icon = each.icon;
+        }
+    // Also asked for every second; the window manager hears of changes only.
+    if (shell.window()->windowTitle() == title)
+        return;
+    shell.window()->setWindowTitle(title);
+    shell.window()->setWindowIcon(icon);
+}
