@@ -1,16 +1,14 @@
 # SPDX-FileCopyrightText: 2026 The Tovarel authors
 # SPDX-License-Identifier: MIT
-"""What the whole program manages, worked through its own interface: recording.py BUILD frames|save
+"""What the whole program manages, worked through its own interface: recording.py BUILD frames
 
 A window that changes 60 times a second is recorded at 30 frames a second, and the frames that hold
-a picture of their own are set against those that were due. A terminal in which somebody types is
-recorded at 10, and the time of the save is set against the length of the recording. Both at
-1920x1080. Ends with status 1 when a bar is missed.
+a picture of their own are set against those that were due, at 1920x1080. Ends with status 1 when a
+bar is missed.
 """
 
 import pathlib
 import sys
-import time
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "system"))
 
@@ -21,7 +19,6 @@ SCREEN = (1920, 1080)
 LENGTH = 8  # seconds of each recording
 CHANGES = 60  # a second, of the counter
 RATE = 30
-TYPING = "while :; do for word in make test commit; do printf '%s ' $word; sleep .1; done; done"
 
 
 def choose_rate(program, rate):
@@ -41,23 +38,20 @@ def choose_rate(program, rate):
     program.wait_for("the dialog to close", lambda: not program.find("dialog"))
 
 
-def record(session, program, rate):
-    """Records, stops, and waits for the save: the length of the recording and of the save."""
+def record(program, rate):
+    """Records, stops, and waits for the save."""
     choose_rate(program, rate)
     program.press("Record")
-    began = time.monotonic()
     program.recording_for(LENGTH)
     program.press("Stop")
-    stopped = time.monotonic()
     program.await_tab("Cut", patience=120)
-    return stopped - began, time.monotonic() - stopped
 
 
 def distinct_frames(build):
     with driver.Session(build, *SCREEN) as session:
         inside = session.counter("--at", "100,100", "--size", "1400x700", "--rate", str(CHANGES))
         program = driver.Program(session)
-        record(session, program, RATE)
+        record(program, RATE)
         files = sorted(session.frames.glob("frame*.png"))
         numbers = [counter.read(counter.decode(path)[0], *inside) for path in files]
         program.end()
@@ -66,20 +60,8 @@ def distinct_frames(build):
     return len(set(numbers)) / due, len(files)
 
 
-def save_share(build):
-    with driver.Session(build, *SCREEN) as session:
-        session.start("terminal", ["xterm", "-geometry", "180x55+40+40", "-e", "sh", "-c", TYPING])
-        program = driver.Program(session)
-        length, save = record(session, program, 10)
-        files = list(session.frames.glob("frame*.png"))
-        program.end()
-    assert len(files) > LENGTH * 8, f"only {len(files)} frames"
-    return save / length, len(files)
-
-
 MEASURES = {
     "frames": ("distinct frames / frames due, 30 a second", distinct_frames, 0.98, True),
-    "save": ("save / recording, typing at 10 a second", save_share, 1 / 3, False),
 }
 
 

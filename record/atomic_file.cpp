@@ -5,10 +5,14 @@
 #include <QFile>
 
 #include <fcntl.h>
+#include <sys/uio.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
+#include <vector>
 
 namespace {
 
@@ -24,27 +28,39 @@ int createNew(const QByteArray &path) {
     return open(path.constData(), flags, anyoneAsTheUmaskAllows);
 }
 
-int writeAll(int descriptor, std::span<const std::uint8_t> data) {
-    while (!data.empty()) {
-        const ssize_t written = write(descriptor, data.data(), data.size());
+int writeAll(int descriptor, std::span<const std::span<const std::uint8_t>> parts) {
+    std::vector<iovec> left;
+    for (const auto &part : parts)
+        left.push_back({const_cast<std::uint8_t *>(part.data()), part.size()});
+    for (std::span<iovec> rest(left); !rest.empty();) {
+        const std::size_t count = std::min<std::size_t>(rest.size(), IOV_MAX);
+        const ssize_t written = writev(descriptor, rest.data(), static_cast<int>(count));
         if (written < 0 && errno == EINTR)
             continue;
         if (written < 0)
             return errno;
-        data = data.subspan(static_cast<std::size_t>(written));
+        auto done = static_cast<std::size_t>(written);
+        while (!rest.empty() && done >= rest.front().iov_len) {
+            done -= rest.front().iov_len;
+            rest = rest.subspan(1);
+        }
+        if (!rest.empty()) {
+            rest.front().iov_base = static_cast<std::uint8_t *>(rest.front().iov_base) + done;
+            rest.front().iov_len -= done;
+        }
     }
     return 0;
 }
 
 } // namespace
 
-int writeFileAtomically(const QString &path, std::span<const std::uint8_t> data) {
+int writeFileAtomically(const QString &path, std::span<const std::span<const std::uint8_t>> parts) {
     const QByteArray target = QFile::encodeName(path);
     const QByteArray temporary = target + ".part";
     const int descriptor = createNew(temporary);
     if (descriptor < 0)
         return errno;
-    int error = writeAll(descriptor, data);
+    int error = writeAll(descriptor, parts);
     // A file system may report a full disk only here.
     if (close(descriptor) != 0 && error == 0)
         error = errno;

@@ -9,10 +9,10 @@
 
 /// Files that are either whole or not there, for a sequence whose readers go by the names.
 
-/// Writes `data` to `path`, in place of any file there, by way of a new file beside it. 0, or the
-/// system's error number; nothing is left behind then. The data is not forced onto the medium: it
-/// is scratch, and a crash of the system costs it anyway.
-int writeFileAtomically(const QString &path, std::span<const std::uint8_t> data);
+/// Writes `parts`, one after another, to `path`, in place of any file there, by way of a new file
+/// beside it. 0, or the system's error number; nothing is left behind then. The data is not forced
+/// onto the medium: it is scratch, and a crash of the system costs it anyway.
+int writeFileAtomically(const QString &path, std::span<const std::span<const std::uint8_t>> parts);
 
 /// Gives `existing` the second name `path`. 0, or the system's error number: a file system without
 /// links, too many links, or a name that is taken.

@@ -9,12 +9,16 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <exception>
 #include <utility>
 
 namespace {
 
 /// A frame whose result has not come yet; no error has this number.
 constexpr int pending = -1;
+
+/// Waits for what the run before says. Nothing of the first run's, before which there is none.
+template <class T> T told(std::future<T> &future) { return future.valid() ? future.get() : T(); }
 
 } // namespace
 
@@ -37,30 +41,80 @@ FrameSaver::~FrameSaver() {
 }
 
 void FrameSaver::work() {
+    std::unique_ptr<PngBandWriter> writer;
     while (!cancelled_) {
-        const std::size_t run = nextRun_++;
-        if (run >= runs_.size())
-            return;
-        saveRun(runs_[run], run + 1 < runs_.size() ? runs_[run + 1] : frames_.size());
+        Told own;
+        Awaited before;
+        std::size_t run = 0;
+        {
+            const std::lock_guard lock(taking_);
+            if (nextRun_ >= runs_.size())
+                return;
+            run = nextRun_++;
+            before = std::exchange(
+                lastTaken_, {own.rows.get_future(), own.bands.get_future(), own.file.get_future()});
+        }
+        saveRun(run, own, before, writer);
     }
 }
 
-void FrameSaver::saveRun(std::size_t first, std::size_t end) {
-    const std::vector<std::uint8_t> file = encodePng(frames_[first].toQImage(), format_);
-    QString written;
+void FrameSaver::saveRun(std::size_t run, Told &own, Awaited &before,
+                         std::unique_ptr<PngBandWriter> &writer) {
+    const std::size_t first = runs_[run];
+    const std::size_t end = run + 1 < runs_.size() ? runs_[run + 1] : frames_.size();
+    QImage rows = rowsOf(frames_[first], format_);
+    own.rows.set_value(rows);
+    bool changed = true;
+    const PngBands bands = encode(std::move(rows), before, writer, changed);
+    own.bands.set_value(bands);
+    own.file.set_value(writeRun(first, end, bands, changed ? QString() : told(before.file)));
+}
+
+PngBands FrameSaver::encode(QImage rows, Awaited &before, std::unique_ptr<PngBandWriter> &writer,
+                            bool &changed) const try {
+    const QImage rowsBefore = told(before.rows);
+    if (rows.isNull())
+        return {};
+    if (!writer)
+        writer = std::make_unique<PngBandWriter>(format_);
+    PngBands bands(static_cast<std::size_t>(bandCount(format_)));
+    std::size_t written = 0;
+    for (std::size_t band = 0; band < bands.size(); ++band) {
+        const int number = static_cast<int>(band);
+        if (sameBand(rows, rowsBefore, number, format_))
+            continue;
+        bands[band] = writer->write(rows, number);
+        ++written;
+    }
+    changed = written > 0;
+    // Only now, when what is new has been done beside it, the run before is waited for.
+    const PngBands bandsBefore = written < bands.size() ? told(before.bands) : PngBands();
+    for (std::size_t band = 0; band < bands.size(); ++band)
+        if (!bands[band])
+            bands[band] = bandsBefore.empty() ? writer->write(rows, static_cast<int>(band))
+                                              : bandsBefore[band];
+    return bands;
+} catch (const std::exception &) {
+    return {};
+}
+
+QString FrameSaver::writeRun(std::size_t first, std::size_t end, const PngBands &bands,
+                             QString written) {
+    const PngFile file(bands, format_);
     for (std::size_t frame = first; frame < end && !cancelled_; ++frame) {
         const QString path = working_folders::frameFile(folder_, frame);
-        int error = file.empty() ? ENOMEM : 0;
+        int error = bands.empty() ? ENOMEM : 0;
         // A refused link (a file system without any, or too many of them) becomes a fresh file,
         // which takes the links of the frames that follow.
         const bool linked = !written.isEmpty() && linkFile(written, path) == 0;
         if (!linked && error == 0) {
-            error = writeFileAtomically(path, file);
+            error = writeFileAtomically(path, file.parts());
             if (error == 0)
                 written = path;
         }
         reportFrame(frame, error);
     }
+    return written;
 }
 
 void FrameSaver::reportFrame(std::size_t frame, int error) {

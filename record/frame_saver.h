@@ -11,15 +11,23 @@
 #include <atomic>
 #include <cstdint>
 #include <functional>
+#include <future>
+#include <memory>
+#include <mutex>
 #include <thread>
 #include <vector>
 
 /// Writes the frames of a stopped recording as the files of its sequence, on as many threads as
 /// there are cores. It works on handles of its own: the frame store may change meanwhile.
 ///
-/// All files have the size and the pixel format of the first frame. A frame that is the same
-/// picture as the one before becomes a second name of that file. A frame that cannot be written is
-/// counted, and the work goes on.
+/// All files have the size and the pixel format of the first frame. A frame that shows the same as
+/// the one before becomes a second name of that file, and where a part of it does, that part is not
+/// compressed again. A frame that cannot be written is counted, and the work goes on.
+///
+/// Each thread takes the next frame. It compares it with the frame before it, compresses what
+/// changed while that one may still be under work, and waits for it only then, to take over the
+/// rest. So no more frames are in memory as pixels or as compressed data than there are threads,
+/// and one.
 class FrameSaver : public QObject {
     Q_OBJECT
 
@@ -42,19 +50,38 @@ public:
     QString reason() const { return reason_; }
 
 private:
+    /// What a run of identical frames tells the run behind it, as soon as it is known; each is told
+    /// in any case, empty when it could not be made.
+    struct Told {
+        std::promise<QImage> rows;
+        std::promise<PngBands> bands;
+        std::promise<QString> file;
+    };
+    struct Awaited {
+        std::future<QImage> rows;
+        std::future<PngBands> bands;
+        std::future<QString> file;
+    };
+
     void work();
-    void saveRun(std::size_t first, std::size_t end);
+    void saveRun(std::size_t run, Told &own, Awaited &before,
+                 std::unique_ptr<PngBandWriter> &writer);
+    PngBands encode(QImage rows, Awaited &before, std::unique_ptr<PngBandWriter> &writer,
+                    bool &changed) const;
+    QString writeRun(std::size_t first, std::size_t end, const PngBands &bands, QString written);
     void reportFrame(std::size_t frame, int error);
     void onSaved(std::size_t frame, int error);
 
     const std::vector<Image> frames_;
     const QString folder_;
     const Report report_;
-    FrameFormat format_;
+    const FrameFormat format_;
 
     /// First frames of the runs of identical frames; a run is one piece of work.
     std::vector<std::size_t> runs_;
-    std::atomic<std::size_t> nextRun_ = 0;
+    std::mutex taking_;
+    std::size_t nextRun_ = 0;
+    Awaited lastTaken_;
     std::atomic<bool> cancelled_ = false;
     std::vector<std::thread> threads_;
 

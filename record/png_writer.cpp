@@ -3,73 +3,106 @@
 #include "record/png_writer.h"
 
 #include <QPainter>
+#include <QtEndian>
 
-#include <png.h>
+#include <libdeflate.h>
 
-#include <csetjmp>
-#include <exception>
+#include <algorithm>
+#include <bit>
+#include <cstring>
 
 namespace {
 
-constexpr int fastestLevel = 1;
-constexpr int bitsPerChannel = 8;
-constexpr std::size_t outputBuffer = 1 << 20; // bytes; chunks of the file are of this size
+/// Many enough that compression does not suffer, few enough that a change costs little.
+constexpr int rowsOfBand = 16;
 
-void append(png_structp writer, png_bytep data, png_size_t length) {
-    auto *file = static_cast<std::vector<std::uint8_t> *>(png_get_io_ptr(writer));
-    bool full = false;
-    try {
-        file->insert(file->end(), data, data + length);
-    } catch (const std::exception &) {
-        full = true;
-    }
-    // Not from inside the handler: the library leaves by a long jump.
-    if (full)
-        png_error(writer, "no memory");
+// PNG, sections 5 (chunks), 9 (filters) and 11.2.
+constexpr std::uint8_t signature[] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1a, '\n'};
+constexpr std::uint8_t bitsPerChannel = 8;
+constexpr std::uint8_t colourRgb = 2;
+constexpr std::uint8_t colourRgba = 6;
+constexpr std::uint8_t filterLeft = 1;
+constexpr std::uint8_t filterUp = 2;
+constexpr std::size_t lengthAndName = 8;
+
+/// RFC 1950: deflate with a window of 32 KiB, the fastest level.
+constexpr std::uint8_t zlibHeader[] = {0x78, 0x01};
+constexpr std::uint32_t adlerStart = 1;
+constexpr std::uint32_t adlerModulus = 65521;
+
+using Bytes = std::vector<std::uint8_t>;
+
+void appendNumber(Bytes &to, std::uint32_t number) {
+    std::uint8_t bytes[4];
+    qToBigEndian(number, bytes);
+    to.insert(to.end(), std::begin(bytes), std::end(bytes));
 }
 
-void flush(png_structp) {}
-/// The caller learns of an error by the missing result; the library must not print it.
-void ignoreWarning(png_structp, png_const_charp) {}
-void leave(png_structp writer, png_const_charp) { png_longjmp(writer, 1); }
-
-void fillRow(const QRgb *from, int count, bool alpha, std::uint8_t *to) {
-    for (int pixel = 0; pixel < count; ++pixel) {
-        const QRgb colour = alpha ? qUnpremultiply(from[pixel]) : from[pixel];
-        *to++ = static_cast<std::uint8_t>(qRed(colour));
-        *to++ = static_cast<std::uint8_t>(qGreen(colour));
-        *to++ = static_cast<std::uint8_t>(qBlue(colour));
-        if (alpha)
-            *to++ = static_cast<std::uint8_t>(qAlpha(colour));
-    }
+void appendBytes(Bytes &to, std::span<const std::uint8_t> bytes) {
+    to.insert(to.end(), bytes.begin(), bytes.end());
 }
 
-/// Everything that has a destructor is made by the caller: the long jump out of the library would
-/// pass over it.
-bool writeRows(png_structp writer, png_infop info, const QImage &pixels, bool alpha,
-               std::vector<std::uint8_t> &row) {
-    if (setjmp(png_jmpbuf(writer)) != 0)
-        return false;
-    png_set_compression_level(writer, fastestLevel);
-    png_set_compression_buffer_size(writer, outputBuffer);
-    png_set_filter(writer, PNG_FILTER_TYPE_BASE, PNG_FILTER_UP);
-    png_set_IHDR(writer, info, static_cast<png_uint_32>(pixels.width()),
-                 static_cast<png_uint_32>(pixels.height()), bitsPerChannel,
-                 alpha ? PNG_COLOR_TYPE_RGB_ALPHA : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
-                 PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
-    png_write_info(writer, info);
-    for (int y = 0; y < pixels.height(); ++y) {
-        fillRow(reinterpret_cast<const QRgb *>(pixels.constScanLine(y)), pixels.width(), alpha,
-                row.data());
-        png_write_row(writer, row.data());
-    }
-    png_write_end(writer, info);
-    return true;
+void appendChunk(Bytes &to, const char (&name)[5], std::span<const std::uint8_t> data) {
+    appendNumber(to, static_cast<std::uint32_t>(data.size()));
+    const std::size_t checked = to.size();
+    to.insert(to.end(), name, name + 4);
+    appendBytes(to, data);
+    appendNumber(to, libdeflate_crc32(0, &to[checked], to.size() - checked));
 }
 
-/// The picture in the recording's size, over opaque black.
+/// The Adler-32 of two pieces of data one after the other, by those of each. A sum of bytes starts
+/// at 1, and the second sum adds up the first after every byte.
+std::uint32_t adlerOfBoth(std::uint32_t first, std::uint32_t second, std::size_t secondLength) {
+    constexpr std::uint64_t modulus = adlerModulus;
+    const std::uint64_t sum = (first & 0xffff) + modulus - adlerStart;
+    const std::uint64_t low = (sum + (second & 0xffff)) % modulus;
+    const std::uint64_t high =
+        ((first >> 16) + (second >> 16) + sum % modulus * (secondLength % modulus)) % modulus;
+    return static_cast<std::uint32_t>(high << 16 | low);
+}
+
+/// Byte by byte, without borrowing from the neighbour.
+std::uint32_t difference(std::uint32_t from, std::uint32_t what) {
+    constexpr std::uint32_t highBits = 0x80808080u;
+    return ((from | highBits) - (what & ~highBits)) ^ ((from ^ ~what) & highBits);
+}
+
+/// From the number 0xAARRGGBB to the bytes R, G, B, A.
+void put(std::uint32_t colour, std::uint8_t *to) { qToBigEndian(std::rotl(colour, 8), to); }
+
+/// Filters a row into the bytes at `to` and gives their end. Without alpha it writes a byte more,
+/// which the next pixel covers.
+std::uint8_t *filterRow(std::span<const QRgb> row, const QRgb *above, std::size_t channels,
+                        std::uint8_t *to) {
+    *to++ = above ? filterUp : filterLeft;
+    put(above ? difference(row[0], above[0]) : row[0], to);
+    const QRgb *against = above ? above + 1 : row.data();
+    for (const QRgb colour : row.subspan(1))
+        put(difference(colour, *against++), to += channels);
+    return to + channels;
+}
+
+std::span<const QRgb> rowOf(const QImage &rows, int y) {
+    return {reinterpret_cast<const QRgb *>(rows.constScanLine(y)),
+            static_cast<std::size_t>(rows.width())};
+}
+
+int endOfBand(int band, const FrameFormat &format) {
+    return std::min((band + 1) * rowsOfBand, format.size.height());
+}
+
+/// Without the bytes that are no part of the picture.
+bool sameColours(std::span<const QRgb> one, std::span<const QRgb> other) {
+    QRgb differences = 0;
+    for (std::size_t x = 0; x < one.size(); ++x)
+        differences |= one[x] ^ other[x];
+    return (differences & RGB_MASK) == 0;
+}
+
 QImage overBlack(const QImage &pixels, QSize size) {
     QImage canvas(size, QImage::Format_RGB32);
+    if (canvas.isNull())
+        return canvas;
     canvas.fill(Qt::black);
     QPainter painter(&canvas);
     painter.drawImage(0, 0, pixels);
@@ -78,27 +111,86 @@ QImage overBlack(const QImage &pixels, QSize size) {
 
 } // namespace
 
-std::vector<std::uint8_t> encodePng(const QImage &pixels, const FrameFormat &format) {
-    std::vector<std::uint8_t> file;
-    const bool fits = pixels.size() == format.size;
-    const QImage picture = fits ? pixels : overBlack(pixels, format.size);
-    if (picture.isNull())
-        return file;
-    // An opaque picture in a format with alpha has bytes of any value where the alpha would be.
-    const QImage rows =
-        format.alpha ? picture.convertToFormat(QImage::Format_ARGB32_Premultiplied) : picture;
-    const std::size_t channels = format.alpha ? 4 : 3;
-    std::vector<std::uint8_t> row(channels * static_cast<std::size_t>(rows.width()));
-    png_structp writer =
-        png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, leave, ignoreWarning);
-    png_infop info = writer ? png_create_info_struct(writer) : nullptr;
-    bool written = false;
-    if (info) {
-        png_set_write_fn(writer, &file, append, flush);
-        written = writeRows(writer, info, rows, format.alpha, row);
+QImage rowsOf(const Image &frame, const FrameFormat &format) {
+    const QImage pixels = frame.toQImage();
+    if (pixels.isNull() && !frame.isEmpty())
+        return pixels;
+    const QImage fitting = pixels.size() == format.size ? pixels : overBlack(pixels, format.size);
+    // An opaque picture has bytes of any value where the alpha would be.
+    return format.alpha ? fitting.convertToFormat(QImage::Format_ARGB32_Premultiplied) : fitting;
+}
+
+int bandCount(const FrameFormat &format) {
+    return (format.size.height() + rowsOfBand - 1) / rowsOfBand;
+}
+
+bool sameBand(const QImage &rows, const QImage &other, int band, const FrameFormat &format) {
+    if (rows.isNull() || other.isNull())
+        return false;
+    for (int y = band * rowsOfBand; y < endOfBand(band, format); ++y) {
+        const std::span<const QRgb> one = rowOf(rows, y);
+        const std::span<const QRgb> two = rowOf(other, y);
+        if (one.data() != two.data() &&
+            std::memcmp(one.data(), two.data(), one.size_bytes()) != 0 &&
+            (format.alpha || !sameColours(one, two)))
+            return false;
     }
-    png_destroy_write_struct(&writer, &info);
-    if (!written)
-        file.clear();
-    return file;
+    return true;
+}
+
+PngBandWriter::PngBandWriter(const FrameFormat &format) : format_(format) {}
+
+std::shared_ptr<const PngBand> PngBandWriter::write(const QImage &rows, int band) {
+    const std::size_t channels = format_.alpha ? 4 : 3;
+    const std::size_t width = static_cast<std::size_t>(rows.width());
+    filtered_.resize(rowsOfBand * (1 + channels * width) + 1);
+    std::uint8_t *end = filtered_.data();
+    const QRgb *above = nullptr;
+    for (int y = band * rowsOfBand; y < endOfBand(band, format_); ++y) {
+        std::span<const QRgb> row = rowOf(rows, y);
+        if (format_.alpha) {
+            std::vector<QRgb> &into = plain_[y % 2];
+            into.resize(width);
+            std::transform(row.begin(), row.end(), into.begin(),
+                           [](QRgb colour) { return qUnpremultiply(colour); });
+            row = into;
+        }
+        end = filterRow(row, above, channels, end);
+        above = row.data();
+    }
+    const std::span<const std::uint8_t> data(filtered_.data(), end);
+    compressed_.clear();
+    if (band == 0)
+        appendBytes(compressed_, zlibHeader);
+    pieces_.append(data, compressed_);
+
+    auto made = std::make_shared<PngBand>();
+    made->length = data.size();
+    made->check = libdeflate_adler32(adlerStart, data.data(), data.size());
+    made->chunk.reserve(compressed_.size() + lengthAndName + 4);
+    appendChunk(made->chunk, "IDAT", compressed_);
+    return made;
+}
+
+PngFile::PngFile(const PngBands &bands, const FrameFormat &format) : bands_(bands) {
+    appendBytes(head_, signature);
+    Bytes header;
+    appendNumber(header, static_cast<std::uint32_t>(format.size.width()));
+    appendNumber(header, static_cast<std::uint32_t>(format.size.height()));
+    // Behind the colours: deflate, the five filters, rows in their order.
+    appendBytes(header, std::array<std::uint8_t, 5>{
+                            bitsPerChannel, format.alpha ? colourRgba : colourRgb, 0, 0, 0});
+    appendChunk(head_, "IHDR", header);
+
+    parts_.emplace_back(head_);
+    std::uint32_t check = adlerStart;
+    for (const auto &band : bands_) {
+        parts_.emplace_back(band->chunk);
+        check = adlerOfBoth(check, band->check, band->length);
+    }
+    Bytes end(std::begin(deflateEnd), std::end(deflateEnd));
+    appendNumber(end, check);
+    appendChunk(tail_, "IDAT", end);
+    appendChunk(tail_, "IEND", {});
+    parts_.emplace_back(tail_);
 }

@@ -5,8 +5,12 @@
 
 #include <QFile>
 #include <QTest>
+#include <QtEndian>
 
+#include <libdeflate.h>
 #include <sys/stat.h>
+
+#include <random>
 
 namespace {
 
@@ -28,7 +32,71 @@ std::vector<std::uint64_t> save(FrameSaver *&saver, const std::vector<Image> &fr
     return reports;
 }
 
+QByteArray bytes(const QString &path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+/// All that a strict reader looks at: every chunk's checksum, and the compressed data, which is of
+/// `length` bytes when unpacked, with its own.
+void expectSound(const QByteArray &file, std::size_t length) {
+    QByteArray data;
+    QByteArray names;
+    for (qsizetype at = 8; at < file.size();) {
+        const auto size = qFromBigEndian<quint32>(file.data() + at);
+        const QByteArray checked = file.mid(at + 4, size + 4);
+        at += 12 + size;
+        EXPECT_EQ(qFromBigEndian<quint32>(file.data() + at - 4),
+                  libdeflate_crc32(0, checked.data(), static_cast<std::size_t>(checked.size())));
+        names = checked.left(4);
+        if (names == "IDAT")
+            data += checked.mid(4);
+    }
+    EXPECT_EQ(names, "IEND");
+    std::vector<char> unpacked(length);
+    const std::unique_ptr<libdeflate_decompressor, void (*)(libdeflate_decompressor *)> reader(
+        libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
+    std::size_t read = 0;
+    EXPECT_EQ(libdeflate_zlib_decompress_ex(reader.get(), data.data(),
+                                            static_cast<std::size_t>(data.size()), unpacked.data(),
+                                            length, &read, nullptr),
+              LIBDEFLATE_SUCCESS);
+    EXPECT_EQ(read, static_cast<std::size_t>(data.size()));
+}
+
 } // namespace
+
+TEST(DeflatePieces, ofEveryKindFollowOneAnotherInOneStream) {
+    std::mt19937 random(1);
+    const auto piece = [&](std::size_t length, unsigned values) {
+        std::vector<std::uint8_t> data(length);
+        for (std::uint8_t &byte : data)
+            byte = static_cast<std::uint8_t>(random() % values);
+        return data;
+    };
+    DeflatePieces pieces;
+    std::vector<std::uint8_t> stream;
+    std::vector<std::uint8_t> whole;
+    // Nothing, blocks that are stored, with the fixed codes, and with codes of every length; one
+    // block and many.
+    for (const std::size_t length : {0, 1, 60, 300, 5'000, 200'000})
+        for (const unsigned values : {1, 2, 9, 40, 250, 256}) {
+            const std::vector<std::uint8_t> data = piece(length, values);
+            pieces.append(data, stream);
+            whole.insert(whole.end(), data.begin(), data.end());
+        }
+    stream.insert(stream.end(), std::begin(deflateEnd), std::end(deflateEnd));
+    std::vector<std::uint8_t> unpacked(whole.size());
+    const std::unique_ptr<libdeflate_decompressor, void (*)(libdeflate_decompressor *)> reader(
+        libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
+    std::size_t read = 0;
+    ASSERT_EQ(libdeflate_deflate_decompress_ex(reader.get(), stream.data(), stream.size(),
+                                               unpacked.data(), unpacked.size(), &read, nullptr),
+              LIBDEFLATE_SUCCESS);
+    EXPECT_EQ(read, stream.size());
+    EXPECT_TRUE(unpacked == whole);
+}
 
 class SavedFrames : public testing::Test {
 protected:
@@ -70,6 +138,30 @@ TEST_F(SavedFrames, decodeToTheVeryPixelsAndAreReportedInOrder) {
     }
 }
 
+TEST_F(SavedFrames, areTheSameFilesWhateverCameBeforeThem) {
+    for (const bool alpha : {false, true}) {
+        // Rows change here and there, in a picture whose last band is a short one.
+        std::vector<Image> frames;
+        QImage pixels = patterned({91, 53}, alpha).toQImage();
+        for (int i = 0; i < 30; ++i) {
+            pixels.setPixel(i, (i * 37) % 53, qRgb(i, 255, 255 - i));
+            frames.push_back(Image::fromQImage(pixels));
+            // Only the byte that is no part of an opaque picture.
+            if (!alpha)
+                reinterpret_cast<uchar *>(pixels.scanLine(i % 53))[4 * i + 3] ^= 0xff;
+        }
+        saveAll(frames);
+        for (int i = 0; i < 30; ++i) {
+            const QTemporaryDir apart;
+            FrameSaver *made = nullptr;
+            save(made, {frames[static_cast<std::size_t>(i)]}, apart.path());
+            delete made;
+            EXPECT_EQ(bytes(path(i)), bytes(apart.filePath(QStringLiteral("frame00000000.png"))));
+            expectSound(bytes(path(i)), 53u * (1 + 91 * (alpha ? 4 : 3)));
+        }
+    }
+}
+
 TEST_F(SavedFrames, allHaveTheSizeAndTheFormatOfTheFirst) {
     saveAll({patterned({40, 30}, false), patterned({20, 50}, false),
              plainImage({40, 30}, qRgba(200, 100, 0, 255), QImage::Format_ARGB32),
@@ -100,12 +192,15 @@ TEST_F(SavedFrames, keepTheAlphaOfTheFirst) {
 TEST_F(SavedFrames, shareAFileWhereNothingChanged) {
     const Image still = patterned({30, 30}, false);
     const Image equal = patterned({30, 30}, false);
-    saveAll({still, still, still, equal, still});
+    const Image other = patterned({30, 30}, false, 1);
+    saveAll({still, still, equal, other, still, still});
     EXPECT_EQ(inode(0), inode(1));
     EXPECT_EQ(inode(0), inode(2));
     EXPECT_NE(inode(0), inode(3));
-    EXPECT_NE(inode(0), inode(4));
-    EXPECT_EQ(frame(2).convertToFormat(QImage::Format_RGB32), still.toQImage());
+    EXPECT_EQ(inode(4), inode(5));
+    for (const int number : {0, 2, 4})
+        EXPECT_EQ(frame(number).convertToFormat(QImage::Format_RGB32), still.toQImage());
+    EXPECT_EQ(frame(3).convertToFormat(QImage::Format_RGB32), other.toQImage());
     // A name that is taken refuses the link: the file is replaced by a fresh one.
     saveAll({equal, equal});
     EXPECT_EQ(frame(1).convertToFormat(QImage::Format_RGB32), equal.toQImage());

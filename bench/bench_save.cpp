@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+
+// How long a stopped recording takes to become files, against its own length: five seconds at 30
+// frames a second and 1920x1080, of somebody who types in a terminal, of a window that is dragged
+// over a photograph, and of a film. The median of five saves. The status is 1 when a bar is missed
+// or a file does not hold the very pixels of its frame.
+
+#include "record/frame_saver.h"
+
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <random>
+#include <set>
+
+namespace {
+
+constexpr QSize screen{1920, 1080};
+constexpr int rate = 30;
+constexpr int frameCount = 150;
+constexpr int saves = 5;
+
+using Frames = std::vector<Image>;
+
+int fade(double place, double period) { return static_cast<int>(50.0 * std::sin(place / period)); }
+
+/// Soft colours under the grain of a sensor: each channel of each pixel is off by up to `grain`.
+QImage photograph(int moved, int grain, unsigned seed) {
+    std::minstd_rand random(seed);
+    QImage picture(screen, QImage::Format_RGB32);
+    std::vector<int> across(static_cast<std::size_t>(screen.width()));
+    for (int x = 0; x < screen.width(); ++x)
+        across[static_cast<std::size_t>(x)] =
+            128 + fade(x + moved, 97.0) + fade(x - moved, 31.0) / 4;
+    for (int y = 0; y < screen.height(); ++y) {
+        const int down = fade(y + 2 * moved, 83.0);
+        auto *row = reinterpret_cast<QRgb *>(picture.scanLine(y));
+        for (int x = 0; x < screen.width(); ++x) {
+            const auto off = static_cast<unsigned>(random()) >> 8;
+            const auto value = [&](unsigned shift) {
+                const unsigned values = 2 * static_cast<unsigned>(grain) + 1;
+                return across[static_cast<std::size_t>(x)] + down +
+                       static_cast<int>((off >> shift) % values) - grain;
+            };
+            row[x] = qRgb(value(0), value(7) - 12, value(14) - 25);
+        }
+    }
+    return picture;
+}
+
+/// A window full of lines, of which the last is `typed`.
+void drawTerminal(QImage &on, QRect window, const QStringList &lines) {
+    constexpr int lineHeight = 18;
+    QPainter painter(&on);
+    painter.fillRect(window, QColor(24, 26, 32));
+    painter.fillRect(window.x(), window.y(), window.width(), 28, QColor(210, 212, 216));
+    QFont font(QStringLiteral("DejaVu Sans Mono"));
+    font.setPixelSize(14);
+    painter.setFont(font);
+    painter.setPen(QColor(220, 223, 228));
+    const qsizetype fit = (window.height() - 40) / lineHeight;
+    int y = window.y() + 46;
+    for (const QString &line : lines.mid(std::max<qsizetype>(0, lines.size() - fit))) {
+        painter.drawText(window.x() + 8, y, line);
+        y += lineHeight;
+    }
+}
+
+QStringList linesOfWork() {
+    QStringList lines;
+    for (int line = 0; line < 60; ++line)
+        lines << QStringLiteral("[%1/60] Building CXX object record/part_%2.cpp.o %3")
+                     .arg(line + 1, 2)
+                     .arg(line * 7919 % 1000)
+                     .arg(QString(line * 13 % 40, QLatin1Char('.')));
+    return lines;
+}
+
+/// Fifteen characters a second, and a new line behind every thirtieth: then all lines move.
+Frames typing() {
+    const QImage desktop = photograph(0, 0, 1);
+    QStringList lines = linesOfWork() << QStringLiteral("$ ");
+    Frames frames;
+    for (int frame = 0; frame < frameCount; ++frame) {
+        if (frame % 2 == 1) {
+            frames.push_back(frames.back());
+            continue;
+        }
+        if (frame % 60 == 58)
+            lines << QStringLiteral("$ ");
+        lines.back() += QChar('a' + frame * 7 % 26);
+        QImage picture = desktop;
+        drawTerminal(picture, {200, 120, 1200, 800}, lines);
+        frames.push_back(Image::fromQImage(picture));
+    }
+    return frames;
+}
+
+Frames dragging() {
+    const QImage desktop = photograph(0, 2, 1);
+    Frames frames;
+    for (int frame = 0; frame < frameCount; ++frame) {
+        QImage picture = desktop;
+        const QPoint at(100 + frame * 7, 250 + static_cast<int>(200 * std::sin(frame / 20.0)));
+        drawTerminal(picture, {at, QSize(800, 500)}, linesOfWork());
+        frames.push_back(Image::fromQImage(picture));
+    }
+    return frames;
+}
+
+/// The film leaves out a border: nine pixels out of ten change.
+Frames film() {
+    const QRect shown(48, 27, 1824, 1026);
+    QImage picture(screen, QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    Frames frames;
+    for (int frame = 0; frame < frameCount; ++frame) {
+        const QImage next = photograph(frame * 5, 2, static_cast<unsigned>(frame) + 1);
+        QPainter(&picture).drawImage(shown.topLeft(), next, shown);
+        frames.push_back(Image::fromQImage(picture.copy()));
+    }
+    return frames;
+}
+
+QString file(const QTemporaryDir &folder, std::size_t frame) {
+    return folder.filePath(QStringLiteral("frame%1.png").arg(frame, 8, 10, QLatin1Char('0')));
+}
+
+double save(const Frames &frames, const QString &folder) {
+    QEventLoop loop;
+    const auto began = std::chrono::steady_clock::now();
+    FrameSaver saver(frames, folder, [&](std::uint64_t done) {
+        if (done == frames.size())
+            loop.quit();
+    });
+    loop.exec();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
+}
+
+/// The bytes that the files take, links counted once; -1 when one holds another picture.
+long long checkedSize(const Frames &frames, const QTemporaryDir &folder) {
+    std::set<ino_t> seen;
+    long long bytes = 0;
+    QImage read;
+    for (std::size_t frame = 0; frame < frames.size(); ++frame) {
+        const QString path = file(folder, frame);
+        struct stat status {};
+        if (stat(qPrintable(path), &status) != 0)
+            return -1;
+        if (seen.insert(status.st_ino).second) {
+            bytes += status.st_size;
+            read = QImage(path).convertToFormat(QImage::Format_RGB32);
+        }
+        if (read != frames[frame].toQImage())
+            return -1;
+    }
+    return bytes;
+}
+
+bool measure(const char *name, const Frames &frames, double bar) {
+    std::vector<double> times;
+    long long bytes = 0;
+    for (int round = 0; round < saves; ++round) {
+        const QTemporaryDir folder;
+        times.push_back(save(frames, folder.path()));
+        if (round == 0)
+            bytes = checkedSize(frames, folder);
+    }
+    std::sort(times.begin(), times.end());
+    const double median = times[times.size() / 2];
+    const double share = median * rate / frameCount;
+    std::printf("%-28s %7.2f s %7.3f   bar %.1f   %6.1f MB%s%s\n", name, median, share, bar,
+                static_cast<double>(bytes) * 1e-6, bytes < 0 ? "  WRONG PICTURES" : "",
+                share > bar ? "  MISSED" : "");
+    std::fflush(stdout);
+    return bytes >= 0 && share <= bar;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    std::printf("%-28s %9s %7s   %7s   %9s\n", "recording of 5 s", "save", "share", "", "files");
+    // One after another: a recording takes more than a gigabyte.
+    bool met = measure("typing", typing(), 0.1);
+    met = measure("window over a photograph", dragging(), 0.5) && met;
+    met = measure("film", film(), 1.2) && met;
+    return met ? 0 : 1;
+}
