@@ -164,7 +164,8 @@ public:
     bool isSavingRecording() const;
     /// Shows on the Record tab whether this session can be recorded, and what would be.
     void prepareRecordTab();
-    /// Brings the label beside the capture buttons up to what is recorded: screen or region.
+    /// Brings the labels beside the capture buttons up to what is recorded, screen or region, and
+    /// how often.
     void showCaptureMode();
     /// Brings indicator and status line up to the recording's state and figures.
     void showRecordingState();

@@ -31,12 +31,11 @@ private:
 
 void AppDelegate::connectExportControls() {
     using Action = void (AppDelegate::*)(QObject *);
+    // Not `clicked`: assistive technology switches without a click.
     const auto radio = [this](QRadioButton *button, Action action) {
-        connect(button, &QRadioButton::clicked, this, [this, button, action] {
-            // The pairs are ours to keep exclusive, so Qt turns a button off that is clicked while
-            // it is on; a radio button stays on.
-            button->setChecked(true);
-            (this->*action)(button);
+        connect(button, &QRadioButton::toggled, this, [this, button, action](bool on) {
+            if (on)
+                (this->*action)(button);
         });
     };
     radio(ui->radioGIFOriginalDimension, &AppDelegate::OnGIFOriginalResolution);
@@ -61,7 +60,7 @@ void AppDelegate::connectExportControls() {
     for (QLineEdit *edit : {ui->textGIFWidth, ui->textGIFHeigth, ui->txtWebPLoops})
         edit->installEventFilter(passage);
 
-    connect(ui->checkGIFKeepAspectRatio, &QCheckBox::clicked, this,
+    connect(ui->checkGIFKeepAspectRatio, &QCheckBox::toggled, this,
             [this] { OnGIFChangeKeepAspectRatio(ui->checkGIFKeepAspectRatio); });
     connect(ui->comboGIFFPS, &QComboBox::currentIndexChanged, this, &AppDelegate::updateGIFSummary);
     connect(ui->btnGIFExport, &QPushButton::clicked, this,

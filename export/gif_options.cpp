@@ -170,6 +170,7 @@ void AppDelegate::updateGIFDimensionHint() {
     }
     ui->labelDimensionHint->setText(hint);
     ui->labelDimensionHint->setToolTip(hint);
+    ui->labelDimensionHint->setVisible(!hint.isEmpty());
 }
 
 void AppDelegate::updateGIFSummary() {

@@ -48,4 +48,7 @@ void AppDelegate::showCaptureMode() {
     }
     if (ui->labelCaptureMode->text() != text)
         ui->labelCaptureMode->setText(text);
+    const QString rate = qtTrId("IDD_CAPTURE_RATE").arg(recording.u_FPS());
+    if (ui->labelCaptureRate->text() != rate)
+        ui->labelCaptureRate->setText(rate);
 }

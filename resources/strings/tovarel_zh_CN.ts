@@ -220,6 +220,10 @@
         <source>Region %1 × %2 at %3, %4</source>
         <translation>区域 %1 × %2，位于 %3, %4</translation>
     </message>
+    <message id="IDD_CAPTURE_RATE">
+        <source>%1 fps</source>
+        <translation>%1 帧/秒</translation>
+    </message>
     <message id="IDD_OK">
         <source>OK</source>
         <translation>确定</translation>

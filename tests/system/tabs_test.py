@@ -72,7 +72,9 @@ class Tabs(case.Case):
         program.enter("GIF")
         self.assertFalse(program.enabled("Generate GIF"))
         for role in ("text", "combo box", "check box", "radio button"):
-            for item in program.all(role):
+            items = program.all(role)
+            self.assertTrue(items, role)
+            for item in items:
                 self.assertFalse(is_enabled(item), content(item))
         enabled = {item.get_name() for item in program.all("menu item", showing=False)
                    if is_enabled(item)}
