@@ -5,12 +5,13 @@
 #include "export/progress_parser.h"
 #include "export/tool_process.h"
 #include "export/tool_run.h"
+#include "platform/display.h"
 
 #include <QCoreApplication>
 
 namespace {
 
-/// How long a wait without an event loop goes without looking for the termination notice.
+/// How long a wait without an event loop goes without looking for a reason to end.
 constexpr int sliceMs = 50;
 
 /// Enough of a tool's error output for the alert's last lines, in bytes. A long run writes
@@ -29,7 +30,7 @@ ToolRun AppDelegate::RunToolReadAllOutput(const QString &toolPath, const QString
     // No limit: an encoder may take as long as it needs. Waiting drains the tool's output.
     while (tool.state() != QProcess::NotRunning) {
         tool.waitForFinished(sliceMs);
-        if (TerminationNotice::pending())
+        if (TerminationNotice::pending() || displayIsGone())
             Terminate_App();
     }
     const QByteArray output = tool.readAll();

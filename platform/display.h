@@ -6,3 +6,8 @@
 /// asked before the toolkit starts, which aborts the process when there is none. True as well when
 /// the toolkit was told (QT_QPA_PLATFORM) to use something else.
 bool displayIsReachable();
+
+/// Whether the display server that the toolkit is connected to has gone. For waits without an event
+/// loop, in which the toolkit cannot notice; it ends the process when it does. False where the
+/// toolkit has no X connection.
+bool displayIsGone();

@@ -3,8 +3,9 @@
 #include "platform/display.h"
 
 #include <QByteArray>
-#include <QtGlobal>
+#include <QGuiApplication>
 
+#include <poll.h>
 #include <xcb/xcb.h>
 
 bool displayIsReachable() {
@@ -17,4 +18,15 @@ bool displayIsReachable() {
     const bool reached = xcb_connection_has_error(connection) == 0;
     xcb_disconnect(connection);
     return reached;
+}
+
+bool displayIsGone() {
+    const auto *x11 =
+        qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    if (!x11 || !x11->connection())
+        return false;
+    // What the server sent last may still lie there to be read; only its end is looked for.
+    pollfd state{
+        .fd = xcb_get_file_descriptor(x11->connection()), .events = POLLRDHUP, .revents = 0};
+    return poll(&state, 1, 0) > 0;
 }

@@ -98,11 +98,11 @@ class Session:
                 self.environment[name] = os.environ[name]
         screen = f"{self.width}x{self.height}x24"
         # The server looks for a free number itself.
-        display = self._announce(
+        display = self.announce(
             "Xvfb", lambda end: ["Xvfb", "-displayfd", str(end), "-screen", "0", screen]
             + ["-nolisten", "tcp", "-noreset"])
         self.environment["DISPLAY"] = ":" + display
-        bus = self._announce(
+        bus = self.announce(
             "dbus-daemon", lambda end: ["dbus-daemon", "--session", "--nofork", "--nopidfile"]
             + [f"--print-address={end}"])
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus
@@ -116,7 +116,7 @@ class Session:
             del os.environ[name]
         os.environ.update(self.environment)
 
-    def _announce(self, name, command):
+    def announce(self, name, command):
         """Starts a server that writes one line to an open file once it is ready: that line."""
         read, write = os.pipe()
         try:

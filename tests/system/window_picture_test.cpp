@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
+#include "tests/system/unrest.h"
 #include "tests/system/window_server_fixture.h"
 
 #include <atomic>
-#include <cstdlib>
 #include <random>
 
 // The picture against the slow reference, pixel by pixel, after everything that windows do.
@@ -209,90 +209,8 @@ TEST_P(WindowPictureByRoad, followsTheDesktopsSize) {
     EXPECT_EQ(server->listWindows().back().bounds, QRectF(client.desktop()));
 }
 
-namespace {
-
-/// Does at random what windows do, in any order.
-class Unrest {
-public:
-    Unrest(XClient &client, unsigned seed) : client_(client), random_(seed) {}
-
-    void act() {
-        if (windows_.size() < 4 || (windows_.size() < 12 && below(8) == 0)) {
-            add();
-            return;
-        }
-        const auto at = static_cast<std::size_t>(below(static_cast<int>(windows_.size())));
-        const auto window = windows_[at];
-        const auto seed = static_cast<std::uint32_t>(random_());
-        switch (below(14)) {
-        case 0:
-            client_.destroy(window);
-            windows_.erase(windows_.begin() + static_cast<std::ptrdiff_t>(at));
-            break;
-        case 1:
-        case 2:
-            client_.moveResize(window, place());
-            break;
-        case 3:
-            client_.restack(window, XCB_STACK_MODE_ABOVE);
-            break;
-        case 4:
-            client_.restack(window, XCB_STACK_MODE_BELOW, other(window));
-            break;
-        case 5:
-            client_.circulate(below(2) == 0);
-            break;
-        case 6:
-            client_.unmap(window);
-            break;
-        case 7:
-            client_.map(window);
-            break;
-        case 8:
-            client_.setShape(window, below(3) == 0 ? std::vector<QRect>{}
-                                                   : std::vector{within(), within(), within()});
-            break;
-        case 9:
-            client_.setBorder(window, static_cast<std::uint16_t>(below(6)), seed | 0xff000000);
-            break;
-        default:
-            client_.drawPattern(window, within(), seed);
-        }
-    }
-
-private:
-    int below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
-    QRect place() { return {below(700) - 80, below(480) - 80, 1 + below(300), 1 + below(250)}; }
-    QRect within() { return {below(200) - 10, below(150) - 10, 1 + below(160), 1 + below(120)}; }
-
-    xcb_window_t other(xcb_window_t window) {
-        const auto sibling =
-            windows_[static_cast<std::size_t>(below(static_cast<int>(windows_.size())))];
-        return sibling == window ? XCB_NONE : sibling;
-    }
-
-    void add() {
-        windows_.push_back(client_.show({.place = place(),
-                                         .border = static_cast<std::uint16_t>(below(4)),
-                                         .alpha = below(3) == 0,
-                                         .overrideRedirect = below(2) == 0},
-                                        static_cast<std::uint32_t>(random_())));
-    }
-
-    XClient &client_;
-    std::mt19937 random_;
-    std::vector<xcb_window_t> windows_;
-};
-
-unsigned seedOfThisRun() {
-    const char *given = std::getenv("TOVAREL_TEST_SEED");
-    return given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
-}
-
-} // namespace
-
 TEST_P(WindowPictureByRoad, isRightAfterAnySequenceOfEvents) {
-    const unsigned seed = seedOfThisRun();
+    const unsigned seed = seedOfThisRun(std::random_device()());
     SCOPED_TRACE("TOVAREL_TEST_SEED=" + std::to_string(seed));
     std::mt19937 random(seed);
     const bool realOne = client.compositingManagerRuns();
@@ -315,7 +233,7 @@ TEST_P(WindowPictureByRoad, isRightAfterAnySequenceOfEvents) {
 }
 
 TEST_P(WindowPictureByRoad, survivesWindowsThatVanishResizeAndHideThroughoutGrabs) {
-    const unsigned seed = seedOfThisRun();
+    const unsigned seed = seedOfThisRun(std::random_device()());
     SCOPED_TRACE("TOVAREL_TEST_SEED=" + std::to_string(seed));
     // On a thread and a connection of its own, and left standing when it ends.
     XClient other;
