@@ -3,12 +3,17 @@
 #pragma once
 
 #include "platform/image.h"
+#include "platform/image_reader.h"
 
 #include <QImage>
+#include <QRegion>
 #include <QSize>
 
+#include <vector>
+
 /// Scales images to the size at which a view shows them, and remembers the last result: an image
-/// that is shown again costs nothing. For the screen only; what is stored is never scaled.
+/// that is shown again costs nothing, and one that came out of it by a small change costs that
+/// change. For the screen only; what is stored is never scaled.
 class ImageScaler {
 public:
     enum class Care {
@@ -24,8 +29,17 @@ public:
     /// picture is valid until the next call.
     const QImage &scaled(const Image &image, QSize pixels, double ratio, Care care);
 
+    /// Where a result of the size `pixels` changes (device pixels) when the image that it was
+    /// scaled from, which has the size `image`, changes within `region`.
+    static QRegion affected(const QRegion &region, QSize image, QSize pixels);
+
 private:
+    void paint(const QImage &picture, const QRegion &where, bool overBlack);
+    QImage shrunkNear(const QImage &picture, QSize size, const QRegion &changed);
+
     Image from_;
+    ImageReader reader_;
+    std::vector<QImage> halves_;
     QImage result_;
     Care care_ = Care::Fine;
 };

@@ -4,6 +4,7 @@
 
 #include "platform/image.h"
 
+#include <QRect>
 #include <QRectF>
 #include <QString>
 
@@ -63,7 +64,17 @@ public:
     /// covers is black. Numbers that no window bears any more are passed over. Two calls between
     /// which nothing changed yield the same picture (`Image::sameAs`). None when the server has no
     /// picture to give.
-    virtual std::optional<Image> composite(std::span<const std::uint32_t> numbers) = 0;
+    ///
+    /// With `part` (pixels) the picture has the desktop's size all the same but need only be right
+    /// within that part, and costs no more than that; elsewhere it may show anything that was there
+    /// before. Two calls for one part between which nothing changed in it yield the same picture.
+    virtual std::optional<Image> composite(std::span<const std::uint32_t> numbers,
+                                           const std::optional<QRect> &part) = 0;
+
+    /// The whole of it.
+    std::optional<Image> composite(std::span<const std::uint32_t> numbers) {
+        return composite(numbers, std::nullopt);
+    }
 };
 
 /// The server of the display that this session runs on; a null one with its reason where nothing

@@ -4,6 +4,7 @@
 #include "platform/window_server.h"
 #include "record/grab_geometry.h"
 #include "record/window_list.h"
+#include "region/region_in_grab.h"
 
 #include <QPainter>
 
@@ -44,7 +45,11 @@ AppDelegate::newWindowListFromSelection(std::span<const WindowEntry> selection) 
 }
 
 void AppDelegate::createMultiWindowShot(std::span<const WindowEntry> selection) {
-    setOutputImage(windowServer().composite(newWindowListFromSelection(selection)));
+    const std::optional<QRect> part = partOfGrabInUse(*this);
+    const auto grab = windowServer().composite(newWindowListFromSelection(selection), part);
+    if (grab)
+        capture.setGrabbedPart(part);
+    setOutputImage(grab);
 }
 
 void AppDelegate::setOutputImage(const std::optional<Image> &grab) {

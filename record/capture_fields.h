@@ -5,6 +5,7 @@
 #include "platform/image.h"
 #include "record/window_entry.h"
 
+#include <QRect>
 #include <QRectF>
 
 #include <cstdint>
@@ -39,6 +40,11 @@ public:
     const Image &imgScreenCapture() const { return imgScreenCapture_; }
     void setImgScreenCapture(const Image &image) { imgScreenCapture_ = image; }
 
+    /// Where `imgScreenCapture` is true to the screen, in pixels of the desktop; everywhere when
+    /// none.
+    const std::optional<QRect> &grabbedPart() const { return grabbedPart_; }
+    void setGrabbedPart(const std::optional<QRect> &part) { grabbedPart_ = part; }
+
     /// The grab that `imgScreenCapture` is the half of; empty when it was not halved.
     const Image &grabBeforeHalving() const { return grabBeforeHalving_; }
     void setGrabBeforeHalving(const Image &image) { grabBeforeHalving_ = image; }
@@ -52,6 +58,7 @@ private:
     std::uint32_t imageOptions_ = 0;
     std::optional<QRectF> imageBounds_;
     Image imgScreenCapture_;
+    std::optional<QRect> grabbedPart_;
     Image grabBeforeHalving_;
     Image imageScreenCaptureFinal_;
 };

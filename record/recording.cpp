@@ -166,7 +166,9 @@ void AppDelegate::storeFrame() {
         return;
     if (!recording.array_Images)
         recording.array_Images.emplace();
-    recording.array_Images->push_back(capture.imageScreenCaptureFinal());
+    auto &frames = *recording.array_Images;
+    const Image previous = frames.empty() ? Image() : frames.back();
+    frames.push_back(recording.store.keep(capture.imageScreenCaptureFinal(), previous));
     recording.setU_Record_Current_Frame(recording.u_Record_Current_Frame() + 1);
     recording.setI_debug_number_of_view_refresh(recording.i_debug_number_of_view_refresh() + 1);
 }

@@ -4,6 +4,7 @@
 
 #include "platform/image.h"
 #include "platform/repeating_timer.h"
+#include "platform/tile_store.h"
 #include "record/recording_clock.h"
 
 #include <cstdint>
@@ -56,6 +57,9 @@ public:
     /// The frame store: frames of the current or last recording, in order. Absent until the first
     /// recording starts.
     std::optional<std::vector<Image>> array_Images;
+
+    /// What the frames are kept in.
+    TileStore store;
 
     /// The time spent in the recording state, pauses left out.
     RecordingClock clock;

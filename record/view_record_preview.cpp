@@ -13,6 +13,10 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <cmath>
+#include <optional>
+#include <utility>
+
 namespace {
 
 constexpr int reasonMargin = 24; // points
@@ -49,6 +53,7 @@ void View_Record_Preview::drawFrame() {
     const FittingFrame before = frame_;
     const Image previous = shown_;
     if (type == CAPTURE_REGION || type == CAPTURE_FULL_SCREEN) {
+        refreshGrab(*delegate);
         const Image &grab = delegate->capture.imgScreenCapture();
         shown_ = type == CAPTURE_REGION ? cutRegion(grab) : grab;
         delegate->capture.setImageScreenCaptureFinal(shown_);
@@ -58,8 +63,19 @@ void View_Record_Preview::drawFrame() {
     }
     delegate->showCaptureMode();
     delegate->storeFrame();
-    if (!shown_.sameAs(previous) || !sameFrame(frame_, before))
+    const auto changes = shown_.changesSince(previous);
+    if (!changes || !sameFrame(frame_, before))
         update();
+    else if (!changes->isEmpty())
+        update(shownPlaceOf(*changes));
+}
+
+/// The region may have moved since the grab, or the whole screen been chosen.
+void View_Record_Preview::refreshGrab(AppDelegate &delegate) {
+    const std::optional<QRect> grabbed = delegate.capture.grabbedPart();
+    const std::optional<QRect> needed = partOfGrabInUse(delegate);
+    if (grabbed && (!needed || !grabbed->contains(*needed)))
+        delegate.createMultiWindowShot(delegate.capture.arrayWindowsMinusHarrowlens);
 }
 
 Image View_Record_Preview::cutRegion(const Image &grab) {
@@ -67,15 +83,21 @@ Image View_Record_Preview::cutRegion(const Image &grab) {
     const QRectF rectangle(region.x(), grab.height() - region.y() - region.height(), region.width(),
                            region.height());
     // The same part of the same picture stays the same picture: it is then written only once.
-    if (!cutFrom_.sameAs(grab) || cutRectangle_ != rectangle) {
-        cutFrom_ = grab;
-        cutRectangle_ = rectangle;
+    const auto changes =
+        cutRectangle_ == rectangle ? grab.changesSince(cutFrom_) : std::optional<QRegion>();
+    cutFrom_ = grab;
+    cutRectangle_ = rectangle;
+    if (!changes) {
         cut_ = partOfImage(grab, rectangle);
+    } else if (changes->intersects(region)) {
+        cut_ =
+            partOfImage(grab, rectangle, {cut_.identity(), changes->translated(-region.topLeft())});
     }
     return cut_;
 }
 
-Image View_Record_Preview::partOfImage(const Image &image, const QRectF &rectangle) {
+Image View_Record_Preview::partOfImage(const Image &image, const QRectF &rectangle,
+                                       Image::Change change) {
     if (image.isEmpty())
         return {};
     const PixelRectangle part = pixelsOfRegion(rectangle.x(), rectangle.y(), rectangle.width(),
@@ -83,16 +105,15 @@ Image View_Record_Preview::partOfImage(const Image &image, const QRectF &rectang
     if (part.width == 0)
         return {};
     const QRect pixels(part.left, part.top, part.width, part.height);
-    const QImage source = image.toQImage();
-    if (source.rect().contains(pixels))
-        return Image::fromQImage(source.copy(pixels));
+    if (QRect(QPoint(), image.size()).contains(pixels))
+        return image.cut(pixels, std::move(change));
     QImage canvas(pixels.size(), QImage::Format_ARGB32_Premultiplied);
     canvas.fill(Qt::transparent);
     QPainter painter(&canvas);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.drawImage(-pixels.topLeft(), source);
+    painter.drawImage(-pixels.topLeft(), image.toQImage());
     painter.end();
-    return Image::fromQImage(std::move(canvas));
+    return Image::fromQImage(std::move(canvas), std::move(change));
 }
 
 void View_Record_Preview::paintEvent(QPaintEvent *event) {
@@ -100,12 +121,30 @@ void View_Record_Preview::paintEvent(QPaintEvent *event) {
     painter.fillRect(event->rect(), Qt::black);
     if (shown_.isEmpty() || reason_)
         return;
-    // The fitting frame counts from the lower left corner of the view, painting from the upper one.
-    const QRectF target(frame_.x, height() - frame_.y - frame_.height, frame_.width, frame_.height);
-    const QSize pixels = (target.size() * devicePixelRatioF()).toSize().expandedTo({1, 1});
-    const QImage &scaled =
-        scaler_.scaled(shown_, pixels, devicePixelRatioF(), ImageScaler::Care::Quick);
-    painter.drawImage(target, scaled, scaled.rect());
+    painter.drawImage(corner(), scaler_.scaled(shown_, pixelsShown(), devicePixelRatioF(),
+                                               ImageScaler::Care::Quick));
+}
+
+QSize View_Record_Preview::pixelsShown() const {
+    return (QSizeF(frame_.width, frame_.height) * devicePixelRatioF()).toSize().expandedTo({1, 1});
+}
+
+/// On the grid of the screen's pixels: elsewhere the painter would have to scale once more. The
+/// fitting frame counts from the lower left corner of the view, painting from the upper one.
+QPointF View_Record_Preview::corner() const {
+    const double ratio = devicePixelRatioF();
+    const double top = height() - frame_.y - frame_.height;
+    return {std::round(frame_.x * ratio) / ratio, std::round(top * ratio) / ratio};
+}
+
+/// Where in the view the shown picture changes with these of its pixels.
+QRegion View_Record_Preview::shownPlaceOf(const QRegion &changed) const {
+    const double ratio = devicePixelRatioF();
+    QRegion place;
+    for (const QRect &pixels : ImageScaler::affected(changed, shown_.size(), pixelsShown()))
+        place += QRectF(corner() + QPointF(pixels.topLeft()) / ratio, QSizeF(pixels.size()) / ratio)
+                     .toAlignedRect();
+    return place;
 }
 
 void View_Record_Preview::redisplay() {

@@ -11,6 +11,7 @@
 #include <QRectF>
 #include <QWidget>
 
+class AppDelegate;
 class QLabel;
 class QWindow;
 
@@ -37,8 +38,10 @@ public:
 
     /// The part of `image` inside `rectangle`, which is in the image's units with its origin at the
     /// lower left corner. The result has the rectangle's size, in whole pixels; what lies outside
-    /// the image is transparent. Empty when the image is.
-    static Image partOfImage(const Image &image, const QRectF &rectangle);
+    /// the image is transparent. Empty when the image is. `change` is how the part came out of an
+    /// earlier one of its size.
+    static Image partOfImage(const Image &image, const QRectF &rectangle,
+                             Image::Change change = {});
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -51,6 +54,10 @@ private:
     void redisplay();
     bool windowIsExposed() const;
     Image cutRegion(const Image &grab);
+    void refreshGrab(AppDelegate &delegate);
+    QPointF corner() const;
+    QSize pixelsShown() const;
+    QRegion shownPlaceOf(const QRegion &changed) const;
 
     // What the last draw step settled.
     Image shown_;

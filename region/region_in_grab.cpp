@@ -32,3 +32,17 @@ QRect regionInGrab(const AppDelegate &delegate) {
         {region.x(), region.y(), region.width(), region.height()}, screen, unitsPerPixel);
     return {units.x, units.y, units.width, units.height};
 }
+
+std::optional<QRect> partOfGrabInUse(const AppDelegate &delegate) {
+    const CaptureFields &capture = delegate.capture;
+    if (delegate.region.i_Type_Screen_Capture() != CAPTURE_REGION ||
+        capture.imgScreenCapture().isEmpty())
+        return {};
+    const QRect region = regionInGrab(delegate);
+    const Image &whole = capture.grabBeforeHalving();
+    if (whole.isEmpty())
+        return region;
+    // Halving mixes pixels across the region's edges.
+    constexpr int mixed = 4; // pixels
+    return QRect(region.topLeft() * 2, region.size() * 2).adjusted(-mixed, -mixed, mixed, mixed);
+}

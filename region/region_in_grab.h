@@ -6,6 +6,8 @@
 
 #include <QRect>
 
+#include <optional>
+
 class AppDelegate;
 class QScreen;
 
@@ -16,3 +18,7 @@ grab_units::Screen screenOnDesktop(const QScreen &screen);
 /// the grab, and so the size of a frame. Counted from the screen on which the region was chosen,
 /// wherever the main window has gone since.
 QRect regionInGrab(const AppDelegate &delegate);
+
+/// The part of the desktop that the next frame needs of a grab, in the desktop's pixels: all of it,
+/// none, unless a region is recorded.
+std::optional<QRect> partOfGrabInUse(const AppDelegate &delegate);

@@ -13,7 +13,11 @@ public:
     WindowServerCapabilities capabilities() const override { return {}; }
     QString reason() const override { return reason_; }
     std::vector<WindowDescription> listWindows() override { return {}; }
-    std::optional<Image> composite(std::span<const std::uint32_t>) override { return {}; }
+    using WindowServer::composite;
+    std::optional<Image> composite(std::span<const std::uint32_t>,
+                                   const std::optional<QRect> &) override {
+        return {};
+    }
 
 private:
     QString reason_;

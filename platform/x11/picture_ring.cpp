@@ -13,10 +13,15 @@ namespace {
 // What piles up in a picture that waits for its turn is kept simple rather than exact.
 constexpr int mostRectangles = 64;
 
-QImage copyOf(const SharedPicture &picture, PixelPool &pool) {
+QImage copyOf(const SharedPicture &picture, const QRect &part, PixelPool &pool) {
     QImage copy = pool.take(picture.size());
-    if (!copy.isNull())
-        std::memcpy(copy.bits(), picture.pixels(), static_cast<std::size_t>(copy.sizeInBytes()));
+    if (copy.isNull())
+        return copy;
+    const std::ptrdiff_t stride = picture.size().width();
+    const std::uint32_t *from = picture.pixels() + part.y() * stride + part.x();
+    const auto bytes = static_cast<std::size_t>(part.width()) * sizeof *from;
+    for (int y = part.top(); y <= part.bottom(); ++y, from += stride)
+        std::memcpy(reinterpret_cast<std::uint32_t *>(copy.scanLine(y)) + part.x(), from, bytes);
     return copy;
 }
 
@@ -78,11 +83,11 @@ PictureRing::Turn *PictureRing::next() {
     return reserve_.picture ? &reserve_ : nullptr;
 }
 
-std::optional<Image> PictureRing::handOut(Turn &turn) {
-    QImage pixels = &turn == &reserve_ ? copyOf(*turn.picture, *pool_) : turn.picture->view();
+std::optional<Image> PictureRing::handOut(Turn &turn, const QRect &part, Image::Change change) {
+    QImage pixels = &turn == &reserve_ ? copyOf(*turn.picture, part, *pool_) : turn.picture->view();
     if (pixels.isNull())
         return {};
-    return Image::fromQImage(std::move(pixels));
+    return Image::fromQImage(std::move(pixels), std::move(change));
 }
 
 } // namespace x11

@@ -47,8 +47,9 @@ public:
     /// The picture whose turn it is, valid until the next call of any other function here; null
     /// when the server has no memory for one.
     Turn *next();
-    /// A handle on what the picture shows; none when memory has run out.
-    std::optional<Image> handOut(Turn &turn);
+    /// A handle on what the picture shows within `part`; none when memory has run out. `change` is
+    /// how it came out of what was handed out before.
+    std::optional<Image> handOut(Turn &turn, const QRect &part, Image::Change change);
 
     /// How pixels come over; none before the first picture.
     std::optional<PixelRoad> road() const { return road_; }

@@ -44,9 +44,12 @@ public:
         if (id_ < 0)
             return;
         address_ = shmat(id_, nullptr, 0);
-        // Where the system admits it, fewer and larger pages.
-        if (isMapped())
-            madvise(address_, bytes, MADV_HUGEPAGE);
+        if (!isMapped())
+            return;
+        // Where the system admits it, fewer and larger pages; touched here, once, and not by the
+        // server in the midst of its first grabs.
+        madvise(address_, bytes, MADV_HUGEPAGE);
+        std::memset(address_, 0, bytes);
     }
     ~Memory() {
         release();

@@ -84,42 +84,50 @@ std::vector<WindowDescription> X11WindowServer::listWindows() {
     return model_.windows();
 }
 
-std::optional<Image> X11WindowServer::composite(std::span<const std::uint32_t> numbers) {
+std::optional<Image> X11WindowServer::composite(std::span<const std::uint32_t> numbers,
+                                                const std::optional<QRect> &part) {
     model_.drain();
     if (connection_->broken())
         return {};
-    if (!model_.takeChanged() && picture_ && std::ranges::equal(numbers, numbers_))
+    const bool goesOn = picture_ && part == part_;
+    if (!model_.takeChanged() && goesOn && std::ranges::equal(numbers, numbers_))
         return picture_;
 
     numbers_.assign(numbers.begin(), numbers.end());
-    const QRegion changed = findChanges();
-    if (changed.isEmpty() && picture_)
-        return picture_;
-    // Not held by us any more, it may be the one to be drawn on.
-    picture_.reset();
+    part_ = part;
+    QRegion changed = findChanges();
     ring_.resize(model_.desktop().size());
     ring_.invalidate(changed);
+    const QRect wanted = part ? part->intersected(model_.desktop()) : model_.desktop();
+    if (goesOn && !changed.intersects(wanted))
+        return picture_;
+    const Image::Identity before = goesOn ? picture_->identity() : 0;
+    // Not held by us any more, it may be the one to be drawn on.
+    picture_.reset();
     x11::PictureRing::Turn *turn = ring_.next();
-    if (!turn || !draw(*turn))
+    if (!turn || !draw(*turn, wanted, changed))
         return giveUp();
-    picture_ = ring_.handOut(*turn);
+    picture_ = ring_.handOut(*turn, wanted, {before, std::move(changed)});
     return picture_;
 }
 
 // Again when windows vanished in its midst; what changes besides is left to the next grab.
-bool X11WindowServer::draw(x11::PictureRing::Turn &turn) {
+bool X11WindowServer::draw(x11::PictureRing::Turn &turn, const QRect &part, QRegion &changed) {
     for (int attempt = 0; attempt < mostAttempts; ++attempt) {
-        composer_.paint(turn.picture->picture(), layers_, turn.stale);
-        if (!turn.picture->update(turn.stale))
+        const QRegion stale = turn.stale.intersected(part);
+        composer_.paint(turn.picture->picture(), layers_, stale);
+        if (!turn.picture->update(stale))
             return false;
-        turn.stale = QRegion();
+        turn.stale -= stale;
         model_.drain();
         if (!model_.takeFailures() || model_.desktop() != layers_.desktop())
-            break;
-        ring_.invalidate(findChanges());
+            return true;
+        const QRegion more = findChanges();
+        ring_.invalidate(more);
+        changed += more;
     }
     // Not all of it could be drawn: the next grab starts afresh.
-    if (!turn.stale.isEmpty())
+    if (turn.stale.intersects(part))
         layers_ = {};
     return true;
 }

@@ -53,7 +53,9 @@ public:
     WindowServerCapabilities capabilities() const override;
     QString reason() const override { return {}; }
     std::vector<WindowDescription> listWindows() override;
-    std::optional<Image> composite(std::span<const std::uint32_t> numbers) override;
+    using WindowServer::composite;
+    std::optional<Image> composite(std::span<const std::uint32_t> numbers,
+                                   const std::optional<QRect> &part) override;
 
     /// How pixels come over; none before the first composite.
     std::optional<x11::PixelRoad> road() const { return ring_.road(); }
@@ -61,7 +63,7 @@ public:
 private:
     X11WindowServer(std::unique_ptr<x11::Connection> connection, x11::PixelRoad bestRoad);
 
-    bool draw(x11::PictureRing::Turn &turn);
+    bool draw(x11::PictureRing::Turn &turn, const QRect &part, QRegion &changed);
     QRegion findChanges();
     std::optional<Image> giveUp();
     void watchWhileIdle();
@@ -72,6 +74,7 @@ private:
     x11::PictureRing ring_;
 
     std::vector<std::uint32_t> numbers_; // what `picture_` shows
+    std::optional<QRect> part_;          // and where
     x11::LayerStack layers_;
     std::optional<Image> picture_;
 

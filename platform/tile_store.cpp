@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "platform/tile_store.h"
+
+#include "platform/image_storage.h"
+
+#include <pthread.h>
+#include <sched.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+// How many tiles in a row must have been tried in vain before most are passed over, and how many
+// are passed over then for each that is tried again.
+constexpr int triesInVain = 64;
+constexpr int passedOver = 15;
+
+void runOnlyWhenIdle() {
+    const sched_param none{};
+    pthread_setschedparam(pthread_self(), SCHED_IDLE, &none);
+}
+
+} // namespace
+
+class TileStore::Worth {
+public:
+    bool trying() {
+        if (vain_ < triesInVain)
+            return true;
+        passed_ = (passed_ + 1) % (passedOver + 1);
+        return passed_ == 0;
+    }
+    void learn(bool paid) { vain_ = paid ? 0 : std::min(vain_ + 1, triesInVain); }
+
+private:
+    int vain_ = 0;
+    int passed_ = 0;
+};
+
+TileStore::TileStore()
+    : memory_(std::make_shared<TileMemory>()),
+      compressor_([this](const std::stop_token &stop) { compressAll(stop); }) {}
+
+TileStore::~TileStore() = default;
+
+void TileStore::compressAll(const std::stop_token &stop) {
+    runOnlyWhenIdle();
+    Worth worth;
+    std::unique_lock lock(mutex_);
+    while (changed_.wait(lock, stop, [this] { return !queue_.empty(); }) &&
+           !stop.stop_requested()) {
+        const std::shared_ptr<Tile> tile = queue_.front().lock();
+        queue_.pop_front();
+        busy_ = true;
+        lock.unlock();
+        if (tile && worth.trying())
+            worth.learn(tile->compress());
+        lock.lock();
+        busy_ = false;
+        if (queue_.empty())
+            changed_.notify_all();
+    }
+}
+
+void TileStore::waitUntilCompressed() {
+    std::unique_lock lock(mutex_);
+    changed_.wait(lock, [this] { return queue_.empty() && !busy_; });
+}
+
+/// Makes the tiles of one picture, taking over from the picture before what is equal.
+class TileStore::Builder {
+public:
+    Builder(const std::shared_ptr<TileMemory> &memory, const QImage &pixels,
+            const TileTable *before, const std::optional<QRegion> &changes)
+        : memory_(memory), pixels_(pixels), before_(before), changes_(changes) {}
+
+    /// Null when memory has run out.
+    std::shared_ptr<const TileTable> table() {
+        const QSize grid = TileTable::gridOf(pixels_.size());
+        std::vector<std::shared_ptr<const TileTable::Row>> rows;
+        rows.reserve(static_cast<std::size_t>(grid.height()));
+        for (int y = 0; y < grid.height(); ++y) {
+            rows.push_back(row(y, grid.width()));
+            if (!rows.back())
+                return nullptr;
+        }
+        return counted(TileTable(pixels_.size(), std::move(rows)),
+                       static_cast<std::ptrdiff_t>(
+                           sizeof(TileTable) + static_cast<std::size_t>(grid.height()) *
+                                                   sizeof(std::shared_ptr<const TileTable::Row>)));
+    }
+
+    /// The tiles that were made anew.
+    std::vector<std::weak_ptr<Tile>> fresh;
+
+private:
+    std::shared_ptr<const TileTable::Row> row(int y, int columns) {
+        const auto *before = before_ ? &before_->rows()[static_cast<std::size_t>(y)] : nullptr;
+        if (before && changes_ && !changes_->intersects(rowPlace(y)))
+            return *before;
+        TileTable::Row tiles;
+        tiles.reserve(static_cast<std::size_t>(columns));
+        for (int x = 0; x < columns; ++x) {
+            const auto *old = before ? &(**before)[static_cast<std::size_t>(x)] : nullptr;
+            tiles.push_back(tile(TileTable::placeOf(pixels_.size(), x, y), old));
+            if (!tiles.back())
+                return nullptr;
+        }
+        if (before && **before == tiles)
+            return *before;
+        const auto cost =
+            static_cast<std::ptrdiff_t>(sizeof tiles + tiles.size() * sizeof tiles.front());
+        return counted(std::move(tiles), cost);
+    }
+
+    std::shared_ptr<const Tile> tile(const QRect &place, const std::shared_ptr<const Tile> *old) {
+        if (old && ((changes_ && !changes_->intersects(place)) || (*old)->equals(pixels_, place)))
+            return *old;
+        auto made = Tile::make(memory_, pixels_, place);
+        if (made)
+            fresh.push_back(made);
+        return made;
+    }
+
+    QRect rowPlace(int y) const { return {0, y * Tile::side, pixels_.width(), Tile::side}; }
+
+    /// Its cost is among the bytes held for as long as it lives.
+    template <class T> std::shared_ptr<const T> counted(T value, std::ptrdiff_t cost) const {
+        memory_->count(cost);
+        return std::shared_ptr<const T>(new T(std::move(value)),
+                                        [memory = memory_, cost](const T *counted) {
+                                            delete counted;
+                                            memory->count(-cost);
+                                        });
+    }
+
+    const std::shared_ptr<TileMemory> &memory_;
+    const QImage &pixels_;
+    const TileTable *before_;
+    const std::optional<QRegion> &changes_;
+};
+
+Image TileStore::keep(const Image &image, const Image &previous) {
+    if (image.sameAs(previous))
+        return previous;
+    if (image.isEmpty() || image.storage_->tiles)
+        return image;
+    const bool related = !previous.isEmpty() && previous.storage_->tiles &&
+                         previous.size() == image.size() && previous.hasAlpha() == image.hasAlpha();
+    const QImage pixels = image.toQImage();
+    const auto changes = image.changesSince(previous);
+    Builder builder(memory_, pixels, related ? previous.storage_->tiles.get() : nullptr, changes);
+    auto kept = std::make_shared<Image::Storage>();
+    kept->identity = image.identity();
+    kept->size = image.size();
+    kept->alpha = image.hasAlpha();
+    kept->tiles = builder.table();
+    if (!kept->tiles)
+        return image;
+    enqueue(builder.fresh);
+    return Image(std::move(kept));
+}
+
+void TileStore::enqueue(const std::vector<std::weak_ptr<Tile>> &tiles) {
+    if (tiles.empty())
+        return;
+    {
+        const std::lock_guard lock(mutex_);
+        queue_.insert(queue_.end(), tiles.begin(), tiles.end());
+    }
+    changed_.notify_all();
+}
