@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
+#include "app/working_folders.h"
 #include "export/duration.h"
 #include "export/encoder_arguments.h"
 #include "export/export_checks.h"
@@ -40,6 +41,9 @@ void AppDelegate::OnGIFExport(QObject *) {
     showProgressSheet(qtTrId("IDD_PROGRESS_GIF"));
     paintProgressSheet();
     RemoveAllContentInFolder(shell.s_Pallete_Folder());
+    // Somebody may have taken them away since the start.
+    working_folders::ensureFolder(shell.s_Export_Folder());
+    working_folders::ensureFolder(shell.s_Pallete_Folder());
     const std::uint64_t staged =
         stageFrames(shell.s_Output_Folder(), trim.uFirstFrame(), trim.uLastFrame(),
                     shell.s_Export_Folder(), shell.s_Pallete_Folder());

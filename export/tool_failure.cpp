@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qsizetype lines = 4;        // enough to hold the cause that precedes "Invalid argument"
+constexpr qsizetype lines = 6; // enough for the cause and the sentences after it that only say so
 constexpr qsizetype lineLength = 200; // characters; what fits an alert without scrolling
 
 bool isProgress(const QString &line) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
 #include "app/tab_view.h"
+#include "app/working_folders.h"
 #include "record/frame_saver.h"
 
 #include <QDebug>
@@ -26,6 +27,8 @@ void AppDelegate::saveRecording() {
         ShowStatus(qtTrId("IDD_NOTHING_RECORDED"));
         return;
     }
+    // Somebody may have taken it away since the start.
+    working_folders::ensureFolder(shell.s_Output_Folder());
     frameSaver_ = std::make_unique<FrameSaver>(*recording.array_Images, shell.s_Output_Folder(),
                                                [this](std::uint64_t done) { frameReported(done); });
 }

@@ -153,11 +153,11 @@ TEST(SizeText, SaysWhatTheExportOrTheEncoderWillRefuse) {
 }
 
 TEST(ToolFailure, ShowsTheLastLinesThatSaySomething) {
-    EXPECT_EQ(lastMeaningfulLines("banner\none\r\nInvalid size '32px'\nError\x01here\n"
+    EXPECT_EQ(lastMeaningfulLines("banner\none\ntwo\nthree\r\nInvalid size '32px'\nError\x01here\n"
                                   "frame= 1 time=00:00:01 x\rframe= 2 time=00:00:02 x\r\n \n"
                                   "Conversion failed!\n")
                   .toStdString(),
-              "one\nInvalid size '32px'\nError here\nConversion failed!");
+              "one\ntwo\nthree\nInvalid size '32px'\nError here\nConversion failed!");
     EXPECT_EQ(lastMeaningfulLines("").size(), 0);
     EXPECT_EQ(lastMeaningfulLines(QByteArray(5000, 'a')).size(), 201);
     EXPECT_TRUE(lastMeaningfulLines("bad \xff byte").startsWith(QStringLiteral("bad ")));

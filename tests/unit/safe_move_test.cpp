@@ -10,9 +10,11 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
+#include <random>
 
 namespace {
 
@@ -139,6 +141,32 @@ TEST_P(SafeMove, KeepsTheOldFileWhenTheDiskIsFull) {
     EXPECT_EQ(contentOf(target), "old");
     EXPECT_EQ(contentOf(source), gif);
     EXPECT_EQ(namesIn(to).size(), 1) << "the part that was written is gone";
+}
+
+TEST_P(SafeMove, LeavesAWholeFileWhenTheProgramIsKilledAtAnyInstant) {
+    const QByteArray old(1024 * 1024, 'o');
+    std::minstd_rand random(20260701);
+    bool keptOld = false, gotNew = false;
+    // From at once to long after the move, in steps that grow until an end of it was seen.
+    for (int round = 0; round < 400 && !(round >= 60 && keptOld && gotNew); ++round) {
+        put(source, gif);
+        put(target, old);
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            safeMove(source, target);
+            _exit(0);
+        }
+        usleep(static_cast<unsigned>(random()) % static_cast<unsigned>(50 + 150 * round));
+        kill(child, SIGKILL);
+        ASSERT_EQ(waitpid(child, nullptr, 0), child);
+        const QByteArray found = contentOf(target);
+        ASSERT_TRUE(found == old || found == gif) << "round " << round << ": " << found.size();
+        keptOld |= found == old;
+        gotNew |= found == gif;
+        EXPECT_TRUE(found == gif || contentOf(source) == gif) << "the result is kept as well";
+    }
+    EXPECT_TRUE(keptOld && gotNew);
 }
 
 } // namespace
