@@ -148,6 +148,9 @@ public:
     void OnRecordPause(QObject *sender);
     void OnRecordStop(QObject *sender);
     void OnRecordFPS(QObject *sender);
+    /// Saves the last recording once more from memory: for when frames were missing and there is
+    /// room again. Nothing without a recording, or beside a recording, a save or an export.
+    void OnSaveAgain(QObject *sender);
     /// The capture tick: list, leave out our own windows, grab, mark the preview.
     void TimerRefreshVideoRoutine();
     /// The one-second tick: counts the frames of a second that fell into a recording.

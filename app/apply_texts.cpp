@@ -88,7 +88,10 @@ void AppDelegate::applyTexts() {
     ui->btnWebPGenerate->setText(qtTrId("IDD_GENERATE_WEBP"));
     ui->btnWebPGenerate->setToolTip(qtTrId("IDD_GENERATE_WEBP_TIP"));
 
-    const QString taken = mnemonics::mark(*ui->menubar, *ui->tabBar, *ui->tabStack);
+    ui->btnSaveAgain->setText(qtTrId("IDD_SAVE_AGAIN"));
+
+    const QString taken =
+        mnemonics::mark(*ui->menubar, *ui->tabBar, *ui->tabStack, *ui->btnSaveAgain);
     for (const QWidget *page : {ui->pageRecord, ui->pageCut, ui->pageGIF})
         mnemonics::mark(*page, taken);
 }

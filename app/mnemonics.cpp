@@ -141,6 +141,11 @@ void addItems(Group &group, const QList<QAction *> &items) {
                       [item](const QString &text) { item->setText(text); });
 }
 
+void addButton(Group &group, QAbstractButton &button) {
+    group.add(button.text(), button.objectName(),
+              [&button](const QString &text) { button.setText(text); });
+}
+
 } // namespace
 
 std::vector<QString> marked(const std::vector<Bearer> &bearers, const QString &taken) {
@@ -160,7 +165,8 @@ std::vector<QString> marked(const std::vector<Bearer> &bearers, const QString &t
     return texts;
 }
 
-QString mark(const QMenuBar &bar, QTabBar &tabs, const QStackedWidget &pages) {
+QString mark(const QMenuBar &bar, QTabBar &tabs, const QStackedWidget &pages,
+             QAbstractButton &beneath) {
     for (const QMenu *menu : bar.findChildren<QMenu *>()) {
         Group items;
         addItems(items, menu->actions());
@@ -171,6 +177,7 @@ QString mark(const QMenuBar &bar, QTabBar &tabs, const QStackedWidget &pages) {
         always.add(tabs.tabText(tab), pages.widget(tab)->objectName(),
                    [&tabs, tab](const QString &text) { tabs.setTabText(tab, text); });
     addItems(always, bar.actions());
+    addButton(always, beneath);
     return always.apply({});
 }
 
@@ -179,8 +186,7 @@ void mark(const QWidget &page, const QString &taken) {
     for (QWidget *each : page.findChildren<QWidget *>()) {
         if (auto *button = qobject_cast<QAbstractButton *>(each);
             button && !button->text().isEmpty())
-            controls.add(button->text(), button->objectName(),
-                         [button](const QString &text) { button->setText(text); });
+            addButton(controls, *button);
         if (auto *label = qobject_cast<QLabel *>(each); label && label->buddy())
             controls.add(label->text(), label->objectName(),
                          [label](const QString &text) { label->setText(text); });

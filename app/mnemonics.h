@@ -6,6 +6,7 @@
 
 #include <vector>
 
+class QAbstractButton;
 class QMenuBar;
 class QStackedWidget;
 class QTabBar;
@@ -28,9 +29,11 @@ struct Bearer {
 /// without a letter as long as any choice of letters serves all.
 std::vector<QString> marked(const std::vector<Bearer> &bearers, const QString &taken);
 
-/// Marks what is on the screen all the time, which is one group: the menu bar and the tabs over
-/// `pages`; the letters that it took. The items of each menu are a group of their own.
-QString mark(const QMenuBar &bar, QTabBar &tabs, const QStackedWidget &pages);
+/// Marks what is on the screen whichever page is, which is one group: the menu bar, the tabs over
+/// `pages`, and a button beneath these; the letters that it took. The items of each menu are a
+/// group of their own.
+QString mark(const QMenuBar &bar, QTabBar &tabs, const QStackedWidget &pages,
+             QAbstractButton &beneath);
 
 /// Marks the controls of a page or a dialog: buttons that show a text, and labels that have a
 /// buddy.

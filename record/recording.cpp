@@ -39,6 +39,7 @@ void AppDelegate::connectRecordControls() {
     onButton(ui->btnRecordPause, &AppDelegate::OnRecordPause);
     onButton(ui->btnRecordStop, &AppDelegate::OnRecordStop);
     onButton(ui->btnRecordFPS, &AppDelegate::OnRecordFPS, later);
+    onButton(ui->btnSaveAgain, &AppDelegate::OnSaveAgain);
     onItem(ui->menuitemActionRecordFullScreen, &AppDelegate::OnMenuActionRecordFullScreen);
     onItem(ui->menuitemActionRecordRegion, &AppDelegate::OnMenuActionRecordRegion, later);
     onItem(ui->menuitemActionRecordRecord, &AppDelegate::OnMenuActionRecordRecord);
@@ -61,6 +62,7 @@ void AppDelegate::OnRecordRecord(QObject *) {
         return;
     if (recording.m_RecordStatus() == RECORD_STATUS_STOP) {
         RemoveAllContentInFolder(shell.s_Output_Folder());
+        ui->btnSaveAgain->hide();
         recording.setU_Record_Current_Frame(0);
         recording.setI_Actual_FPS_while_Recording(0);
         recording.setU_number_of_seconds(0);

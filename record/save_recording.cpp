@@ -4,6 +4,7 @@
 #include "app/tab_view.h"
 #include "app/working_folders.h"
 #include "record/frame_saver.h"
+#include "ui_MainWindow.h"
 
 #include <QDebug>
 #include <QDir>
@@ -11,6 +12,7 @@
 namespace {
 
 constexpr int cutTabIndex = 1;
+const QString cutTab = QStringLiteral("2");
 
 } // namespace
 
@@ -33,6 +35,22 @@ void AppDelegate::saveRecording() {
                                                [this](std::uint64_t done) { frameReported(done); });
 }
 
+void AppDelegate::OnSaveAgain(QObject *) {
+    // Whatever a sheet covers can still be pressed by assistive technology.
+    const bool busy = isSavingRecording() || watchedTool_ != nullptr ||
+                      recording.m_RecordStatus() != RECORD_STATUS_STOP;
+    if (busy || !recording.array_Images || recording.array_Images->empty())
+        return;
+    if (trim.m_PlayStatus() != PLAY_STATUS_STOP)
+        OnCutStop(this);
+    // All of it anew: what was written need no longer be there, and takes room meanwhile.
+    RemoveAllContentInFolder(shell.s_Output_Folder());
+    ui->btnSaveAgain->hide();
+    ui->btnRecordRecord->setEnabled(false);
+    ui->menuitemActionRecordRecord->setEnabled(false);
+    saveRecording();
+}
+
 void AppDelegate::frameReported(std::uint64_t done) {
     setProgressValue(static_cast<double>(done));
     if (done < frameSaver_->count())
@@ -43,7 +61,10 @@ void AppDelegate::frameReported(std::uint64_t done) {
     closeProgressSheet();
     recordingSaved();
     showSaveResult(*saver);
-    shell.tabviewMain()->selectTabViewItemAtIndex(cutTabIndex);
+    if (shell.tabviewMain()->selectedIndex() == cutTabIndex)
+        tabViewDidSelectTabViewItem(cutTab);
+    else
+        shell.tabviewMain()->selectTabViewItemAtIndex(cutTabIndex);
 }
 
 void AppDelegate::showSaveResult(const FrameSaver &saver) {
@@ -58,4 +79,5 @@ void AppDelegate::showSaveResult(const FrameSaver &saver) {
                  QDir::toNativeSeparators(shell.s_Output_Folder()), saver.reason());
     qWarning().noquote() << text;
     ShowStatus(text);
+    ui->btnSaveAgain->show();
 }

@@ -212,6 +212,10 @@
         <source>%1 of %2 frames could not be written to %3: %4</source>
         <translation>%1 von %2 Bildern konnten nicht nach %3 geschrieben werden: %4</translation>
     </message>
+    <message id="IDD_SAVE_AGAIN">
+        <source>Save Again</source>
+        <translation>Nochmals speichern</translation>
+    </message>
     <message id="IDD_MODE_FULL_SCREEN">
         <source>Full screen</source>
         <translation>Ganzer Bildschirm</translation>

@@ -212,6 +212,10 @@
         <source>%1 of %2 frames could not be written to %3: %4</source>
         <translation>%1 of %2 frames could not be written to %3: %4</translation>
     </message>
+    <message id="IDD_SAVE_AGAIN">
+        <source>Save Again</source>
+        <translation>Save Again</translation>
+    </message>
     <message id="IDD_MODE_FULL_SCREEN">
         <source>Full screen</source>
         <translation>Full screen</translation>

@@ -212,6 +212,10 @@
         <source>%1 of %2 frames could not be written to %3: %4</source>
         <translation>No se pudieron escribir %1 de %2 fotogramas en %3: %4</translation>
     </message>
+    <message id="IDD_SAVE_AGAIN">
+        <source>Save Again</source>
+        <translation>Guardar de nuevo</translation>
+    </message>
     <message id="IDD_MODE_FULL_SCREEN">
         <source>Full screen</source>
         <translation>Pantalla completa</translation>

@@ -212,6 +212,10 @@
         <source>%1 of %2 frames could not be written to %3: %4</source>
         <translation>%1 images sur %2 n’ont pas pu être écrites dans %3 : %4</translation>
     </message>
+    <message id="IDD_SAVE_AGAIN">
+        <source>Save Again</source>
+        <translation>Sauvegarder à nouveau</translation>
+    </message>
     <message id="IDD_MODE_FULL_SCREEN">
         <source>Full screen</source>
         <translation>Écran entier</translation>

@@ -212,6 +212,10 @@
         <source>%1 of %2 frames could not be written to %3: %4</source>
         <translation>%2 フレームのうち %1 フレームを %3 に書き込めませんでした: %4</translation>
     </message>
+    <message id="IDD_SAVE_AGAIN">
+        <source>Save Again</source>
+        <translation>もう一度保存</translation>
+    </message>
     <message id="IDD_MODE_FULL_SCREEN">
         <source>Full screen</source>
         <translation>全画面</translation>

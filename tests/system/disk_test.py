@@ -16,12 +16,15 @@ SMALL_DISK = 64  # KB
 
 
 class Disk(case.Case):
-    def check_missing(self, program, every=False):
+    def said(self, program):
+        """What the status line says of missing frames: how many, and of how many."""
+        return next((match for text in program.labels()
+                     if (match := re.search(r"\b(\d+) of (\d+)\b", text))), None)
+
+    def check_missing(self, program, every=False, saves=1):
         """The status line says how many frames of how many are missing: the truth."""
-        def counts():
-            return next((match for text in program.labels()
-                         if (match := re.search(r"\b(\d+) of (\d+)\b", text))), None)
-        said = wait_for("the status line", counts)
+        wait_for("the save to end", lambda: program.output().count(str(self.session.frames)) >= saves)
+        said = wait_for("the status line", lambda: self.said(program))
         missing, total = int(said[1]), int(said[2])
         written = [] if every else list(self.session.frames.glob("frame*.png"))
         self.assertGreater(missing, 0)
@@ -40,6 +43,16 @@ class Disk(case.Case):
             self.check_missing(program)
             self.assertEqual(sorted(path.suffix for path in self.session.frames.iterdir()),
                              [".png"] * len(list(self.session.frames.iterdir())))
+            # Still no room; then there is, and not a frame has been lost.
+            program.press("Save Again")
+            self.check_missing(program, saves=2)
+            total = self.said(program)[2]
+            subprocess.run(["mount", "-o", "remount,size=1g", self.session.frames], check=True)
+            program.press("Save Again")
+            program.wait_for("the whole recording", lambda: not self.said(program))
+            self.assertEqual(len(list(self.session.frames.glob("frame*.png"))), int(total))
+            self.assertTrue(program.enabled("Play"))
+            self.assertIsNone(program.find("push button", "Save Again"))
         finally:
             subprocess.run(["umount", self.session.frames], check=True)
         self.check_usable(program)

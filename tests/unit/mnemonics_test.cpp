@@ -100,6 +100,7 @@ TEST(Mnemonics, differWithinEveryGroupInEveryLanguage) {
         always.addItems(controller.ui->menubar->actions());
         for (int tab = 0; tab < controller.ui->tabBar->count(); ++tab)
             always.add(controller.ui->tabBar->tabText(tab));
+        always.add(controller.ui->btnSaveAgain->text());
         for (const QWidget *page :
              {controller.ui->pageRecord, controller.ui->pageCut, controller.ui->pageGIF}) {
             Letters letters = always;

@@ -148,6 +148,16 @@ TEST_F(Recording, namesTheFramesThatAreMissingAndKeepsThemInMemory) {
     EXPECT_EQ(QDir(folder).entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden).size(),
               0);
     EXPECT_EQ(delegate->recording.array_Images->size(), 4u);
+
+    // What was in the way has gone with the rest.
+    EXPECT_TRUE(ui().btnSaveAgain->isVisible());
+    ui().btnSaveAgain->click();
+    EXPECT_FALSE(ui().btnSaveAgain->isVisible());
+    ASSERT_TRUE(waitForSave());
+    EXPECT_FALSE(ui().btnSaveAgain->isVisible());
+    EXPECT_NE(ui().labelStatus->text(), status);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(QImage(frameFile(i)).pixel(5, 5), qRgb(i, i, i)) << i;
 }
 
 class WithoutAScreen : public Recording {
