@@ -172,6 +172,7 @@ public:
     void showCaptureMode();
     /// Brings indicator and status line up to the recording's state and figures.
     void showRecordingState();
+    void watchMemory();
 
     // Preview and progress sheet (record/) ----------------------------------------------------
 

@@ -81,6 +81,13 @@ void TileMemory::touchAhead(const std::stop_token &stop) {
     }
 }
 
+void TileMemory::rest() {
+    std::vector<std::unique_ptr<Piece>> spare; // given back to the system after the lock
+    const std::lock_guard lock(mutex_);
+    asked_ = false;
+    spare.swap(spare_);
+}
+
 TileMemory::Piece *TileMemory::pieceWithRoom() {
     if (!withRoom_.empty())
         return withRoom_.back();

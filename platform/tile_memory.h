@@ -30,6 +30,9 @@ public:
     std::uint32_t *take();
     void giveBack(std::uint32_t *block);
 
+    /// Gives up what was touched ahead, until somebody asks again.
+    void rest();
+
     /// Bytes in use: blocks given out, and what their users count in beside them.
     std::size_t bytesInUse() const { return bytesInUse_; }
     void count(std::ptrdiff_t bytes) { bytesInUse_ += static_cast<std::size_t>(bytes); }

@@ -28,6 +28,9 @@ public:
     /// or the empty image. When memory has run out it is `image` itself.
     Image keep(const Image &image, const Image &previous);
 
+    /// Nothing will be kept for a while: gives up memory that was made ready.
+    void rest() { memory_->rest(); }
+
     /// Memory held by all that was kept and still exists, in bytes.
     std::size_t bytesHeld() const { return memory_->bytesInUse(); }
 

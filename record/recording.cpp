@@ -68,6 +68,9 @@ void AppDelegate::OnRecordRecord(QObject *) {
         recording.setU_number_of_seconds(0);
         recording.clock = {};
         recording.array_Images.emplace();
+        recording.budget = {};
+        recording.growth = 0;
+        recording.heldBefore = recording.store.bytesHeld();
     }
     enable(ui->btnRecordFullScreen, ui->menuitemActionRecordFullScreen, false);
     enable(ui->btnRecordRegion, ui->menuitemActionRecordRegion, false);
@@ -105,6 +108,7 @@ void AppDelegate::OnRecordStop(QObject *) {
     const std::uint64_t rate = measuredRate(recordingCounts());
     recording.setU_FPS(rate);
     recording.setU_Record_Current_FPS(rate);
+    recording.store.rest();
     showRecordingState();
     saveRecording();
 }
@@ -140,7 +144,7 @@ void AppDelegate::TimerDebug1SecondRoutine() {
         static_cast<std::int64_t>(recording.i_debug_number_of_view_refresh()));
     recording.setU_number_of_seconds(recording.u_number_of_seconds() + 1);
     recording.setI_debug_number_of_view_refresh(0);
-    showRecordingState();
+    watchMemory();
 }
 
 void AppDelegate::restartCaptureTimer() {

@@ -5,9 +5,12 @@
 #include "platform/image.h"
 #include "platform/repeating_timer.h"
 #include "platform/tile_store.h"
+#include "record/memory_budget.h"
 #include "record/recording_clock.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -60,6 +63,13 @@ public:
 
     /// What the frames are kept in.
     TileStore store;
+
+    /// When to pause for want of memory, what there is of it, and how fast the frames take it, in
+    /// bytes a second.
+    MemoryBudget budget;
+    std::function<std::optional<MemoryState>()> memory = [] { return machineMemory(); };
+    double growth = 0;
+    std::size_t heldBefore = 0; // a second ago, in bytes
 
     /// The time spent in the recording state, pauses left out.
     RecordingClock clock;

@@ -6,10 +6,20 @@
 #include "region/region_in_grab.h"
 #include "ui_MainWindow.h"
 
+#include <QLocale>
+
+#include <algorithm>
+#include <optional>
+
 namespace {
 
 constexpr int secondsPerMinute = 60;
 constexpr int decimal = 10;
+
+/// How much the last second counts in the growth that is shown.
+constexpr double weightOfASecond = 0.25;
+/// Beyond this nobody asks how long memory lasts, in seconds.
+constexpr double longest = 24 * 60 * 60;
 
 /// "1:05", minutes and seconds.
 QString minutesAndSeconds(double passed) {
@@ -30,9 +40,34 @@ void AppDelegate::showRecordingState() {
     // No rate is shown before there is one.
     const QString rate =
         counts.storedFrames == 0 ? QStringLiteral("–") : QString::number(measuredRate(counts));
-    ShowStatus(qtTrId("IDD_RECORDING_FIGURES")
-                   .arg(minutesAndSeconds(counts.passedSeconds),
-                        QString::number(counts.storedFrames), rate));
+    QString text = qtTrId("IDD_RECORDING_FIGURES")
+                       .arg(minutesAndSeconds(counts.passedSeconds),
+                            QString::number(counts.storedFrames), rate);
+    text +=
+        qtTrId("IDD_RECORDING_MEMORY")
+            .arg(QLocale().formattedDataSize(static_cast<qint64>(recording.store.bytesHeld()), 1));
+    const auto memory = recording.memory();
+    const auto left =
+        memory ? recording.budget.secondsLeft(*memory, recording.growth) : std::optional<double>();
+    if (left && *left < longest)
+        text += qtTrId("IDD_RECORDING_MEMORY_LASTS").arg(minutesAndSeconds(*left));
+    ShowStatus(text);
+}
+
+void AppDelegate::watchMemory() {
+    const std::size_t held = recording.store.bytesHeld();
+    const double grown = static_cast<double>(held) - static_cast<double>(recording.heldBefore);
+    // Compressing gives back what was taken, a little later: the figure must not jump with it.
+    recording.growth += (std::max(grown, 0.0) - recording.growth) * weightOfASecond;
+    recording.heldBefore = held;
+    const auto memory = recording.memory();
+    if (!memory || !recording.budget.isSpent(*memory)) {
+        showRecordingState();
+        return;
+    }
+    OnRecordPause(nullptr);
+    ShowStatus(qtTrId("IDD_PAUSED_FOR_MEMORY")
+                   .arg(QLocale().formattedDataSize(static_cast<qint64>(memory->available), 1)));
 }
 
 void AppDelegate::showCaptureMode() {

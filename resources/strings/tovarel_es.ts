@@ -200,6 +200,18 @@
         <source>%1 · Frames: %2 · Frames per second: %3</source>
         <translation>%1 · Fotogramas: %2 · Fotogramas por segundo: %3</translation>
     </message>
+    <message id="IDD_PAUSED_FOR_MEMORY">
+        <source>Recording was paused, because memory is running out (%1 left). Record goes on, Stop saves what there is.</source>
+        <translation>La grabación se ha puesto en pausa porque queda poca memoria (%1). Grabar la continúa, Detener guarda lo grabado.</translation>
+    </message>
+    <message id="IDD_RECORDING_MEMORY">
+        <source>Memory: %1</source>
+        <translation>Memoria: %1</translation>
+    </message>
+    <message id="IDD_RECORDING_MEMORY_LASTS">
+        <source>Memory: %1, lasts %2 more</source>
+        <translation>Memoria: %1, alcanza para %2 más</translation>
+    </message>
     <message id="IDD_RECORDING_SAVED">
         <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
         <translation>La grabación está completa. Fotogramas: %1 · Fotogramas por segundo: %2</translation>

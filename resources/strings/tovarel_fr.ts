@@ -200,6 +200,18 @@
         <source>%1 · Frames: %2 · Frames per second: %3</source>
         <translation>%1 · Images : %2 · Images par seconde : %3</translation>
     </message>
+    <message id="IDD_PAUSED_FOR_MEMORY">
+        <source>Recording was paused, because memory is running out (%1 left). Record goes on, Stop saves what there is.</source>
+        <translation>L’enregistrement a été mis en pause, car la mémoire s’épuise (il reste %1). Enregistrer le poursuit, Arrêter sauvegarde ce qui existe.</translation>
+    </message>
+    <message id="IDD_RECORDING_MEMORY">
+        <source>Memory: %1</source>
+        <translation>Mémoire : %1</translation>
+    </message>
+    <message id="IDD_RECORDING_MEMORY_LASTS">
+        <source>Memory: %1, lasts %2 more</source>
+        <translation>Mémoire : %1, suffit encore pour %2</translation>
+    </message>
     <message id="IDD_RECORDING_SAVED">
         <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
         <translation>L’enregistrement est terminé. Images : %1 · Images par seconde : %2</translation>

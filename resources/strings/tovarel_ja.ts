@@ -200,6 +200,18 @@
         <source>%1 · Frames: %2 · Frames per second: %3</source>
         <translation>%1 · フレーム数: %2 · 1 秒あたりのフレーム数: %3</translation>
     </message>
+    <message id="IDD_PAUSED_FOR_MEMORY">
+        <source>Recording was paused, because memory is running out (%1 left). Record goes on, Stop saves what there is.</source>
+        <translation>メモリが残り少ないため（残り %1）、録画を一時停止しました。録画で再開、停止で保存します。</translation>
+    </message>
+    <message id="IDD_RECORDING_MEMORY">
+        <source>Memory: %1</source>
+        <translation>メモリ: %1</translation>
+    </message>
+    <message id="IDD_RECORDING_MEMORY_LASTS">
+        <source>Memory: %1, lasts %2 more</source>
+        <translation>メモリ: %1、あと %2</translation>
+    </message>
     <message id="IDD_RECORDING_SAVED">
         <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
         <translation>録画が完了しました。フレーム数: %1 · 1 秒あたりのフレーム数: %2</translation>

@@ -200,6 +200,18 @@
         <source>%1 · Frames: %2 · Frames per second: %3</source>
         <translation>%1 · 帧数：%2 · 每秒帧数：%3</translation>
     </message>
+    <message id="IDD_PAUSED_FOR_MEMORY">
+        <source>Recording was paused, because memory is running out (%1 left). Record goes on, Stop saves what there is.</source>
+        <translation>内存即将耗尽（剩余 %1），录制已暂停。按“录制”继续，按“停止”保存已有内容。</translation>
+    </message>
+    <message id="IDD_RECORDING_MEMORY">
+        <source>Memory: %1</source>
+        <translation>内存：%1</translation>
+    </message>
+    <message id="IDD_RECORDING_MEMORY_LASTS">
+        <source>Memory: %1, lasts %2 more</source>
+        <translation>内存：%1，还可录 %2</translation>
+    </message>
     <message id="IDD_RECORDING_SAVED">
         <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
         <translation>录制已完成。帧数：%1 · 每秒帧数：%2</translation>
