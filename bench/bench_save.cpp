@@ -6,6 +6,7 @@
 // over a photograph, and of a film. The median of five saves. The status is 1 when a bar is missed
 // or a file does not hold the very pixels of its frame.
 
+#include "platform/tile_store.h"
 #include "record/frame_saver.h"
 
 #include <QEventLoop>
@@ -30,6 +31,25 @@ constexpr int frameCount = 150;
 constexpr int saves = 5;
 
 using Frames = std::vector<Image>;
+
+/// Frames kept as a recording keeps them.
+class Recording {
+public:
+    void add(const QImage &picture) {
+        const Image last = frames_.empty() ? Image() : frames_.back();
+        frames_.push_back(store_.keep(Image::fromQImage(picture), last));
+    }
+    void repeatLast() { frames_.push_back(frames_.back()); }
+
+    const Frames &frames() {
+        store_.waitUntilCompressed();
+        return frames_;
+    }
+
+private:
+    TileStore store_;
+    Frames frames_;
+};
 
 int fade(double place, double period) { return static_cast<int>(50.0 * std::sin(place / period)); }
 
@@ -86,13 +106,12 @@ QStringList linesOfWork() {
 }
 
 /// Fifteen characters a second, and a new line behind every thirtieth: then all lines move.
-Frames typing() {
+void typing(Recording &recording) {
     const QImage desktop = photograph(0, 0, 1);
     QStringList lines = linesOfWork() << QStringLiteral("$ ");
-    Frames frames;
     for (int frame = 0; frame < frameCount; ++frame) {
         if (frame % 2 == 1) {
-            frames.push_back(frames.back());
+            recording.repeatLast();
             continue;
         }
         if (frame % 60 == 58)
@@ -100,35 +119,30 @@ Frames typing() {
         lines.back() += QChar('a' + frame * 7 % 26);
         QImage picture = desktop;
         drawTerminal(picture, {200, 120, 1200, 800}, lines);
-        frames.push_back(Image::fromQImage(picture));
+        recording.add(picture);
     }
-    return frames;
 }
 
-Frames dragging() {
+void dragging(Recording &recording) {
     const QImage desktop = photograph(0, 2, 1);
-    Frames frames;
     for (int frame = 0; frame < frameCount; ++frame) {
         QImage picture = desktop;
         const QPoint at(100 + frame * 7, 250 + static_cast<int>(200 * std::sin(frame / 20.0)));
         drawTerminal(picture, {at, QSize(800, 500)}, linesOfWork());
-        frames.push_back(Image::fromQImage(picture));
+        recording.add(picture);
     }
-    return frames;
 }
 
 /// The film leaves out a border: nine pixels out of ten change.
-Frames film() {
+void film(Recording &recording) {
     const QRect shown(48, 27, 1824, 1026);
     QImage picture(screen, QImage::Format_RGB32);
     picture.fill(Qt::black);
-    Frames frames;
     for (int frame = 0; frame < frameCount; ++frame) {
         const QImage next = photograph(frame * 5, 2, static_cast<unsigned>(frame) + 1);
         QPainter(&picture).drawImage(shown.topLeft(), next, shown);
-        frames.push_back(Image::fromQImage(picture.copy()));
+        recording.add(picture.copy());
     }
-    return frames;
 }
 
 QString file(const QTemporaryDir &folder, std::size_t frame) {
@@ -166,7 +180,10 @@ long long checkedSize(const Frames &frames, const QTemporaryDir &folder) {
     return bytes;
 }
 
-bool measure(const char *name, const Frames &frames, double bar) {
+bool measure(const char *name, void (*record)(Recording &), double bar) {
+    Recording recording;
+    record(recording);
+    const Frames &frames = recording.frames();
     std::vector<double> times;
     long long bytes = 0;
     for (int round = 0; round < saves; ++round) {
@@ -192,8 +209,8 @@ int main(int argc, char **argv) {
     const QGuiApplication application(argc, argv);
     std::printf("%-28s %9s %7s   %7s   %9s\n", "recording of 5 s", "save", "share", "", "files");
     // One after another: a recording takes more than a gigabyte.
-    bool met = measure("typing", typing(), 0.1);
-    met = measure("window over a photograph", dragging(), 0.5) && met;
-    met = measure("film", film(), 1.2) && met;
+    bool met = measure("typing", typing, 0.1);
+    met = measure("window over a photograph", dragging, 0.5) && met;
+    met = measure("film", film, 1.2) && met;
     return met ? 0 : 1;
 }
