@@ -43,14 +43,15 @@ void AppDelegate::showRecordingState() {
     QString text = qtTrId("IDD_RECORDING_FIGURES")
                        .arg(minutesAndSeconds(counts.passedSeconds),
                             QString::number(counts.storedFrames), rate);
-    text +=
-        qtTrId("IDD_RECORDING_MEMORY")
-            .arg(QLocale().formattedDataSize(static_cast<qint64>(recording.store.bytesHeld()), 1));
+    const QString held =
+        QLocale().formattedDataSize(static_cast<qint64>(recording.store.bytesHeld()), 1);
     const auto memory = recording.memory();
     const auto left =
         memory ? recording.budget.secondsLeft(*memory, recording.growth) : std::optional<double>();
-    if (left && *left < longest)
-        text += qtTrId("IDD_RECORDING_MEMORY_LASTS").arg(minutesAndSeconds(*left));
+    text += QStringLiteral(" · ") +
+            (left && *left < longest
+                 ? qtTrId("IDD_RECORDING_MEMORY_LASTS").arg(held, minutesAndSeconds(*left))
+                 : qtTrId("IDD_RECORDING_MEMORY").arg(held));
     ShowStatus(text);
 }
 
