@@ -41,6 +41,7 @@ FrameSaver::~FrameSaver() {
 }
 
 void FrameSaver::work() {
+    ImageReader reader;
     std::unique_ptr<PngBandWriter> writer;
     while (!cancelled_) {
         Told own;
@@ -51,37 +52,36 @@ void FrameSaver::work() {
             if (nextRun_ >= runs_.size())
                 return;
             run = nextRun_++;
-            before = std::exchange(
-                lastTaken_, {own.rows.get_future(), own.bands.get_future(), own.file.get_future()});
+            before = std::exchange(lastTaken_, {own.bands.get_future(), own.file.get_future()});
         }
-        saveRun(run, own, before, writer);
+        saveRun(run, own, before, reader, writer);
     }
 }
 
-void FrameSaver::saveRun(std::size_t run, Told &own, Awaited &before,
+void FrameSaver::saveRun(std::size_t run, Told &own, Awaited &before, ImageReader &reader,
                          std::unique_ptr<PngBandWriter> &writer) {
     const std::size_t first = runs_[run];
     const std::size_t end = run + 1 < runs_.size() ? runs_[run + 1] : frames_.size();
-    QImage rows = rowsOf(frames_[first], format_);
-    own.rows.set_value(rows);
     bool changed = true;
-    const PngBands bands = encode(std::move(rows), before, writer, changed);
+    const PngBands bands = encode(run, before, reader, writer, changed);
     own.bands.set_value(bands);
     own.file.set_value(writeRun(first, end, bands, changed ? QString() : told(before.file)));
 }
 
-PngBands FrameSaver::encode(QImage rows, Awaited &before, std::unique_ptr<PngBandWriter> &writer,
-                            bool &changed) const try {
-    const QImage rowsBefore = told(before.rows);
+PngBands FrameSaver::encode(std::size_t run, Awaited &before, ImageReader &reader,
+                            std::unique_ptr<PngBandWriter> &writer, bool &changed) const try {
+    const Image &frame = frames_[runs_[run]];
+    const QImage rows = rowsOf(frame, format_, reader);
     if (rows.isNull())
         return {};
     if (!writer)
         writer = std::make_unique<PngBandWriter>(format_);
+    const auto changes = run == 0 ? std::nullopt : frame.changesSince(frames_[runs_[run - 1]]);
     PngBands bands(static_cast<std::size_t>(bandCount(format_)));
     std::size_t written = 0;
     for (std::size_t band = 0; band < bands.size(); ++band) {
         const int number = static_cast<int>(band);
-        if (sameBand(rows, rowsBefore, number, format_))
+        if (changes && !changes->intersects(bandIn(format_, number)))
             continue;
         bands[band] = writer->write(rows, number);
         ++written;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/image.h"
+#include "platform/image_reader.h"
 #include "record/png_writer.h"
 
 #include <QObject>
@@ -20,14 +21,13 @@
 /// Writes the frames of a stopped recording as the files of its sequence, on as many threads as
 /// there are cores. It works on handles of its own: the frame store may change meanwhile.
 ///
-/// All files have the size and the pixel format of the first frame. A frame that shows the same as
-/// the one before becomes a second name of that file, and where a part of it does, that part is not
-/// compressed again. A frame that cannot be written is counted, and the work goes on.
+/// All files have the size and the pixel format of the first frame. A frame that is known to show
+/// the same as the one before becomes a second name of that file, and where a part of it does, that
+/// part is not compressed again. A frame that cannot be written is counted, and the work goes on.
 ///
-/// Each thread takes the next frame. It compares it with the frame before it, compresses what
-/// changed while that one may still be under work, and waits for it only then, to take over the
-/// rest. So no more frames are in memory as pixels or as compressed data than there are threads,
-/// and one.
+/// Each thread takes the next frame. It compresses what changed since the frame before while that
+/// one may still be under work, and waits for it only then, to take over the rest. So no more
+/// frames are in memory as pixels than there are threads, and as compressed data one more.
 class FrameSaver : public QObject {
     Q_OBJECT
 
@@ -53,21 +53,19 @@ private:
     /// What a run of identical frames tells the run behind it, as soon as it is known; each is told
     /// in any case, empty when it could not be made.
     struct Told {
-        std::promise<QImage> rows;
         std::promise<PngBands> bands;
         std::promise<QString> file;
     };
     struct Awaited {
-        std::future<QImage> rows;
         std::future<PngBands> bands;
         std::future<QString> file;
     };
 
     void work();
-    void saveRun(std::size_t run, Told &own, Awaited &before,
+    void saveRun(std::size_t run, Told &own, Awaited &before, ImageReader &reader,
                  std::unique_ptr<PngBandWriter> &writer);
-    PngBands encode(QImage rows, Awaited &before, std::unique_ptr<PngBandWriter> &writer,
-                    bool &changed) const;
+    PngBands encode(std::size_t run, Awaited &before, ImageReader &reader,
+                    std::unique_ptr<PngBandWriter> &writer, bool &changed) const;
     QString writeRun(std::size_t first, std::size_t end, const PngBands &bands, QString written);
     void reportFrame(std::size_t frame, int error);
     void onSaved(std::size_t frame, int error);

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <cstring>
 
 namespace {
 
@@ -91,14 +90,6 @@ int endOfBand(int band, const FrameFormat &format) {
     return std::min((band + 1) * rowsOfBand, format.size.height());
 }
 
-/// Without the bytes that are no part of the picture.
-bool sameColours(std::span<const QRgb> one, std::span<const QRgb> other) {
-    QRgb differences = 0;
-    for (std::size_t x = 0; x < one.size(); ++x)
-        differences |= one[x] ^ other[x];
-    return (differences & RGB_MASK) == 0;
-}
-
 QImage overBlack(const QImage &pixels, QSize size) {
     QImage canvas(size, QImage::Format_RGB32);
     if (canvas.isNull())
@@ -111,8 +102,8 @@ QImage overBlack(const QImage &pixels, QSize size) {
 
 } // namespace
 
-QImage rowsOf(const Image &frame, const FrameFormat &format) {
-    const QImage pixels = frame.toQImage();
+QImage rowsOf(const Image &frame, const FrameFormat &format, ImageReader &reader) {
+    const QImage pixels = reader.read(frame);
     if (pixels.isNull() && !frame.isEmpty())
         return pixels;
     const QImage fitting = pixels.size() == format.size ? pixels : overBlack(pixels, format.size);
@@ -124,18 +115,9 @@ int bandCount(const FrameFormat &format) {
     return (format.size.height() + rowsOfBand - 1) / rowsOfBand;
 }
 
-bool sameBand(const QImage &rows, const QImage &other, int band, const FrameFormat &format) {
-    if (rows.isNull() || other.isNull())
-        return false;
-    for (int y = band * rowsOfBand; y < endOfBand(band, format); ++y) {
-        const std::span<const QRgb> one = rowOf(rows, y);
-        const std::span<const QRgb> two = rowOf(other, y);
-        if (one.data() != two.data() &&
-            std::memcmp(one.data(), two.data(), one.size_bytes()) != 0 &&
-            (format.alpha || !sameColours(one, two)))
-            return false;
-    }
-    return true;
+QRect bandIn(const FrameFormat &format, int band) {
+    const int top = band * rowsOfBand;
+    return {0, top, format.size.width(), endOfBand(band, format) - top};
 }
 
 PngBandWriter::PngBandWriter(const FrameFormat &format) : format_(format) {}

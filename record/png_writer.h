@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/image.h"
+#include "platform/image_reader.h"
 #include "record/deflate_piece.h"
 
 #include <QImage>
@@ -30,13 +31,13 @@ struct FrameFormat {
 /// bytes of any value in its place. A picture of another size is put into the upper left corner
 /// over black, and what is transparent stands over black where the format has no alpha. Null when
 /// there is no memory for it.
-QImage rowsOf(const Image &frame, const FrameFormat &format);
+/// To be let go before `reader` reads again.
+QImage rowsOf(const Image &frame, const FrameFormat &format, ImageReader &reader);
 
 int bandCount(const FrameFormat &format);
 
-/// Whether the band `band` of two frames, each as `rowsOf` gave it, shows the same. False for null
-/// pictures.
-bool sameBand(const QImage &rows, const QImage &other, int band, const FrameFormat &format);
+/// Where the band `band` stands in the picture.
+QRect bandIn(const FrameFormat &format, int band);
 
 /// A band as it stands in a file.
 struct PngBand {

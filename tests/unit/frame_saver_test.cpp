@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
+#include "platform/tile_store.h"
 #include "record/frame_saver.h"
 #include "tests/unit/recording_fixture.h"
 
@@ -141,11 +142,13 @@ TEST_F(SavedFrames, decodeToTheVeryPixelsAndAreReportedInOrder) {
 TEST_F(SavedFrames, areTheSameFilesWhateverCameBeforeThem) {
     for (const bool alpha : {false, true}) {
         // Rows change here and there, in a picture whose last band is a short one.
+        TileStore store;
         std::vector<Image> frames;
         QImage pixels = patterned({91, 53}, alpha).toQImage();
         for (int i = 0; i < 30; ++i) {
             pixels.setPixel(i, (i * 37) % 53, qRgb(i, 255, 255 - i));
-            frames.push_back(Image::fromQImage(pixels));
+            frames.push_back(store.keep(Image::fromQImage(pixels.copy()),
+                                        frames.empty() ? Image() : frames.back()));
             // Only the byte that is no part of an opaque picture.
             if (!alpha)
                 reinterpret_cast<uchar *>(pixels.scanLine(i % 53))[4 * i + 3] ^= 0xff;
@@ -190,9 +193,10 @@ TEST_F(SavedFrames, keepTheAlphaOfTheFirst) {
 }
 
 TEST_F(SavedFrames, shareAFileWhereNothingChanged) {
-    const Image still = patterned({30, 30}, false);
-    const Image equal = patterned({30, 30}, false);
-    const Image other = patterned({30, 30}, false, 1);
+    TileStore store;
+    const Image still = store.keep(patterned({30, 30}, false), {});
+    const Image equal = store.keep(patterned({30, 30}, false), still);
+    const Image other = store.keep(patterned({30, 30}, false, 1), still);
     saveAll({still, still, equal, other, still, still});
     EXPECT_EQ(inode(0), inode(1));
     EXPECT_EQ(inode(0), inode(2));
