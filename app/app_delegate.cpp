@@ -3,6 +3,7 @@
 #include "app/app_delegate.h"
 
 #include "app/application.h"
+#include "platform/global_shortcuts.h"
 #include "platform/window_server.h"
 #include "record/frame_saver.h"
 #include "ui_MainWindow.h"

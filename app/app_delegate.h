@@ -22,6 +22,7 @@
 #include <vector>
 
 class FrameSaver;
+class GlobalShortcuts;
 class WindowServer;
 struct SaveRequest;
 struct ToolExit;
@@ -119,6 +120,9 @@ public:
     void OnMenuHelpCompanyHomePage();
     void OnMenuHelpPrivacyPolicy();
     void OnMenuHelpSubmitTicket();
+    /// Lets Record, Pause and Stop also be pressed while another window has the focus, as far as
+    /// the window server grants it; the status line says which keys do it and which are taken.
+    void listenToDesktopKeys();
     void OnMenuAbout();
     void OnMenuQuit();
 
@@ -285,6 +289,7 @@ private:
     std::unique_ptr<WindowServer> windowServer_;
     QString documentsFolder_;
     std::unique_ptr<FrameSaver> frameSaver_;
+    std::unique_ptr<GlobalShortcuts> desktopKeys_;
     QProcess *watchedTool_ = nullptr; // while `RunToolWithProgress` waits for it
 };
 

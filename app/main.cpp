@@ -69,6 +69,7 @@ int main(int argc, char **argv) {
     delegate.awakeFromNib();
     if (!delegate.applicationDidFinishLaunching())
         return EXIT_SUCCESS;
+    delegate.listenToDesktopKeys();
     instance.listen([&delegate] { bringForward(*delegate.shell.window()); });
     Application::exec();
     delegate.Terminate_App();

@@ -162,6 +162,14 @@
         <source>not found</source>
         <translation>not found</translation>
     </message>
+    <message id="IDD_KEYS_GRANTED">
+        <source>From any window, with %1: %2</source>
+        <translation>From any window, with %1: %2</translation>
+    </message>
+    <message id="IDD_KEYS_TAKEN">
+        <source>Taken by another program, with %1: %2</source>
+        <translation>Taken by another program, with %1: %2</translation>
+    </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">
         <source>The screen cannot be recorded: there is no display server.</source>

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+#include "app/tab_view.h"
+#include "platform/global_shortcuts.h"
+#include "platform/window_server.h"
+#include "ui_MainWindow.h"
+
+#include <QApplication>
+
+namespace {
+
+/// "Super+Ctrl" as the user's keyboard has it: the toolkit knows what the second key is called.
+QString modifiers() {
+    const QString one = QKeySequence(Qt::CTRL | Qt::Key_R).toString(QKeySequence::NativeText);
+    return QStringLiteral("Super+%1").arg(one.section(QLatin1Char('+'), 0, 0));
+}
+
+} // namespace
+
+void AppDelegate::listenToDesktopKeys() {
+    if (!windowServer().reason().isEmpty())
+        return;
+    const struct {
+        char letter;
+        QAction *item;
+        const QString &name;
+    } keys[] = {
+        {'r', ui->menuitemActionRecordRecord, texts.s_IDD_RECORD()},
+        {'p', ui->menuitemActionRecordPause, texts.s_IDD_PAUSE()},
+        {'s', ui->menuitemActionRecordStop, texts.s_IDD_STOP()},
+    };
+    std::vector<char> letters;
+    std::vector<QAction *> items;
+    for (const auto &key : keys) {
+        letters.push_back(key.letter);
+        items.push_back(key.item);
+    }
+    desktopKeys_ = std::make_unique<GlobalShortcuts>(letters, [this, items](std::size_t place) {
+        // What the user could press now in the window, and no more: not beneath a dialog, and no
+        // new recording while the last one is being cut.
+        const bool reachable = shell.tabviewMain()->selectedIndex() == 0 &&
+                               !QApplication::activeModalWidget() && !region.pFullScreen();
+        if (reachable)
+            items[place]->trigger();
+    });
+
+    QStringList granted;
+    QStringList taken;
+    for (std::size_t place = 0; place < std::size(keys); ++place) {
+        const QString key = QStringLiteral("%1 %2").arg(
+            QChar::fromLatin1(keys[place].letter).toUpper(), keys[place].name);
+        (desktopKeys_->granted(place) ? granted : taken) << key;
+    }
+    const QString between = QStringLiteral(" · ");
+    QStringList sentences;
+    if (!granted.isEmpty())
+        sentences << qtTrId("IDD_KEYS_GRANTED").arg(modifiers(), granted.join(between));
+    if (!taken.isEmpty())
+        sentences << qtTrId("IDD_KEYS_TAKEN").arg(modifiers(), taken.join(between));
+    ShowStatus(sentences.join(QStringLiteral(" – ")));
+}

@@ -1,0 +1,82 @@
+# SPDX-FileCopyrightText: 2026 The Tovarel authors
+# SPDX-License-Identifier: MIT
+"""Record, Pause and Stop from other windows: where the display grants the keys, and where not."""
+
+import contextlib
+import ctypes
+
+import case
+from driver import Program
+
+CONTROL, MOD4 = 1 << 2, 1 << 6  # X11 protocol, KEYBUTMASK
+ASYNCHRONOUS = 1
+
+
+class DesktopKeys(case.Case):
+    def start(self):
+        """The program with the window of another one in focus, which hears every other key."""
+        self.session.counter("--at", "40,60", "--size", "300x200")
+        program = Program(self.session)
+        own = program.window()
+        other = self.session.xdotool("search", "--onlyvisible", "--name", "^counter$").split()[0]
+        self.session.xdotool("windowactivate", "--sync", other)
+        self.assertNotEqual(self.session.xdotool("getactivewindow"), own)
+        return program
+
+    def press(self, letter):
+        self.session.xdotool("key", f"super+ctrl+{letter}")
+
+    @contextlib.contextmanager
+    def taken(self, letter):
+        """Another client that has the key already."""
+        x11 = ctypes.CDLL("libX11.so.6")
+        x11.XOpenDisplay.restype = ctypes.c_void_p
+        display = ctypes.c_void_p(x11.XOpenDisplay(None))
+        try:
+            x11.XDefaultRootWindow.restype = ctypes.c_ulong
+            root = ctypes.c_ulong(x11.XDefaultRootWindow(display))
+            code = x11.XKeysymToKeycode(display, ctypes.c_ulong(ord(letter)))
+            x11.XGrabKey(display, code, CONTROL | MOD4, root, 0, ASYNCHRONOUS, ASYNCHRONOUS)
+            x11.XSync(display, 0)
+            yield
+        finally:
+            x11.XCloseDisplay(display)
+
+    def test_they_record_pause_and_stop_from_another_window_whatever_locks_are_on(self):
+        program = self.start()
+        self.assertIn("From any window, with Super+Ctrl: R Record · P Pause · S Stop",
+                      program.labels())
+        self.press("p")  # Nothing to pause yet.
+        self.press("r")
+        program.wait_for("the recording", lambda: program.enabled("Pause"))
+        self.session.xdotool("key", "Caps_Lock")
+        self.press("p")
+        program.wait_for("the pause", lambda: program.enabled("Record"))
+        self.assertTrue(program.enabled("Stop"))
+        self.session.xdotool("key", "Num_Lock")
+        self.press("r")
+        program.recording_for(0.5)
+        self.session.xdotool("key", "Caps_Lock")
+        self.press("s")
+        program.await_tab("Cut")
+        self.session.xdotool("key", "Num_Lock")
+        # The recording that is being cut is safe from a new one.
+        self.press("r")
+        self.session.xdotool("windowactivate", "--sync", program.window(), "key", "ctrl+1")
+        program.await_tab("Record")
+        self.assertFalse(program.enabled("Stop"))
+
+    def test_a_key_that_another_client_has_stays_with_it_and_the_user_is_told(self):
+        with self.taken("p"):
+            program = self.start()
+            self.assertIn("From any window, with Super+Ctrl: R Record · S Stop"
+                          " – Taken by another program, with Super+Ctrl: P Pause", program.labels())
+            self.press("r")
+            program.wait_for("the recording", lambda: program.enabled("Pause"))
+            self.press("p")
+            self.press("s")
+            program.await_tab("Cut")
+
+
+if __name__ == "__main__":
+    case.main()
