@@ -8,10 +8,17 @@
 #include "record/frame_saver.h"
 #include "ui_MainWindow.h"
 
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QTextDocument>
 
 #include <utility>
+
+namespace {
+
+constexpr int alertTextWidth = 400; // points
+
+} // namespace
 
 AppDelegate::AppDelegate(Environment environment)
     : ui(std::make_unique<Ui::MainWindow>()), windowServer_(std::move(environment.windowServer)),
@@ -31,6 +38,10 @@ void AppDelegate::RunAlert(const QString &messageText, const QString &informativ
     alert.setInformativeText(informativeText);
     alert.setWindowModality(Qt::ApplicationModal);
     alert.addButton(QStringLiteral("Close"), QMessageBox::AcceptRole);
+    // Without it the box is as narrow as its title, and a sentence becomes a column of words.
+    if (auto *grid = qobject_cast<QGridLayout *>(alert.layout()))
+        grid->addItem(new QSpacerItem(alertTextWidth, 0), grid->rowCount(), 0, 1,
+                      grid->columnCount());
     alert.exec();
 }
 

@@ -88,6 +88,7 @@ void AppDelegate::applyTexts() {
     ui->btnWebPGenerate->setText(qtTrId("IDD_GENERATE_WEBP"));
     ui->btnWebPGenerate->setToolTip(qtTrId("IDD_GENERATE_WEBP_TIP"));
 
+    ui->viewRecordPreview->setAccessibleName(qtTrId("IDD_RECORD_PREVIEW"));
     ui->btnSaveAgain->setText(qtTrId("IDD_SAVE_AGAIN"));
 
     const QString taken =

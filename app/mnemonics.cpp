@@ -31,7 +31,17 @@ bool isForeign(const QString &text) {
     });
 }
 
-/// The letters that may stand for the text, upper case, best first.
+/// Whether a word of a name in camel case begins here: "Record", "FPS" and "Export" in
+/// "ActionRecordFPSExport".
+bool beginsCamelWord(const QString &name, qsizetype at) {
+    const auto isUpper = [&name](qsizetype place) {
+        return place >= 0 && place < name.size() && name[place].isUpper();
+    };
+    return isUpper(at) && (!isUpper(at - 1) || (at + 1 < name.size() && !isUpper(at + 1)));
+}
+
+/// The letters that may stand for the text, upper case, best first: of a name's words the last one
+/// says most.
 QString candidates(const Bearer &bearer) {
     const bool foreign = isForeign(bearer.text);
     const QString &source = foreign ? bearer.latinName : bearer.text;
@@ -40,8 +50,12 @@ QString candidates(const Bearer &bearer) {
     for (qsizetype at = 0; at < source.size(); ++at) {
         if (!isLatin(source[at]))
             continue;
-        const bool initial = foreign ? source[at].isUpper() : beginsWord(source, at);
-        (initial ? initials : others) += source[at].toUpper();
+        if (foreign && beginsCamelWord(source, at))
+            initials.prepend(source[at]);
+        else if (!foreign && beginsWord(source, at))
+            initials += source[at].toUpper();
+        else
+            others += source[at].toUpper();
     }
     QString unique;
     for (const QChar letter : initials + others)

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
+#include "app/accessible_pictures.h"
 #include "app/app_delegate.h"
 #include "app/screen_watcher.h"
 #include "app/settings.h"
@@ -32,6 +33,7 @@ void fillRates(QComboBox &list, std::uint64_t selected) {
 } // namespace
 
 void AppDelegate::awakeFromNib() {
+    installAccessiblePictures();
     auto *mainWindow = new QMainWindow; // The process ends with it: see Terminate_App.
     mainWindow->setAttribute(Qt::WA_DeleteOnClose, false);
     ui->setupUi(mainWindow);

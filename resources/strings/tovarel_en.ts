@@ -162,6 +162,10 @@
         <source>not found</source>
         <translation>not found</translation>
     </message>
+    <message id="IDD_RECORD_PREVIEW">
+        <source>Live preview</source>
+        <translation>Live preview</translation>
+    </message>
     <message id="IDD_KEYS_GRANTED">
         <source>From any window, with %1: %2</source>
         <translation>From any window, with %1: %2</translation>

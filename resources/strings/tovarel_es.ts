@@ -162,6 +162,10 @@
         <source>not found</source>
         <translation>no encontrada</translation>
     </message>
+    <message id="IDD_RECORD_PREVIEW">
+        <source>Live preview</source>
+        <translation>Vista previa en directo</translation>
+    </message>
     <message id="IDD_KEYS_GRANTED">
         <source>From any window, with %1: %2</source>
         <translation>Desde cualquier ventana, con %1: %2</translation>

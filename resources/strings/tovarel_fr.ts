@@ -162,6 +162,10 @@
         <source>not found</source>
         <translation>introuvable</translation>
     </message>
+    <message id="IDD_RECORD_PREVIEW">
+        <source>Live preview</source>
+        <translation>Aperçu en direct</translation>
+    </message>
     <message id="IDD_KEYS_GRANTED">
         <source>From any window, with %1: %2</source>
         <translation>Depuis toute fenêtre, avec %1 : %2</translation>

@@ -162,13 +162,17 @@
         <source>not found</source>
         <translation>見つかりません</translation>
     </message>
+    <message id="IDD_RECORD_PREVIEW">
+        <source>Live preview</source>
+        <translation>ライブプレビュー</translation>
+    </message>
     <message id="IDD_KEYS_GRANTED">
         <source>From any window, with %1: %2</source>
-        <translation>どのウィンドウからでも %1 と次のキー: %2</translation>
+        <translation>どこからでも %1 と: %2</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
         <source>Taken by another program, with %1: %2</source>
-        <translation>ほかのプログラムが使用中、%1 と次のキー: %2</translation>
+        <translation>ほかのプログラムが使用中、%1 と: %2</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">

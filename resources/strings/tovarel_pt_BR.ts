@@ -162,6 +162,10 @@
         <source>not found</source>
         <translation>não encontrada</translation>
     </message>
+    <message id="IDD_RECORD_PREVIEW">
+        <source>Live preview</source>
+        <translation>Prévia ao vivo</translation>
+    </message>
     <message id="IDD_KEYS_GRANTED">
         <source>From any window, with %1: %2</source>
         <translation>De qualquer janela, com %1: %2</translation>

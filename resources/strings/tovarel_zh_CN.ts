@@ -162,6 +162,10 @@
         <source>not found</source>
         <translation>未找到</translation>
     </message>
+    <message id="IDD_RECORD_PREVIEW">
+        <source>Live preview</source>
+        <translation>实时预览</translation>
+    </message>
     <message id="IDD_KEYS_GRANTED">
         <source>From any window, with %1: %2</source>
         <translation>在任意窗口中按 %1 加：%2</translation>

@@ -72,8 +72,8 @@ class DesktopKeys(case.Case):
             self.assertIn("From any window, with Super+Ctrl: R Record · S Stop"
                           " – Taken by another program, with Super+Ctrl: P Pause", program.labels())
             self.press("r")
-            program.wait_for("the recording", lambda: program.enabled("Pause"))
             self.press("p")
+            program.recording_for(1)
             self.press("s")
             program.await_tab("Cut")
 

@@ -34,7 +34,9 @@ TEST(Mnemonics, aWordsInitialIsPreferredAndEveryoneIsServed) {
         {{{"Ab", ""}, {"A", ""}}, "", {"A&b", "&A"}},
         {{{"A", ""}, {"A", ""}}, "", {"&A", "A"}},
         {{{"Été", ""}, {"Äü", ""}}, "", {"É&té", "Äü"}},
-        {{{"録画", "Record"}, {"GIF を作成", "GIFExport"}}, "G", {"録画(&R)", "GIF を作成(&I)"}},
+        {{{"録画", "ActionRecordFPS"}, {"GIF を作成", "GIFExport"}},
+         "E",
+         {"録画(&F)", "GIF を作成(&G)"}},
         {{{"R & B", ""}}, "R", {"R && &B"}},
     };
     for (const auto &each : cases) {

@@ -1,0 +1,121 @@
+# SPDX-FileCopyrightText: 2026 The Tovarel authors
+# SPDX-License-Identifier: MIT
+"""Who works by keyboard or by ear gets everything: every control has a role and a name, and Tab
+leads through all that can be used, in the order in which it stands."""
+
+import case
+from driver import Program, act, atspi, has_state, is_enabled, wait_for
+
+# What a user can do something with, as assistive technology knows it; the text of an alert can be
+# selected.
+ROLES = {"check box", "combo box", "image", "label", "list", "list item", "page tab", "page tab list", "panel",
+         "push button", "radio button", "slider", "text"}
+# These show which of several has the focus, or hold what has it.
+AROUND = ("page tab list", "panel")
+BAR = "page tab"
+
+
+def name(item):
+    """The control's name; a list's own is its value, and the label beside it names it."""
+    if item.get_role_name() != "combo box":
+        return item.get_name()
+    labels = [relation.get_target(0).get_name() for relation in item.get_relation_set()
+              if relation.get_relation_type() == atspi().RelationType.LABELLED_BY]
+    return labels[0] if labels else ""
+
+
+class Accessibility(case.Case):
+    def setUp(self):
+        self.program = Program(self.session)
+        self.activate()
+
+    def activate(self):
+        self.session.xdotool("windowactivate", "--sync", self.program.window())
+
+    def check_named(self):
+        """Everything on the screen that takes the focus has a role and a name."""
+        for item in self.program.walk(None):
+            role = item.get_role_name()
+            if has_state(item, "FOCUSABLE"):
+                self.assertIn(role, ROLES, item.get_name())
+                if role != "list":  # within the combo box that is named
+                    self.assertTrue(name(item), role)
+
+    def focus(self):
+        """Role and name of what has the focus. The tab that is shown claims it too."""
+        items = [item for item in self.program.walk(None) if has_state(item, "FOCUSED")]
+        found = [(item.get_role_name(), name(item)) for item in items
+                 if item.get_role_name() not in AROUND]
+        return max(found, key=lambda each: each[0] != BAR, default=None)
+
+    def check_order(self, *expected):
+        """Tab leads from the first to the last and back to the first."""
+        self.check_named()
+        where = self.focus()
+        for _ in expected:
+            if where == expected[0]:
+                break
+            where = self.next_focus(where)
+        went = [where]
+        for _ in expected:
+            where = self.next_focus(where)
+            went.append(where)
+        self.assertEqual(went, [*expected, expected[0]])
+
+    def next_focus(self, where):
+        self.session.xdotool("key", "Tab")
+        return self.program.wait_for(
+            f"Tab to lead on from {where}", lambda: self.focus() not in (where, None) and self.focus())
+
+    def buttons(self, *names):
+        return [("push button", each) for each in names]
+
+    def test_the_record_tab_and_its_dialogs(self):
+        self.program.await_control("image", "Live preview")
+        self.check_order((BAR, "Record"),
+                         *self.buttons("Full Screen", "Region", "Frames per Second", "Record"))
+        self.session.xdotool("key", "ctrl+f")
+        self.program.button("Cancel")
+        self.check_order(("combo box", "Frames per Second"), *self.buttons("Cancel", "OK"))
+        self.session.xdotool("key", "Escape")
+        self.program.wait_for("the dialog to close", lambda: not self.program.find("dialog"))
+        self.session.xdotool("key", "ctrl+shift+r")
+        self.program.button("OK")
+        self.check_order(("check box", "Don't show this again"), *self.buttons("OK"))
+
+    def test_the_other_tabs_and_an_alert(self):
+        self.program.record(1)
+        self.check_order((BAR, "Cut"), ("slider", "First frame"), ("slider", "Last frame"),
+                         *self.buttons("Play"))
+        self.program.enter("GIF")
+        sizes, rates = (("radio button", f"Same {what} as the recording")
+                        for what in ("size", "frame rate"))
+        rest = (*self.buttons("Generate GIF"), ("text", "WebP loops"),
+                *self.buttons("Generate WebP"))
+        self.check_order((BAR, "GIF"), sizes, rates, *rest)
+        # One Tab for the whole of a choice, the arrows within it; what it enables comes next.
+        for choice in (sizes, rates):
+            while self.focus() != choice:
+                self.next_focus(self.focus())
+            self.session.xdotool("key", "Down")
+        size = [("radio button", "Custom size"), ("text", "Width"), ("text", "Height"),
+                ("check box", "Keep aspect ratio")]
+        rate = [("radio button", "Custom frame rate"), ("combo box", "Frames per Second")]
+        self.check_order((BAR, "GIF"), *size, *rate, *rest)
+
+        width = self.program.await_control("text", "Width")
+        width.set_text_contents("0")
+        self.session.xdotool("key", "ctrl+e")
+        self.program.alert()
+        self.check_named()
+        self.assertEqual(self.focus(), ("push button", "Close"))
+
+    def test_assistive_technology_switches_what_a_click_switches(self):
+        self.program.record(1)
+        self.program.enter("GIF")
+        act(self.program.await_control("radio button", "Custom size"))
+        wait_for("the field", lambda: is_enabled(self.program.await_control("text", "Width")))
+
+
+if __name__ == "__main__":
+    case.main()
