@@ -8,7 +8,10 @@ export takes beside its encoder; and how soon the window is there. Ends with sta
 missed. One line for each measure; `recording.py BUILD NAME...` takes only some of them.
 """
 
+import os
 import pathlib
+import re
+import signal
 import statistics
 import subprocess
 import sys
@@ -22,6 +25,7 @@ import driver  # noqa: E402  pylint: disable=wrong-import-position
 HD = (1920, 1080)
 UHD = (3840, 2160)
 LENGTH = 6  # seconds of each recording
+LOOKS = 20  # a second, at what is played
 TYPING = "while :; do for word in make test commit; do printf '%s ' $word; sleep .1; done; done"
 NANOSECOND = 1e-9
 
@@ -138,7 +142,7 @@ def outside_encoder(build):
         program.press("Stop")
         program.await_tab("Cut", patience=120)
         program.enter("GIF")
-        program.press("Export")
+        program.press("Generate GIF")
         began = time.time()
         # Looked for seldom: the search takes processor time from the encoder.
         program.wait_for("the save panel", lambda: time.sleep(0.1) or program.find("dialog"), 300)
@@ -148,6 +152,83 @@ def outside_encoder(build):
     inside = sum(end - start for start, end in zip(times[::2], times[1::2]))
     whole = max(ended, times[-1]) - min(began, times[0])
     return (whole - inside) / whole
+
+
+def counter_place(picture):
+    """Where in the picture the counter's window shows, as counter.read wants it: its cells fill the
+    lower half. None where it doesn't."""
+    cells = [(x, y) for y in range(0, picture.height, 2) for x in range(0, picture.width, 2)
+             if picture.pixel(x, y) in counter.COLOURS]
+    if not cells:
+        return None
+    left, right = min(x for x, _ in cells), max(x for x, _ in cells) + 2
+    top, bottom = min(y for _, y in cells), max(y for _, y in cells) + 2
+    place = left, 2 * top - bottom, right - left, 2 * (bottom - top)
+    return None if counter.read(picture, *place) is None else place
+
+
+def watch(session, place, seconds, meanwhile):
+    """What the counter at this place of the screen shows, as (second, number), while something else
+    is done; None where it could not be read."""
+    x, y, width, height = place
+    grabber = subprocess.Popen(
+        ["ffmpeg", "-v", "error", "-f", "x11grab", "-draw_mouse", "0", "-framerate",
+         str(LOOKS), "-video_size", f"{width}x{height}", "-i",
+         f"{session.environment['DISPLAY']}+{x},{y}", "-t", str(seconds), "-f", "rawvideo",
+         "-pix_fmt", "rgb24", session.folder / "watched"], env=session.environment,
+        stdin=subprocess.DEVNULL)
+    meanwhile()
+    assert grabber.wait(seconds + 10) == 0
+    data = (session.folder / "watched").read_bytes()
+    size = width * height * 3
+    pictures = [counter.Picture(width, height, data[at : at + size])
+                for at in range(0, len(data), size)]
+    return [(number / LOOKS, counter.read(picture, 0, 0, width, height))
+            for number, picture in enumerate(pictures)]
+
+
+def played(build):
+    """Frames played against frames due, of a recording at 60 frames a second in which everything
+    changes, while the window is being resized."""
+    with driver.Session(build, *HD) as session:
+        inside = session.counter("--at", "0,0", "--size", "%dx%d" % HD, "--rate", "90",
+                                 "--unmanaged")
+        program = driver.Program(session)
+        choose_rate(program, 60)
+        program.press("Record")
+        program.recording_for(LENGTH)
+        program.press("Stop")
+        program.await_tab("Cut", patience=240)
+        rate = int(next(re.search(r"second: (\d+)", text).group(1)
+                        for text in program.labels() if "second: " in text))
+        numbers = [counter.read(counter.decode(path)[0], *inside)
+                   for path in sorted(session.frames.glob("frame*.png"))]
+        for number in session.processes("counter_window"):
+            os.kill(number, signal.SIGTERM)
+        place = driver.wait_for("the preview", lambda: counter_place(session.picture()))
+        window = program.window()
+        size = program.place()
+
+        def resize():
+            time.sleep(2)
+            for step in range(60):
+                session.xdotool("windowsize", window, size.width + 8 * (step % 20),
+                                size.height + 4 * (step % 20))
+                time.sleep(0.05)
+            session.xdotool("windowsize", window, size.width, size.height)
+
+        program.press("Play")
+        seen = [(second, numbers.index(number)) for second, number in watch(session, place, 9, resize)
+                if number in numbers]
+        program.end()
+    (began, first), (ended, last) = seen[0], seen[-1]
+    assert ended - began > 7, "the playback could not be read"
+    due = (ended - began) * rate
+    behind = (first + due - last) % len(numbers)
+    if behind > len(numbers) / 2:
+        behind -= len(numbers)
+    print(f"  ({due:.0f} frames of {len(numbers)} due in {ended - began:.1f} s, {behind:.1f} behind)")
+    return (due - behind) / due
 
 
 def start(build):
@@ -179,6 +260,7 @@ MEASURES = {
     "grabber": ("recording / plain grabber, processor, typing, 60/s", share_of_grabber, 0.5,
                 False),
     "export": ("export outside the encoder / whole, 10 s 1080p", outside_encoder, 0.02, False),
+    "played": ("frames played / due, 1080p 60/s, all changing, resized", played, 0.98, True),
     "start": ("start to window on the screen, seconds", start, 0.35, False),
 }
 
