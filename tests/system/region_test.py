@@ -37,6 +37,11 @@ def cut_out(x, y, width, height, scale=1, block=1):
     )
 
 
+def brightness(pixel):
+    red, green, blue = pixel
+    return 0.3 * red + 0.59 * green + 0.11 * blue
+
+
 class Screen:
     """Where a display lies on the desktop, in pixels, and the overlay's arithmetic on it."""
 
@@ -253,6 +258,48 @@ class Region(case.Case):
                 edges = self.frame(program, screen, ((559, 720), (733, 503)))
                 self.check_recorded(program, screen.recorded(*edges))
                 program.end()
+
+    def test_beside_an_equal_display_a_frame_is_half_of_what_was_framed(self):
+        # A grab twice as wide as the main window's screen counts as one of double density.
+        self.addCleanup(self.monitors)
+        self.monitors("600x900+0+0", "600x900+600+0")
+        self.block = 2
+        with self.pattern(self.block):
+            program = self.program()
+            screen = Screen(600, 0, 600, 900, 1)
+            self.session.xdotool("windowmove", "--sync", program.window(), 620, 20)
+            edges = self.frame(program, screen, ((663, 821), (935, 621)))
+            area = tuple(length // 2 for length in screen.recorded(*edges))
+            self.check_recorded(program, area, self.block)
+
+    def test_the_gif_shows_the_place_that_was_framed(self):
+        self.block = 4
+        with self.pattern(self.block):
+            program = self.program()
+            self.make_room(program)
+            screen = Screen(0, 0, *self.screen, 1)
+            left, top, width, height = screen.recorded(
+                *self.frame(program, screen, ((135, 790), (511, 402))))
+            program.record(0.6)
+            target = self.session.home / "region.gif"
+            program.enter("GIF")
+            program.press("Generate GIF")
+            program.save_panel(target)
+            program.dismiss_alert("Success")
+            picture = counter.decode(str(target))[0]
+            self.assertEqual((picture.width, picture.height), (width, height))
+            # Colours are approximate, so each corner is laid over the screen at every place nearby:
+            # it must fit best where it was framed.
+            side = 40
+            nearby = list(itertools.product(range(-2, 3), repeat=2))
+            for x, y in itertools.product((0, width - side), (0, height - side)):
+                def misfit(move, x=x, y=y):
+                    return sum(
+                        abs(brightness(picture.pixel(column, row)) - brightness(colour(
+                            left + column + move[0], top + row + move[1], self.block)))
+                        for row in range(y, y + side) for column in range(x, x + side))
+                self.assertEqual(min(nearby, key=misfit), (0, 0), f"the corner at {x}, {y}")
+            program.end()
 
     def test_a_region_partly_outside_the_desktop_is_transparent_there(self):
         self.block = 1
