@@ -9,6 +9,7 @@ every wait is for a condition and has a limit. The output of every process goes 
 session's folder. One session in a process, since the accessibility library connects once.
 """
 
+import collections
 import ctypes
 import os
 import pathlib
@@ -22,6 +23,8 @@ import time
 import counter
 
 PATIENCE = 30  # seconds; longer than any step takes on a slow machine with sanitizers
+# Pixels a point, in the tests that this can be told for: the screen grows by as much.
+SCALE = int(os.environ.get("TOVAREL_TEST_SCALE", "1"))
 BINARY = "tovarel"
 COUNTER = "tests/system/counter_window"
 # A button on each tab's page that no other page has.
@@ -44,6 +47,9 @@ def wait_for(what, condition, patience=PATIENCE, between=0.02):
         time.sleep(between)
 
 
+Box = collections.namedtuple("Box", "x y width height")
+
+
 C_LIBRARY = ctypes.CDLL(None)
 PR_SET_PDEATHSIG = 1  # prctl(2)
 
@@ -59,7 +65,7 @@ class Session:
 
     def __init__(self, build, width=800, height=600):
         self.build = pathlib.Path(build).resolve()
-        self.width, self.height = width, height
+        self.width, self.height = width * SCALE, height * SCALE
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tovarel-"))
         self.home = self.folder / "home"
         self.documents = self.home / "Documents"
@@ -87,13 +93,14 @@ class Session:
         self.runtime.mkdir(mode=0o700)
         self.environment = {
             "HOME": str(self.home),
-            "LC_ALL": "C.UTF-8",
+            "LC_ALL": os.environ.get("TOVAREL_TEST_LOCALE", "C.UTF-8"),
             "PATH": os.environ["PATH"],
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "QT_SCALE_FACTOR": str(SCALE),
             "TMPDIR": str(self.folder),
             "XDG_RUNTIME_DIR": str(self.runtime),
         }
-        for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"):
+        for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "LOCPATH", "TZ"):
             if name in os.environ:
                 self.environment[name] = os.environ[name]
         screen = f"{self.width}x{self.height}x24"
@@ -343,7 +350,7 @@ class Program:
 
     def place(self):
         """Where the main window lies on the screen, without its frame."""
-        return wait_for("the main window", self.frame).get_extents(atspi().CoordType.SCREEN)
+        return extents(wait_for("the main window", self.frame))
 
     def recording_for(self, seconds):
         """Lets a recording that was just asked for grow: its length is what takes the time."""
@@ -451,6 +458,17 @@ def search(top, role, name=None, showing=True):
             continue  # Gone while we looked.
 
 
-def middle(item):
+def extents(item):
+    """Where a control lies on the screen, in pixels; it is told in points."""
     box = item.get_extents(atspi().CoordType.SCREEN)
+    return Box(box.x * SCALE, box.y * SCALE, box.width * SCALE, box.height * SCALE)
+
+
+def in_picture(place):
+    """What lies there on the screen, in a recorded picture: one pixel a point."""
+    return tuple(length // SCALE for length in place)
+
+
+def middle(item):
+    box = extents(item)
     return box.x + box.width // 2, box.y + box.height // 2

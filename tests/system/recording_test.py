@@ -7,7 +7,7 @@ import time
 
 import case
 import counter
-from driver import Program, content
+from driver import Program, content, in_picture
 
 RATE = 20  # steps of the counter a second
 PART = 2.2  # seconds that each part of the recording takes
@@ -20,6 +20,7 @@ class Recording(case.Case):
         place = self.session.counter("--at", "60,80", "--size", "400x240", "--rate", str(RATE))
         program = Program(self.session)
         self.cover(program, place)
+        place = in_picture(place)
 
         plain = program.in_task_bar()
         program.press("Record")

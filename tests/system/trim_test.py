@@ -20,7 +20,7 @@ class Trim(case.Case):
     def drag(self, name, to):
         """Drags a handle to a place, given as a share of the strip's width."""
         strip = self.program.await_control("panel", "Part of the recording to keep")
-        box = strip.get_extents(driver.atspi().CoordType.SCREEN)
+        box = driver.extents(strip)
         x, y = middle(self.handle(name))
         move = self.session.xdotool
         move("mousemove", "--sync", x, y, "mousedown", 1)
@@ -42,7 +42,7 @@ class Trim(case.Case):
         return int(self.handle(name).get_value_iface().get_current_value())
 
     def test_trim_play_and_export(self):
-        inside = self.session.counter("--at", "60,80", "--rate", "5")
+        inside = driver.in_picture(self.session.counter("--at", "60,80", "--rate", "5"))
         self.program = program = Program(self.session)
         program.record(5)
         files = sorted(self.session.frames.glob("frame*.png"))
