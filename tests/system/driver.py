@@ -73,6 +73,7 @@ class Session:
         self.runtime = self.folder / "runtime"
         self.outputs = self.folder / "outputs"
         self.environment = {}
+        self.children = []
 
     def __enter__(self):
         # A limit that strikes from outside must not leave anything behind either.
@@ -140,9 +141,10 @@ class Session:
         """Starts a process in the session; its output goes to outputs/NAME.log."""
         options.setdefault("stdin", subprocess.DEVNULL)
         with open(self.outputs / f"{name}.log", "ab") as output:
-            return subprocess.Popen(
+            self.children.append(subprocess.Popen(
                 command, stdout=output, stderr=output, preexec_fn=end_with_us,
-                env={**self.environment, **(environment or {})}, **options)
+                env={**self.environment, **(environment or {})}, **options))
+        return self.children[-1]
 
     def output(self, name):
         return (self.outputs / f"{name}.log").read_text(encoding="utf-8", errors="replace")
@@ -176,6 +178,9 @@ class Session:
     def processes(self, name=None):
         """Numbers of the living processes that were started in this session, by anyone."""
         mark = f"HOME={self.home}".encode()
+        # A process of ours that was killed is a zombie as soon as its first thread has ended; files
+        # and locks are given back by the last one, and only then can it be waited for.
+        ending = {child.pid for child in self.children if child.poll() is None}
         found = []
         for entry in pathlib.Path("/proc").iterdir():
             if not entry.name.isdigit() or int(entry.name) == os.getpid():
@@ -186,7 +191,8 @@ class Session:
             except OSError:
                 continue
             command, state = stat[stat.index("(") + 1 :].rsplit(") ", 1)
-            if ours and not state.startswith("Z") and name in (None, command):
+            living = ours and not state.startswith("Z")
+            if (living or int(entry.name) in ending) and name in (None, command):
                 found.append(int(entry.name))
         return found
 
