@@ -4,8 +4,9 @@
 
 #include "platform/image_storage.h"
 
-#include <pthread.h>
-#include <sched.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <utility>
@@ -17,9 +18,12 @@ namespace {
 constexpr int triesInVain = 64;
 constexpr int passedOver = 15;
 
-void runOnlyWhenIdle() {
-    const sched_param none{};
-    pthread_setschedparam(pthread_self(), SCHED_IDLE, &none);
+/// The least share that still lets the thread come to its end at once on a busy machine: an idle
+/// class thread can keep a process that was killed, and its locks, alive for seconds.
+constexpr int lowestPriority = 19;
+
+void runAtLowPriority() {
+    setpriority(PRIO_PROCESS, static_cast<id_t>(syscall(SYS_gettid)), lowestPriority);
 }
 
 } // namespace
@@ -46,7 +50,7 @@ TileStore::TileStore()
 TileStore::~TileStore() = default;
 
 void TileStore::compressAll(const std::stop_token &stop) {
-    runOnlyWhenIdle();
+    runAtLowPriority();
     Worth worth;
     std::unique_lock lock(mutex_);
     while (changed_.wait(lock, stop, [this] { return !queue_.empty(); }) &&

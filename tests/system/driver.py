@@ -9,7 +9,6 @@ every wait is for a condition and has a limit. The output of every process goes 
 session's folder. One session in a process, since the accessibility library connects once.
 """
 
-import collections
 import ctypes
 import os
 import pathlib
@@ -21,33 +20,15 @@ import tempfile
 import time
 
 import counter
+from accessibility import (  # pylint: disable=unused-import; the tests find all of it here
+    SCALE, act, atspi, bus_errors, content, desktop, extents, has_state, in_picture, is_enabled,
+    middle, search)
+from waiting import PATIENCE, Late, wait_for
 
-PATIENCE = 30  # seconds; longer than any step takes on a slow machine with sanitizers
-# Pixels a point, in the tests that this can be told for: the screen grows by as much.
-SCALE = int(os.environ.get("TOVAREL_TEST_SCALE", "1"))
 BINARY = "tovarel"
 COUNTER = "tests/system/counter_window"
 # A button on each tab's page that no other page has.
 PAGES = {"Record": "Region", "Cut": "Play", "GIF": "Generate GIF"}
-
-
-class Late(AssertionError):
-    """What was waited for did not happen in time."""
-
-
-def wait_for(what, condition, patience=PATIENCE, between=0.02):
-    """The first true result of `condition`, which is asked again and again."""
-    end = time.monotonic() + patience
-    while True:
-        result = condition()
-        if result:
-            return result
-        if time.monotonic() > end:
-            raise Late(f"waited {patience} s in vain for {what}")
-        time.sleep(between)
-
-
-Box = collections.namedtuple("Box", "x y width height")
 
 
 C_LIBRARY = ctypes.CDLL(None)
@@ -225,7 +206,7 @@ class Program:
         self.process = session.start(self.log, [session.build / BINARY], environment)
         if wait:
             wait_for("the main window", lambda: self.ended() or self.frame())
-            assert not self.ended(), f"ended at start:\n{self.output()}"
+            assert not self.ended(), f"ended at start with {self.process.poll()}:\n{self.output()}"
 
     # The process -----------------------------------------------------------------------------
 
@@ -395,86 +376,3 @@ class Program:
         if replace:
             self.press("Yes")
         self.wait_for("the panel to close", lambda: not self.find("dialog", panel_title))
-
-
-# The accessibility library, loaded once the session's environment stands -------------------------
-
-
-def atspi():
-    import gi  # pylint: disable=import-outside-toplevel
-
-    gi.require_version("Atspi", "2.0")
-    from gi.repository import Atspi  # pylint: disable=import-outside-toplevel
-
-    return Atspi
-
-
-def bus_errors():
-    from gi.repository import GLib  # pylint: disable=import-outside-toplevel
-
-    return GLib.Error
-
-
-_desktop = []
-
-
-def desktop():
-    if not _desktop:
-        atspi().init()
-        atspi().set_timeout(5000, PATIENCE * 1000)  # milliseconds: a call, a start
-        _desktop.append(atspi().get_desktop(0))
-        # Nothing is remembered: its events would have to be waited for.
-        _desktop[0].set_cache_mask(atspi().Cache.NONE)
-    return _desktop[0]
-
-
-def has_state(item, state):
-    return item.get_state_set().contains(getattr(atspi().StateType, state))
-
-
-def is_enabled(item):
-    return has_state(item, "ENABLED")
-
-
-def act(item):
-    """The control's first action: press a button, select a tab, trigger a menu item."""
-    if not item.get_action_iface() or not item.do_action(0):
-        raise AssertionError(f"no action on {item.get_role_name()} {item.get_name()}")
-
-
-def content(item):
-    if item.get_text_iface():
-        return atspi().Text.get_text(item, 0, -1)
-    return item.get_name()
-
-
-def search(top, role, name=None, showing=True):
-    """What lies below a control, see Program.walk."""
-    waiting = [top]
-    while waiting:
-        item = waiting.pop(0)
-        try:
-            if item is not top:
-                if showing and not has_state(item, "SHOWING"):
-                    continue
-                if role in (None, item.get_role_name()) and name in (None, item.get_name()):
-                    yield item
-            waiting += filter(None, map(item.get_child_at_index, range(item.get_child_count())))
-        except bus_errors():
-            continue  # Gone while we looked.
-
-
-def extents(item):
-    """Where a control lies on the screen, in pixels; it is told in points."""
-    box = item.get_extents(atspi().CoordType.SCREEN)
-    return Box(box.x * SCALE, box.y * SCALE, box.width * SCALE, box.height * SCALE)
-
-
-def in_picture(place):
-    """What lies there on the screen, in a recorded picture: one pixel a point."""
-    return tuple(length // SCALE for length in place)
-
-
-def middle(item):
-    box = extents(item)
-    return box.x + box.width // 2, box.y + box.height // 2
