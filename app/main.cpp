@@ -9,8 +9,10 @@
 #include "platform/window_activation.h"
 #include "platform/window_server.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QStandardPaths>
+#include <QThread>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -19,6 +21,15 @@
 #include <cstdlib>
 
 namespace {
+
+constexpr qint64 longestAsking = 15000;     // milliseconds
+constexpr unsigned long betweenClaims = 50; // milliseconds
+
+QElapsedTimer started() {
+    QElapsedTimer timer;
+    timer.start();
+    return timer;
+}
 
 /// Tools inherit the standard input; a terminal there would stop them for reading from it in the
 /// background, or feed them keys that were meant for the shell.
@@ -54,10 +65,15 @@ int main(int argc, char **argv) {
     Application::setDesktopFileName(QStringLiteral("tovarel"));
 
     SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
-    if (!instance.isFirst()) {
-        instance.askFirstToComeForward();
-        return EXIT_SUCCESS;
+    // A first one that does not answer may be on its way out, its lock not yet given back.
+    for (QElapsedTimer asking = started(); !instance.isFirst() &&
+                                           !instance.askFirstToComeForward() &&
+                                           !asking.hasExpired(longestAsking);) {
+        QThread::msleep(betweenClaims);
+        instance.claim();
     }
+    if (!instance.isFirst())
+        return EXIT_SUCCESS;
 
     strings_table::install();
     AppDelegate delegate(

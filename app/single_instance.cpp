@@ -25,8 +25,11 @@ SingleInstance::SingleInstance(const QString &folder)
     // number in it would have to be doubted.
     const QByteArray lockPath = QFile::encodeName(folder + QStringLiteral("/tovarel.lock"));
     lock_ = open(lockPath.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-    if (lock_ >= 0 && flock(lock_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
-        first_ = false;
+    claim();
+}
+
+void SingleInstance::claim() {
+    first_ = lock_ < 0 || flock(lock_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
 SingleInstance::~SingleInstance() {
@@ -34,15 +37,14 @@ SingleInstance::~SingleInstance() {
         close(lock_);
 }
 
-void SingleInstance::askFirstToComeForward() const {
+bool SingleInstance::askFirstToComeForward() const {
     // Connecting is the whole message: there is only one thing to ask for.
     QLocalSocket socket;
     socket.connectToServer(socketPath_);
     if (!socket.waitForConnected(patience))
-        return;
+        return false;
     // The first instance hangs up once it has come forward.
-    if (socket.state() != QLocalSocket::UnconnectedState)
-        socket.waitForDisconnected(patience);
+    return socket.state() == QLocalSocket::UnconnectedState || socket.waitForDisconnected(patience);
 }
 
 void SingleInstance::listen(std::function<void()> comeForward) {

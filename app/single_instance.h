@@ -21,8 +21,12 @@ public:
     /// program that starts is worth more than one that cannot tell.
     bool isFirst() const { return first_; }
 
-    /// Asks the first instance to bring its window forward; waits two seconds at most.
-    void askFirstToComeForward() const;
+    /// Asks the first instance to bring its window forward, and waits for its answer, a few seconds
+    /// at most. False when none came: it is busy, or on its way out.
+    bool askFirstToComeForward() const;
+
+    /// Claims the instance once more: one that was killed gives it back a little later.
+    void claim();
 
     /// In the first instance: calls `comeForward` whenever another start asks for it.
     void listen(std::function<void()> comeForward);

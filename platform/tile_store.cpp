@@ -18,12 +18,12 @@ namespace {
 constexpr int triesInVain = 64;
 constexpr int passedOver = 15;
 
-/// The least share that still lets the thread come to its end at once on a busy machine: an idle
-/// class thread can keep a process that was killed, and its locks, alive for seconds.
-constexpr int lowestPriority = 19;
+/// Low, but not the lowest: on a busy machine such a thread would keep a process that was killed,
+/// and its locks, alive for seconds.
+constexpr int lowPriority = 5;
 
 void runAtLowPriority() {
-    setpriority(PRIO_PROCESS, static_cast<id_t>(syscall(SYS_gettid)), lowestPriority);
+    setpriority(PRIO_PROCESS, static_cast<id_t>(syscall(SYS_gettid)), lowPriority);
 }
 
 } // namespace

@@ -15,7 +15,7 @@
 #include <vector>
 
 /// Keeps pictures for long: as tiles that are shared with the picture before wherever nothing
-/// changed, and compressed afterwards, by a thread of the lowest priority. The
+/// changed, and compressed afterwards, by a thread of low priority. The
 /// pixels stay exact. It may end before the pictures that it made.
 class TileStore {
 public:

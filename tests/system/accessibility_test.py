@@ -32,6 +32,11 @@ class Accessibility(case.Case):
     def activate(self):
         self.session.xdotool("windowactivate", "--sync", self.program.window())
 
+    def await_keys(self):
+        """The window manager gives the keys back to the window some time after a sheet is gone."""
+        self.program.wait_for("the window to have the keys", lambda: self.session.xdotool(
+            "getwindowfocus", check=False) == self.program.window())
+
     def check_named(self):
         """Everything on the screen that takes the focus has a role and a name."""
         for item in self.program.walk(None):
@@ -85,6 +90,7 @@ class Accessibility(case.Case):
 
     def test_the_other_tabs_and_an_alert(self):
         self.program.record(1)
+        self.await_keys()
         self.check_order((BAR, "Cut"), ("slider", "First frame"), ("slider", "Last frame"),
                          *self.buttons("Play"))
         self.program.enter("GIF")
