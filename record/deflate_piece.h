@@ -39,4 +39,4 @@ private:
 };
 
 /// What ends a stream of pieces: an empty last block.
-inline constexpr std::uint8_t deflateEnd[] = {0x03, 0x00};
+inline constexpr std::uint8_t endOfPieces[] = {0x03, 0x00};

@@ -170,7 +170,7 @@ PngFile::PngFile(const PngBands &bands, const FrameFormat &format) : bands_(band
         parts_.emplace_back(band->chunk);
         check = adlerOfBoth(check, band->check, band->length);
     }
-    Bytes end(std::begin(deflateEnd), std::end(deflateEnd));
+    Bytes end(std::begin(endOfPieces), std::end(endOfPieces));
     appendNumber(end, check);
     appendChunk(tail_, "IDAT", end);
     appendChunk(tail_, "IEND", {});

@@ -87,7 +87,7 @@ TEST(DeflatePieces, ofEveryKindFollowOneAnotherInOneStream) {
             pieces.append(data, stream);
             whole.insert(whole.end(), data.begin(), data.end());
         }
-    stream.insert(stream.end(), std::begin(deflateEnd), std::end(deflateEnd));
+    stream.insert(stream.end(), std::begin(endOfPieces), std::end(endOfPieces));
     std::vector<std::uint8_t> unpacked(whole.size());
     const std::unique_ptr<libdeflate_decompressor, void (*)(libdeflate_decompressor *)> reader(
         libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
