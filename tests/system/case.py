@@ -8,8 +8,15 @@ import re
 import signal
 import unittest
 
+import counter
 import driver
 
+# Run 1 of a GIF export makes the video, run 2 the palette of it, run 3 the GIF: a word that only its
+# command line has.
+RUNS = {1: "*scale=640x480*", 2: "*palettegen*", 3: "*paletteuse*"}
+REAL = 'exec real "$@"'
+STILL = "sleep"  # what an encoder that stands still is called; it hears nothing but a kill
+SAVE_PANEL = "Select a folder to save the GIF image"
 REPORT = re.compile(r"runtime error:|ERROR: \w+Sanitizer|Segmentation fault|ASSERT")
 
 
@@ -49,6 +56,35 @@ class Case(unittest.TestCase):
             path.write_text("#!/bin/sh\n" + script.replace("real", real) + "\n")
             path.chmod(0o755)
         return {"PATH": f"{folder}:{self.session.environment['PATH']}"}
+
+
+    def exporting(self, environment=None):
+        """A program whose GIF export has just been asked for."""
+        program = driver.Program(self.session, environment)
+        program.record(1.5)
+        program.enter("GIF")
+        program.press("Generate GIF")
+        return program
+
+    def check_gif(self, program, target, replace=False):
+        """Exports the whole recording: the pictures of the GIF, one for each frame."""
+        program.press("Generate GIF")
+        program.save_panel(target, replace=replace)
+        program.dismiss_alert("Success")
+        pictures = counter.decode(str(target))
+        self.assertEqual(len(pictures), len(self.frame_files()))
+        return pictures
+
+    def frame_files(self):
+        return sorted(self.session.frames.glob("frame*.png"))
+
+
+STAND_STILL = f"trap '' TERM INT HUP; exec {STILL} 1000"
+
+
+def in_run(number, script):
+    """That script in this run of an export, the real encoder in the others."""
+    return f'case "$*" in {RUNS[number]}) {script} ;; esac\n{REAL}'
 
 
 def main():

@@ -29,18 +29,12 @@ class DesktopKeys(case.Case):
     @contextlib.contextmanager
     def taken(self, letter):
         """Another client that has the key already."""
-        x11 = ctypes.CDLL("libX11.so.6")
-        x11.XOpenDisplay.restype = ctypes.c_void_p
-        display = ctypes.c_void_p(x11.XOpenDisplay(None))
-        try:
-            x11.XDefaultRootWindow.restype = ctypes.c_ulong
+        with self.session.x11() as (x11, display):
             root = ctypes.c_ulong(x11.XDefaultRootWindow(display))
             code = x11.XKeysymToKeycode(display, ctypes.c_ulong(ord(letter)))
             x11.XGrabKey(display, code, CONTROL | MOD4, root, 0, ASYNCHRONOUS, ASYNCHRONOUS)
             x11.XSync(display, 0)
             yield
-        finally:
-            x11.XCloseDisplay(display)
 
     def test_they_record_pause_and_stop_from_another_window_whatever_locks_are_on(self):
         program = self.start()

@@ -26,7 +26,7 @@ class Disk(case.Case):
         wait_for("the save to end", lambda: program.output().count(str(self.session.frames)) >= saves)
         said = wait_for("the status line", lambda: self.said(program))
         missing, total = int(said[1]), int(said[2])
-        written = [] if every else list(self.session.frames.glob("frame*.png"))
+        written = [] if every else self.frame_files()
         self.assertGreater(missing, 0)
         self.assertEqual(missing, total - len(written), said.string)
         if every:
@@ -50,7 +50,7 @@ class Disk(case.Case):
             subprocess.run(["mount", "-o", "remount,size=1g", self.session.frames], check=True)
             program.press("Save Again")
             program.wait_for("the whole recording", lambda: not self.said(program))
-            self.assertEqual(len(list(self.session.frames.glob("frame*.png"))), int(total))
+            self.assertEqual(len(self.frame_files()), int(total))
             self.assertTrue(program.enabled("Play"))
             self.assertIsNone(program.find("push button", "Save Again"))
         finally:
@@ -72,7 +72,7 @@ class Disk(case.Case):
         program.enter("Record")
         program.record(1.5)
         self.assertTrue(program.enabled("Play"))
-        self.assertGreater(len(list(self.session.frames.glob("frame*.png"))), 0)
+        self.assertGreater(len(self.frame_files()), 0)
         self.assertFalse([text for text in program.labels() if re.search(r"\d+ of \d+", text)])
         self.assertEqual(program.end(), 0)
 

@@ -9,6 +9,7 @@ every wait is for a condition and has a limit. The output of every process goes 
 session's folder. One session in a process, since the accessibility library connects once.
 """
 
+import contextlib
 import ctypes
 import os
 import pathlib
@@ -44,9 +45,11 @@ class Session:
     """A display, a window manager and a message bus. To be used as a context manager; what was
     started in it is ended with it, whatever happened."""
 
-    def __init__(self, build, width=800, height=600):
+    def __init__(self, build, width=800, height=600, depth=24):
         self.build = pathlib.Path(build).resolve()
-        self.width, self.height = width * SCALE, height * SCALE
+        self.width, self.height, self.depth = width * SCALE, height * SCALE, depth
+        self.display_options = []
+        self.with_window_manager = True
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tovarel-"))
         self.home = self.folder / "home"
         self.documents = self.home / "Documents"
@@ -85,25 +88,28 @@ class Session:
         for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "LOCPATH", "TZ"):
             if name in os.environ:
                 self.environment[name] = os.environ[name]
-        screen = f"{self.width}x{self.height}x24"
-        # The server looks for a free number itself.
-        display = self.announce(
-            "Xvfb", lambda end: ["Xvfb", "-displayfd", str(end), "-screen", "0", screen]
-            + ["-nolisten", "tcp", "-noreset"])
-        self.environment["DISPLAY"] = ":" + display
+        self.environment["DISPLAY"] = self.start_display("Xvfb")
         bus = self.announce(
             "dbus-daemon", lambda end: ["dbus-daemon", "--session", "--nofork", "--nopidfile"]
             + [f"--print-address={end}"])
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus
-        # The window manager forgets a window that asks to be shown while it starts, so neither its
-        # process nor its properties on the root window are enough to go by.
-        started = self.folder / "window-manager-started"
-        self.start("openbox", ["openbox", "--startup", f"touch {started}"])
-        wait_for("the window manager", started.exists)
+        if self.with_window_manager:
+            # It forgets a window that asks to be shown while it starts, so neither its process nor
+            # its properties on the root window are enough to go by.
+            started = self.folder / "window-manager-started"
+            self.start("openbox", ["openbox", "--startup", f"touch {started}"])
+            wait_for("the window manager", started.exists)
         # The accessibility library reads the environment of this process.
         for name in [name for name in os.environ if name.startswith("XDG_")]:
             del os.environ[name]
         os.environ.update(self.environment)
+
+    def start_display(self, name):
+        """Starts a display: its name in DISPLAY. The server looks for a free number itself."""
+        screen = f"{self.width}x{self.height}x{self.depth}"
+        return ":" + self.announce(
+            name, lambda end: ["Xvfb", "-displayfd", str(end), "-screen", "0", screen]
+            + ["-nolisten", "tcp", "-noreset", *self.display_options])
 
     def announce(self, name, command):
         """Starts a server that writes one line to an open file once it is ready: that line."""
@@ -147,6 +153,25 @@ class Session:
             + ["-frames:v", "1", "-f", "rawvideo", "-pix_fmt", "rgb24", "-"],
             check=True, stdin=subprocess.DEVNULL, capture_output=True, timeout=PATIENCE).stdout
         return counter.Picture(self.width, self.height, raw)
+
+    @contextlib.contextmanager
+    def x11(self):
+        """The X library, and a connection of this process to the display."""
+        library = ctypes.CDLL("libX11.so.6")
+        library.XOpenDisplay.restype = ctypes.c_void_p
+        library.XInternAtom.restype = library.XGetSelectionOwner.restype = ctypes.c_ulong
+        library.XDefaultRootWindow.restype = ctypes.c_ulong
+        display = ctypes.c_void_p(library.XOpenDisplay(self.environment["DISPLAY"].encode()))
+        try:
+            yield library, display
+        finally:
+            library.XCloseDisplay(display)
+
+    def composited(self):
+        """Whether a compositing manager has the display: whether the selection has an owner."""
+        with self.x11() as (library, display):
+            atom = ctypes.c_ulong(library.XInternAtom(display, b"_NET_WM_CM_S0", 0))
+            return library.XGetSelectionOwner(display, atom) != 0
 
     def counter(self, *options):
         """Starts the window with the known picture; its place on the screen, as

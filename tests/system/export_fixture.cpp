@@ -3,14 +3,10 @@
 #include "export_fixture.h"
 
 #include "app/tab_view.h"
-#include "app/working_folders.h"
-#include "platform/null/null_window_server.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDir>
 #include <QFileDialog>
-#include <QMainWindow>
 #include <QMessageBox>
 
 namespace {
@@ -19,23 +15,7 @@ constexpr int frameWidth = 64;
 constexpr int frameHeight = 48;
 constexpr int recordedRate = 10; // frames per second
 
-AppDelegate::Environment environment(const QString &documents) {
-    return {.windowServer = std::make_unique<NullWindowServer>(QStringLiteral("a test")),
-            .documentsFolder = documents};
-}
-
 } // namespace
-
-QByteArray contentOf(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-}
-
-void put(const QString &path, const QByteArray &content) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(content), content.size());
-}
 
 Answerer::Answerer() {
     connect(&timer_, &QTimer::timeout, this, &Answerer::answer);
@@ -62,21 +42,7 @@ void Answerer::answer() {
     }
 }
 
-ExportTest::ExportTest()
-    : documents(folder.filePath(QStringLiteral("100% real %1/Döcuments"))),
-      controller(environment(documents)), ui(*controller.ui) {
-    controller.awakeFromNib();
-    controller.applicationDidFinishLaunching();
-}
-
-ExportTest::~ExportTest() { delete controller.shell.window(); }
-
 QColor ExportTest::colourOf(int frame) { return QColor::fromHsv((frame * 67) % 360, 200, 220); }
-
-QString ExportTest::frameFile(int number) const {
-    return working_folders::frameFile(controller.shell.s_Output_Folder(),
-                                      static_cast<std::uint64_t>(number));
-}
 
 void ExportTest::record(int count) {
     QImage picture(frameWidth, frameHeight, QImage::Format_RGB32);

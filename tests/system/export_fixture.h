@@ -2,14 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/app_delegate.h"
-#include "ui_MainWindow.h"
+#include "tests/controller_fixture.h"
+#include "tests/files.h"
 
 #include <QPointer>
-#include <QTemporaryDir>
 #include <QTimer>
-
-#include <gtest/gtest.h>
 
 #include <vector>
 
@@ -36,10 +33,9 @@ private:
 };
 
 /// The controller on a recording of real frame files, in a folder whose name is full of traps.
-class ExportTest : public testing::Test {
+class ExportTest : public ControllerFixture {
 protected:
-    ExportTest();
-    ~ExportTest() override;
+    ExportTest() : ControllerFixture(QString(), QStringLiteral("100% real %1/Döcuments")) {}
 
     /// Writes `count` frames of 64 by 48 pixels, each of one colour of its own, chooses all of them
     /// and enters the GIF tab.
@@ -47,18 +43,12 @@ protected:
     static QColor colourOf(int frame);
     /// An executable shell script that stands in for a tool; its last argument is `$last`.
     QString standIn(const QByteArray &script);
-    QString frameFile(int number) const;
     QString place(const char *name) const { return folder.filePath(QString::fromLatin1(name)); }
 
-    QTemporaryDir folder;
-    QString documents;
-    AppDelegate controller;
-    Ui::MainWindow &ui;
+    AppDelegate &controller = *delegate;
+    Ui::MainWindow &ui = *delegate->ui;
     Answerer answers;
 
 private:
     int standIns_ = 0;
 };
-
-QByteArray contentOf(const QString &path);
-void put(const QString &path, const QByteArray &content);

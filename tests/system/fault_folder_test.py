@@ -29,7 +29,7 @@ class StrangeFolder(case.Case):
         self.session.counter("--at", "60,80")
         program = Program(self.session)
         program.record(2)
-        frames = len(list(self.session.frames.glob("frame*.png")))
+        frames = len(self.frame_files())
         self.assertGreaterEqual(frames, 3)
         program.enter("GIF")
         for kind, pictures in (("GIF", lambda path: len(counter.decode(str(path)))),

@@ -10,31 +10,26 @@ import signal
 import subprocess
 
 import case
-import counter
 import disk_test
+from case import REAL, RUNS, STAND_STILL, STILL, in_run
 from driver import Program, wait_for
 
-RUNS = {1: "*scale=640x480*", 2: "*palettegen*", 3: "*paletteuse*"}
-STILL = "sleep"  # what an encoder that stands still is called
-GOOD = 'exec real "$@"'
 LAST = 'for last; do :; done\n'
 TALK = "yes 'frame=1 time=00:00:01.00 \\r' | head -c 4000000"
 
 
-def in_run(number, script):
-    """That script in this run, the real encoder in the others."""
-    return f'case "$*" in {RUNS[number]}) {script} ;; esac\n{GOOD}'
-
-
 class FaultyTools(case.Case):
-    def setUp(self):
+    def start(self, environment):
         self.session.counter("--at", "60,80")
         self.target = self.session.home / "mine.gif"
         self.target.unlink(missing_ok=True)
-        self.program = Program(self.session, self.stand_in(GOOD))
+        self.program = Program(self.session, environment)
         self.program.record(1.5)
         self.program.enter("GIF")
-        self.frames = len(list(self.session.frames.glob("frame*.png")))
+
+    def check_export(self, replace=False):
+        """The export works, to the same file as ever."""
+        self.check_gif(self.program, self.target, replace)
 
     def check_refusal(self, *words):
         said = self.program.dismiss_alert("Error")
@@ -43,14 +38,8 @@ class FaultyTools(case.Case):
         self.assertTrue(self.program.enabled("Generate GIF"))
         self.assertIsNone(self.program.find("dialog"), "a sheet or a save panel is up")
 
-    def check_export(self, replace=False):
-        """The export works, to the same file as ever."""
-        self.program.press("Generate GIF")
-        self.program.save_panel(self.target, replace=replace)
-        self.program.dismiss_alert("Success")
-        self.assertEqual(len(counter.decode(str(self.target))), self.frames)
-
     def test_a_tool_that_goes_wrong_in_any_run(self):
+        self.start(self.stand_in(REAL))
         tool = self.session.folder / "stand-ins" / "ffmpeg"
         for run in RUNS:
             with self.subTest(f"half-way, run {run}"):
@@ -59,13 +48,22 @@ class FaultyTools(case.Case):
                 self.program.press("Generate GIF")
                 self.check_refusal("ffmpeg", "7", "no more")
             with self.subTest(f"killed, run {run}"):
-                self.stand_in(in_run(run, f"exec {STILL} 1000"))
+                self.stand_in(in_run(run, STAND_STILL))
                 self.program.press("Generate GIF")
                 for number in wait_for("the tool", lambda: self.session.processes(STILL)):
                     os.kill(number, signal.SIGKILL)
                 self.check_refusal("ffmpeg", "9")
+            for what, script in (("silent", "exit 0"), ("empty", f"{LAST} : >\"$last\"; exit 0")):
+                with self.subTest(f"{what}, run {run}"):
+                    self.stand_in(in_run(run, script))
+                    self.program.press("Generate GIF")
+                    self.check_refusal("ffmpeg")
+        with self.subTest("missing"):
+            self.stand_in(None)
+            self.program.press("Generate GIF")
+            self.check_refusal("ffmpeg")
         with self.subTest("not executable"):
-            self.stand_in(GOOD)
+            self.stand_in(REAL)
             tool.chmod(0o644)
             self.program.press("Generate GIF")
             self.check_refusal("ffmpeg")
@@ -80,13 +78,19 @@ class FaultyTools(case.Case):
                 self.program.press("Generate GIF")
                 self.check_refusal("ffmpeg", name)
         with self.subTest("talking without end, in every run"):
-            self.stand_in(f"{TALK}; {TALK} >&2\n{GOOD}")
+            self.stand_in(f"{TALK}; {TALK} >&2\n{REAL}")
             self.check_export()
-        self.stand_in(GOOD)
+        self.stand_in(REAL)
         self.check_export(replace=True)
         self.assertEqual(self.program.end(), 0)
 
+    def test_a_tool_that_was_never_found_is_named(self):
+        self.start({"PATH": str(self.session.folder)})
+        self.program.press("Generate GIF")
+        self.check_refusal("ffmpeg")
+
     def test_no_room_for_what_is_staged_or_written(self):
+        self.start(self.stand_in(REAL))
         for name in ("PallomarPallete", "PallomarExport"):
             folder = self.session.documents / name
             # Two pages of a file system, its root among them.
@@ -102,6 +106,7 @@ class FaultyTools(case.Case):
         self.assertEqual(self.program.end(), 0)
 
     def test_folders_that_are_taken_away(self):
+        self.start(self.stand_in(REAL))
         program = self.program
         for name in ("PallomarPallete", "PallomarExport"):
             shutil.rmtree(self.session.documents / name)
@@ -117,8 +122,7 @@ class FaultyTools(case.Case):
         program.press("Stop")
         program.await_tab("Cut")
         program.enter("GIF")
-        self.frames = len(list(self.session.frames.glob("frame*.png")))
-        self.assertGreaterEqual(self.frames, 3)
+        self.assertGreaterEqual(len(self.frame_files()), 3)
         self.check_export(replace=True)
         self.assertEqual(program.end(), 0)
 

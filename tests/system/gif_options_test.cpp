@@ -42,22 +42,6 @@ protected:
 
 } // namespace
 
-TEST_F(GifOptions, StayUnusableWithoutARecording) {
-    controller.resetGIFOptions();
-    for (const QWidget *control :
-         {static_cast<QWidget *>(ui.radioGIFOriginalDimension),
-          static_cast<QWidget *>(ui.radioGIFCustomDimension),
-          static_cast<QWidget *>(ui.textGIFWidth), static_cast<QWidget *>(ui.textGIFHeigth),
-          static_cast<QWidget *>(ui.checkGIFKeepAspectRatio),
-          static_cast<QWidget *>(ui.radioGIFOriginalFPS),
-          static_cast<QWidget *>(ui.radioGIFCustomFPS), static_cast<QWidget *>(ui.comboGIFFPS),
-          static_cast<QWidget *>(ui.btnGIFExport), static_cast<QWidget *>(ui.btnWebPGenerate),
-          static_cast<QWidget *>(ui.txtWebPLoops)})
-        EXPECT_FALSE(control->isEnabled()) << control->objectName().toStdString();
-    EXPECT_FALSE(ui.menuitemActionGIFExport->isEnabled());
-    EXPECT_TRUE(ui.labelGIFSummary->text().isEmpty());
-}
-
 TEST_F(GifOptions, BeginWithTheRecordingsOwnSizeAndRate) {
     controller.region.setRect_Screen_Region({0, 0, 641.6, 480.9});
     enterTab();

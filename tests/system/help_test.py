@@ -4,13 +4,12 @@
 that the user's browser gets, and their links lead somewhere."""
 
 import html.parser
-import os
 import pathlib
 import shutil
 import subprocess
-import unittest
 import urllib.parse
 
+import case
 import driver
 from driver import Program, content, search, wait_for
 
@@ -23,18 +22,6 @@ PAGES = {
 }
 
 
-def setUpModule():
-    global session, opened
-    session = unittest.enterModuleContext(driver.Session(os.environ["TOVAREL_BUILD"]))
-    # The user's browser, as far as the program can see.
-    opened = session.folder / "opened"
-    browser = session.folder / "bin" / "xdg-open"
-    browser.parent.mkdir()
-    browser.write_text(f'#!/bin/sh\necho "$1" >> "{opened}"\n')
-    browser.chmod(0o755)
-    session.environment["PATH"] = f"{browser.parent}:{os.environ['PATH']}"
-
-
 class Links(html.parser.HTMLParser):
     def __init__(self, page):
         super().__init__()
@@ -45,15 +32,24 @@ class Links(html.parser.HTMLParser):
         self.found += [value for name, value in attrs if name in ("href", "src")]
 
 
-class Help(unittest.TestCase):
+class Help(case.Case):
+    def setUp(self):
+        # The user's browser, as far as the program can see.
+        self.opened = self.session.folder / "opened"
+        browser = self.session.folder / "bin" / "xdg-open"
+        browser.parent.mkdir(exist_ok=True)
+        browser.write_text(f'#!/bin/sh\necho "$1" >> "{self.opened}"\n')
+        browser.chmod(0o755)
+        self.browser = {"PATH": f"{browser.parent}:{self.session.environment['PATH']}"}
+
     def read_everything(self, folder):
         """Opens every page from the menu; each must come from `folder`."""
-        program = Program(session)
+        program = Program(self.session, self.browser)
         for item, page in PAGES.items():
-            opened.unlink(missing_ok=True)
+            self.opened.unlink(missing_ok=True)
             program.choose("Help", item)
             url = wait_for(f"the browser to get {page}",
-                           lambda: opened.exists() and opened.read_text().strip())
+                           lambda: self.opened.exists() and self.opened.read_text().strip())
             path = pathlib.Path(urllib.parse.unquote(urllib.parse.urlparse(url).path))
             self.assertEqual(path.resolve(), (folder / page).resolve())
             links = Links(path).found
@@ -63,9 +59,10 @@ class Help(unittest.TestCase):
         self.assertEqual(program.end(), 0)
 
     def test_the_pages_open_from_the_build(self):
-        self.read_everything(session.build / "help")
+        self.read_everything(self.session.build / "help")
 
     def test_the_pages_open_from_an_installed_tree_that_was_moved(self):
+        session = self.session
         built, first, moved = session.build, session.folder / "first", session.folder / "moved here"
         subprocess.run(["cmake", "--install", built, "--prefix", first], check=True,
                        stdout=subprocess.DEVNULL, timeout=driver.PATIENCE)
@@ -77,7 +74,7 @@ class Help(unittest.TestCase):
             session.build = built
 
     def test_about_says_which_version_and_which_tools(self):
-        program = Program(session)
+        program = Program(self.session)
         program.choose("Tovarel", "About Tovarel")
         about = program.await_control("alert", "About Tovarel")
         text = "\n".join(content(label) for label in search(about, "label"))
@@ -90,4 +87,4 @@ class Help(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main(verbosity=2)
+    case.main()

@@ -53,7 +53,7 @@ class Recording(case.Case):
         rate = int(content(program.await_control("combo box")))
         # The measured rate, rounded up: the clock of whole seconds runs beside the recording.
         self.assertIn(rate, range(1, CHOSEN_RATE + 2))
-        self.check_gif(program, frames, numbers, rate, place)
+        self.check_export(program, numbers, rate, place)
 
     def cover(self, program, place):
         """Puts the program's window over the counter and makes sure that it is in front."""
@@ -81,16 +81,13 @@ class Recording(case.Case):
         self.assertEqual(numbers, sorted(numbers))
         self.assertGreater(len(set(numbers)), len(numbers) * 0.5)
 
-    def check_gif(self, program, frames, numbers, rate, place):
+    def check_export(self, program, numbers, rate, place):
         target = self.session.home / "a 100% new folder.gif"
         target.write_text("an older file")
-        program.press("Generate GIF")
-        program.save_panel(target, replace=True)
-        program.dismiss_alert("Success")
-        pictures = counter.decode(str(target))
+        pictures = self.check_gif(program, target, replace=True)
         self.check_pictures(pictures, place)
         self.assertEqual([counter.read(picture, *place) for picture in pictures], numbers)
-        self.assertAlmostEqual(sum(counter.durations(str(target))), len(frames) / rate, delta=0.1)
+        self.assertAlmostEqual(sum(counter.durations(str(target))), len(numbers) / rate, delta=0.1)
         self.assertEqual(program.end(), 0)
 
 

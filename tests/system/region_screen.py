@@ -11,14 +11,10 @@ def colour(x, y, block=1):
     return (37 * x + 11 * y) & 255, (5 * x + 73 * y) & 255, (x ^ y) & 255
 
 
-def cut_out(x, y, width, height, scale=1, block=1):
-    """The bytes of a picture of the pattern, every `scale`th pixel."""
-    return bytes(
-        channel
-        for row in range(y, y + height)
-        for column in range(x, x + width)
-        for channel in colour(column * scale, row * scale, block)
-    )
+def cut_out(x, y, width, height, block):
+    """The bytes of a picture of the pattern, one pixel a block."""
+    return bytes(channel for row in range(y, y + height) for column in range(x, x + width)
+                 for channel in colour(column * block, row * block, block))
 
 
 def brightness(pixel):

@@ -4,7 +4,6 @@
 any scale, on any display, with a compositing manager and without; and it can always be left."""
 
 import contextlib
-import ctypes
 import itertools
 import signal
 import subprocess
@@ -18,6 +17,7 @@ OVERLAY = "^Select a region$"
 HOW_TO = "How to select a region"
 KEY = "MACBrenmoor_Lumsey_b_Show_Select_Region_How_To"
 PICOM = ["picom", "--backend", "xrender", "--config", "/dev/null"]
+ASIDE = (800, 0)
 BLUE, GREEN, RED = (0, 0, 255), (0, 255, 0), (255, 0, 0)
 
 
@@ -54,9 +54,9 @@ class Region(case.Case):
             process.wait(PATIENCE)
 
     @contextlib.contextmanager
-    def pattern(self, block=1):
+    def pattern(self):
         name = f"pattern-{len(list(self.session.outputs.iterdir()))}"
-        command = [self.session.build / "tests/system/pattern_window", str(block)]
+        command = [self.session.build / "tests/system/pattern_window", str(self.block)]
         with self.running(name, command):
             wait_for("the pattern", lambda: "shown" in self.session.output(name))
             yield
@@ -67,20 +67,9 @@ class Region(case.Case):
             yield
             return
         with self.running("picom", PICOM):
-            wait_for("the compositing manager", self.composited)
+            wait_for("the compositing manager", self.session.composited)
             yield
-        wait_for("the compositing manager to go", lambda: not self.composited())
-
-    def composited(self):
-        """Whether a compositing manager has the display: whether the selection has an owner."""
-        x11 = ctypes.CDLL("libX11.so.6")
-        x11.XOpenDisplay.restype = ctypes.c_void_p
-        x11.XInternAtom.restype = x11.XGetSelectionOwner.restype = ctypes.c_ulong
-        display = ctypes.c_void_p(x11.XOpenDisplay(self.session.environment["DISPLAY"].encode()))
-        atom = ctypes.c_ulong(x11.XInternAtom(display, b"_NET_WM_CM_S0", 0))
-        owner = x11.XGetSelectionOwner(display, atom)
-        x11.XCloseDisplay(display)
-        return owner != 0
+        wait_for("the compositing manager to go", lambda: not self.session.composited())
 
     def monitors(self, *places):
         """Divides the desktop into displays, WIDTHxHEIGHT+X+Y each; none makes it one again. Those
@@ -159,82 +148,65 @@ class Region(case.Case):
             self.assertEqual(picture.pixel(*spot), colour(*spot, self.block),
                              f"the desktop does not show at {spot}")
 
-    def check_recorded(self, program, area, scale=1):
-        """Records, and compares every frame with the pattern there: no pixel may be off."""
+    def check_recorded(self, program, area):
+        """Records, and compares every frame with the pattern there, one pixel a block: no pixel may
+        be off."""
         program.record(0.6)
         frames = counter.decode(str(self.session.frames / "frame%08d.png"), pattern=True)
         self.assertGreater(len(frames), 0)
-        wanted = cut_out(*area, scale, self.block)
+        wanted = cut_out(*area, self.block)
         for frame in frames:
             self.assertEqual((frame.width, frame.height), area[2:])
             off = sum(a != b for a, b in zip(frame.data, wanted))
             self.assertEqual(off, 0, f"{off} of {len(wanted)} bytes are off")
 
-    def make_room(self, program):
+    def put_aside(self, program, x, y):
         """Puts the main window away to where no corner is looked at on the screen."""
-        self.session.xdotool("windowmove", program.window(), 2 * self.screen[0] // 3, 0)
+        self.session.xdotool("windowmove", "--sync", program.window(), x, y)
 
     # Tests -------------------------------------------------------------------------------------
 
+    def check_framing(self, screen, window, target, halved=False, blending=False):
+        """What is framed on this screen, with the window put there, is what is recorded."""
+        self.block = 2 if halved else 1
+        with self.pattern(), self.compositing(blending):
+            program = self.program(screen.scale)
+            self.put_aside(program, *window)
+            area = screen.recorded(*self.frame(program, screen, target))
+            self.check_recorded(program, tuple(x // self.block for x in area))
+            program.end()
+
     def test_what_is_framed_is_recorded_at_any_scale_with_and_without_blending(self):
-        for blending in (False, True):
-            for scale in (1, 1.5, 2):
+        for blending, scale in itertools.product((False, True), (1, 1.5, 2)):
+            with self.subTest(scale=scale, blending=blending):
                 # One grab is halved: the one whose screen has half as many points as pixels.
-                self.block = 2 if scale == 2 else 1
-                with self.subTest(scale=scale, blending=blending), self.pattern(self.block), \
-                        self.compositing(blending):
-                    program = self.program(scale)
-                    self.make_room(program)
-                    screen = Screen(0, 0, *self.screen, scale)
-                    edges = self.frame(program, screen, ((135, 790), (511, 402)))
-                    area = screen.recorded(*edges)
-                    if scale == 2:
-                        area = tuple(length // 2 for length in area)
-                    self.check_recorded(program, area, self.block)
-                    program.end()
+                self.check_framing(Screen(0, 0, *self.screen, scale), ASIDE,
+                                   ((135, 790), (511, 402)), scale == 2, blending)
 
     def test_a_region_on_a_second_display_is_recorded_from_there(self):
         self.addCleanup(self.monitors)
         self.monitors("500x800+0+0", "700x700+500+130")
-        self.block = 1
         for scale in (1, 1.5, 2):
-            with self.subTest(scale=scale), self.pattern():
-                program = self.program(scale)
-                screen = Screen(500, 130, 700, 700, scale)
-                window = program.window()
-                self.session.xdotool("windowmove", "--sync", window, 800, 400)
-                edges = self.frame(program, screen, ((559, 720), (733, 503)))
-                self.check_recorded(program, screen.recorded(*edges))
-                program.end()
-
-    def test_beside_an_equal_display_a_frame_is_half_of_what_was_framed(self):
+            with self.subTest(scale=scale):
+                self.check_framing(Screen(500, 130, 700, 700, scale), (800, 400),
+                                   ((559, 720), (733, 503)))
         # A grab twice as wide as the main window's screen counts as one of double density.
-        self.addCleanup(self.monitors)
         self.monitors("600x900+0+0", "600x900+600+0")
-        self.block = 2
-        with self.pattern(self.block):
-            program = self.program()
-            screen = Screen(600, 0, 600, 900, 1)
-            self.session.xdotool("windowmove", "--sync", program.window(), 620, 20)
-            edges = self.frame(program, screen, ((663, 821), (935, 621)))
-            area = tuple(length // 2 for length in screen.recorded(*edges))
-            self.check_recorded(program, area, self.block)
+        with self.subTest("beside an equal display a frame is half of what was framed"):
+            self.check_framing(Screen(600, 0, 600, 900, 1), (620, 20), ((663, 821), (935, 621)),
+                               halved=True)
 
     def test_the_gif_shows_the_place_that_was_framed(self):
         self.block = 4
-        with self.pattern(self.block):
+        with self.pattern():
             program = self.program()
-            self.make_room(program)
+            self.put_aside(program, *ASIDE)
             screen = Screen(0, 0, *self.screen, 1)
             left, top, width, height = screen.recorded(
                 *self.frame(program, screen, ((135, 790), (511, 402))))
             program.record(0.6)
-            target = self.session.home / "region.gif"
             program.enter("GIF")
-            program.press("Generate GIF")
-            program.save_panel(target)
-            program.dismiss_alert("Success")
-            picture = counter.decode(str(target))[0]
+            picture = self.check_gif(program, self.session.home / "region.gif")[0]
             self.assertEqual((picture.width, picture.height), (width, height))
             # Colours are approximate, so each corner is laid over the screen at every place nearby:
             # it must fit best where it was framed.
@@ -253,7 +225,7 @@ class Region(case.Case):
         self.block = 1
         with self.pattern():
             program = self.program()
-            self.make_room(program)
+            self.put_aside(program, *ASIDE)
             screen = Screen(0, 0, *self.screen, 1)
             left, bottom, right, top = self.open_overlay(program, screen)
             self.drag(screen.pixel(left, bottom), (0, 899))
@@ -328,7 +300,7 @@ class Region(case.Case):
         screen = Screen(0, 0, *self.screen, 1)
         with self.pattern():
             program = self.program()
-            self.make_room(program)
+            self.put_aside(program, *ASIDE)
             edges = self.open_overlay(program, screen)
             for blending in (True, False):
                 with self.compositing(blending):

@@ -20,6 +20,10 @@ class Start(case.Case):
             self.assertRegex(done.stderr, r"\ATovarel [^\n]*display[^\n]*\.\n\Z")
 
     def test_a_second_start_brings_the_first_window_forward_and_leaves_the_folders_alone(self):
+        # A killed one has left its lock and its socket; they stop nobody.
+        killed = Program(self.session)
+        killed.process.kill()
+        killed.process.wait()
         first = Program(self.session)
         window = first.window()
         kept = self.session.frames / "kept"
@@ -37,23 +41,21 @@ class Start(case.Case):
     def in_front(self):
         return self.session.xdotool("getactivewindow", check=False)
 
-    def test_a_killed_program_stops_nobody_from_starting(self):
-        first = Program(self.session)
-        first.process.kill()
-        first.process.wait()
-        second = Program(self.session)
-        self.assertEqual(second.end(), 0)
-
     def test_old_content_of_the_folders_is_gone_after_the_start(self):
         folders = [self.session.documents / name
                    for name in ("Pallomar", "PallomarExport", "PallomarPallete")]
+        kept = self.session.home / "kept"
+        kept.mkdir()
+        (kept / "file").write_text("not in a working folder")
         for folder in folders:
             (folder / "below" / "deeper").mkdir(parents=True, exist_ok=True)
             (folder / ".hidden").write_text("old")
             (folder / "broken").symlink_to("nowhere")
+            (folder / "outside").symlink_to(kept)
         program = Program(self.session)
         for folder in folders:
             self.assertEqual(list(folder.iterdir()), [])
+        self.assertTrue((kept / "file").exists())
         self.assertEqual(program.end(), 0)
 
     def test_a_folder_that_cannot_be_made_is_told_and_the_end_is_orderly(self):

@@ -4,10 +4,6 @@
 #include "export_fixture.h"
 #include "record/window_progress.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QTest>
-
 #include <signal.h>
 
 namespace {
@@ -103,37 +99,6 @@ TEST_F(ToolRunner, IsDeafAfterTheEnd) {
     controller.errData("time=00:00:01");
     controller.terminated(0, QProcess::NormalExit);
     EXPECT_EQ(controller.exporting.windowProgress(), nullptr);
-}
-
-/// A process of ours that waits for a tool with its event loop at rest.
-class EndWhileToolRuns : public ExportTest, public testing::WithParamInterface<int> {};
-
-INSTANTIATE_TEST_SUITE_P(Signals, EndWhileToolRuns, testing::Values(SIGTERM, SIGKILL));
-
-TEST_P(EndWhileToolRuns, TheToolEndsWithUs) {
-    constexpr int limit = 10000; // milliseconds
-    const QString pidFile = folder.filePath(QStringLiteral("pid"));
-    const QString tool = standIn("trap '' TERM INT HUP; mkfifo \"$0.pipe\"; exec 3<>\"$0.pipe\"\n"
-                                 "echo $$ > '" +
-                                 pidFile.toUtf8() + "'; read -t 600 -u 3");
-    QProcess program;
-    program.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("--wait-for-tool"), tool});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return contentOf(pidFile).endsWith('\n'); }, limit));
-    const auto toolPid = static_cast<pid_t>(contentOf(pidFile).toInt());
-    ASSERT_EQ(kill(toolPid, 0), 0);
-    ASSERT_EQ(kill(static_cast<pid_t>(program.processId()), GetParam()), 0);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, limit));
-    if (GetParam() == SIGTERM) {
-        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
-        EXPECT_EQ(program.exitCode(), 0);
-    }
-    const auto gone = [toolPid] {
-        // Nobody may collect an orphan here (a container without an init): a zombie has ended.
-        const QByteArray state = contentOf(QStringLiteral("/proc/%1/stat").arg(toolPid));
-        return state == "(none)" || state.mid(state.lastIndexOf(')') + 2, 1) == "Z";
-    };
-    EXPECT_TRUE(QTest::qWaitFor(gone, limit));
 }
 
 } // namespace

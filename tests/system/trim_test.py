@@ -45,7 +45,7 @@ class Trim(case.Case):
         inside = driver.in_picture(self.session.counter("--at", "60,80", "--rate", "5"))
         self.program = program = Program(self.session)
         program.record(5)
-        files = sorted(self.session.frames.glob("frame*.png"))
+        files = self.frame_files()
         total = len(files)
         self.assertGreaterEqual(total, 15)
         wait_for("the whole recording to be kept", lambda: self.held() == (0, total - 1))
@@ -68,6 +68,13 @@ class Trim(case.Case):
         wait_for("and back", lambda: self.value("First frame") == before)
         first, last = self.held()
         self.assertEqual(first, before)
+        # Assistive technology sets any frame, and no more than there are.
+        upper = self.handle("Last frame").get_value_iface()
+        for asked, shown in ((last - 1, last - 1), (total + 99, total)):
+            upper.set_current_value(asked)
+            wait_for("the value", lambda shown=shown: self.value("Last frame") == shown)
+        upper.set_current_value(last)
+        wait_for("the last value", lambda: self.held() == (first, last))
 
         program.press("Play")
         program.wait_for("playing", lambda: not program.enabled("Play"))

@@ -70,18 +70,6 @@ TEST_F(WebPExport, EndsAtTheFirstMissingFrameAndSaysSo) {
         qtTrId("IDD_STATUS_WEBP_GAP").arg(QStringLiteral("2"), QStringLiteral("6"))));
 }
 
-TEST_F(WebPExport, RefusesTooFewFramesAndAnEmptySize) {
-    record(3);
-    controller.trim.setULastFrame(1);
-    ui.btnWebPGenerate->click();
-    controller.trim.setULastFrame(2);
-    ui.textGIFHeigth->setText(QString());
-    ui.btnWebPGenerate->click();
-    ASSERT_EQ(answers.alerts.size(), 2u);
-    EXPECT_EQ(answers.alerts[0].text, controller.texts.s_IDD_LOW_FRAME_NUMBER());
-    EXPECT_EQ(answers.alerts[1].text, controller.texts.s_IDD_INVALID_DIMENSION());
-}
-
 TEST_F(WebPExport, EndsWithOneAlertWhateverGoesWrong) {
     record(3);
     const struct {

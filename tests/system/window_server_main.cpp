@@ -6,10 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <cstdlib>
+#include <cstdio>
 #include <cstring>
-#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -34,22 +32,6 @@ int runForeignProgram(const char *windowClass) {
     return 0;
 }
 
-/// True when the display is meant to have none.
-bool waitForCompositingManager() {
-    if (!std::getenv("TOVAREL_COMPOSITOR"))
-        return true;
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-    XClient client;
-    while (!client.compositingManagerRuns()) {
-        if (std::chrono::steady_clock::now() > deadline) {
-            std::fputs("no compositing manager\n", stderr);
-            return false;
-        }
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    }
-    return true;
-}
-
 } // namespace
 
 int main(int argc, char **argv) {
@@ -57,7 +39,5 @@ int main(int argc, char **argv) {
         return runForeignProgram(argv[2]);
     testing::InitGoogleTest(&argc, argv);
     QCoreApplication application(argc, argv);
-    if (!waitForCompositingManager())
-        return 1;
     return RUN_ALL_TESTS();
 }

@@ -20,7 +20,7 @@ xcb_rectangle_t rectangle(const QRect &r) {
     return {coordinate(r.x()), coordinate(r.y()), extent(r.width()), extent(r.height())};
 }
 
-constexpr std::uint32_t background = 0x80404040; // premultiplied
+constexpr std::uint32_t halfGrey = 0x80404040; // premultiplied
 
 } // namespace
 
@@ -71,7 +71,7 @@ xcb_window_t XClient::create(const Spec &spec) {
     std::uint32_t mask = XCB_CW_OVERRIDE_REDIRECT;
     if (!spec.inputOnly) {
         mask |= XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL;
-        values = {background, 0xff808000};
+        values = {halfGrey, 0xff808000};
     }
     values.push_back(spec.overrideRedirect);
     if (spec.alpha) {
@@ -139,6 +139,13 @@ void XClient::setShape(xcb_window_t window, const std::vector<QRect> &rectangles
                          window, 0, 0, static_cast<std::uint32_t>(list.size()), list.data());
 }
 
+xcb_pixmap_t XClient::pixmap(const QSize &size) {
+    const auto made = connection_->newId();
+    xcb_create_pixmap(get(), connection_->screen().root_depth, made, root(), extent(size.width()),
+                      extent(size.height()));
+    return made;
+}
+
 xcb_gcontext_t XClient::contextFor(xcb_drawable_t drawable) {
     const auto context = connection_->newId();
     const std::uint32_t noExposures = 0;
@@ -151,6 +158,13 @@ void XClient::fill(xcb_drawable_t drawable, const QRect &where, std::uint32_t ar
     xcb_change_gc(get(), context, XCB_GC_FOREGROUND, &argb);
     const auto r = rectangle(where);
     xcb_poly_fill_rectangle(get(), drawable, context, 1, &r);
+    xcb_free_gc(get(), context);
+}
+
+void XClient::copy(xcb_drawable_t from, xcb_drawable_t to, const QSize &size) {
+    const auto context = contextFor(to);
+    xcb_copy_area(get(), from, to, context, 0, 0, 0, 0, extent(size.width()),
+                  extent(size.height()));
     xcb_free_gc(get(), context);
 }
 
@@ -185,9 +199,9 @@ void XClient::setProperty(xcb_window_t window, const char *name, xcb_atom_t type
                         static_cast<std::uint32_t>(value.size()), value.data());
 }
 
-void XClient::setClass(xcb_window_t window, const QByteArray &both) {
-    xcb_change_property(get(), XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
-                        static_cast<std::uint32_t>(both.size()), both.data());
+void XClient::setText(xcb_window_t window, xcb_atom_t property, const QByteArray &text) {
+    xcb_change_property(get(), XCB_PROP_MODE_REPLACE, window, property, XCB_ATOM_STRING, 8,
+                        static_cast<std::uint32_t>(text.size()), text.data());
 }
 
 void XClient::reparent(xcb_window_t window, xcb_window_t parent) {
@@ -200,10 +214,10 @@ void XClient::setBackgroundPixmap(bool present) {
         return;
     }
     // Smaller than the desktop: it is to be repeated.
-    const auto pixmap = connection_->newId();
-    xcb_create_pixmap(get(), connection_->screen().root_depth, pixmap, root(), 150, 90);
-    drawPattern(pixmap, QRect(0, 0, 150, 90), 77);
-    setProperty(root(), "_XROOTPMAP_ID", XCB_ATOM_PIXMAP, {pixmap});
+    const QRect whole(0, 0, 150, 90);
+    const auto background = pixmap(whole.size());
+    drawPattern(background, whole, 77);
+    setProperty(root(), "_XROOTPMAP_ID", XCB_ATOM_PIXMAP, {background});
 }
 
 void XClient::actAsCompositingManager(bool active) {

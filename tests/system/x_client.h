@@ -48,12 +48,22 @@ public:
     void circulate(bool raiseLowest);
     /// No rectangles: the window is no longer shaped.
     void setShape(xcb_window_t window, const std::vector<QRect> &rectangles);
+    /// A pixmap of the desktop's depth, with anything in it.
+    xcb_pixmap_t pixmap(const QSize &size);
+    /// What drawing takes; no exposures come of copies with it.
+    xcb_gcontext_t contextFor(xcb_drawable_t drawable);
     void fill(xcb_drawable_t drawable, const QRect &where, std::uint32_t argb);
+    /// Copies the upper left part of that size, of one depth in both.
+    void copy(xcb_drawable_t from, xcb_drawable_t to, const QSize &size);
     /// Rectangles of many colours, so that no two places look alike.
     void drawPattern(xcb_window_t window, const QRect &where, std::uint32_t seed);
     void setProperty(xcb_window_t window, const char *name, xcb_atom_t type,
                      std::vector<std::uint32_t> value);
-    void setClass(xcb_window_t window, const QByteArray &both);
+    void setText(xcb_window_t window, xcb_atom_t property, const QByteArray &text);
+    /// Instance and class, each ended by a zero (ICCCM 4.1.2.5).
+    void setClass(xcb_window_t window, const QByteArray &both) {
+        setText(window, XCB_ATOM_WM_CLASS, both);
+    }
     void reparent(xcb_window_t window, xcb_window_t parent);
     /// Sets a background as desktops do. An empty rectangle of colours takes it away.
     void setBackgroundPixmap(bool present);
@@ -71,7 +81,6 @@ public:
     QImage reference(const std::set<xcb_window_t> &without = {});
 
 private:
-    xcb_gcontext_t contextFor(xcb_drawable_t drawable);
     xcb_visualid_t alphaVisual() const;
 
     std::unique_ptr<x11::Connection> connection_;

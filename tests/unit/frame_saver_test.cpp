@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/tile_store.h"
 #include "record/frame_saver.h"
-#include "tests/unit/recording_fixture.h"
+#include "tests/controller_fixture.h"
+#include "tests/files.h"
 
-#include <QFile>
 #include <QTest>
 #include <QtEndian>
 
@@ -31,12 +31,6 @@ std::vector<std::uint64_t> save(FrameSaver *&saver, const std::vector<Image> &fr
     saver = new FrameSaver(frames, folder, [&](std::uint64_t done) { reports.push_back(done); });
     EXPECT_TRUE(QTest::qWaitFor([&] { return reports.size() >= frames.size(); }, 10'000));
     return reports;
-}
-
-QByteArray bytes(const QString &path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
 }
 
 /// All that a strict reader looks at: every chunk's checksum, and the compressed data, which is of
@@ -159,8 +153,9 @@ TEST_F(SavedFrames, areTheSameFilesWhateverCameBeforeThem) {
             FrameSaver *made = nullptr;
             save(made, {frames[static_cast<std::size_t>(i)]}, apart.path());
             delete made;
-            EXPECT_EQ(bytes(path(i)), bytes(apart.filePath(QStringLiteral("frame00000000.png"))));
-            expectSound(bytes(path(i)), 53u * (1 + 91 * (alpha ? 4 : 3)));
+            EXPECT_EQ(contentOf(path(i)),
+                      contentOf(apart.filePath(QStringLiteral("frame00000000.png"))));
+            expectSound(contentOf(path(i)), 53u * (1 + 91 * (alpha ? 4 : 3)));
         }
     }
 }
@@ -211,11 +206,11 @@ TEST_F(SavedFrames, shareAFileWhereNothingChanged) {
 }
 
 TEST_F(SavedFrames, areCountedWhenTheFolderIsNone) {
-    QFile file(folder.filePath(QStringLiteral("file")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const QString file = folder.filePath(QStringLiteral("file"));
+    put(file, {});
     FrameSaver *made = nullptr;
     const Image picture = patterned({8, 8}, false);
-    EXPECT_EQ(save(made, {picture, picture, patterned({8, 8}, false)}, file.fileName()).size(), 3u);
+    EXPECT_EQ(save(made, {picture, picture, patterned({8, 8}, false)}, file).size(), 3u);
     EXPECT_EQ(made->missing(), 3u);
     EXPECT_EQ(made->reason(), QString::fromLocal8Bit(strerror(ENOTDIR)));
     delete made;

@@ -1,23 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
-#include "app/application.h"
-#include "platform/null/null_window_server.h"
 #include "record/window_fps.h"
 #include "region/window_region_how_it_works.h"
-#include "ui_MainWindow.h"
+#include "tests/controller_fixture.h"
 
 #include <QAction>
 #include <QComboBox>
-#include <QMainWindow>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QTabBar>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QTranslator>
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -42,24 +35,19 @@ QString foreign(QString text) {
     return rest.captured();
 }
 
-class InterfaceTexts : public testing::Test {
-protected:
-    InterfaceTexts() {
+/// Makes that table the one that counts, before there is a delegate->
+struct WithMarkedTable {
+    WithMarkedTable() {
+        TestController::installTexts();
         QCoreApplication::installTranslator(&table);
-        application()->setDelegate(&controller);
-        controller.awakeFromNib();
-        EXPECT_TRUE(controller.applicationDidFinishLaunching());
     }
-    ~InterfaceTexts() override {
-        controller.stopRecordTimers();
-        delete controller.shell.window();
-        application()->setDelegate(nullptr);
-        QCoreApplication::removeTranslator(&table);
-    }
+    ~WithMarkedTable() { QCoreApplication::removeTranslator(&table); }
+    MarkedTable table;
+};
 
-    static Application *application() {
-        return qobject_cast<Application *>(QCoreApplication::instance());
-    }
+class InterfaceTexts : WithMarkedTable, public ControllerFixture {
+protected:
+    InterfaceTexts() : ControllerFixture(QStringLiteral("«REASON»")) {}
 
     void check(const QObject &owner, const char *what, const QString &text) {
         if (text.isEmpty())
@@ -108,32 +96,27 @@ protected:
         EXPECT_TRUE(shown);
     }
 
-    MarkedTable table;
-    QTemporaryDir documents;
-    AppDelegate controller{
-        {.windowServer = std::make_unique<NullWindowServer>(QStringLiteral("«REASON»")),
-         .documentsFolder = documents.path()}};
     int seen = 0;
 };
 
 TEST_F(InterfaceTexts, allComeFromTheTable) {
-    checkAll(*controller.shell.window());
+    checkAll(*window());
     EXPECT_GT(seen, 100);
-    for (int tab = 0; tab < controller.ui->tabBar->count(); ++tab) {
-        controller.ui->tabBar->setCurrentIndex(tab);
-        checkAll(*controller.shell.window());
+    for (int tab = 0; tab < ui().tabBar->count(); ++tab) {
+        ui().tabBar->setCurrentIndex(tab);
+        checkAll(*window());
     }
     const auto text = [](const QAction *item) { return item->text().remove(QLatin1Char('&')); };
-    EXPECT_EQ(text(controller.ui->menuitemAbout), QStringLiteral("«IDD_ABOUT» Tovarel"));
-    EXPECT_EQ(text(controller.ui->menuitemQuit), QStringLiteral("«IDD_QUIT» Tovarel"));
-    EXPECT_EQ(text(controller.ui->menuitemHelp), QStringLiteral("Tovarel «IDD_HELP»"));
+    EXPECT_EQ(text(ui().menuitemAbout), QStringLiteral("«IDD_ABOUT» Tovarel"));
+    EXPECT_EQ(text(ui().menuitemQuit), QStringLiteral("«IDD_QUIT» Tovarel"));
+    EXPECT_EQ(text(ui().menuitemHelp), QStringLiteral("Tovarel «IDD_HELP»"));
 }
 
 TEST_F(InterfaceTexts, ofDialogsComeFromTheTable) {
-    checkDialog([this] { controller.OnMenuAbout(); });
-    checkDialog([this] { controller.RunAlert(QStringLiteral("Error"), {}); });
-    checkAll(Window_Region_How_It_Works(controller.shell.window()));
-    checkAll(Window_FPS(controller.shell.window()));
+    checkDialog([this] { delegate->OnMenuAbout(); });
+    checkDialog([this] { delegate->RunAlert(QStringLiteral("Error"), {}); });
+    checkAll(Window_Region_How_It_Works(window()));
+    checkAll(Window_FPS(window()));
 }
 
 TEST(InterfaceTextsRule, whatIsNotFromTheTableIsFound) {

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "record/memory_budget.h"
 
-#include "tests/unit/recording_fixture.h"
+#include "tests/controller_fixture.h"
+#include "tests/files.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <array>
@@ -22,9 +22,7 @@ public:
     void write(const char *path, const char *text) {
         const QString file = root_.filePath(QString::fromLatin1(path));
         QDir().mkpath(QFileInfo(file).path());
-        QFile out(file);
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(text);
+        put(file, text);
     }
     std::optional<MemoryState> memory() const { return machineMemory(root_.path() + u'/'); }
 
@@ -77,7 +75,7 @@ TEST(MemoryBudget, pausesAtATenthAndThenAtHalfOfWhatWasLeft) {
     EXPECT_FALSE(fresh.secondsLeft({1000, 600}, 0));
 }
 
-class RecordingInLittleMemory : public RecordingFixture {};
+using RecordingInLittleMemory = ControllerFixture;
 
 TEST_F(RecordingInLittleMemory, isPausedWithItsReasonAndLosesNothing) {
     MemoryState memory{1000000, 500000};

@@ -2,19 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/mnemonics.h"
 
-#include "app/app_delegate.h"
-#include "app/application.h"
-#include "app/strings_table.h"
-#include "platform/null/null_window_server.h"
 #include "record/window_fps.h"
 #include "region/window_region_how_it_works.h"
-#include "ui_MainWindow.h"
+#include "tests/controller_fixture.h"
 
-#include <QMainWindow>
-#include <QTemporaryDir>
 #include <QTranslator>
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -83,39 +75,31 @@ private:
 };
 
 TEST(Mnemonics, differWithinEveryGroupInEveryLanguage) {
-    auto *application = qobject_cast<Application *>(QCoreApplication::instance());
+    TestController::installTexts();
     for (QString language : strings_table::available()) {
         QTranslator table;
         ASSERT_TRUE(table.load(QStringLiteral(":/strings/tovarel_%1.qm")
                                    .arg(language.replace(QLatin1Char('-'), QLatin1Char('_')))));
         QCoreApplication::installTranslator(&table);
-        const QTemporaryDir documents;
-        AppDelegate controller({.windowServer = std::make_unique<NullWindowServer>(QString()),
-                                .documentsFolder = documents.path()});
-        application->setDelegate(&controller);
-        controller.awakeFromNib();
-        ASSERT_TRUE(controller.applicationDidFinishLaunching());
+        TestController controller;
+        const Ui::MainWindow &ui = controller.ui();
         const QString where = language + QStringLiteral(": ");
-        for (const QMenu *menu : controller.ui->menubar->findChildren<QMenu *>())
+        for (const QMenu *menu : ui.menubar->findChildren<QMenu *>())
             Letters(where).addItems(menu->actions());
         Letters always(where);
-        always.addItems(controller.ui->menubar->actions());
-        for (int tab = 0; tab < controller.ui->tabBar->count(); ++tab)
-            always.add(controller.ui->tabBar->tabText(tab));
-        always.add(controller.ui->btnSaveAgain->text());
-        for (const QWidget *page :
-             {controller.ui->pageRecord, controller.ui->pageCut, controller.ui->pageGIF}) {
+        always.addItems(ui.menubar->actions());
+        for (int tab = 0; tab < ui.tabBar->count(); ++tab)
+            always.add(ui.tabBar->tabText(tab));
+        always.add(ui.btnSaveAgain->text());
+        for (const QWidget *page : {ui.pageRecord, ui.pageCut, ui.pageGIF}) {
             Letters letters = always;
             letters.addControls(*page);
-            if (page == controller.ui->pageGIF) {
+            if (page == ui.pageGIF) {
                 EXPECT_GE(letters.count(), 18);
             }
         }
-        Letters(where).addControls(Window_FPS(controller.shell.window()));
-        Letters(where).addControls(Window_Region_How_It_Works(controller.shell.window()));
-        controller.stopRecordTimers();
-        delete controller.shell.window();
-        application->setDelegate(nullptr);
+        Letters(where).addControls(Window_FPS(controller.window()));
+        Letters(where).addControls(Window_Region_How_It_Works(controller.window()));
         QCoreApplication::removeTranslator(&table);
     }
 }

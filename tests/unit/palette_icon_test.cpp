@@ -51,21 +51,16 @@ TEST(PaletteIcon, takesThePalettesColoursAtTheMomentOfPainting) {
     }
 }
 
-TEST(PaletteIcon, isDrawnForTheScreensScaleInsteadOfBeingStretched) {
+TEST(PaletteIcon, isDrawnForTheScreensScaleAndStaysSquareInAnOblongPlace) {
     const QImage once = drawn(paletteIcon(record));
     const QImage twice = drawn(paletteIcon(record), QIcon::Normal, 2);
-    ASSERT_EQ(twice.size(), QSize(48, 48));
-    EXPECT_EQ(twice.devicePixelRatio(), 2);
     QImage stretched = once.scaled(48, 48);
     stretched.setDevicePixelRatio(2);
+    ASSERT_EQ(twice.size(), stretched.size());
     EXPECT_NE(twice, stretched);
-}
-
-TEST(PaletteIcon, keepsADrawingSquareInAnOblongPlace) {
-    const QImage image = paletteIcon(record).pixmap(QSize(48, 24)).toImage();
-    ASSERT_EQ(image.size(), QSize(48, 24));
-    EXPECT_EQ(image.pixelColor(6, 12).alpha(), 0);
-    EXPECT_EQ(image.pixelColor(24, 12).alpha(), 255);
+    const QImage oblong = paletteIcon(record).pixmap(QSize(48, 24)).toImage();
+    EXPECT_EQ(oblong.pixelColor(6, 12).alpha(), 0);
+    EXPECT_EQ(oblong.pixelColor(24, 12).alpha(), 255);
 }
 
 TEST(PaletteIcon, everyDrawingShowsAndHasNoColourOfItsOwn) {
@@ -89,10 +84,6 @@ TEST(PaletteIcon, everyDrawingShowsAndHasNoColourOfItsOwn) {
             }
         EXPECT_GT(opaque, 20) << qPrintable(file);
     }
-}
-
-TEST(PaletteIcon, aMissingFileIsAnEmptyIcon) {
-    EXPECT_TRUE(paletteIcon(QStringLiteral(":/icons/none.svg")).isNull());
 }
 
 } // namespace

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/tab_view.h"
-#include "tests/unit/recording_fixture.h"
+#include "record/view_record_preview.h"
+#include "tests/controller_fixture.h"
 
 #include <QPainter>
 #include <QPixmap>
 
-class RecordPreview : public RecordingFixture {
+class RecordPreview : public ControllerFixture {
 protected:
     RecordPreview() {
         delegate->TimerRefreshVideoRoutine();
@@ -29,7 +29,7 @@ TEST_F(RecordPreview, storesOneFrameForEachTickPaintedOrNot) {
     delegate->TimerRefreshVideoRoutine();
     EXPECT_EQ(stored(), 2u);
     EXPECT_TRUE(delegate->recording.array_Images->back().sameAs(*server->picture));
-    delegate->shell.window()->hide();
+    window()->hide();
     settle();
     before = frames();
     delegate->TimerRefreshVideoRoutine();
@@ -38,7 +38,7 @@ TEST_F(RecordPreview, storesOneFrameForEachTickPaintedOrNot) {
 
 TEST_F(RecordPreview, storesNothingWhenItIsOnlyPainted) {
     view().grab();
-    delegate->shell.window()->grab();
+    window()->grab();
     QImage canvas(100, 100, QImage::Format_RGB32);
     view().render(&canvas);
     view().update();
@@ -50,21 +50,21 @@ TEST_F(RecordPreview, storesNothingWhenItIsOnlyPainted) {
     view().setToolTip(QStringLiteral("a tip"));
     EXPECT_EQ(stored(), 0u);
     // Not even while a redisplay is due, which still happens once.
-    delegate->shell.window()->resize(delegate->shell.window()->size() + QSize(40, 30));
+    window()->resize(window()->size() + QSize(40, 30));
     view().grab();
     EXPECT_EQ(frames() - before, 0u);
     EXPECT_EQ(stored(), 1u);
 }
 
 TEST_F(RecordPreview, storesTheSameFrameOnceMoreForEachRedisplay) {
-    delegate->shell.window()->resize(delegate->shell.window()->size() + QSize(60, 20));
+    window()->resize(window()->size() + QSize(60, 20));
     EXPECT_EQ(stored(), 1u);
     view().hide();
     EXPECT_EQ(stored(), 1u);
     view().show();
     EXPECT_EQ(stored(), 2u);
     // A tick that comes before the redisplay makes it superfluous.
-    delegate->shell.window()->resize(delegate->shell.window()->size() + QSize(10, 10));
+    window()->resize(window()->size() + QSize(10, 10));
     delegate->TimerRefreshVideoRoutine();
     EXPECT_EQ(stored(), 3u);
 }

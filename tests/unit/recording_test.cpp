@@ -3,7 +3,7 @@
 #include "app/tab_view.h"
 #include "record/window_fps.h"
 #include "record/window_progress.h"
-#include "tests/unit/recording_fixture.h"
+#include "tests/controller_fixture.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,9 +13,9 @@
 #include <QTest>
 #include <QTimer>
 
-class Recording : public RecordingFixture {
+class Recording : public ControllerFixture {
 protected:
-    using RecordingFixture::RecordingFixture;
+    using ControllerFixture::ControllerFixture;
 
     /// Full screen, Region, Record, Pause, Stop, frame rate, as 0 and 1; buttons and menu items
     /// must agree.
@@ -46,7 +46,6 @@ protected:
 };
 
 TEST_F(Recording, enablesItsControlsByTheStateAndSavesWhatWasStored) {
-    ASSERT_TRUE(started);
     EXPECT_EQ(enabled(), "111001");
     tick(2);
     EXPECT_FALSE(delegate->recording.array_Images);
@@ -108,7 +107,10 @@ TEST_F(Recording, countsFramesPerSecondAcrossPausesAndCarriesTheRestOver) {
 }
 
 TEST_F(Recording, withoutAFrameSaysSoAndStays) {
+    server->picture.reset(); // What has no pixels is no frame.
     delegate->OnRecordRecord(nullptr);
+    tick(3);
+    EXPECT_EQ(frames(), 0u);
     delegate->OnRecordStop(nullptr);
     EXPECT_FALSE(delegate->isSavingRecording());
     EXPECT_EQ(delegate->exporting.windowProgress(), nullptr);
@@ -116,13 +118,6 @@ TEST_F(Recording, withoutAFrameSaysSoAndStays) {
     EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_NOTHING_RECORDED"));
     EXPECT_EQ(enabled(), "111001");
     EXPECT_EQ(delegate->recording.u_FPS(), 1u);
-}
-
-TEST_F(Recording, storesNoFrameWithoutPixels) {
-    server->picture.reset();
-    delegate->OnRecordRecord(nullptr);
-    tick(3);
-    EXPECT_EQ(frames(), 0u);
 }
 
 TEST_F(Recording, namesTheFramesThatAreMissingAndKeepsThemInMemory) {
@@ -139,13 +134,15 @@ TEST_F(Recording, namesTheFramesThatAreMissingAndKeepsThemInMemory) {
     ASSERT_TRUE(waitForSave());
     const std::string log = testing::internal::GetCapturedStderr();
     const QString status = ui().labelStatus->text();
-    const QString folder = documents.filePath(QStringLiteral("Pallomar"));
-    EXPECT_EQ(status, qtTrId("IDD_FRAMES_MISSING")
-                          .arg(QStringLiteral("1"), QStringLiteral("4"), folder,
-                               QString::fromLocal8Bit(strerror(EISDIR))));
+    EXPECT_EQ(status,
+              qtTrId("IDD_FRAMES_MISSING")
+                  .arg(QStringLiteral("1"), QStringLiteral("4"), delegate->shell.s_Output_Folder(),
+                       QString::fromLocal8Bit(strerror(EISDIR))));
     EXPECT_NE(log.find(status.toStdString()), std::string::npos) << log;
     EXPECT_TRUE(QFile::exists(frameFile(3)));
-    EXPECT_EQ(QDir(folder).entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden).size(),
+    EXPECT_EQ(QDir(delegate->shell.s_Output_Folder())
+                  .entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden)
+                  .size(),
               0);
     EXPECT_EQ(delegate->recording.array_Images->size(), 4u);
 

@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "export/safe_move.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include "tests/files.h"
 
-#include <gtest/gtest.h>
+#include <QDir>
+#include <QTemporaryDir>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -17,17 +16,6 @@
 #include <random>
 
 namespace {
-
-void put(const QString &path, const QByteArray &content) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(content), content.size());
-}
-
-QByteArray contentOf(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-}
 
 QStringList namesIn(const QTemporaryDir &folder) {
     return QDir(folder.path())

@@ -66,26 +66,24 @@ TEST(StringsTable, theFirstPreferenceThatCanBeReadWins) {
     const struct {
         const char *preferred;
         const char *table;
-    } cases[] = {
-        {"de-AT,de", "de"},
-        {"en-AU,de-DE", "en"},
-        {"it-IT,fr-CH,en", "fr"},
-        {"es-419", "es"},
-        {"pt-BR", "pt-BR"},
-        {"pt-PT", "pt-BR"}, // nearer to its readers than English
-        {"ja-JP", "ja"},
-        {"zh-CN", "zh-CN"},
-        {"zh", "zh-CN"},
-        {"zh-Hans-SG", "zh-CN"},
-        // Another script: never given as if it were the same language.
-        {"zh-TW", "en"},
-        {"zh-Hant-HK", "en"},
-        {"zh-TW,ja", "ja"},
-        {"zh-TW,zh-CN", "zh-CN"},
-        {"fi-FI", "en"},
-        {"C", "en"},
-        {"", "en"},
-    };
+    } cases[] = {{"de-AT,de", "de"},
+                 {"en-AU,de-DE", "en"},
+                 {"it-IT,fr-CH,en", "fr"},
+                 {"es-419", "es"},
+                 {"pt-BR", "pt-BR"},
+                 {"pt-PT", "pt-BR"}, // nearer to its readers than English
+                 {"ja-JP", "ja"},
+                 {"zh-CN", "zh-CN"},
+                 {"zh", "zh-CN"},
+                 {"zh-Hans-SG", "zh-CN"},
+                 // Another script: never given as if it were the same language.
+                 {"zh-TW", "en"},
+                 {"zh-Hant-HK", "en"},
+                 {"zh-TW,ja", "ja"},
+                 {"zh-TW,zh-CN", "zh-CN"},
+                 {"fi-FI", "en"},
+                 {"C", "en"},
+                 {"", "en"}};
     for (const auto &each : cases) {
         const QStringList preferred =
             QString::fromLatin1(each.preferred).split(QLatin1Char(','), Qt::SkipEmptyParts);

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "record/window_list.h"
-#include "tests/unit/recording_fixture.h"
+#include "tests/controller_fixture.h"
 
 #include <algorithm>
 
 namespace {
 
-WindowDescription window(std::uint32_t number, const std::optional<QString> &owner) {
+WindowDescription windowOf(std::uint32_t number, const std::optional<QString> &owner) {
     return {.number = number,
             .sharingState = 1,
             .ownerName = owner,
@@ -20,10 +20,10 @@ QString text(const WindowEntry &entry, const QString &key) { return entry[key].t
 
 } // namespace
 
-using WindowList = RecordingFixture;
+using WindowList = ControllerFixture;
 
 TEST_F(WindowList, describesEachWindowByTheSixKeys) {
-    server->windows = {window(7, QStringLiteral("Preview")), window(0xfffffff0u, std::nullopt)};
+    server->windows = {windowOf(7, QStringLiteral("Preview")), windowOf(0xfffffff0u, std::nullopt)};
     delegate->updateWindowList();
     ASSERT_EQ(delegate->capture.arrayController.size(), 2u);
     const WindowEntry &first = delegate->capture.arrayController[0];
@@ -38,9 +38,10 @@ TEST_F(WindowList, describesEachWindowByTheSixKeys) {
 }
 
 TEST_F(WindowList, passesOverWindowsThatMayNotBeSharedWithoutAGapInTheOrder) {
-    WindowDescription secret = window(2, QStringLiteral("Vault"));
+    WindowDescription secret = windowOf(2, QStringLiteral("Vault"));
     secret.sharingState = 0;
-    server->windows = {window(1, QStringLiteral("One")), secret, window(3, QStringLiteral("Two"))};
+    server->windows = {windowOf(1, QStringLiteral("One")), secret,
+                       windowOf(3, QStringLiteral("Two"))};
     delegate->updateWindowList();
     ASSERT_EQ(delegate->capture.arrayController.size(), 2u);
     EXPECT_EQ(delegate->capture.arrayController[1][kWindowIDKey].toUInt(), 3u);
@@ -48,8 +49,8 @@ TEST_F(WindowList, passesOverWindowsThatMayNotBeSharedWithoutAGapInTheOrder) {
 }
 
 TEST_F(WindowList, grabsAllWindowsButOursFrontToBack) {
-    server->windows = {window(5, QStringLiteral("Editor")), window(4, QStringLiteral("Tovarel")),
-                       window(9, std::nullopt)};
+    server->windows = {windowOf(5, QStringLiteral("Editor")),
+                       windowOf(4, QStringLiteral("Tovarel")), windowOf(9, std::nullopt)};
     delegate->TimerRefreshVideoRoutine();
     EXPECT_EQ(server->asked, (std::vector<std::uint32_t>{5, 9}));
     EXPECT_EQ(delegate->capture.arrayWindowsMinusHarrowlens.size(), 2u);

@@ -23,14 +23,12 @@ std::vector<std::uint32_t> order(const WindowStack &stack) {
     return numbers;
 }
 
-using Order = std::vector<std::uint32_t>;
-
 } // namespace
 
 TEST(WindowStack, putsAConfiguredWindowRightAboveItsSibling) {
     const struct {
         std::uint32_t window, sibling;
-        Order expected;
+        std::vector<std::uint32_t> expected;
     } cases[] = {
         {1, 3, {2, 3, 1, 4}}, {4, 1, {1, 4, 2, 3}},  {3, 0, {3, 1, 2, 4}},
         {2, 1, {1, 2, 3, 4}}, {1, 4, {2, 3, 4, 1}},  {1, 0, {1, 2, 3, 4}},
@@ -54,16 +52,12 @@ TEST(WindowStack, keepsWhetherAWindowIsMappedWhenItIsConfigured) {
     EXPECT_FALSE(stack.find(1)->mapped);
 }
 
-TEST(WindowStack, circulatesRemovesAndIgnoresWhatItDoesNotHold) {
+TEST(WindowStack, ignoresWhatItDoesNotHold) {
     auto stack = stackOf({1, 2, 3});
-    EXPECT_TRUE(stack.circulate(1, true));
-    EXPECT_EQ(order(stack), Order({2, 3, 1}));
-    EXPECT_TRUE(stack.circulate(3, false));
-    EXPECT_EQ(order(stack), Order({3, 2, 1}));
     EXPECT_TRUE(stack.remove(2));
     EXPECT_FALSE(stack.remove(2));
     EXPECT_FALSE(stack.setMapped(2, true));
     EXPECT_FALSE(stack.circulate(2, true));
     EXPECT_FALSE(stack.configure({.number = 2, .outer = {}}, 0));
-    EXPECT_EQ(order(stack), Order({3, 1}));
+    EXPECT_EQ(order(stack), (std::vector<std::uint32_t>{1, 3}));
 }

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/application.h"
 
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/app_delegate.h"
+#include "app/application.h"
+#include "app/strings_table.h"
+#include "app/working_folders.h"
+#include "platform/window_server.h"
+#include "ui_MainWindow.h"
+
+#include <QLocale>
+#include <QMainWindow>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+/// A window server without a screen: a test says which windows there are and what a grab yields.
+class FakeWindowServer : public WindowServer {
+public:
+    std::vector<WindowDescription> windows;
+    std::optional<Image> picture;
+    QString why;
+    /// The numbers of the last grab.
+    std::vector<std::uint32_t> asked;
+
+    WindowServerCapabilities capabilities() const override { return {true, true, true}; }
+    QString reason() const override { return why; }
+    std::vector<WindowDescription> listWindows() override { return windows; }
+    using WindowServer::composite;
+    std::optional<Image> composite(std::span<const std::uint32_t> numbers,
+                                   const std::optional<QRect> &) override {
+        asked.assign(numbers.begin(), numbers.end());
+        return picture;
+    }
+};
+
+/// A picture of one colour.
+inline Image plainImage(QSize size, QRgb colour, QImage::Format format = QImage::Format_RGB32) {
+    QImage pixels(size, format);
+    pixels.fill(colour);
+    return Image::fromQImage(pixels);
+}
+
+/// The whole controller over a window server without a screen, started, its timers off: a test
+/// makes the ticks itself. Works in a folder of its own.
+class TestController {
+public:
+    /// `reason` is why nothing can be recorded here, `documents` the name of the documents folder.
+    explicit TestController(const QString &reason = {},
+                            const QString &documents = QStringLiteral("Documents")) {
+        installTexts();
+        auto fake = std::make_unique<FakeWindowServer>();
+        server = fake.get();
+        server->why = reason;
+        server->picture = plainImage({64, 48}, qRgb(10, 20, 30));
+        delegate = std::make_unique<AppDelegate>(AppDelegate::Environment{
+            .windowServer = std::move(fake), .documentsFolder = folder.filePath(documents)});
+        application().setDelegate(delegate.get());
+        delegate->awakeFromNib();
+        EXPECT_TRUE(delegate->applicationDidFinishLaunching());
+        delegate->stopRecordTimers();
+        settle();
+    }
+    ~TestController() {
+        delete window();
+        application().setDelegate(nullptr);
+    }
+    TestController(const TestController &) = delete;
+    TestController &operator=(const TestController &) = delete;
+
+    /// Real sentences, with places for their figures.
+    static void installTexts() {
+        static const bool installed = [] {
+            QLocale::setDefault(QLocale(QStringLiteral("en_US")));
+            strings_table::install();
+            return true;
+        }();
+        ASSERT_TRUE(installed);
+    }
+
+    /// Lets everything happen that is on its way.
+    static void settle() {
+        for (int turn = 0; turn < 5; ++turn)
+            QCoreApplication::processEvents();
+    }
+
+    static Application &application() { return *static_cast<Application *>(qApp); }
+    QMainWindow *window() { return delegate->shell.window(); }
+    Ui::MainWindow &ui() { return *delegate->ui; }
+    std::uint64_t frames() const { return delegate->recording.u_Record_Current_Frame(); }
+    QString frameFile(int number) const {
+        return working_folders::frameFile(delegate->shell.s_Output_Folder(),
+                                          static_cast<std::uint64_t>(number));
+    }
+
+    QTemporaryDir folder;
+    FakeWindowServer *server = nullptr;
+    std::unique_ptr<AppDelegate> delegate;
+};
+
+class ControllerFixture : public testing::Test, protected TestController {
+protected:
+    using TestController::TestController;
+};
