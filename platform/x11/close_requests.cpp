@@ -2,13 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/close_requests.h"
 
-#include <QGuiApplication>
+#include "platform/x11/toolkit_connection.h"
 
-#include <xcb/xcb.h>
-
-#include <cstdlib>
-#include <memory>
-#include <string_view>
 #include <utility>
 
 namespace {
@@ -17,23 +12,14 @@ namespace {
 constexpr std::uint8_t kindMask = 0x7f;
 constexpr std::uint8_t wholeWords = 32;
 
-xcb_atom_t atom(xcb_connection_t *connection, std::string_view name) {
-    const xcb_intern_atom_cookie_t cookie = xcb_intern_atom_unchecked(
-        connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
-    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
-        xcb_intern_atom_reply(connection, cookie, nullptr), &std::free);
-    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
-}
-
 } // namespace
 
 CloseRequests::CloseRequests(Handler handler) : handler_(std::move(handler)) {
-    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    // Platforms that only borrow from X11 have the interface, but no connection.
-    if (!x11 || !x11->connection())
+    xcb_connection_t *connection = x11::toolkitConnection();
+    if (!connection)
         return;
-    protocols_ = atom(x11->connection(), "WM_PROTOCOLS");
-    deleteWindow_ = atom(x11->connection(), "WM_DELETE_WINDOW");
+    protocols_ = x11::internAtom(connection, "WM_PROTOCOLS");
+    deleteWindow_ = x11::internAtom(connection, "WM_DELETE_WINDOW");
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
 

@@ -2,25 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/compositing.h"
 
+#include "platform/x11/toolkit_connection.h"
+
 #include <QByteArray>
-#include <QGuiApplication>
 
 #include <xcb/shape.h>
-#include <xcb/xcb.h>
 
-#include <cstdint>
-#include <cstdlib>
-#include <memory>
 #include <vector>
-
-namespace {
-
-struct Freed {
-    void operator()(void *reply) const { std::free(reply); }
-};
-template <typename Reply> using Owned = std::unique_ptr<Reply, Freed>;
-
-} // namespace
 
 bool desktopBlendsWindows() {
     // Other window systems blend by themselves.
@@ -34,24 +22,19 @@ bool desktopBlendsWindows() {
     // Extended Window Manager Hints 1.5, "Compositing Managers": whoever composites screen n owns
     // the selection _NET_WM_CM_Sn.
     const QByteArray name = "_NET_WM_CM_S" + QByteArray::number(screen);
-    const Owned<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
-        connection.get(),
-        xcb_intern_atom(connection.get(), 1, static_cast<std::uint16_t>(name.size()), name.data()),
-        nullptr));
-    if (!atom || atom->atom == XCB_ATOM_NONE)
-        return false;
-    const Owned<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
-        connection.get(), xcb_get_selection_owner(connection.get(), atom->atom), nullptr));
+    const xcb_atom_t atom = x11::internAtom(connection.get(), name.toStdString());
+    const x11::Reply<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
+        connection.get(), xcb_get_selection_owner(connection.get(), atom), nullptr));
     return owner && owner->owner != XCB_WINDOW_NONE;
 }
 
 void shapeWindow(WId window, const QRegion &shape) {
-    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11)
+    xcb_connection_t *connection = x11::toolkitConnection();
+    if (!connection)
         return;
     const auto id = static_cast<xcb_window_t>(window);
     if (shape.isEmpty()) {
-        xcb_shape_mask(x11->connection(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, id, 0, 0,
+        xcb_shape_mask(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, id, 0, 0,
                        XCB_PIXMAP_NONE);
     } else {
         std::vector<xcb_rectangle_t> boxes;
@@ -60,9 +43,9 @@ void shapeWindow(WId window, const QRegion &shape) {
                              static_cast<std::uint16_t>(box.width()),
                              static_cast<std::uint16_t>(box.height())});
         // A region lists its boxes in bands from the top down, each from left to right.
-        xcb_shape_rectangles(x11->connection(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING,
+        xcb_shape_rectangles(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING,
                              XCB_CLIP_ORDERING_YX_BANDED, id, 0, 0,
                              static_cast<std::uint32_t>(boxes.size()), boxes.data());
     }
-    xcb_flush(x11->connection());
+    xcb_flush(connection);
 }

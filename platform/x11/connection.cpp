@@ -52,15 +52,8 @@ Connection::Connection(xcb_connection_t *connection, xcb_screen_t *screen)
 Connection::~Connection() { xcb_disconnect(connection_); }
 
 bool Connection::succeeded(xcb_void_cookie_t checked) {
-    xcb_generic_error_t *error = xcb_request_check(connection_, checked);
-    if (error)
-        dropError(error);
+    const Reply<xcb_generic_error_t> error(xcb_request_check(connection_, checked));
     return !error && !broken();
-}
-
-void Connection::dropError(xcb_generic_error_t *error) {
-    const Reply<xcb_generic_error_t> owned(error);
-    countError();
 }
 
 void Connection::roundTrip() { reply<xcb_get_input_focus_reply>(xcb_get_input_focus(connection_)); }

@@ -11,8 +11,8 @@
 #include <type_traits>
 
 /// One connection to the X server, with what every part of the back end asks of it: replies that
-/// free themselves, the extensions that the server has, the atoms, and a count of errors. It knows
-/// the protocol's manners and nothing of windows or pictures. For one thread.
+/// free themselves, the extensions that the server has, and the atoms. It knows the protocol's
+/// manners and nothing of windows or pictures. For one thread.
 namespace x11 {
 
 /// The C library hands out replies and events that are returned with free().
@@ -37,6 +37,7 @@ struct Extensions {
     std::uint8_t shapeEvent = 0;
 };
 
+/// The names that we ask for, as the server's numbers (EWMH 1.5, and old custom).
 struct Atoms {
     xcb_atom_t clientList = 0;
     xcb_atom_t clientListStacking = 0;
@@ -86,14 +87,13 @@ public:
     }
 
     /// Waits for the answer to a request, as in `reply<xcb_get_geometry_reply>(cookie)`; null when
-    /// the server answered with an error, which is counted: what a request is about may be gone at
-    /// any time.
+    /// the server answered with an error: what a request is about may be gone at any time, so that
+    /// errors are normal.
     template <auto Fetch, class Cookie> auto reply(Cookie cookie) {
         using Answer = std::remove_pointer_t<decltype(Fetch(connection_, cookie, nullptr))>;
         xcb_generic_error_t *error = nullptr;
         Reply<Answer> answer(Fetch(connection_, cookie, &error));
-        if (error)
-            dropError(error);
+        std::free(error);
         return answer;
     }
 
@@ -106,13 +106,8 @@ public:
     /// Returns when the server has done everything that was asked of it so far.
     void roundTrip();
 
-    void countError() { ++errors_; }
-    /// Errors seen so far. Windows that vanish under our requests cause them: they are normal.
-    std::uint64_t errors() const { return errors_; }
-
 private:
     Connection(xcb_connection_t *connection, xcb_screen_t *screen);
-    void dropError(xcb_generic_error_t *error);
     void queryExtensions();
     void internAtoms(int screenNumber);
 
@@ -121,7 +116,6 @@ private:
     xcb_screen_t *screen_;
     Extensions extensions_;
     Atoms atoms_;
-    std::uint64_t errors_ = 0;
 };
 
 } // namespace x11

@@ -106,7 +106,6 @@ void DesktopModel::stackChanged() {
 void DesktopModel::handle(const xcb_generic_event_t &event) {
     if (event.response_type == 0) {
         const auto &error = as<xcb_generic_error_t>(event);
-        connection_.countError();
         if (pictures_.onError(error))
             failures_ = changed_ = true;
         return;
@@ -154,7 +153,7 @@ bool DesktopModel::handleStructure(const xcb_generic_event_t &event) {
     }
 }
 
-bool DesktopModel::handleExtension(const xcb_generic_event_t &event) {
+void DesktopModel::handleExtension(const xcb_generic_event_t &event) {
     const Extensions &extensions = connection_.extensions();
     if (event.response_type == extensions.damageEvent + XCB_DAMAGE_NOTIFY) {
         changed_ = pictures_.onDamage(as<xcb_damage_notify_event_t>(event)) || changed_;
@@ -164,10 +163,7 @@ bool DesktopModel::handleExtension(const xcb_generic_event_t &event) {
         const auto &selection = as<xcb_xfixes_selection_notify_event_t>(event);
         compositingManager_ = selection.owner != XCB_NONE;
         changed_ = true;
-    } else {
-        return false;
     }
-    return true;
 }
 
 void DesktopModel::onCreate(const xcb_create_notify_event_t &event) {

@@ -54,8 +54,9 @@ public:
 private:
     void readTree();
     void handle(const xcb_generic_event_t &event);
+    /// False when the event is none of the core protocol.
     bool handleStructure(const xcb_generic_event_t &event);
-    bool handleExtension(const xcb_generic_event_t &event);
+    void handleExtension(const xcb_generic_event_t &event);
     void onCreate(const xcb_create_notify_event_t &event);
     void onConfigure(const xcb_configure_notify_event_t &event);
     void onMapped(xcb_window_t window, bool mapped);

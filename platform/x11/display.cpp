@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/display.h"
 
+#include "platform/x11/toolkit_connection.h"
+
 #include <QByteArray>
-#include <QGuiApplication>
 
 #include <poll.h>
-#include <xcb/xcb.h>
 
 bool displayIsReachable() {
     const QByteArray wanted = qgetenv("QT_QPA_PLATFORM");
@@ -21,12 +21,10 @@ bool displayIsReachable() {
 }
 
 bool displayIsGone() {
-    const auto *x11 =
-        qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
-    if (!x11 || !x11->connection())
+    xcb_connection_t *connection = x11::toolkitConnection();
+    if (!connection)
         return false;
     // What the server sent last may still lie there to be read; only its end is looked for.
-    pollfd state{
-        .fd = xcb_get_file_descriptor(x11->connection()), .events = POLLRDHUP, .revents = 0};
+    pollfd state{.fd = xcb_get_file_descriptor(connection), .events = POLLRDHUP, .revents = 0};
     return poll(&state, 1, 0) > 0;
 }

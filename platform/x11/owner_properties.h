@@ -27,14 +27,16 @@ struct WindowOwner {
     std::int32_t layer = 0;
 };
 
+/// The requests that are under way for one window.
 struct OwnerQuestion {
     xcb_get_property_cookie_t windowClass, claimedPid, type, state, sharing;
     std::optional<xcb_res_query_client_ids_cookie_t> process;
 };
 
+/// Asks, and waits for nothing.
 OwnerQuestion askOwner(Connection &connection, xcb_window_t client);
 
-/// `ownPid` is this process as the server sees it, 0 when it does not tell.
+/// Waits for the answers. `ownPid` is this process as the server sees it, 0 when it does not tell.
 WindowOwner awaitOwner(Connection &connection, const OwnerQuestion &question, std::int64_t ownPid);
 
 /// Whether a property has a part in the above.

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/window_activation.h"
 
-#include <xcb/xcb.h>
+#include "platform/x11/toolkit_connection.h"
 
-#include <cstdlib>
-#include <cstring>
 #include <memory>
 
 namespace {
@@ -20,17 +18,11 @@ void bringToFront(quintptr window) {
         xcb_connect(nullptr, nullptr), xcb_disconnect);
     if (xcb_connection_has_error(connection.get()) != 0)
         return;
-    const char name[] = "_NET_ACTIVE_WINDOW";
-    const auto cookie = xcb_intern_atom(connection.get(), 0, std::strlen(name), name);
-    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
-        xcb_intern_atom_reply(connection.get(), cookie, nullptr), std::free);
-    if (!atom)
-        return;
     xcb_client_message_event_t request{};
     request.response_type = XCB_CLIENT_MESSAGE;
     request.format = 32;
     request.window = static_cast<xcb_window_t>(window);
-    request.type = atom->atom;
+    request.type = x11::internAtom(connection.get(), "_NET_ACTIVE_WINDOW");
     request.data.data32[0] = sourceIsUser;
     request.data.data32[1] = XCB_CURRENT_TIME;
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection.get())).data->root;

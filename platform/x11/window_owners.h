@@ -26,6 +26,7 @@ public:
     void onReparent(xcb_window_t window, xcb_window_t parent);
     /// True when an owner has to be asked for again.
     bool onProperty(const xcb_property_notify_event_t &event);
+    /// The window is gone.
     void forget(xcb_window_t window);
 
     /// Finds out all that is not known about these windows, together.
