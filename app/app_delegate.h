@@ -103,6 +103,8 @@ public:
     bool tabViewShouldSelectTabViewItem(const QString &identifier) const;
     /// Prepares the tab that was entered: timers, enabling, first values.
     void tabViewDidSelectTabViewItem(const QString &identifier);
+    // The menus' items. Those of Tab ask for a tab, which may refuse; those of Action are the
+    // buttons' actions, below; those of Help open a page in the user's browser.
     void OnMenuTabRecord();
     void OnMenuTabCut();
     void OnMenuTabGIF();
@@ -123,7 +125,9 @@ public:
     /// Lets Record, Pause and Stop also be pressed while another window has the focus, as far as
     /// the window server grants it; the status line says which keys do it and which are taken.
     void listenToDesktopKeys();
+    /// Version, licence, and which encoders were found where; returns when it is dismissed.
     void OnMenuAbout();
+    /// Ends the process as `Terminate_App` does.
     void OnMenuQuit();
 
     // Telling the user (app/) -----------------------------------------------------------------
@@ -137,20 +141,33 @@ public:
 
     // Window-list capture (record/) -----------------------------------------------------------
 
+    /// Takes the window server's list into `arrayController`, front to back.
     void updateWindowList();
+    /// The numbers of these windows, by their place in the stack and not in `selection`.
     std::vector<std::uint32_t> newWindowListFromSelection(std::span<const WindowEntry> selection);
+    /// Grabs these windows, or the part of them that the next frame needs, into `imgScreenCapture`.
     void createMultiWindowShot(std::span<const WindowEntry> selection);
     /// Stores a grab in `imgScreenCapture`, halved on a double-density screen; none keeps the
     /// previous one.
     void setOutputImage(const std::optional<Image> &grab);
+    /// The image scaled smoothly to whole pixels, at least one each way; its ratio is kept in
+    /// single precision. The empty image stays so.
     Image Scale_Image_By_Percentage(const Image &image, float percentage);
+    /// Ours as long as the process lives.
     WindowServer &windowServer() { return *windowServer_; }
 
     // Recording (record/) ---------------------------------------------------------------------
 
+    // `sender` is the control that an action comes from, here and below; it decides nothing.
+
+    /// Starts a recording, for which store and folder are emptied, or goes on with a paused one.
+    /// Nothing while one runs or is being saved, or where nothing can be recorded.
     void OnRecordRecord(QObject *sender);
     void OnRecordPause(QObject *sender);
+    /// Measures the rate, which is the capture rate from now on, and starts the save; the Cut tab
+    /// follows when the last frame is on disk. A recording without frames ends here.
     void OnRecordStop(QObject *sender);
+    /// Lets the user choose the capture rate; returns when the dialog is closed.
     void OnRecordFPS(QObject *sender);
     /// Saves the last recording once more from memory: for when frames were missing and there is
     /// room again. Nothing without a recording, or beside a recording, a save or an export.
@@ -162,6 +179,7 @@ public:
     /// Starts the capture timer anew with the interval 1 / `u_FPS`, in single precision.
     void restartCaptureTimer();
     void restartOneSecondTimer();
+    /// Ends both timers: off the Record tab nothing is grabbed.
     void stopRecordTimers();
     /// The frame-store step: while recording, appends `imageScreenCaptureFinal` to the store.
     void storeFrame();
@@ -176,6 +194,8 @@ public:
     void showCaptureMode();
     /// Brings indicator and status line up to the recording's state and figures.
     void showRecordingState();
+    /// Pauses the recording when the machine runs out of memory, and says so; else brings the
+    /// figures up to date.
     void watchMemory();
 
     // Preview and progress sheet (record/) ----------------------------------------------------
@@ -193,23 +213,30 @@ public:
     /// Turns events other than the user's until the sheet is on screen, then paints it: for work
     /// that is about to block the main thread.
     void paintProgressSheet();
+    /// Takes the sheet down, if one is up; it deletes itself later.
     void closeProgressSheet();
 
     // Region (region/) ------------------------------------------------------------------------
 
     void OnRecordFullScreen(QObject *sender);
+    /// Explains, unless the user has had enough of it, and lets a region be chosen on the main
+    /// window's screen; the whole screen is recorded when that is cancelled. Returns after it.
     void OnRecordRegion(QObject *sender);
     /// Ends and closes the open overlay and its modal loop; `pFullScreen` is null afterwards.
     void endRegionOverlay();
 
     // Trim editor (trim/) ---------------------------------------------------------------------
 
+    /// Plays from the first frame of the trimmed range, or on from where it was paused.
     void OnCutPlay(QObject *sender);
     void OnCutPause(QObject *sender);
     void OnCutStop(QObject *sender);
+    /// The playback tick: the next frame, and the first one again after the last.
     void TimerRefreshPlayRoutine();
     /// Pauses what plays, plays what does not, if there is something to play.
     void togglePlayback();
+    /// Says which of the three commands can be used.
+    void enablePlayback(bool play, bool pause, bool stop);
     /// Works out `uFirstFrame` and `uLastFrame` from the handles' percentages.
     void updateTrimmedRange();
     /// How many frames of the trimmed range the recording has: the upper handle's frame number may
@@ -222,12 +249,17 @@ public:
 
     /// Resets the GIF tab to the original size and rate, or disables it without a recording.
     void resetGIFOptions();
+    // Each of these acts when its radio button is the one that is switched on: the recording's own
+    // size or rate is written into the fields, or the fields are set free.
     void OnGIFOriginalResolution(QObject *sender);
     void OnGIFCustomResolution(QObject *sender);
     void OnGIFOriginalFPS(QObject *sender);
     void OnGIFCustomFPS(QObject *sender);
+    /// A size field was edited: while the ratio is tied, the other side follows. A text that does
+    /// not begin with a number other than 0 changes nothing.
     void OnGIFChangeWidth(QObject *sender);
     void OnGIFChangeHeigth(QObject *sender);
+    /// The height follows the width when the ratio is tied.
     void OnGIFChangeKeepAspectRatio(QObject *sender);
     /// Sends the actions of the size fields whose edits have not been acted upon yet.
     void finishEditingGIFSize();
@@ -242,7 +274,10 @@ public:
 
     // Export (export/) ------------------------------------------------------------------------
 
+    /// Makes the GIF of the trimmed range and lets the user choose its place; an alert says why
+    /// where that cannot be done. Nothing while an export is under way.
     void OnGIFExport(QObject *sender);
+    /// Likewise the WebP, in the recording's own size; the event loop rests meanwhile.
     void Generate_WebP(QObject *sender);
 
     // Running the tools (export/) -------------------------------------------------------------
@@ -259,6 +294,7 @@ public:
     void errData(const QByteArray &data);
     /// The watched tool has ended, or could not be started; nothing of it is handled afterwards.
     void terminated(int exitCode, QProcess::ExitStatus status);
+    /// See `secondsFromStamp` in export/progress_parser.h.
     static std::uint64_t Return_Seconds_From_VOB_Duration_Str(const QString &stamp);
 
 private:
@@ -276,10 +312,11 @@ private:
     void connectExportControls();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
+    /// False when one could not be made; the user has been told.
     bool createWorkingFolders();
     void applyTexts();
     void applyIcons();
-    // The save of a stopped recording (record/).
+    // The save of a stopped recording (record/): begun, reported frame by frame, ended.
     bool mayRecord();
     void saveRecording();
     void frameReported(std::uint64_t done);

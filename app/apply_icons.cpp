@@ -8,10 +8,6 @@
 
 namespace {
 
-/// The one colour of our own: a red that stands out from light and dark buttons alike (contrast of
-/// at least 3 to 1 with white and with the greys of dark themes, WCAG 2.1 section 1.4.11).
-constexpr QColor recordRed(0xe5, 0x48, 0x4d);
-
 QString drawing(const char *name) {
     return QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name));
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
 #include "app/tab_view.h"
+#include "app/tabs.h"
 #include "platform/global_shortcuts.h"
 #include "platform/window_server.h"
 #include "ui_MainWindow.h"
@@ -39,7 +40,7 @@ void AppDelegate::listenToDesktopKeys() {
     desktopKeys_ = std::make_unique<GlobalShortcuts>(letters, [this, items](std::size_t place) {
         // What the user could press now in the window, and no more: not beneath a dialog, and no
         // new recording while the last one is being cut.
-        const bool reachable = shell.tabviewMain()->selectedIndex() == 0 &&
+        const bool reachable = shell.tabviewMain()->selectedIndex() == tabs::record &&
                                !QApplication::activeModalWidget() && !region.pFullScreen();
         if (reachable)
             items[place]->trigger();

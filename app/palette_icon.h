@@ -14,6 +14,10 @@
 /// Every drawing is square and says `currentColor` (SVG 1.1, section 12.2) wherever it is not
 /// transparent.
 
+/// The one colour of our own: a red that stands out from light and dark buttons alike (contrast of
+/// at least 3 to 1 with white and with the greys of dark themes, WCAG 2.1 section 1.4.11).
+inline constexpr QColor recordRed(0xe5, 0x48, 0x4d);
+
 /// The icon drawn in the SVG file `path`: in the palette's button text, or in `accent` when that is
 /// valid, while its control is enabled, in the palette's disabled button text when it is not, and
 /// in the highlighted text on a selected menu item. A file that cannot be read gives an

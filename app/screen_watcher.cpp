@@ -8,8 +8,10 @@
 #include <QMainWindow>
 #include <QScreen>
 
-QRectF lowerLeftFrame(const QScreen &screen) {
-    const QRectF frame = screen.geometry();
+QRectF lowerLeftFrame(const QScreen *screen) {
+    if (!screen)
+        return {};
+    const QRectF frame = screen->geometry();
     const QScreen *primary = QGuiApplication::primaryScreen();
     const QRectF origin = primary ? primary->geometry() : frame;
     return {frame.x() - origin.x(), origin.bottom() - frame.bottom(), frame.width(),
@@ -34,8 +36,7 @@ void ScreenWatcher::watch(QScreen *screen) {
 void AppDelegate::screenParametersDidChange() {
     if (!region.pFullScreen())
         return;
-    const QScreen *screen = shell.window()->screen();
-    const QRectF frame = screen ? lowerLeftFrame(*screen) : QRectF();
+    const QRectF frame = lowerLeftFrame(shell.window()->screen());
     const QRectF known = shell.frame_Screen();
     // QRectF's own comparison is fuzzy; here every difference counts.
     const bool same = frame.x() == known.x() && frame.y() == known.y() &&

@@ -8,8 +8,8 @@
 class QScreen;
 
 /// The screen's frame in points, with y growing upwards and the origin at the primary screen's
-/// lower left corner.
-QRectF lowerLeftFrame(const QScreen &screen);
+/// lower left corner; the zero rectangle without a screen.
+QRectF lowerLeftFrame(const QScreen *screen);
 
 /// Tells of every change of the screen configuration with one signal: screens added and removed,
 /// moved, resized, and another one made primary.

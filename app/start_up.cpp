@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "app/accessible_pictures.h"
 #include "app/app_delegate.h"
+#include "app/commands.h"
 #include "app/screen_watcher.h"
 #include "app/settings.h"
 #include "app/tab_view.h"
+#include "app/tabs.h"
 #include "app/working_folders.h"
 #include "platform/bundle.h"
+#include "record/rate_list.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
@@ -19,16 +22,6 @@ namespace {
 
 constexpr double smallestWidth = 556;  // points
 constexpr double smallestHeight = 425; // points
-
-/// Rates that the lists offer, in frames per second.
-constexpr int highestRate = 60;
-
-void fillRates(QComboBox &list, std::uint64_t selected) {
-    for (int rate = 1; rate <= highestRate; ++rate)
-        list.addItem(QString::number(rate));
-    const bool listed = selected >= 1 && selected <= highestRate;
-    list.setCurrentIndex(listed ? static_cast<int>(selected) - 1 : 0);
-}
 
 } // namespace
 
@@ -92,23 +85,17 @@ bool AppDelegate::applicationDidFinishLaunching() {
     fillRates(*ui->comboGIFFPS, recording.u_FPS());
     capture.setImgScreenCapture({});
     capture.setImageScreenCaptureFinal({});
-    ui->btnRecordFullScreen->setEnabled(true);
-    ui->btnRecordRegion->setEnabled(true);
-    ui->btnRecordRecord->setEnabled(true);
-    ui->btnRecordPause->setEnabled(false);
-    ui->btnRecordStop->setEnabled(false);
-    ui->btnRecordFPS->setEnabled(true);
-    ui->menuitemActionRecordFullScreen->setEnabled(true);
-    ui->menuitemActionRecordRegion->setEnabled(true);
-    ui->menuitemActionRecordRecord->setEnabled(true);
-    ui->menuitemActionRecordPause->setEnabled(false);
-    ui->menuitemActionRecordStop->setEnabled(false);
-    ui->menuitemActionRecordFPS->setEnabled(true);
+    enableCommand(ui->btnRecordFullScreen, ui->menuitemActionRecordFullScreen, true);
+    enableCommand(ui->btnRecordRegion, ui->menuitemActionRecordRegion, true);
+    enableCommand(ui->btnRecordRecord, ui->menuitemActionRecordRecord, true);
+    enableCommand(ui->btnRecordPause, ui->menuitemActionRecordPause, false);
+    enableCommand(ui->btnRecordStop, ui->menuitemActionRecordStop, false);
+    enableCommand(ui->btnRecordFPS, ui->menuitemActionRecordFPS, true);
     recording.setM_RecordStatus(RECORD_STATUS_STOP);
     trim.setF_Cut_Percent_Menor(0.0f);
     trim.setF_Cut_Percent_Maior(100.0f);
     trim.setM_PlayStatus(PLAY_STATUS_STOP);
-    shell.tabviewMain()->selectTabViewItemAtIndex(0);
+    shell.tabviewMain()->selectTabViewItemAtIndex(tabs::record);
     ui->submenuitemRecord->setEnabled(true);
     ui->submenuitemCut->setEnabled(false);
     ui->submenuitemGIF->setEnabled(false);
@@ -150,8 +137,7 @@ bool AppDelegate::createWorkingFolders() {
 }
 
 void AppDelegate::GetScreenSize() {
-    const QScreen *screen = shell.window()->screen();
-    const QRectF frame = screen ? lowerLeftFrame(*screen) : QRectF();
+    const QRectF frame = lowerLeftFrame(shell.window()->screen());
     shell.setFrame_Screen(frame);
     shell.setSize_Screen(frame.size());
 }

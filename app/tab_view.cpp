@@ -30,7 +30,7 @@ void TabView::request(int index) {
     if (index < 0 || index >= stack_.count())
         return;
     const bool enter = index != stack_.currentIndex();
-    const QString identifier = QString::number(index + 1);
+    const QString identifier = identifierOf(index);
     const bool allowed = !enter || delegate_.shouldSelect(identifier);
     {
         // The bar follows the decision, so a tab that it chose by itself goes back when refused.

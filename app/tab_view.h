@@ -36,6 +36,9 @@ public:
 
     int selectedIndex() const;
 
+    /// The identifier of the tab at `index`.
+    static QString identifierOf(int index) { return QString::number(index + 1); }
+
 private:
     void request(int index);
 

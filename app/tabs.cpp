@@ -1,14 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
+#include "app/tabs.h"
+
 #include "app/app_delegate.h"
 #include "app/tab_view.h"
 #include "ui_MainWindow.h"
 
 namespace {
 
-const QString recordTab = QStringLiteral("1");
-const QString cutTab = QStringLiteral("2");
-const QString gifTab = QStringLiteral("3");
+const QString recordTab = TabView::identifierOf(tabs::record);
+const QString cutTab = TabView::identifierOf(tabs::cut);
+const QString gifTab = TabView::identifierOf(tabs::gif);
 
 } // namespace
 
@@ -31,12 +33,7 @@ void AppDelegate::tabViewDidSelectTabViewItem(const QString &identifier) {
     }
     if (identifier == cutTab) {
         const bool exists = firstFrameFileExists();
-        ui->btnCutPlay->setEnabled(exists);
-        ui->btnCutPause->setEnabled(false);
-        ui->btnCutStop->setEnabled(false);
-        ui->menuitemActionCutPlay->setEnabled(exists);
-        ui->menuitemActionCutPause->setEnabled(false);
-        ui->menuitemActionCutStop->setEnabled(false);
+        enablePlayback(exists, false, false);
         // The exports read the range, and nothing may ever be painted (a minimised window).
         if (exists)
             updateTrimmedRange();
@@ -48,6 +45,6 @@ void AppDelegate::tabViewDidSelectTabViewItem(const QString &identifier) {
     ui->submenuitemGIF->setEnabled(identifier == gifTab);
 }
 
-void AppDelegate::OnMenuTabRecord() { shell.tabviewMain()->selectTabViewItemAtIndex(0); }
-void AppDelegate::OnMenuTabCut() { shell.tabviewMain()->selectTabViewItemAtIndex(1); }
-void AppDelegate::OnMenuTabGIF() { shell.tabviewMain()->selectTabViewItemAtIndex(2); }
+void AppDelegate::OnMenuTabRecord() { shell.tabviewMain()->selectTabViewItemAtIndex(tabs::record); }
+void AppDelegate::OnMenuTabCut() { shell.tabviewMain()->selectTabViewItemAtIndex(tabs::cut); }
+void AppDelegate::OnMenuTabGIF() { shell.tabviewMain()->selectTabViewItemAtIndex(tabs::gif); }

@@ -2,19 +2,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
+#include <optional>
+
 class AppDelegate;
 class ExportFields;
-namespace Ui {
-class MainWindow;
-}
 
 /// Whether an export may begin now: none is under way, and no sheet is up. Assistive technology
 /// reaches a control whose window is blocked by a dialog; an export within an export would empty
 /// the folders that the first one works in.
 bool mayExport(const AppDelegate &controller);
 
-/// Whether both size fields begin with a number other than 0.
-bool sizeIsUsable(const Ui::MainWindow &ui);
+/// Why no export of this range or with these sizes begins, in the user's words: fewer than three
+/// frames, or a size field that does not begin with a number other than 0. None when one may.
+std::optional<QString> refusal(const AppDelegate &controller);
 
 /// Marks an export as under way for as long as it lives.
 class ExportMark {

@@ -26,14 +26,11 @@ void AppDelegate::OnGIFExport(QObject *) {
         return;
     const ExportMark mark(exporting);
     finishEditingGIFSize();
-    if (rangeIsTooShort(trim.uFirstFrame(), trim.uLastFrame())) {
-        RunAlert(errorTitle, texts.s_IDD_LOW_FRAME_NUMBER());
-        return;
-    }
-    exporting.setI_Orig_Duration_in_Seconds(
-        expectedDuration(trim.uFirstFrame(), trim.uLastFrame(), recording.u_Record_Current_FPS()));
-    if (!sizeIsUsable(*ui)) {
-        RunAlert(errorTitle, texts.s_IDD_INVALID_DIMENSION());
+    if (!rangeIsTooShort(trim.uFirstFrame(), trim.uLastFrame()))
+        exporting.setI_Orig_Duration_in_Seconds(expectedDuration(
+            trim.uFirstFrame(), trim.uLastFrame(), recording.u_Record_Current_FPS()));
+    if (const std::optional<QString> reason = refusal(*this)) {
+        RunAlert(errorTitle, *reason);
         return;
     }
     ShowStatus({});

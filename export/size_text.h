@@ -15,4 +15,5 @@ enum class SizeTextProblem {
     TooLarge, ///< More pixels a side than the GIF format can hold.
 };
 
+/// The first of these that holds; none for what both will take.
 SizeTextProblem sizeTextProblem(QStringView text);

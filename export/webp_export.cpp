@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
 #include "app/working_folders.h"
-#include "export/duration.h"
 #include "export/encoder_arguments.h"
 #include "export/export_checks.h"
 #include "export/save_request.h"
@@ -38,12 +37,8 @@ void AppDelegate::Generate_WebP(QObject *) {
         return;
     const ExportMark mark(exporting);
     finishEditingGIFSize();
-    if (rangeIsTooShort(trim.uFirstFrame(), trim.uLastFrame())) {
-        RunAlert(errorTitle, texts.s_IDD_LOW_FRAME_NUMBER());
-        return;
-    }
-    if (!sizeIsUsable(*ui)) {
-        RunAlert(errorTitle, texts.s_IDD_INVALID_DIMENSION());
+    if (const std::optional<QString> reason = refusal(*this)) {
+        RunAlert(errorTitle, *reason);
         return;
     }
     RemoveAllContentInFolder(shell.s_Export_Folder());

@@ -85,6 +85,10 @@ QRegion ImageScaler::affected(const QRegion &region, QSize image, QSize pixels) 
     return result.intersected(QRect(QPoint(), pixels));
 }
 
+QPointF ImageScaler::onGrid(QPointF corner, double ratio) {
+    return {std::round(corner.x() * ratio) / ratio, std::round(corner.y() * ratio) / ratio};
+}
+
 /// Interpolation looks at four pixels only: below one half it would pass over whole lines.
 QImage ImageScaler::shrunkNear(const QImage &picture, QSize size, const QRegion &changed) {
     QImage nearest = picture;

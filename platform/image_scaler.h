@@ -6,6 +6,7 @@
 #include "platform/image_reader.h"
 
 #include <QImage>
+#include <QPointF>
 #include <QRegion>
 #include <QSize>
 
@@ -32,6 +33,10 @@ public:
     /// Where a result of the size `pixels` changes (device pixels) when the image that it was
     /// scaled from, which has the size `image`, changes within `region`.
     static QRegion affected(const QRegion &region, QSize image, QSize pixels);
+
+    /// The place nearest to `corner` (points) on the grid of a screen with `ratio` pixels to a
+    /// point: a picture of whole pixels that is painted elsewhere is scaled once more.
+    static QPointF onGrid(QPointF corner, double ratio);
 
 private:
     void paint(const QImage &picture, const QRegion &where, bool overBlack);

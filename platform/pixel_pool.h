@@ -22,6 +22,7 @@ public:
     /// it.
     static constexpr std::size_t mostIdle = 2;
 
+    /// A pool that lives as long as its owners and its pictures.
     static std::shared_ptr<PixelPool> create();
     ~PixelPool();
     PixelPool(const PixelPool &) = delete;

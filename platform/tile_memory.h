@@ -26,8 +26,9 @@ public:
     TileMemory(const TileMemory &) = delete;
     TileMemory &operator=(const TileMemory &) = delete;
 
-    /// Null when memory has run out.
+    /// A block of `blockBytes` with anything in it; null when memory has run out.
     std::uint32_t *take();
+    /// Takes back a block that this object gave out.
     void giveBack(std::uint32_t *block);
 
     /// Gives up what was touched ahead, until somebody asks again.

@@ -15,8 +15,8 @@
 #include <vector>
 
 /// Keeps pictures for long: as tiles that are shared with the picture before wherever nothing
-/// changed, and compressed afterwards, by a thread of low priority. The
-/// pixels stay exact. It may end before the pictures that it made.
+/// changed, and compressed afterwards, by a thread of low priority. The pixels stay exact. It may
+/// end before the pictures that it made.
 class TileStore {
 public:
     TileStore();

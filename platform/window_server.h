@@ -49,6 +49,7 @@ class WindowServer {
 public:
     virtual ~WindowServer() = default;
 
+    /// The same as long as the server lives.
     virtual WindowServerCapabilities capabilities() const = 0;
 
     /// Why this server cannot record, in one sentence for the user; empty when it can.

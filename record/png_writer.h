@@ -30,10 +30,10 @@ struct FrameFormat {
 /// The rows of `frame` in the format's size, 32 bits a pixel: premultiplied with alpha, else with
 /// bytes of any value in its place. A picture of another size is put into the upper left corner
 /// over black, and what is transparent stands over black where the format has no alpha. Null when
-/// there is no memory for it.
-/// To be let go before `reader` reads again.
+/// there is no memory for it. To be let go before `reader` reads again.
 QImage rowsOf(const Image &frame, const FrameFormat &format, ImageReader &reader);
 
+/// How many bands a picture of this format has, from the top down.
 int bandCount(const FrameFormat &format);
 
 /// Where the band `band` stands in the picture.
@@ -54,6 +54,7 @@ public:
     /// Throws std::bad_alloc, as `write` does.
     explicit PngBandWriter(const FrameFormat &format);
 
+    /// The band `band` of a picture, whose `rows` are as `rowsOf` gives them.
     std::shared_ptr<const PngBand> write(const QImage &rows, int band);
 
 private:
@@ -68,6 +69,7 @@ private:
 /// The whole file, in parts that follow one another.
 class PngFile {
 public:
+    /// `bands` are all of the picture's, from the top down.
     PngFile(const PngBands &bands, const FrameFormat &format);
 
     /// Valid as long as this object.

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
+#include "app/commands.h"
 #include "platform/window_server.h"
 #include "record/measured_rate.h"
 #include "record/window_list.h"
@@ -9,11 +10,6 @@
 namespace {
 
 constexpr double oneSecond = 1.0;
-
-void enable(QAbstractButton *button, QAction *item, bool enabled) {
-    button->setEnabled(enabled);
-    item->setEnabled(enabled);
-}
 
 RecordingClock::TimePoint now() { return std::chrono::steady_clock::now(); }
 
@@ -50,7 +46,7 @@ void AppDelegate::connectRecordControls() {
 
 void AppDelegate::prepareRecordTab() {
     ui->viewRecordPreview->showReason(windowServer().reason());
-    enable(ui->btnRecordRecord, ui->menuitemActionRecordRecord, mayRecord());
+    enableCommand(ui->btnRecordRecord, ui->menuitemActionRecordRecord, mayRecord());
     showCaptureMode();
     showRecordingState();
 }
@@ -72,12 +68,12 @@ void AppDelegate::OnRecordRecord(QObject *) {
         recording.growth = 0;
         recording.heldBefore = recording.store.bytesHeld();
     }
-    enable(ui->btnRecordFullScreen, ui->menuitemActionRecordFullScreen, false);
-    enable(ui->btnRecordRegion, ui->menuitemActionRecordRegion, false);
-    enable(ui->btnRecordRecord, ui->menuitemActionRecordRecord, false);
-    enable(ui->btnRecordPause, ui->menuitemActionRecordPause, true);
-    enable(ui->btnRecordStop, ui->menuitemActionRecordStop, true);
-    enable(ui->btnRecordFPS, ui->menuitemActionRecordFPS, false);
+    enableCommand(ui->btnRecordFullScreen, ui->menuitemActionRecordFullScreen, false);
+    enableCommand(ui->btnRecordRegion, ui->menuitemActionRecordRegion, false);
+    enableCommand(ui->btnRecordRecord, ui->menuitemActionRecordRecord, false);
+    enableCommand(ui->btnRecordPause, ui->menuitemActionRecordPause, true);
+    enableCommand(ui->btnRecordStop, ui->menuitemActionRecordStop, true);
+    enableCommand(ui->btnRecordFPS, ui->menuitemActionRecordFPS, false);
     recording.setM_RecordStatus(RECORD_STATUS_RECORD);
     recording.clock.run(now());
     showRecordingState();
@@ -86,9 +82,9 @@ void AppDelegate::OnRecordRecord(QObject *) {
 void AppDelegate::OnRecordPause(QObject *) {
     recording.setM_RecordStatus(RECORD_STATUS_PAUSE);
     recording.clock.hold(now());
-    enable(ui->btnRecordRecord, ui->menuitemActionRecordRecord, mayRecord());
-    enable(ui->btnRecordPause, ui->menuitemActionRecordPause, false);
-    enable(ui->btnRecordStop, ui->menuitemActionRecordStop, true);
+    enableCommand(ui->btnRecordRecord, ui->menuitemActionRecordRecord, mayRecord());
+    enableCommand(ui->btnRecordPause, ui->menuitemActionRecordPause, false);
+    enableCommand(ui->btnRecordStop, ui->menuitemActionRecordStop, true);
     showRecordingState();
 }
 
@@ -97,13 +93,13 @@ void AppDelegate::OnRecordStop(QObject *) {
     if (isSavingRecording())
         return;
     recording.clock.hold(now());
-    enable(ui->btnRecordFullScreen, ui->menuitemActionRecordFullScreen, true);
-    enable(ui->btnRecordRegion, ui->menuitemActionRecordRegion, true);
+    enableCommand(ui->btnRecordFullScreen, ui->menuitemActionRecordFullScreen, true);
+    enableCommand(ui->btnRecordRegion, ui->menuitemActionRecordRegion, true);
     // Not before the save has ended: a new recording empties store and folder.
-    enable(ui->btnRecordRecord, ui->menuitemActionRecordRecord, false);
-    enable(ui->btnRecordPause, ui->menuitemActionRecordPause, false);
-    enable(ui->btnRecordStop, ui->menuitemActionRecordStop, false);
-    enable(ui->btnRecordFPS, ui->menuitemActionRecordFPS, true);
+    enableCommand(ui->btnRecordRecord, ui->menuitemActionRecordRecord, false);
+    enableCommand(ui->btnRecordPause, ui->menuitemActionRecordPause, false);
+    enableCommand(ui->btnRecordStop, ui->menuitemActionRecordStop, false);
+    enableCommand(ui->btnRecordFPS, ui->menuitemActionRecordFPS, true);
     recording.setM_RecordStatus(RECORD_STATUS_STOP);
     const std::uint64_t rate = measuredRate(recordingCounts());
     recording.setU_FPS(rate);
@@ -114,7 +110,7 @@ void AppDelegate::OnRecordStop(QObject *) {
 }
 
 void AppDelegate::recordingSaved() {
-    enable(ui->btnRecordRecord, ui->menuitemActionRecordRecord, mayRecord());
+    enableCommand(ui->btnRecordRecord, ui->menuitemActionRecordRecord, mayRecord());
 }
 
 RecordingCounts AppDelegate::recordingCounts() const {

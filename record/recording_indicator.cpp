@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "record/recording_indicator.h"
 
+#include "app/palette_icon.h"
 #include "record/recording_fields.h"
 
 #include <QPainter>
@@ -11,7 +12,6 @@ namespace {
 constexpr int edge = 6;      // points to the left and right of the whole
 constexpr int signSize = 12; // points
 constexpr int signGap = 6;   // points between sign and words
-constexpr QColor recordingRed(0xe5, 0x48, 0x4d);
 
 } // namespace
 
@@ -44,7 +44,7 @@ void RecordingIndicator::paintEvent(QPaintEvent *event) {
     painter.setPen(Qt::NoPen);
     const QRectF sign(edge, (height() - signSize) / 2.0, signSize, signSize);
     if (state_ == RECORD_STATUS_RECORD) {
-        painter.setBrush(recordingRed);
+        painter.setBrush(recordRed);
         painter.drawEllipse(sign);
         return;
     }

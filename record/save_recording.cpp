@@ -1,20 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
+#include "app/commands.h"
 #include "app/tab_view.h"
+#include "app/tabs.h"
 #include "app/working_folders.h"
 #include "record/frame_saver.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>
 #include <QDir>
-
-namespace {
-
-constexpr int cutTabIndex = 1;
-const QString cutTab = QStringLiteral("2");
-
-} // namespace
 
 bool AppDelegate::isSavingRecording() const { return frameSaver_ != nullptr; }
 
@@ -46,8 +41,7 @@ void AppDelegate::OnSaveAgain(QObject *) {
     // All of it anew: what was written need no longer be there, and takes room meanwhile.
     RemoveAllContentInFolder(shell.s_Output_Folder());
     ui->btnSaveAgain->hide();
-    ui->btnRecordRecord->setEnabled(false);
-    ui->menuitemActionRecordRecord->setEnabled(false);
+    enableCommand(ui->btnRecordRecord, ui->menuitemActionRecordRecord, false);
     saveRecording();
 }
 
@@ -61,10 +55,10 @@ void AppDelegate::frameReported(std::uint64_t done) {
     closeProgressSheet();
     recordingSaved();
     showSaveResult(*saver);
-    if (shell.tabviewMain()->selectedIndex() == cutTabIndex)
-        tabViewDidSelectTabViewItem(cutTab);
+    if (shell.tabviewMain()->selectedIndex() == tabs::cut)
+        tabViewDidSelectTabViewItem(TabView::identifierOf(tabs::cut));
     else
-        shell.tabviewMain()->selectTabViewItemAtIndex(cutTabIndex);
+        shell.tabviewMain()->selectTabViewItemAtIndex(tabs::cut);
 }
 
 void AppDelegate::showSaveResult(const FrameSaver &saver) {

@@ -13,7 +13,6 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
-#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -129,12 +128,10 @@ QSize View_Record_Preview::pixelsShown() const {
     return (QSizeF(frame_.width, frame_.height) * devicePixelRatioF()).toSize().expandedTo({1, 1});
 }
 
-/// On the grid of the screen's pixels: elsewhere the painter would have to scale once more. The
-/// fitting frame counts from the lower left corner of the view, painting from the upper one.
+/// The fitting frame counts from the lower left corner of the view, painting from the upper one.
 QPointF View_Record_Preview::corner() const {
-    const double ratio = devicePixelRatioF();
-    const double top = height() - frame_.y - frame_.height;
-    return {std::round(frame_.x * ratio) / ratio, std::round(top * ratio) / ratio};
+    return ImageScaler::onGrid({frame_.x, height() - frame_.y - frame_.height},
+                               devicePixelRatioF());
 }
 
 /// Where in the view the shown picture changes with these of its pixels.

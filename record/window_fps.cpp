@@ -4,7 +4,7 @@
 
 #include "app/app_delegate.h"
 #include "app/mnemonics.h"
-#include "record/measured_rate.h"
+#include "record/rate_list.h"
 #include "ui_Window_FPS.h"
 
 #include <QMainWindow>
@@ -21,11 +21,7 @@ QLabel *Window_FPS::labelFPS() const { return ui_->labelFPS; }
 QLabel *Window_FPS::labelNote() const { return ui_->labelNote; }
 
 void Window_FPS::windowDidLoad() {
-    for (std::uint64_t rate = lowestRate; rate <= highestRate; ++rate)
-        ui_->comboScreenFPS->addItem(QString::number(rate));
-    const std::uint64_t current = appDelegate()->recording.u_FPS();
-    const bool listed = current >= lowestRate && current <= highestRate;
-    ui_->comboScreenFPS->setCurrentIndex(listed ? static_cast<int>(current - lowestRate) : 0);
+    fillRates(*ui_->comboScreenFPS, appDelegate()->recording.u_FPS());
     const InterfaceStrings &texts = appDelegate()->texts;
     ui_->labelFPS->setText(texts.s_IDD_FPS());
     ui_->labelNote->setText(texts.s_IDD_NOTE());

@@ -16,6 +16,14 @@ QString wholePair(double first, double second, char separator) {
     return QString::fromLatin1(text);
 }
 
+/// The entry as text, every key and value.
+QString entryText(const WindowEntry &entry) {
+    QString text;
+    for (auto field = entry.cbegin(); field != entry.cend(); ++field)
+        text += field.key() + QStringLiteral(" = ") + field.value().toString() + QChar::LineFeed;
+    return text;
+}
+
 } // namespace
 
 void WindowListApplierFunction(const WindowDescription &description, WindowListApplierData &walk) {
@@ -33,13 +41,6 @@ void WindowListApplierFunction(const WindowDescription &description, WindowListA
     entry[kWindowOrderKey] = walk.order();
     walk.setOrder(walk.order() + 1);
     walk.outputArray().push_back(std::move(entry));
-}
-
-QString entryText(const WindowEntry &entry) {
-    QString text;
-    for (auto field = entry.cbegin(); field != entry.cend(); ++field)
-        text += field.key() + QStringLiteral(" = ") + field.value().toString() + QChar::LineFeed;
-    return text;
 }
 
 bool isOwnWindow(const WindowEntry &entry) { return entryText(entry).contains(programName); }

@@ -11,8 +11,5 @@
 /// gets none, and the next one takes its place in the order.
 void WindowListApplierFunction(const WindowDescription &description, WindowListApplierData &walk);
 
-/// The entry as text, every key and value.
-QString entryText(const WindowEntry &entry);
-
-/// Whether the entry is a window of this program: its text names the program.
+/// Whether the entry is a window of this program: one of its keys or values names the program.
 bool isOwnWindow(const WindowEntry &entry);

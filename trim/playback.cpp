@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
+#include "app/commands.h"
 #include "trim/range_rules.h"
 #include "trim/view_cut_preview.h"
 #include "trim/view_cut_range.h"
@@ -13,18 +14,6 @@
 namespace {
 
 constexpr int secondsDecimals = 2; // a frame at 60 per second still counts
-
-/// A button and the menu item that mirrors it.
-void enable(QAbstractButton &button, QAction &item, bool on) {
-    button.setEnabled(on);
-    item.setEnabled(on);
-}
-
-void enableCommands(const Ui::MainWindow &ui, bool play, bool pause, bool stop) {
-    enable(*ui.btnCutPlay, *ui.menuitemActionCutPlay, play);
-    enable(*ui.btnCutPause, *ui.menuitemActionCutPause, pause);
-    enable(*ui.btnCutStop, *ui.menuitemActionCutStop, stop);
-}
 
 /// The rate that a recording is played at, in frames per second. One that was too short to be
 /// measured has the rate 0 and plays at 1.
@@ -64,8 +53,14 @@ void AppDelegate::connectTrimControls() {
     ui->viewCutRange->setAccessibleName(qtTrId("IDD_CUT_RANGE"));
 }
 
+void AppDelegate::enablePlayback(bool play, bool pause, bool stop) {
+    enableCommand(ui->btnCutPlay, ui->menuitemActionCutPlay, play);
+    enableCommand(ui->btnCutPause, ui->menuitemActionCutPause, pause);
+    enableCommand(ui->btnCutStop, ui->menuitemActionCutStop, stop);
+}
+
 void AppDelegate::OnCutPlay(QObject *) {
-    enableCommands(*ui, false, true, true);
+    enablePlayback(false, true, true);
     if (trim.m_PlayStatus() == PLAY_STATUS_STOP)
         trim.setUCurrentFrame(trim.uFirstFrame());
     trim.setM_PlayStatus(PLAY_STATUS_PLAY);
@@ -86,14 +81,14 @@ void AppDelegate::TimerRefreshPlayRoutine() {
 
 void AppDelegate::OnCutPause(QObject *) {
     trim.timerPlayRefresh.reset();
-    enableCommands(*ui, true, false, true);
+    enablePlayback(true, false, true);
     trim.setM_PlayStatus(PLAY_STATUS_PAUSE);
     ui->viewCutRange->update();
 }
 
 void AppDelegate::OnCutStop(QObject *) {
     trim.timerPlayRefresh.reset();
-    enableCommands(*ui, true, false, false);
+    enablePlayback(true, false, false);
     trim.setM_PlayStatus(PLAY_STATUS_STOP);
     ui->viewCutRange->update();
 }

@@ -9,8 +9,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-#include <cmath>
-
 namespace {
 
 constexpr int noVideoSize = 46; // points of the screen, which the toolkit calls pixels
@@ -65,15 +63,12 @@ void View_Cut_Preview::drawFrame(QPainter &painter) {
     const Image &frame = (*frames)[*number];
     const QRectF fit =
         delegate.return_Best_Fit_Frame(frame.width(), frame.height(), width(), height());
-    // The picture is scaled to whole pixels of the screen and painted on their grid: anything else
-    // would have the painter scale it once more.
     const double ratio = devicePixelRatioF();
     const QSize pixels = (fit.size() * ratio).toSize();
     if (pixels.isEmpty())
         return;
     // The fitting rectangle counts from the lower left corner, painting from the upper one.
-    const double top = height() - fit.y() - fit.height();
-    const QPointF corner(std::round(fit.x() * ratio) / ratio, std::round(top * ratio) / ratio);
+    const QPointF corner = ImageScaler::onGrid({fit.x(), height() - fit.y() - fit.height()}, ratio);
     const bool moving = delegate.trim.m_PlayStatus() == PLAY_STATUS_PLAY;
     painter.drawImage(corner,
                       scaler_.scaled(frame, pixels, ratio,
