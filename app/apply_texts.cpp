@@ -14,83 +14,89 @@ void setToolTip(QAbstractButton &button, const QString &text) {
     button.setAccessibleName(text);
 }
 
+void nameMenus(const Ui::MainWindow &ui, const InterfaceStrings &texts, const QString &name) {
+    const QString blank = QStringLiteral(" ");
+    ui.menuApplication->setTitle(name);
+    ui.menuitemAbout->setText(texts.s_IDD_ABOUT() + blank + name);
+    ui.menuitemQuit->setText(texts.s_IDD_QUIT() + blank + name);
+    ui.menuTab->setTitle(qtTrId("IDD_MENU_TAB"));
+    ui.menuitemTabRecord->setText(texts.s_IDD_RECORD());
+    ui.menuitemTabCut->setText(texts.s_IDD_CUT());
+    ui.menuitemTabGIF->setText(texts.s_IDD_SAVE());
+    // The text of IDD_HELP stands behind the name and need not serve alone in every language.
+    ui.menuHelp->setTitle(qtTrId("IDD_MENU_HELP"));
+    ui.menuitemHelp->setText(name + blank + texts.s_IDD_HELP());
+    ui.menuitemAppHomePage->setText(texts.s_IDD_APP_HOME_PAGE());
+    ui.menuitemCompanyHomePage->setText(texts.s_IDD_COMPANY_PAGE());
+    ui.menuitemPrivacyPolicy->setText(texts.s_IDD_PRIVACY_POLICY());
+    ui.menuitemSubmitTicket->setText(texts.s_IDD_SUBMIT_TICKET());
+
+    ui.menuAction->setTitle(qtTrId("IDD_MENU_ACTION"));
+    ui.submenuitemRecord->setTitle(texts.s_IDD_RECORD());
+    ui.submenuitemCut->setTitle(texts.s_IDD_CUT());
+    ui.submenuitemGIF->setTitle(texts.s_IDD_SAVE());
+}
+
+/// What a menu item does, and the button that does the same.
+void nameCommands(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
+    const struct {
+        QAction *item;
+        QAbstractButton *button;
+        const QString &text;
+    } commands[] = {
+        {ui.menuitemActionRecordFullScreen, ui.btnRecordFullScreen, texts.s_IDD_FULL_SCREEN()},
+        {ui.menuitemActionRecordRegion, ui.btnRecordRegion, texts.s_IDD_REGION()},
+        {ui.menuitemActionRecordFPS, ui.btnRecordFPS, texts.s_IDD_FPS()},
+        {ui.menuitemActionRecordRecord, ui.btnRecordRecord, texts.s_IDD_RECORD()},
+        {ui.menuitemActionRecordPause, ui.btnRecordPause, texts.s_IDD_PAUSE()},
+        {ui.menuitemActionRecordStop, ui.btnRecordStop, texts.s_IDD_STOP()},
+        {ui.menuitemActionCutPlay, ui.btnCutPlay, texts.s_IDD_PLAY()},
+        {ui.menuitemActionCutPause, ui.btnCutPause, texts.s_IDD_PAUSE()},
+        {ui.menuitemActionCutStop, ui.btnCutStop, texts.s_IDD_STOP()},
+    };
+    for (const auto &[item, button, text] : commands) {
+        item->setText(text);
+        setToolTip(*button, text);
+    }
+    ui.menuitemActionGIFExport->setText(texts.s_IDD_GENERATE_GIF());
+    ui.btnGIFExport->setText(texts.s_IDD_GENERATE_GIF());
+    ui.btnGIFExport->setToolTip(texts.s_IDD_GENERATE_GIF());
+    ui.btnWebPGenerate->setText(qtTrId("IDD_GENERATE_WEBP"));
+    ui.btnWebPGenerate->setToolTip(qtTrId("IDD_GENERATE_WEBP_TIP"));
+    ui.btnSaveAgain->setText(qtTrId("IDD_SAVE_AGAIN"));
+}
+
+void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
+    ui.viewRecordPreview->setAccessibleName(qtTrId("IDD_RECORD_PREVIEW"));
+    ui.labelInstructions->setText(texts.s_IDD_INSTRUCTIONS());
+    ui.groupDimension->setTitle(qtTrId("IDD_GROUP_SIZE"));
+    ui.radioGIFOriginalDimension->setText(texts.s_IDD_RESOLUTION_EQUAL());
+    ui.radioGIFCustomDimension->setText(texts.s_IDD_RESOLUTION_CUSTOM());
+    ui.labelWidth->setText(texts.s_IDD_WIDTH());
+    ui.labelHeight->setText(texts.s_IDD_HEIGHT());
+    ui.textGIFWidth->setAccessibleName(texts.s_IDD_WIDTH());
+    ui.textGIFHeigth->setAccessibleName(texts.s_IDD_HEIGHT());
+    ui.checkGIFKeepAspectRatio->setText(texts.s_IDD_KEEP_ASPECT_RATIO());
+    ui.groupFPS->setTitle(qtTrId("IDD_GROUP_RATE"));
+    ui.radioGIFOriginalFPS->setText(texts.s_IDD_FPS_EQUAL());
+    ui.radioGIFCustomFPS->setText(texts.s_IDD_FORCE_FPS());
+    ui.labelFPS->setText(texts.s_IDD_FPS());
+    ui.comboGIFFPS->setAccessibleName(texts.s_IDD_FPS());
+    ui.labelNote->setText(texts.s_IDD_NOTE());
+    ui.labelWebPLoops->setText(qtTrId("IDD_WEBP_LOOPS"));
+    ui.labelWebPLoopsHint->setText(qtTrId("IDD_WEBP_LOOPS_HINT"));
+    ui.txtWebPLoops->setAccessibleName(qtTrId("IDD_WEBP_LOOPS"));
+}
+
 } // namespace
 
 void AppDelegate::applyTexts() {
-    const QString &name = shell.s_App_Name();
-    const QString blank = QStringLiteral(" ");
-    ui->menuitemAbout->setText(texts.s_IDD_ABOUT() + blank + name);
-    ui->menuitemQuit->setText(texts.s_IDD_QUIT() + blank + name);
-    ui->menuitemHelp->setText(name + blank + texts.s_IDD_HELP());
-
-    ui->menuitemAppHomePage->setText(texts.s_IDD_APP_HOME_PAGE());
-    ui->menuitemCompanyHomePage->setText(texts.s_IDD_COMPANY_PAGE());
-    ui->menuitemPrivacyPolicy->setText(texts.s_IDD_PRIVACY_POLICY());
-    ui->menuitemSubmitTicket->setText(texts.s_IDD_SUBMIT_TICKET());
-
-    ui->menuitemTabCut->setText(texts.s_IDD_CUT());
-    ui->menuitemTabRecord->setText(texts.s_IDD_RECORD());
-    ui->menuitemTabGIF->setText(texts.s_IDD_SAVE());
-
-    ui->menuitemActionRecordRecord->setText(texts.s_IDD_RECORD());
-    ui->menuitemActionRecordPause->setText(texts.s_IDD_PAUSE());
-    ui->menuitemActionRecordStop->setText(texts.s_IDD_STOP());
-    ui->submenuitemRecord->setTitle(texts.s_IDD_RECORD());
-    ui->submenuitemCut->setTitle(texts.s_IDD_CUT());
-    ui->submenuitemGIF->setTitle(texts.s_IDD_SAVE());
-    ui->menuitemActionCutPlay->setText(texts.s_IDD_PLAY());
-    ui->menuitemActionCutPause->setText(texts.s_IDD_PAUSE());
-    ui->menuitemActionCutStop->setText(texts.s_IDD_STOP());
-    ui->menuitemActionRecordFPS->setText(texts.s_IDD_FPS());
-    ui->menuitemActionRecordFullScreen->setText(texts.s_IDD_FULL_SCREEN());
-    ui->menuitemActionRecordRegion->setText(texts.s_IDD_REGION());
-    ui->menuitemActionGIFExport->setText(texts.s_IDD_GENERATE_GIF());
-
+    nameMenus(*ui, texts, shell.s_App_Name());
+    nameCommands(*ui, texts);
+    nameFields(*ui, texts);
     for (const QString &label : {texts.s_IDD_RECORD(), texts.s_IDD_CUT(), texts.s_IDD_SAVE()})
         shell.tabviewMain()->addTab(label);
-
-    setToolTip(*ui->btnRecordFullScreen, texts.s_IDD_FULL_SCREEN());
-    setToolTip(*ui->btnRecordRegion, texts.s_IDD_REGION());
-    setToolTip(*ui->btnRecordFPS, texts.s_IDD_FPS());
-    setToolTip(*ui->btnRecordRecord, texts.s_IDD_RECORD());
-    setToolTip(*ui->btnRecordPause, texts.s_IDD_PAUSE());
-    setToolTip(*ui->btnRecordStop, texts.s_IDD_STOP());
-    setToolTip(*ui->btnCutPlay, texts.s_IDD_PLAY());
-    setToolTip(*ui->btnCutPause, texts.s_IDD_PAUSE());
-    setToolTip(*ui->btnCutStop, texts.s_IDD_STOP());
-
-    ui->labelInstructions->setText(texts.s_IDD_INSTRUCTIONS());
-    ui->radioGIFOriginalDimension->setText(texts.s_IDD_RESOLUTION_EQUAL());
-    ui->radioGIFCustomDimension->setText(texts.s_IDD_RESOLUTION_CUSTOM());
-    ui->labelWidth->setText(texts.s_IDD_WIDTH());
-    ui->labelHeight->setText(texts.s_IDD_HEIGHT());
-    ui->checkGIFKeepAspectRatio->setText(texts.s_IDD_KEEP_ASPECT_RATIO());
-    ui->radioGIFOriginalFPS->setText(texts.s_IDD_FPS_EQUAL());
-    ui->radioGIFCustomFPS->setText(texts.s_IDD_FORCE_FPS());
-    ui->labelFPS->setText(texts.s_IDD_FPS());
-    ui->labelNote->setText(texts.s_IDD_NOTE());
-    ui->btnGIFExport->setToolTip(texts.s_IDD_GENERATE_GIF());
-    ui->btnGIFExport->setText(texts.s_IDD_GENERATE_GIF());
-
-    ui->menuApplication->setTitle(name);
-    ui->menuTab->setTitle(qtTrId("IDD_MENU_TAB"));
-    ui->menuAction->setTitle(qtTrId("IDD_MENU_ACTION"));
-    // The text of IDD_HELP stands behind the name and need not serve alone in every language.
-    ui->menuHelp->setTitle(qtTrId("IDD_MENU_HELP"));
-    ui->groupDimension->setTitle(qtTrId("IDD_GROUP_SIZE"));
-    ui->groupFPS->setTitle(qtTrId("IDD_GROUP_RATE"));
-    ui->textGIFWidth->setAccessibleName(texts.s_IDD_WIDTH());
-    ui->textGIFHeigth->setAccessibleName(texts.s_IDD_HEIGHT());
-    ui->comboGIFFPS->setAccessibleName(texts.s_IDD_FPS());
-    ui->labelWebPLoops->setText(qtTrId("IDD_WEBP_LOOPS"));
-    ui->labelWebPLoopsHint->setText(qtTrId("IDD_WEBP_LOOPS_HINT"));
-    ui->txtWebPLoops->setAccessibleName(qtTrId("IDD_WEBP_LOOPS"));
-    ui->btnWebPGenerate->setText(qtTrId("IDD_GENERATE_WEBP"));
-    ui->btnWebPGenerate->setToolTip(qtTrId("IDD_GENERATE_WEBP_TIP"));
-
-    ui->viewRecordPreview->setAccessibleName(qtTrId("IDD_RECORD_PREVIEW"));
-    ui->btnSaveAgain->setText(qtTrId("IDD_SAVE_AGAIN"));
-
+    // Chosen last: a letter depends on the texts around it.
     const QString taken =
         mnemonics::mark(*ui->menubar, *ui->tabBar, *ui->tabStack, *ui->btnSaveAgain);
     for (const QWidget *page : {ui->pageRecord, ui->pageCut, ui->pageGIF})

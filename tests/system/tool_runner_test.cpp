@@ -4,56 +4,9 @@
 #include "export_fixture.h"
 #include "record/window_progress.h"
 
-#include <signal.h>
-
 namespace {
 
-using Kind = ToolExit::Kind;
-
-class ToolRunner : public ExportTest {
-protected:
-    /// Both modes, after one another.
-    std::vector<ToolExit> runBoth(const QString &tool) {
-        std::vector<ToolExit> exits{controller.RunToolReadAllOutput(tool, {}).exit};
-        controller.showProgressSheet(QStringLiteral("a test"));
-        exits.push_back(controller.RunToolWithProgress(tool, {}));
-        EXPECT_TRUE(controller.exporting.terminated());
-        EXPECT_EQ(controller.exporting.windowProgress(), nullptr) << "the sheet is closed";
-        return exits;
-    }
-};
-
-TEST_F(ToolRunner, TellsHowARunEndedInBothModes) {
-    const QString notExecutable = folder.filePath(QStringLiteral("data"));
-    put(notExecutable, "no program");
-    const struct {
-        QString tool;
-        Kind kind;
-        int code;
-        const char *lines;
-    } cases[] = {
-        {{}, Kind::Missing, 0, ""},
-        {folder.filePath(QStringLiteral("gone")), Kind::NotStarted, 0, ""},
-        {notExecutable, Kind::NotStarted, 0, ""},
-        {standIn("exit 0"), Kind::Ended, 0, ""},
-        {standIn("echo why >&2; exit 3"), Kind::Ended, 3, "why"},
-        {standIn("echo last words >&2; kill -SEGV $$"), Kind::Crashed, SIGSEGV, "last words"},
-    };
-    for (const auto &[tool, kind, code, lines] : cases)
-        for (const ToolExit &exit : runBoth(tool)) {
-            EXPECT_EQ(exit.kind, kind) << tool.toStdString();
-            EXPECT_EQ(exit.code, code) << tool.toStdString();
-            EXPECT_EQ(exit.lastLines.toStdString(), lines);
-            EXPECT_EQ(exit.kind == Kind::NotStarted, !exit.reason.isEmpty());
-        }
-}
-
-TEST_F(ToolRunner, IsNotBlockedByMegabytesOnBothStreamsNorByAnEmptyInput) {
-    const QString tool = standIn("cat; yes | head -c 4000000; yes | head -c 4000000 >&2; exit 0");
-    for (const ToolExit &exit : runBoth(tool))
-        EXPECT_TRUE(exit.succeeded());
-    EXPECT_EQ(controller.RunToolReadAllOutput(tool, {}).text.size(), 8000000);
-}
+using ToolRunner = ExportTest;
 
 TEST_F(ToolRunner, PassesArgumentsUnchanged) {
     const QString tool = standIn("printf '<%s>' \"$@\"");

