@@ -118,6 +118,8 @@ public:
     void OnMenuActionCutPause();
     void OnMenuActionCutStop();
     void OnMenuActionGIFExport();
+    /// Opens the first help page, and says where it lies when nothing can show it.
+    void OnMenuHelp();
     void OnMenuHelpAppHomePage();
     void OnMenuHelpCompanyHomePage();
     void OnMenuHelpPrivacyPolicy();
@@ -132,8 +134,10 @@ public:
 
     // Telling the user (app/) -----------------------------------------------------------------
 
-    /// An application-modal alert with one button "Close"; returns when it is dismissed.
-    void RunAlert(const QString &messageText, const QString &informativeText);
+    /// An application-modal alert with one button "Close"; returns when it is dismissed. `detail`
+    /// is a text of its own beneath, for a path that somebody may want to copy.
+    void RunAlert(const QString &messageText, const QString &informativeText,
+                  const QString &detail = {});
     /// Shows `text` in the status line until the next one; an empty text clears it.
     void ShowStatus(const QString &text);
     /// Lets the main window's title and icon tell of a recording, for whoever sees only a task bar.
@@ -210,6 +214,8 @@ public:
     /// Moves the bar; values beyond its range show as empty or full, one that is not finite moves
     /// nothing. Without a sheet nothing happens.
     void setProgressValue(double value);
+    /// What stands in the bar; "%p" in it is the percentage, which stands there alone at first.
+    void setProgressText(const QString &format);
     /// Turns events other than the user's until the sheet is on screen, then paints it: for work
     /// that is about to block the main thread.
     void paintProgressSheet();

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/accessible_pictures.h"
+#include "app/accessible_roles.h"
 #include "app/app_delegate.h"
 #include "app/commands.h"
+#include "app/readable_tips.h"
 #include "app/screen_watcher.h"
 #include "app/settings.h"
 #include "app/tab_view.h"
@@ -26,7 +27,7 @@ constexpr double smallestHeight = 425; // points
 } // namespace
 
 void AppDelegate::awakeFromNib() {
-    installAccessiblePictures();
+    installAccessibleRoles();
     auto *mainWindow = new QMainWindow; // The process ends with it: see Terminate_App.
     mainWindow->setAttribute(Qt::WA_DeleteOnClose, false);
     ui->setupUi(mainWindow);
@@ -42,6 +43,7 @@ void AppDelegate::awakeFromNib() {
     mainWindow->setMinimumSize(windowWillResizeToSize({0, 0}).toSize());
     mainWindow->installEventFilter(this);
     applyIcons();
+    makeTipsReadable();
     connectShellControls();
     connectRecordControls();
     connectTrimControls();
@@ -57,7 +59,7 @@ void AppDelegate::connectShellControls() {
     on(ui->menuitemTabRecord, &AppDelegate::OnMenuTabRecord);
     on(ui->menuitemTabCut, &AppDelegate::OnMenuTabCut);
     on(ui->menuitemTabGIF, &AppDelegate::OnMenuTabGIF);
-    on(ui->menuitemHelp, &AppDelegate::OnMenuHelpAppHomePage);
+    on(ui->menuitemHelp, &AppDelegate::OnMenuHelp);
     on(ui->menuitemAppHomePage, &AppDelegate::OnMenuHelpAppHomePage);
     on(ui->menuitemCompanyHomePage, &AppDelegate::OnMenuHelpCompanyHomePage);
     on(ui->menuitemPrivacyPolicy, &AppDelegate::OnMenuHelpPrivacyPolicy);

@@ -51,7 +51,12 @@ void AppDelegate::connectExportControls() {
             if (edit->isModified())
                 (this->*action)(edit);
         });
-        connect(edit, &QLineEdit::textChanged, this, &AppDelegate::updateGIFDimensionHint);
+        connect(edit, &QLineEdit::textChanged, this, [this, edit] {
+            // Assistive technology sets a text without typing: it is an edit as well. Those of our
+            // own take this back.
+            edit->setModified(true);
+            updateGIFDimensionHint();
+        });
     };
     field(ui->textGIFWidth, &AppDelegate::OnGIFChangeWidth);
     field(ui->textGIFHeigth, &AppDelegate::OnGIFChangeHeigth);

@@ -36,6 +36,8 @@ void AppDelegate::OnGIFExport(QObject *) {
     ShowStatus({});
     RemoveAllContentInFolder(shell.s_Export_Folder());
     showProgressSheet(qtTrId("IDD_PROGRESS_GIF"));
+    // The two runs for the palette tell nothing and let nothing be painted.
+    setProgressText(qtTrId("IDD_PROGRESS_PALETTE"));
     paintProgressSheet();
     RemoveAllContentInFolder(shell.s_Pallete_Folder());
     // Somebody may have taken them away since the start.
@@ -80,6 +82,7 @@ std::optional<QString> AppDelegate::encodeGIF() {
     const QString width = ui->textGIFWidth->text();
     const QString height = ui->textGIFHeigth->text();
     const auto rate = static_cast<std::uint64_t>(ui->comboGIFFPS->currentIndex() + 1);
+    setProgressText(qtTrId("IDD_PROGRESS_PICTURES"));
     const ToolExit exit = RunToolWithProgress(
         tool, gifArguments(shell.s_Export_Folder(), palette, rate, width, height));
     if (exit.kind == ToolExit::Kind::Ended && exit.code != 0)

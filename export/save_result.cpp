@@ -72,5 +72,5 @@ void AppDelegate::saveResult(const SaveRequest &request) {
     if (!request.note.isEmpty())
         status += QLatin1Char(' ') + request.note;
     ShowStatus(status);
-    RunAlert(QStringLiteral("Success"), request.successText);
+    RunAlert(QStringLiteral("Success"), request.successText, status);
 }

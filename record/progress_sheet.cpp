@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QProgressBar>
 #include <QWindow>
 
 namespace {
@@ -35,6 +36,11 @@ void AppDelegate::setProgressRange(double minimum, double maximum) {
 void AppDelegate::setProgressValue(double value) {
     if (Window_Progress *sheet = exporting.windowProgress())
         sheet->setDoubleValue(value);
+}
+
+void AppDelegate::setProgressText(const QString &format) {
+    if (Window_Progress *sheet = exporting.windowProgress())
+        sheet->progressBar()->setFormat(format);
 }
 
 void AppDelegate::paintProgressSheet() {

@@ -6,9 +6,16 @@
 #include "ui_Window_Progress.h"
 
 #include <QCloseEvent>
+#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+
+namespace {
+
+constexpr float outlineStrength = 0.4f; // of the words' colour
+
+} // namespace
 
 Window_Progress::Window_Progress(QWidget &anchor, const QString &caption)
     // Without the frameless hint some window managers give a sheet a close button.
@@ -62,6 +69,16 @@ void Window_Progress::showValue() {
 void Window_Progress::place() {
     const QPoint middle = anchor_.mapToGlobal(QPoint(anchor_.width() / 2, anchor_.height()));
     move(middle.x() - width() / 2, middle.y());
+}
+
+void Window_Progress::paintEvent(QPaintEvent *event) {
+    QDialog::paintEvent(event);
+    // The window manager draws no frame, and a style's own is hard to see in dark colours.
+    QColor line = palette().color(QPalette::WindowText);
+    line.setAlphaF(outlineStrength);
+    QPainter painter(this);
+    painter.setPen(line);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void Window_Progress::closeEvent(QCloseEvent *event) { event->ignore(); }

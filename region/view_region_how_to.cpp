@@ -6,12 +6,14 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <array>
 
 namespace {
 
 constexpr QSize wholeSize(420, 190);          // points
-constexpr double regionWidth = 190;           // points
+constexpr int regionWidth = 190;              // points, at least
+constexpr int besideWords = 16;               // points between the region's words and its edges
 constexpr double regionHeight = 86;           // points
 constexpr double arrowLength = 22;            // points
 constexpr double arrowHead = 5;               // points
@@ -31,7 +33,15 @@ void drawArrow(QPainter &painter, const QPointF &from, double dx, double dy) {
 
 } // namespace
 
-QSize View_Region_How_To::sizeHint() const { return wholeSize; }
+/// As wide as the words in it need in this language and font.
+int View_Region_How_To::widthOfRegion() const {
+    const int words = fontMetrics().horizontalAdvance(qtTrId("IDD_REGION_HOW_TO_ACCEPT"));
+    return std::max(regionWidth, words + 2 * besideWords);
+}
+
+QSize View_Region_How_To::sizeHint() const {
+    return wholeSize + QSize(widthOfRegion() - regionWidth, 0);
+}
 
 void View_Region_How_To::paintEvent(QPaintEvent *) {
     QPainter painter(this);
@@ -42,7 +52,7 @@ void View_Region_How_To::paintEvent(QPaintEvent *) {
     painter.drawRoundedRect(screen, 6, 6);
 
     const auto squares =
-        region_geometry::initialSquares(regionWidth, regionHeight, width(), height());
+        region_geometry::initialSquares(widthOfRegion(), regionHeight, width(), height());
     const auto region = region_geometry::boundingRegion(squares);
     region_drawing::draw(painter, squares, region, height());
 

@@ -27,6 +27,8 @@ void Window_Region_How_It_Works::windowDidLoad() {
     ui_->checkDontShowAgain->setText(qtTrId("IDD_REGION_HOW_TO_AGAIN"));
     ui_->btnOK->setText(qtTrId("IDD_OK"));
     mnemonics::mark(*this);
+    // Where Return presses what has the focus, it must accept and not tick.
+    ui_->btnOK->setFocus();
     connect(ui_->btnOK, &QPushButton::clicked, this, &Window_Region_How_It_Works::OnOK);
 }
 

@@ -162,6 +162,10 @@
         <source>not found</source>
         <translation>not found</translation>
     </message>
+    <message id="IDD_HELP_NOT_OPENED">
+        <source>No program was found that shows the help pages. Open this file in a browser:</source>
+        <translation>No program was found that shows the help pages. Open this file in a browser:</translation>
+    </message>
     <message id="IDD_RECORD_PREVIEW">
         <source>Live preview</source>
         <translation>Live preview</translation>
@@ -245,8 +249,8 @@
         <translation>Full screen</translation>
     </message>
     <message id="IDD_MODE_REGION">
-        <source>Region %1 × %2 at %3, %4</source>
-        <translation>Region %1 × %2 at %3, %4</translation>
+        <source>Region %1 × %2 at %3,&#xa0;%4</source>
+        <translation>Region %1 × %2 at %3,&#xa0;%4</translation>
     </message>
     <message id="IDD_CAPTURE_RATE">
         <source>%1 fps</source>
@@ -346,6 +350,14 @@
     <message id="IDD_PROGRESS_GIF">
         <source>Making the GIF…</source>
         <translation>Making the GIF…</translation>
+    </message>
+    <message id="IDD_PROGRESS_PALETTE">
+        <source>Step 1 of 2: choosing the colours</source>
+        <translation>Step 1 of 2: choosing the colours</translation>
+    </message>
+    <message id="IDD_PROGRESS_PICTURES">
+        <source>Step 2 of 2: %p%</source>
+        <translation>Step 2 of 2: %p%</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
         <source>The program “%1” is missing: it was not found when Tovarel was started.</source>

@@ -162,6 +162,10 @@
         <source>not found</source>
         <translation>no encontrada</translation>
     </message>
+    <message id="IDD_HELP_NOT_OPENED">
+        <source>No program was found that shows the help pages. Open this file in a browser:</source>
+        <translation>No se encontró ningún programa que muestre las páginas de ayuda. Abra este archivo en un navegador:</translation>
+    </message>
     <message id="IDD_RECORD_PREVIEW">
         <source>Live preview</source>
         <translation>Vista previa en directo</translation>
@@ -245,8 +249,8 @@
         <translation>Pantalla completa</translation>
     </message>
     <message id="IDD_MODE_REGION">
-        <source>Region %1 × %2 at %3, %4</source>
-        <translation>Zona %1 × %2 en %3, %4</translation>
+        <source>Region %1 × %2 at %3,&#xa0;%4</source>
+        <translation>Zona %1 × %2 en %3,&#xa0;%4</translation>
     </message>
     <message id="IDD_CAPTURE_RATE">
         <source>%1 fps</source>
@@ -346,6 +350,14 @@
     <message id="IDD_PROGRESS_GIF">
         <source>Making the GIF…</source>
         <translation>Creando el GIF…</translation>
+    </message>
+    <message id="IDD_PROGRESS_PALETTE">
+        <source>Step 1 of 2: choosing the colours</source>
+        <translation>Paso 1 de 2: elección de los colores</translation>
+    </message>
+    <message id="IDD_PROGRESS_PICTURES">
+        <source>Step 2 of 2: %p%</source>
+        <translation>Paso 2 de 2: %p %</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
         <source>The program “%1” is missing: it was not found when Tovarel was started.</source>

@@ -162,6 +162,10 @@
         <source>not found</source>
         <translation>見つかりません</translation>
     </message>
+    <message id="IDD_HELP_NOT_OPENED">
+        <source>No program was found that shows the help pages. Open this file in a browser:</source>
+        <translation>ヘルプページを表示できるプログラムが見つかりません。次のファイルをブラウザーで開いてください:</translation>
+    </message>
     <message id="IDD_RECORD_PREVIEW">
         <source>Live preview</source>
         <translation>ライブプレビュー</translation>
@@ -245,8 +249,8 @@
         <translation>全画面</translation>
     </message>
     <message id="IDD_MODE_REGION">
-        <source>Region %1 × %2 at %3, %4</source>
-        <translation>範囲 %1 × %2（位置 %3, %4）</translation>
+        <source>Region %1 × %2 at %3,&#xa0;%4</source>
+        <translation>範囲 %1 × %2（位置 %3,&#xa0;%4）</translation>
     </message>
     <message id="IDD_CAPTURE_RATE">
         <source>%1 fps</source>
@@ -346,6 +350,14 @@
     <message id="IDD_PROGRESS_GIF">
         <source>Making the GIF…</source>
         <translation>GIF を作成しています…</translation>
+    </message>
+    <message id="IDD_PROGRESS_PALETTE">
+        <source>Step 1 of 2: choosing the colours</source>
+        <translation>1/2: 色を選んでいます</translation>
+    </message>
+    <message id="IDD_PROGRESS_PICTURES">
+        <source>Step 2 of 2: %p%</source>
+        <translation>2/2: %p%</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
         <source>The program “%1” is missing: it was not found when Tovarel was started.</source>

@@ -162,6 +162,10 @@
         <source>not found</source>
         <translation>未找到</translation>
     </message>
+    <message id="IDD_HELP_NOT_OPENED">
+        <source>No program was found that shows the help pages. Open this file in a browser:</source>
+        <translation>未找到可以显示帮助页面的程序。请在浏览器中打开此文件：</translation>
+    </message>
     <message id="IDD_RECORD_PREVIEW">
         <source>Live preview</source>
         <translation>实时预览</translation>
@@ -245,8 +249,8 @@
         <translation>全屏</translation>
     </message>
     <message id="IDD_MODE_REGION">
-        <source>Region %1 × %2 at %3, %4</source>
-        <translation>区域 %1 × %2，位于 %3, %4</translation>
+        <source>Region %1 × %2 at %3,&#xa0;%4</source>
+        <translation>区域 %1 × %2，位于 %3,&#xa0;%4</translation>
     </message>
     <message id="IDD_CAPTURE_RATE">
         <source>%1 fps</source>
@@ -346,6 +350,14 @@
     <message id="IDD_PROGRESS_GIF">
         <source>Making the GIF…</source>
         <translation>正在生成 GIF…</translation>
+    </message>
+    <message id="IDD_PROGRESS_PALETTE">
+        <source>Step 1 of 2: choosing the colours</source>
+        <translation>第 1 步，共 2 步：选择颜色</translation>
+    </message>
+    <message id="IDD_PROGRESS_PICTURES">
+        <source>Step 2 of 2: %p%</source>
+        <translation>第 2 步，共 2 步：%p%</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
         <source>The program “%1” is missing: it was not found when Tovarel was started.</source>

@@ -4,7 +4,7 @@
 leads through all that can be used, in the order in which it stands."""
 
 import case
-from driver import Program, act, atspi, has_state, is_enabled, wait_for
+from driver import Program, act, atspi, content, has_state, is_enabled, wait_for
 
 # What a user can do something with, as assistive technology knows it; the text of an alert can be
 # selected.
@@ -115,6 +115,36 @@ class Accessibility(case.Case):
         self.program.alert()
         self.check_named()
         self.assertEqual(self.focus(), ("push button", "Close"))
+
+    def test_about_the_overlay_and_the_progress_sheet(self):
+        self.program.end()
+        # Time to look at the sheet, while the events turn.
+        slow = self.stand_in('real "$@"; case "$*" in *paletteuse*) sleep 5;; esac')
+        self.program = Program(self.session, slow)
+        self.program.choose("Tovarel", "About Tovarel")
+        self.program.await_control("alert", "About Tovarel")
+        self.check_named()
+        self.program.press("Close")
+        self.program.wait_for("About to close", lambda: not self.program.find("alert"))
+        self.program.press("Region")
+        self.program.press("OK")
+        overlay = self.program.await_control("dialog", "Select a region")
+        self.program.wait_for("the corner in hand", lambda: overlay.get_description())
+        first = overlay.get_description()
+        self.session.xdotool("key", "Tab")
+        self.program.wait_for("another corner", lambda: overlay.get_description() != first)
+        self.session.xdotool("key", "Escape")
+        self.program.wait_for("the overlay to close",
+                              lambda: not self.program.find("dialog", "Select a region"))
+        self.program.record(1)
+        self.program.enter("GIF")
+        for role, control in (("radio button", "Custom size"), ("check box", "Keep aspect ratio")):
+            act(self.program.await_control(role, control))
+        # A text that nobody typed is an edit, too: the other field follows.
+        self.program.await_control("text", "Width").set_text_contents("400")
+        self.program.press("Generate GIF")
+        self.program.await_control("progress bar", "Making the GIF…")
+        self.assertEqual(content(self.program.await_control("text", "Height")), "300")
 
     def test_assistive_technology_switches_what_a_click_switches(self):
         self.program.record(1)

@@ -73,6 +73,12 @@ class Help(case.Case):
         finally:
             session.build = built
 
+    def test_without_a_browser_help_says_where_it_lies(self):
+        program = Program(self.session, {"PATH": str(self.session.folder / "nothing here")})
+        program.choose("Help", "Tovarel Help")
+        self.assertIn(str(self.session.build / "help" / "index.html"), program.dismiss_alert("Error"))
+        self.assertEqual(program.end(), 0)
+
     def test_about_says_which_version_and_which_tools(self):
         program = Program(self.session)
         program.choose("Tovarel", "About Tovarel")

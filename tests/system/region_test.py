@@ -259,7 +259,7 @@ class Region(case.Case):
                 self.session.xdotool("key", "Return")
                 self.await_no_overlay()
                 width, height = right - left - 1, top - bottom + 21
-                self.await_label(program, f"{width} × {height} at {left}, {900 - top - 11}")
+                self.await_label(program, f"{width} × {height} at {left},\u00a0{900 - top - 11}")
                 self.open_overlay(program, screen)
                 self.session.xdotool("key", "Escape")
                 self.await_no_overlay()

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/accessible_pictures.h"
+#include "app/accessible_roles.h"
 
 #include <QAccessibleWidget>
 #include <QWidget>
@@ -11,10 +11,13 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object) {
     const bool picture = className == QLatin1String("View_Record_Preview") ||
                          className == QLatin1String("View_Cut_Preview") ||
                          className == QLatin1String("View_Region_How_To");
-    return picture ? new QAccessibleWidget(qobject_cast<QWidget *>(object), QAccessible::Graphic)
-                   : nullptr;
+    const bool dialog = className == QLatin1String("Window_Transparent_Region");
+    if (!picture && !dialog)
+        return nullptr;
+    return new QAccessibleWidget(qobject_cast<QWidget *>(object),
+                                 picture ? QAccessible::Graphic : QAccessible::Dialog);
 }
 
 } // namespace
 
-void installAccessiblePictures() { QAccessible::installFactory(makeInterface); }
+void installAccessibleRoles() { QAccessible::installFactory(makeInterface); }

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/elided_label.h"
+
+#include <QPainter>
+#include <QStyle>
+
+void ElidedLabel::paintEvent(QPaintEvent *) {
+    QPainter painter(this);
+    const QRect area = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+    style()->drawItemText(&painter, area, static_cast<int>(alignment()), palette(), isEnabled(),
+                          fontMetrics().elidedText(text(), Qt::ElideRight, area.width()),
+                          foregroundRole());
+}

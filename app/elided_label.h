@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+
+/// One line of plain text that says with "…" where it had to be cut for want of room. Its `text`
+/// stays whole, also for assistive technology; a tool tip is up to the owner.
+class ElidedLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
