@@ -74,12 +74,40 @@ install_packages() {
         "${as_root[@]}" apt-get "${patience[@]}" install -y --no-install-recommends "${missing[@]}"
 }
 
+# tenths: of what the build tool says of its steps ("[12/123] ..."), a line for every tenth of them.
+tenths() {
+    awk -F '[][/]' '/^\[[0-9]+\/[0-9]+\]/ {
+        tenth = int($2 * 10 / $3)
+        if (tenth > told) { printf "  %d of %d steps\n", $2, $3; fflush(); told = tenth }
+    }'
+}
+
+# compile LOG COMMAND...: runs the build tool. On a terminal it shows itself how far it is, on one
+# line; elsewhere its output goes to the log, and a line for every tenth of it is shown.
+compile() {
+    local log=$logs/$1.log
+    shift
+    mkdir -p "$logs"
+    if [[ -t 1 ]]; then
+        "$@" </dev/null
+        return
+    fi
+    if ! "$@" </dev/null 2>&1 | tee "$log" | tenths; then
+        say "The last lines of $log:"
+        tail -n "$shown_on_failure" "$log" | sed 's/^/    /'
+        return 1
+    fi
+}
+
 # build PRESET [TARGET...]: configures once, then builds what changed of these, or of everything.
 build() {
-    local preset=$1
+    local preset=$1 began=$SECONDS outcome="done"
     shift
     if [[ ! -e build/$preset/build.ninja ]]; then
         step "configure-$preset" "Configuring ($preset)" cmake --preset "$preset"
     fi
-    step "build-$preset" "Building ($preset)" cmake --build --preset "$preset" ${1:+--target "$@"}
+    say "Building ($preset)"
+    compile "build-$preset" cmake --build --preset "$preset" ${1:+--target "$@"} || outcome=FAILED
+    say "Building ($preset) ... $outcome ($((SECONDS - began)) s)"
+    [[ $outcome == "done" ]]
 }
