@@ -3,7 +3,6 @@
 #include "app/accessible_roles.h"
 #include "app/app_delegate.h"
 #include "app/commands.h"
-#include "app/readable_tips.h"
 #include "app/screen_watcher.h"
 #include "app/settings.h"
 #include "app/tab_view.h"
@@ -43,7 +42,6 @@ void AppDelegate::awakeFromNib() {
     mainWindow->setMinimumSize(windowWillResizeToSize({0, 0}).toSize());
     mainWindow->installEventFilter(this);
     applyIcons();
-    makeTipsReadable();
     connectShellControls();
     connectRecordControls();
     connectTrimControls();

@@ -19,6 +19,7 @@ RegionTip::RegionTip(QWidget *parent)
     setPalette(QToolTip::palette());
     setForegroundRole(QPalette::ToolTipText);
     setBackgroundRole(QPalette::ToolTipBase);
+    setAutoFillBackground(true); // A window's ground is otherwise that of all windows.
     setFont(QToolTip::font());
     setMargin(textMargin);
     setFrameStyle(QFrame::Box | QFrame::Plain);
