@@ -25,12 +25,6 @@ namespace {
 constexpr qint64 longestAsking = 15000;     // milliseconds
 constexpr unsigned long betweenClaims = 50; // milliseconds
 
-QElapsedTimer started() {
-    QElapsedTimer timer;
-    timer.start();
-    return timer;
-}
-
 /// Tools inherit the standard input; a terminal there would stop them for reading from it in the
 /// background, or feed them keys that were meant for the shell.
 void detachStandardInput() {
@@ -49,6 +43,21 @@ void bringForward(QWidget &window) {
     bringToFront(window.winId());
 }
 
+/// Whether this process is the only one. If not, the first one has come forward, or keeps us
+/// waiting for too long: one that does not answer may be on its way out, its lock not yet given
+/// back.
+bool isOrBecomesFirst(SingleInstance &instance) {
+    QElapsedTimer asking;
+    asking.start();
+    while (!instance.isFirst() && !instance.askFirstToComeForward()) {
+        if (asking.hasExpired(longestAsking))
+            return false;
+        QThread::msleep(betweenClaims);
+        instance.claim();
+    }
+    return instance.isFirst();
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
@@ -65,14 +74,7 @@ int main(int argc, char **argv) {
     Application::setDesktopFileName(QStringLiteral("tovarel"));
 
     SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
-    // A first one that does not answer may be on its way out, its lock not yet given back.
-    for (QElapsedTimer asking = started(); !instance.isFirst() &&
-                                           !instance.askFirstToComeForward() &&
-                                           !asking.hasExpired(longestAsking);) {
-        QThread::msleep(betweenClaims);
-        instance.claim();
-    }
-    if (!instance.isFirst())
+    if (!isOrBecomesFirst(instance))
         return EXIT_SUCCESS;
 
     strings_table::install();

@@ -7,7 +7,7 @@
 #include "export/export_checks.h"
 #include "export/save_request.h"
 #include "export/staging.h"
-#include "export/tool_run.h"
+#include "export/tool_failure.h"
 #include "ui_MainWindow.h"
 
 #include <QFileInfo>

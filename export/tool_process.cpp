@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "export/tool_process.h"
 
+#include "export/tool_failure.h"
+
 #include <signal.h>
 #include <sys/prctl.h>
 #include <unistd.h>

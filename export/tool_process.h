@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "export/tool_failure.h"
+#include "export/tool_run.h"
 
 #include <QProcess>
 #include <QStringList>

@@ -2,7 +2,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "export/tool_failure.h"
+#include <QString>
+
+/// How a tool's run ended.
+struct ToolExit {
+    enum class Kind {
+        Missing,    ///< There is no such tool: its path is empty.
+        NotStarted, ///< The system refused; `reason` is its sentence.
+        Crashed,    ///< Ended by the signal `code`.
+        Ended,      ///< With the exit status `code`.
+    };
+    Kind kind = Kind::Missing;
+    int code = 0;
+    QString reason = {};
+    /// Last meaningful lines of what it wrote to its error output, for the user.
+    QString lastLines = {};
+
+    bool succeeded() const { return kind == Kind::Ended && code == 0; }
+};
 
 /// A tool's run that was waited for with the event loop at rest.
 struct ToolRun {

@@ -5,7 +5,7 @@
 #include "export/encoder_arguments.h"
 #include "export/export_checks.h"
 #include "export/save_request.h"
-#include "export/tool_run.h"
+#include "export/tool_failure.h"
 #include "ui_MainWindow.h"
 
 #include <QFile>

@@ -20,8 +20,6 @@ struct Screen {
     double height = 0;
     /// Pixels per point; any positive number.
     double ratio = 1;
-
-    bool operator==(const Screen &) const = default;
 };
 
 /// A rectangle in points from the screen's lower left corner, y upwards; (x, y) is its lower left

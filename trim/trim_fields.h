@@ -27,12 +27,13 @@ public:
     float f_Cut_Percent_Maior() const { return f_Cut_Percent_Maior_; }
     void setF_Cut_Percent_Maior(float percent) { f_Cut_Percent_Maior_ = percent; }
 
-    /// First frame number of the trimmed range; derived from the lower handle by the preview.
+    /// First frame number of the trimmed range; follows from the lower handle, see
+    /// `AppDelegate::updateTrimmedRange`.
     std::uint64_t uFirstFrame() const { return uFirstFrame_; }
     void setUFirstFrame(std::uint64_t frame) { uFirstFrame_ = frame; }
 
-    /// Frame number that the upper handle maps to, likewise derived. Playback stops short of it,
-    /// the exports include it.
+    /// Frame number that the upper handle maps to, likewise. Playback stops short of it, the exports
+    /// include it.
     std::uint64_t uLastFrame() const { return uLastFrame_; }
     void setULastFrame(std::uint64_t frame) { uLastFrame_ = frame; }
 

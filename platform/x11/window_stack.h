@@ -17,8 +17,6 @@ struct StackedWindow {
     int border = 0;
     bool mapped = false;
     bool overrideRedirect = false;
-
-    bool operator==(const StackedWindow &) const = default;
 };
 
 /// The stacking order of the root window's children, as told by the server's structure events. A
