@@ -5,6 +5,7 @@ from one test to the next, and no sanitizer's report overlooked."""
 
 import os
 import re
+import shutil
 import signal
 import unittest
 
@@ -52,7 +53,7 @@ class Case(unittest.TestCase):
         path = folder / "ffmpeg"
         path.unlink(missing_ok=True)
         if script is not None:
-            real = driver.shutil.which("ffmpeg", path=self.session.environment["PATH"])
+            real = shutil.which("ffmpeg", path=self.session.environment["PATH"])
             path.write_text("#!/bin/sh\n" + script.replace("real", real) + "\n")
             path.chmod(0o755)
         return {"PATH": f"{folder}:{self.session.environment['PATH']}"}

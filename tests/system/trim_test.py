@@ -41,16 +41,8 @@ class Trim(case.Case):
     def value(self, name):
         return int(self.handle(name).get_value_iface().get_current_value())
 
-    def test_trim_play_and_export(self):
-        inside = driver.in_picture(self.session.counter("--at", "60,80", "--rate", "5"))
-        self.program = program = Program(self.session)
-        program.record(5)
-        files = self.frame_files()
-        total = len(files)
-        self.assertGreaterEqual(total, 15)
-        wait_for("the whole recording to be kept", lambda: self.held() == (0, total - 1))
-
-        # The lower handle goes past the upper one: the two change places, and stay in order.
+    def let_the_handles_pass(self, total):
+        """The lower handle goes past the upper one: the two change places, and stay in order."""
         self.drag("Last frame", 0.5)
         wait_for("the upper handle in the middle", lambda: self.held()[1] < total - 1)
         self.drag("First frame", 0.8)
@@ -60,7 +52,9 @@ class Trim(case.Case):
         self.drag("First frame", 0.2)
         wait_for("the lower handle back", lambda: self.held()[0] < total // 2)
 
-        # The last press chose the lower handle: a key moves it by one frame, End past the other.
+    def move_by_keys_and_values(self, total):
+        """The last press chose the lower handle: a key moves it by one frame. Assistive technology
+        sets any frame, and no more than there are. All ends where it began: the kept range."""
         before = self.value("First frame")
         self.session.xdotool("key", "Right")
         wait_for("one frame on", lambda: self.value("First frame") == before + 1)
@@ -68,14 +62,15 @@ class Trim(case.Case):
         wait_for("and back", lambda: self.value("First frame") == before)
         first, last = self.held()
         self.assertEqual(first, before)
-        # Assistive technology sets any frame, and no more than there are.
         upper = self.handle("Last frame").get_value_iface()
         for asked, shown in ((last - 1, last - 1), (total + 99, total)):
             upper.set_current_value(asked)
             wait_for("the value", lambda shown=shown: self.value("Last frame") == shown)
         upper.set_current_value(last)
         wait_for("the last value", lambda: self.held() == (first, last))
+        return first, last
 
+    def play(self, program):
         program.press("Play")
         program.wait_for("playing", lambda: not program.enabled("Play"))
         self.session.xdotool("key", "Right")
@@ -86,6 +81,18 @@ class Trim(case.Case):
         program.press("Play")
         program.press("Stop")
         program.wait_for("the stop", lambda: not program.enabled("Stop"))
+
+    def test_trim_play_and_export(self):
+        inside = driver.in_picture(self.session.counter("--at", "60,80", "--rate", "5"))
+        self.program = program = Program(self.session)
+        program.record(5)
+        files = self.frame_files()
+        total = len(files)
+        self.assertGreaterEqual(total, 15)
+        wait_for("the whole recording to be kept", lambda: self.held() == (0, total - 1))
+        self.let_the_handles_pass(total)
+        first, last = self.move_by_keys_and_values(total)
+        self.play(program)
         self.assertEqual(self.held(), (first, last))
 
         program.enter("GIF")

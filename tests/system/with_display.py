@@ -10,7 +10,8 @@ import shlex
 import subprocess
 import sys
 
-import driver
+from session import Session
+from waiting import wait_for
 
 
 def main():
@@ -21,13 +22,13 @@ def main():
     parser.add_argument("--compositor", default="", help="a compositing manager to start first")
     parser.add_argument("command", nargs=argparse.REMAINDER)
     asked = parser.parse_args()
-    session = driver.Session(".", *map(int, asked.screen.split("x")))
+    session = Session(".", *map(int, asked.screen.split("x")))
     session.display_options = shlex.split(asked.server)
     session.with_window_manager = asked.window_manager
     with session:
         if asked.compositor:
             session.start("compositor", shlex.split(asked.compositor))
-            driver.wait_for("the compositing manager", session.composited)
+            wait_for("the compositing manager", session.composited)
         surroundings = {**os.environ, "TOVAREL_SERVER_PID": str(session.children[0].pid)}
         surroundings.pop("WAYLAND_DISPLAY", None)
         return subprocess.run(asked.command, env=surroundings, check=False).returncode
