@@ -3,6 +3,7 @@
 #include "export/options_area.h"
 
 #include <QEvent>
+#include <QScrollBar>
 
 bool OptionsArea::eventFilter(QObject *watched, QEvent *event) {
     if (watched == widget() && event->type() == QEvent::LayoutRequest)
@@ -17,6 +18,8 @@ void OptionsArea::resizeEvent(QResizeEvent *event) {
 
 void OptionsArea::fitHeight() {
     // Lines of text break otherwise in another width.
-    setMaximumHeight(widget()->hasHeightForWidth() ? widget()->heightForWidth(viewport()->width())
-                                                   : widget()->sizeHint().height());
+    const int options = widget()->hasHeightForWidth() ? widget()->heightForWidth(widget()->width())
+                                                      : widget()->sizeHint().height();
+    const bool wider = widget()->minimumSizeHint().width() > viewport()->width();
+    setMaximumHeight(options + (wider ? horizontalScrollBar()->sizeHint().height() : 0));
 }
