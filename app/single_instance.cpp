@@ -43,8 +43,8 @@ bool SingleInstance::askFirstToComeForward() const {
     socket.connectToServer(socketPath_);
     if (!socket.waitForConnected(patience))
         return false;
-    // The first instance hangs up once it has come forward.
-    return socket.state() == QLocalSocket::UnconnectedState || socket.waitForDisconnected(patience);
+    // One that ends meanwhile hangs up, too, but has not said anything.
+    return socket.bytesAvailable() > 0 || socket.waitForReadyRead(patience);
 }
 
 void SingleInstance::listen(std::function<void()> comeForward) {
@@ -58,6 +58,8 @@ void SingleInstance::listen(std::function<void()> comeForward) {
                          const std::unique_ptr<QLocalSocket> caller(
                              server_.nextPendingConnection());
                          comeForward();
+                         caller->write("1"); // That it was done is all there is to say.
+                         caller->flush();
                      });
     if (!server_.listen(socketPath_))
         qWarning("a second start cannot reach this one: %s", qUtf8Printable(server_.errorString()));

@@ -2,9 +2,29 @@
 // SPDX-License-Identifier: MIT
 #include "app/single_instance.h"
 
+#include <QLocalSocket>
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
+
+#include <future>
+#include <memory>
 
 TEST(SingleInstance, aFolderThatCannotBeUsedNeverKeepsTheProgramFromStarting) {
     const SingleInstance instance(QStringLiteral("/nonexistent/folder"));
     EXPECT_TRUE(instance.isFirst());
+}
+
+TEST(SingleInstance, aFirstOneThatEndsWhenItIsAskedHasNotComeForward) {
+    constexpr int patience = 10000; // milliseconds
+    const QTemporaryDir folder;
+    std::promise<bool> listens;
+    const std::future<void> dying = std::async(std::launch::async, [&] {
+        QLocalServer server;
+        listens.set_value(server.listen(folder.filePath(QStringLiteral("tovarel.socket"))));
+        server.waitForNewConnection(patience);
+        const std::unique_ptr<QLocalSocket> asked(server.nextPendingConnection());
+    });
+    ASSERT_TRUE(listens.get_future().get());
+    EXPECT_FALSE(SingleInstance(folder.path()).askFirstToComeForward());
 }
