@@ -64,12 +64,13 @@ void Connection::queryExtensions() {
                             &xcb_shape_id, &xcb_res_id, &xcb_shm_id})
         xcb_prefetch_extension_data(connection_, extension);
 
-    if (present(connection_, xcb_composite_id)) {
+    if (const auto *data = present(connection_, xcb_composite_id)) {
         // Named pixmaps came with 0.2.
         const auto version = reply<xcb_composite_query_version_reply>(
             xcb_composite_query_version(connection_, 0, 4));
         extensions_.composite =
             version && atLeast(version->major_version, version->minor_version, 0, 2);
+        extensions_.compositeRequest = data->major_opcode;
     }
     if (const auto *data = present(connection_, xcb_damage_id)) {
         const auto version =

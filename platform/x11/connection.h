@@ -29,9 +29,10 @@ struct Extensions {
     bool fixes = false;
     bool render = false;
     bool shape = false;
-    bool resources = false;     ///< version 1.2, which names processes
-    bool sharedMemory = false;  ///< MIT-SHM, if only for fetches
-    bool sharedPixmaps = false; ///< pixmaps whose pixels lie in shared memory
+    bool resources = false;            ///< version 1.2, which names processes
+    bool sharedMemory = false;         ///< MIT-SHM, if only for fetches
+    bool sharedPixmaps = false;        ///< pixmaps whose pixels lie in shared memory
+    std::uint8_t compositeRequest = 0; ///< the major opcode, which errors name
     std::uint8_t damageEvent = 0;
     std::uint8_t fixesEvent = 0;
     std::uint8_t shapeEvent = 0;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/desktop_model.h"
 
+#include "platform/regions.h"
+
 #include <xcb/composite.h>
 #include <xcb/xfixes.h>
 
@@ -68,15 +70,17 @@ void DesktopModel::readTree() {
         const auto geometry = connection_.reply<xcb_get_geometry_reply>(cookies[i].first);
         const auto attributes =
             connection_.reply<xcb_get_window_attributes_reply>(cookies[i].second);
-        if (!geometry || !attributes)
-            continue;
-        const int border = geometry->border_width;
-        stack_.add({.number = children[i],
-                    .outer = outerRect(geometry->x, geometry->y, geometry->width, geometry->height,
-                                       border),
-                    .border = border,
-                    .overrideRedirect = attributes->override_redirect != 0});
-        if (attributes->map_state != XCB_MAP_STATE_UNMAPPED)
+        StackedWindow window;
+        window.number = children[i];
+        if (geometry && attributes) {
+            window.border = geometry->border_width;
+            window.outer = outerRect(geometry->x, geometry->y, geometry->width, geometry->height,
+                                     window.border);
+            window.overrideRedirect = attributes->override_redirect != 0;
+        }
+        // Also one that is gone by now: until its end is told of, others may be placed above it.
+        stack_.add(window);
+        if (attributes && attributes->map_state != XCB_MAP_STATE_UNMAPPED)
             onMapped(children[i], true);
     }
     if (later)
@@ -224,13 +228,16 @@ void DesktopModel::onReparent(const xcb_reparent_notify_event_t &event) {
     // It comes with its place and without its size; unmapped, or a MapNotify follows.
     const auto geometry = connection_.reply<xcb_get_geometry_reply>(
         xcb_get_geometry(connection_.get(), event.window));
-    if (!geometry)
-        return;
-    const int border = geometry->border_width;
-    stack_.add({.number = event.window,
-                .outer = outerRect(event.x, event.y, geometry->width, geometry->height, border),
-                .border = border,
-                .overrideRedirect = event.override_redirect != 0});
+    StackedWindow window;
+    window.number = event.window;
+    window.overrideRedirect = event.override_redirect != 0;
+    if (geometry) {
+        window.border = geometry->border_width;
+        window.outer =
+            outerRect(event.x, event.y, geometry->width, geometry->height, window.border);
+    }
+    // Also one that is gone by now: until its end is told of, others may be placed above it.
+    stack_.add(window);
 }
 
 void DesktopModel::onProperty(const xcb_property_notify_event_t &event) {
@@ -328,7 +335,7 @@ QRegion DesktopModel::takeDamage(const LayerStack &layers) {
         const QRegion seen = layers.visible(i).intersected(pending.translated(inner));
         if (seen.isEmpty())
             continue;
-        damage += seen;
+        damage = united(damage, seen);
         pictures_.takeDamage(layer.window);
     }
     return damage;

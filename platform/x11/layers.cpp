@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/layers.h"
 
+#include "platform/regions.h"
+
 #include <algorithm>
 #include <unordered_map>
 #include <utility>
@@ -32,7 +34,7 @@ QRegion exchangedWithBlended(const LayerStack &after, std::span<const std::size_
     for (std::size_t front = 0; front < layers.size(); ++front)
         for (std::size_t back = front + 1; back < layers.size(); ++back)
             if (before[front] > before[back] && (layers[front].blended || layers[back].blended))
-                changed += after.visible(front).intersected(after.visible(back));
+                changed = united(changed, after.visible(front).intersected(after.visible(back)));
     return changed;
 }
 
@@ -51,10 +53,11 @@ QRegion changedBetween(const LayerStack &before, const LayerStack &after) {
     std::vector<std::size_t> places;
     std::vector<bool> stayed(before.layers().size(), false);
     std::size_t latest = 0;
+    const auto add = [&changed](const QRegion &part) { changed = united(changed, part); };
     for (std::size_t i = 0; i < after.layers().size(); ++i) {
         const auto found = placeBefore.find(after.layers()[i].window);
         if (found == placeBefore.end()) {
-            changed += after.visible(i);
+            add(after.visible(i));
             places.push_back(latest);
             continue;
         }
@@ -62,14 +65,14 @@ QRegion changedBetween(const LayerStack &before, const LayerStack &after) {
         places.push_back(latest);
         stayed[latest] = true;
         if (looksTheSame(before.layers()[latest], after.layers()[i]))
-            changed += before.visible(latest).xored(after.visible(i));
+            add(before.visible(latest).xored(after.visible(i)));
         else
-            changed += before.visible(latest).united(after.visible(i));
+            add(united(before.visible(latest), after.visible(i)));
     }
     for (std::size_t i = 0; i < stayed.size(); ++i)
         if (!stayed[i])
-            changed += before.visible(i);
-    return changed + exchangedWithBlended(after, places);
+            add(before.visible(i));
+    return united(changed, exchangedWithBlended(after, places));
 }
 
 } // namespace x11

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/picture_ring.h"
 
+#include "platform/regions.h"
+
 #include <algorithm>
 #include <cstring>
 #include <utility>
@@ -46,7 +48,7 @@ void PictureRing::resize(QSize size) {
 
 void PictureRing::invalidate(const QRegion &changed) {
     const auto add = [&changed](Turn &turn) {
-        turn.stale += changed;
+        turn.stale = united(turn.stale, changed);
         if (turn.stale.rectCount() > mostRectangles)
             turn.stale = turn.stale.boundingRect();
     };

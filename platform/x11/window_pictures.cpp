@@ -131,13 +131,18 @@ bool WindowPictures::onDamage(const xcb_damage_notify_event_t &event) {
 }
 
 bool WindowPictures::onError(const xcb_generic_error_t &error) {
+    if (error.major_code != connection_.extensions().compositeRequest ||
+        error.minor_code != XCB_COMPOSITE_NAME_WINDOW_PIXMAP)
+        return false;
     const auto failed = std::ranges::find_if(entries_, [&error](const auto &entry) {
         return entry.second.pixmap != 0 && entry.second.naming == error.full_sequence;
     });
-    if (failed == entries_.end())
-        return false;
-    release(failed->second);
-    failed->second.failed = true;
+    // Else the window's end was told of before, and is known already; it was not drawn all the
+    // same.
+    if (failed != entries_.end()) {
+        release(failed->second);
+        failed->second.failed = true;
+    }
     return true;
 }
 

@@ -39,7 +39,7 @@ public:
     /// Events and errors of the server. True when they change what is seen.
     bool onShape(const xcb_shape_notify_event_t &event);
     bool onDamage(const xcb_damage_notify_event_t &event);
-    bool onError(const xcb_generic_error_t &error);
+    bool onError(const xcb_generic_error_t &error); ///< true when some window could not be drawn
 
     /// Waits for what is still unknown of watched windows; costs nothing when all is known.
     void settle();

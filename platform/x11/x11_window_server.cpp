@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/x11_window_server.h"
 
+#include "platform/regions.h"
+
 #include <QCoreApplication>
 #include <QSocketNotifier>
 
@@ -115,6 +117,8 @@ std::optional<Image> X11WindowServer::composite(std::span<const std::uint32_t> n
 bool X11WindowServer::draw(x11::PictureRing::Turn &turn, const QRect &part, QRegion &changed) {
     for (int attempt = 0; attempt < mostAttempts; ++attempt) {
         const QRegion stale = turn.stale.intersected(part);
+        // Windows go on being drawn in: whatever is composed anew may show more than was told of.
+        changed = united(changed, stale);
         composer_.paint(turn.picture->picture(), layers_, stale);
         if (!turn.picture->update(stale))
             return false;
@@ -124,7 +128,7 @@ bool X11WindowServer::draw(x11::PictureRing::Turn &turn, const QRect &part, QReg
             return true;
         const QRegion more = findChanges();
         ring_.invalidate(more);
-        changed += more;
+        changed = united(changed, more);
     }
     // Not all of it could be drawn: the next grab starts afresh.
     if (turn.stale.intersects(part))
@@ -146,5 +150,5 @@ QRegion X11WindowServer::findChanges() {
         changed = x11::changedBetween(layers_, after);
         layers_ = std::move(after);
     }
-    return changed + model_.takeDamage(layers_);
+    return united(changed, model_.takeDamage(layers_));
 }

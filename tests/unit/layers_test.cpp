@@ -53,6 +53,25 @@ TEST(Layers, changeWhereTheyComeGoMoveOrShowAnotherPicture) {
         << "another desktop";
 }
 
+// Rectangles that lie so were once lost in the sum of changes.
+TEST(Layers, changeWhereverTheyCoverEachOtherInOneRow) {
+    const QRect wide(0, 0, 640, 400);
+    const Layer top = layer(1, {458, -43, 96, 221}), right = layer(2, {507, 115, 228, 182});
+    const Layer corner = layer(3, {599, 277, 176, 170}), back = layer(4, {448, 173, 194, 249});
+    const Layer ground = layer(5, wide);
+    const LayerStack before({top, right, back, ground}, wide),
+        after({right, corner, back, ground}, wide);
+    const auto changed = changedBetween(before, after);
+    const auto expected = [](int x, int y) {
+        return QRect(458, 0, 96, 178).contains(x, y) || QRect(599, 297, 41, 103).contains(x, y);
+    };
+    int wrong = 0;
+    for (int y = 0; y < wide.height(); ++y)
+        for (int x = 0; x < wide.width(); ++x)
+            wrong += changed.contains(QPoint(x, y)) != expected(x, y);
+    EXPECT_EQ(wrong, 0);
+}
+
 TEST(Layers, changeWhereTheyExchangePlaces) {
     const Layer a = layer(1, {0, 0, 20, 20}), b = layer(2, {10, 10, 20, 20});
     const Layer apart = layer(3, {50, 50, 10, 10});
