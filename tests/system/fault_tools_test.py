@@ -91,6 +91,24 @@ class FaultyTools(case.Case):
 
     def test_no_room_for_what_is_staged_or_written(self):
         self.start(self.stand_in(REAL))
+        # The disk fills up while an encoder is at work: what it began to write stays a part.
+        folders = [self.session.documents / name for name in ("PallomarPallete", "PallomarExport")]
+        for folder in folders:
+            subprocess.run(["mount", "-t", "tmpfs", "-o", "size=2m", "none", folder], check=True)
+        try:
+            for run in RUNS:
+                with self.subTest(f"run {run}"):
+                    self.stand_in(in_run(run, f"{LAST} cat /dev/zero >\"${{last%/*}}/ballast\";"))
+                    self.program.press("Generate GIF")
+                    self.check_refusal("ffmpeg", "space")
+                    for folder in folders:
+                        (folder / "ballast").unlink(missing_ok=True)
+            self.stand_in(REAL)
+            self.check_export()
+            self.target.unlink()
+        finally:
+            for folder in folders:
+                subprocess.run(["umount", folder], check=True)
         for name in ("PallomarPallete", "PallomarExport"):
             folder = self.session.documents / name
             # Two pages of a file system, its root among them.
