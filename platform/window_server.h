@@ -30,6 +30,9 @@ struct WindowDescription {
     /// The window's layer: 0 for ordinary windows, below 0 for the desktop's background, above for
     /// panels, menus and other windows that are kept on top.
     std::int32_t layer = 0;
+    /// It hides whatever lies behind it: no shape of its own, no transparency, and nobody at work
+    /// (a compositing manager) who may show windows through others or elsewhere.
+    bool opaque = false;
 };
 
 /// What a back end is able to do.

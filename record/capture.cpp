@@ -24,7 +24,8 @@ std::int32_t stackingOrder(const WindowEntry *entry) {
 void AppDelegate::updateWindowList() {
     WindowListApplierData walk;
     walk.initWindowListData({});
-    for (const WindowDescription &description : windowServer().listWindows())
+    capture.windowsOnScreen = windowServer().listWindows();
+    for (const WindowDescription &description : capture.windowsOnScreen)
         WindowListApplierFunction(description, walk);
     capture.arrayController = walk.outputArray();
     capture.windowListData = std::move(walk);

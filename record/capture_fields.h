@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/image.h"
+#include "platform/window_server.h"
 #include "record/window_entry.h"
 
 #include <QRect>
@@ -26,6 +27,9 @@ public:
     /// Area of the composite image; none stands for the infinite rectangle, the whole desktop.
     const std::optional<QRectF> &imageBounds() const { return imageBounds_; }
     void setImageBounds(const std::optional<QRectF> &bounds) { imageBounds_ = bounds; }
+
+    /// The windows on screen as of the latest tick, front to back.
+    std::vector<WindowDescription> windowsOnScreen;
 
     /// The latest on-screen window list, front to back.
     std::vector<WindowEntry> arrayController;

@@ -4,12 +4,14 @@
 
 #include "app/app_delegate.h"
 #include "record/grab_geometry.h"
+#include "record/window_list.h"
 #include "region/region_in_grab.h"
 
 #include <QCoreApplication>
 #include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -62,8 +64,13 @@ void View_Record_Preview::drawFrame() {
     }
     delegate->showCaptureMode();
     delegate->storeFrame();
+    // Behind other windows nobody sees it: it is painted once it comes into sight.
+    if (isCovered(delegate->capture.windowsOnScreen, placeOnDesktop())) {
+        staleBehindOthers_ = true;
+        return;
+    }
     const auto changes = shown_.changesSince(previous);
-    if (!changes || !sameFrame(frame_, before))
+    if (std::exchange(staleBehindOthers_, false) || !changes || !sameFrame(frame_, before))
         update();
     else if (!changes->isEmpty())
         update(shownPlaceOf(*changes));
@@ -122,6 +129,15 @@ void View_Record_Preview::paintEvent(QPaintEvent *event) {
         return;
     painter.drawImage(corner(), scaler_.scaled(shown_, pixelsShown(), devicePixelRatioF(),
                                                ImageScaler::Care::Quick));
+}
+
+/// In pixels, a little more rather than less. The toolkit keeps the screens' own origins.
+QRect View_Record_Preview::placeOnDesktop() const {
+    const QPointF origin = screen()->geometry().topLeft();
+    const QPointF corner = origin + (mapToGlobal(QPointF()) - origin) * devicePixelRatioF();
+    return QRectF(corner, QSizeF(size()) * devicePixelRatioF())
+        .toAlignedRect()
+        .adjusted(-1, -1, 1, 1);
 }
 
 QSize View_Record_Preview::pixelsShown() const {

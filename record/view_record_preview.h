@@ -57,6 +57,7 @@ private:
     void refreshGrab(AppDelegate &delegate);
     QPointF corner() const;
     QSize pixelsShown() const;
+    QRect placeOnDesktop() const;
     QRegion shownPlaceOf(const QRegion &changed) const;
 
     // What the last draw step settled.
@@ -69,6 +70,7 @@ private:
     Image cut_;
 
     ImageScaler scaler_;
+    bool staleBehindOthers_ = false; ///< changes were not painted
 
     QPointer<QWindow> watchedWindow_;
     /// Runs from a resize on whose exposure has not come yet.

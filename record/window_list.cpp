@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "record/window_list.h"
 
+#include <QRegion>
+
 #include <cstdio>
 
 namespace {
@@ -41,6 +43,19 @@ void WindowListApplierFunction(const WindowDescription &description, WindowListA
     entry[kWindowOrderKey] = walk.order();
     walk.setOrder(walk.order() + 1);
     walk.outputArray().push_back(std::move(entry));
+}
+
+bool isCovered(std::span<const WindowDescription> frontToBack, const QRect &place) {
+    QRegion seen = place;
+    for (const WindowDescription &window : frontToBack) {
+        if (window.ownerName == programName) {
+            if (window.bounds.intersects(place))
+                break;
+        } else if (window.opaque) {
+            seen -= window.bounds.toAlignedRect();
+        }
+    }
+    return seen.isEmpty();
 }
 
 bool isOwnWindow(const WindowEntry &entry) { return entryText(entry).contains(programName); }

@@ -162,11 +162,12 @@ void DesktopModel::handleExtension(const xcb_generic_event_t &event) {
     if (event.response_type == extensions.damageEvent + XCB_DAMAGE_NOTIFY) {
         changed_ = pictures_.onDamage(as<xcb_damage_notify_event_t>(event)) || changed_;
     } else if (event.response_type == extensions.shapeEvent + XCB_SHAPE_NOTIFY) {
-        changed_ = pictures_.onShape(as<xcb_shape_notify_event_t>(event)) || changed_;
+        if (pictures_.onShape(as<xcb_shape_notify_event_t>(event)))
+            stackChanged();
     } else if (event.response_type == extensions.fixesEvent + XCB_XFIXES_SELECTION_NOTIFY) {
         const auto &selection = as<xcb_xfixes_selection_notify_event_t>(event);
         compositingManager_ = selection.owner != XCB_NONE;
-        changed_ = true;
+        stackChanged();
     }
 }
 
@@ -286,6 +287,8 @@ WindowDescription DesktopModel::describe(const StackedWindow &window) const {
         description.ownerPid = owner->pid;
         description.layer = owner->layer;
     }
+    description.opaque = !compositingManager_ && !pictures_.hasAlpha(window.number) &&
+                         !pictures_.isShaped(window.number);
     // Frames bypass the window manager as well, being its own; menus have nobody who manages them.
     if (window.overrideRedirect && !owners_.isManaged(window.number))
         description.layer = popupLayer;

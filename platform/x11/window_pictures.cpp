@@ -156,6 +156,11 @@ bool WindowPictures::hasAlpha(xcb_window_t window) const {
     return entry && entry->format.hasAlpha;
 }
 
+bool WindowPictures::isShaped(xcb_window_t window) const {
+    const Entry *entry = find(window);
+    return entry && entry->shape;
+}
+
 std::uint64_t WindowPictures::generation(xcb_window_t window) const {
     const Entry *entry = find(window);
     return entry ? entry->generation : 0;

@@ -48,6 +48,7 @@ public:
     /// fail. As of the last `settle`.
     bool isShowable(xcb_window_t window) const;
     bool hasAlpha(xcb_window_t window) const;
+    bool isShaped(xcb_window_t window) const;
     /// Another number whenever the window shows another picture or another shape; 0 when it is not
     /// watched.
     std::uint64_t generation(xcb_window_t window) const;

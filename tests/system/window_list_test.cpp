@@ -70,6 +70,24 @@ TEST_F(WindowList, goesFrontToBackAndEndsWithTheBackground) {
     const auto order = numbers();
     EXPECT_LT(std::ranges::find(order, upper), std::ranges::find(order, lower));
 
+    const bool composited = client.compositingManagerRuns();
+    EXPECT_EQ(seenLower->opaque, !composited);
+    client.setShape(lower, {{0, 0, 50, 50}});
+    client.sync();
+    EXPECT_TRUE(eventually([&] { return !described(lower)->opaque; }));
+    const auto clear = client.show({.place = {0, 0, 50, 50}, .alpha = true}, 1);
+    client.sync();
+    ASSERT_TRUE(eventually([&] { return described(clear).has_value(); }));
+    EXPECT_FALSE(described(clear)->opaque);
+    if (!composited) {
+        client.actAsCompositingManager(true);
+        client.sync();
+        EXPECT_TRUE(eventually([&] { return !described(upper)->opaque; }));
+        client.actAsCompositingManager(false);
+        client.sync();
+        EXPECT_TRUE(eventually([&] { return described(upper)->opaque; }));
+    }
+
     client.restack(lower, XCB_STACK_MODE_ABOVE);
     client.sync();
     EXPECT_TRUE(eventually([&] { return numbers().front() == lower; }));

@@ -36,6 +36,46 @@ TEST_F(RecordPreview, storesOneFrameForEachTickPaintedOrNot) {
     EXPECT_EQ(stored(), 1u);
 }
 
+TEST_F(RecordPreview, isPaintedOnlyWhereSomebodyMaySeeIt) {
+    struct Paints : QObject {
+        int count = 0;
+        bool eventFilter(QObject *, QEvent *event) override {
+            count += event->type() == QEvent::Paint;
+            return false;
+        }
+    } paints;
+    view().installEventFilter(&paints);
+    const auto paintsOfATick = [&] {
+        paints.count = 0;
+        delegate->TimerRefreshVideoRoutine();
+        settle();
+        return paints.count;
+    };
+    auto change = [&, shade = 0]() mutable {
+        server->picture = plainImage({64, 48}, qRgb(++shade, 0, 0));
+    };
+    const QRectF everything(-5000, -5000, 20000, 20000);
+    const WindowDescription own{
+        .number = 1, .ownerName = QStringLiteral("Tovarel"), .bounds = everything};
+    const WindowDescription other{
+        .number = 2, .ownerName = QStringLiteral("Other"), .bounds = everything, .opaque = true};
+    WindowDescription translucent = other, small = other;
+    translucent.opaque = false;
+    small.bounds.setWidth(5001 + view().mapToGlobal(QPoint(10, 0)).x());
+    for (const auto &inFront : {translucent, small}) {
+        server->windows = {inFront, own, other};
+        change();
+        EXPECT_EQ(paintsOfATick(), 1);
+    }
+    server->windows = {other, own};
+    change();
+    EXPECT_EQ(paintsOfATick(), 0);
+    EXPECT_EQ(stored(), 3u);
+    server->windows = {own, other};
+    EXPECT_EQ(paintsOfATick(), 1) << "in sight again, with nothing new";
+    EXPECT_EQ(paintsOfATick(), 0);
+}
+
 TEST_F(RecordPreview, storesNothingWhenItIsOnlyPainted) {
     view().grab();
     window()->grab();
