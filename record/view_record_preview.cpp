@@ -64,15 +64,17 @@ void View_Record_Preview::drawFrame() {
     }
     delegate->showCaptureMode();
     delegate->storeFrame();
-    // Behind other windows nobody sees it: it is painted once it comes into sight.
-    if (isCovered(delegate->capture.windowsOnScreen, placeOnDesktop())) {
-        staleBehindOthers_ = true;
-        return;
-    }
     const auto changes = shown_.changesSince(previous);
-    if (std::exchange(staleBehindOthers_, false) || !changes || !sameFrame(frame_, before))
+    const bool whole = staleBehindOthers_ || !changes || !sameFrame(frame_, before);
+    if (!whole && changes->isEmpty())
+        return;
+    // Behind other windows nobody sees it: it is painted once it comes into sight.
+    staleBehindOthers_ = isCovered(delegate->capture.windowsOnScreen, placeOnDesktop());
+    if (staleBehindOthers_)
+        return;
+    if (whole)
         update();
-    else if (!changes->isEmpty())
+    else
         update(shownPlaceOf(*changes));
 }
 
