@@ -31,8 +31,9 @@ void RecordingIndicator::setState(std::uint64_t state) {
         return;
     state_ = state;
     if (state != RECORD_STATUS_STOP)
-        setText(state == RECORD_STATUS_RECORD ? qtTrId("IDD_STATE_RECORDING")
-                                              : qtTrId("IDD_STATE_PAUSED"));
+        setText(state == RECORD_STATUS_RECORD
+                    ? qtTrId("IDD_STATE_RECORDING")
+                    : qtTrId("IDD_PAUSED_HINT").arg(qtTrId("IDD_RECORD")));
     setVisible(state != RECORD_STATUS_STOP);
     update();
 }

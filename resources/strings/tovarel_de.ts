@@ -212,6 +212,10 @@
         <source>Paused</source>
         <translation>Angehalten</translation>
     </message>
+    <message id="IDD_PAUSED_HINT">
+        <source>Paused – press %1 to go on</source>
+        <translation>Angehalten – weiter mit „%1“</translation>
+    </message>
     <message id="IDD_RECORDING_FIGURES">
         <source>%1 · Frames: %2 · Frames per second: %3</source>
         <translation>%1 · Bilder: %2 · Bilder pro Sekunde: %3</translation>

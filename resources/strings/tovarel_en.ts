@@ -212,6 +212,10 @@
         <source>Paused</source>
         <translation>Paused</translation>
     </message>
+    <message id="IDD_PAUSED_HINT">
+        <source>Paused – press %1 to go on</source>
+        <translation>Paused – press %1 to go on</translation>
+    </message>
     <message id="IDD_RECORDING_FIGURES">
         <source>%1 · Frames: %2 · Frames per second: %3</source>
         <translation>%1 · Frames: %2 · Frames per second: %3</translation>

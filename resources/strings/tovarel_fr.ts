@@ -212,6 +212,10 @@
         <source>Paused</source>
         <translation>En pause</translation>
     </message>
+    <message id="IDD_PAUSED_HINT">
+        <source>Paused – press %1 to go on</source>
+        <translation>En pause – « %1 » pour continuer</translation>
+    </message>
     <message id="IDD_RECORDING_FIGURES">
         <source>%1 · Frames: %2 · Frames per second: %3</source>
         <translation>%1 · Images : %2 · Images par seconde : %3</translation>

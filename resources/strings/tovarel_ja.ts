@@ -212,6 +212,10 @@
         <source>Paused</source>
         <translation>一時停止中</translation>
     </message>
+    <message id="IDD_PAUSED_HINT">
+        <source>Paused – press %1 to go on</source>
+        <translation>一時停止中（「%1」で再開）</translation>
+    </message>
     <message id="IDD_RECORDING_FIGURES">
         <source>%1 · Frames: %2 · Frames per second: %3</source>
         <translation>%1 · フレーム数: %2 · 1 秒あたりのフレーム数: %3</translation>

@@ -212,6 +212,10 @@
         <source>Paused</source>
         <translation>Em pausa</translation>
     </message>
+    <message id="IDD_PAUSED_HINT">
+        <source>Paused – press %1 to go on</source>
+        <translation>Em pausa – continue com “%1”</translation>
+    </message>
     <message id="IDD_RECORDING_FIGURES">
         <source>%1 · Frames: %2 · Frames per second: %3</source>
         <translation>%1 · Quadros: %2 · Quadros por segundo: %3</translation>

@@ -212,6 +212,10 @@
         <source>Paused</source>
         <translation>已暂停</translation>
     </message>
+    <message id="IDD_PAUSED_HINT">
+        <source>Paused – press %1 to go on</source>
+        <translation>已暂停（按“%1”继续）</translation>
+    </message>
     <message id="IDD_RECORDING_FIGURES">
         <source>%1 · Frames: %2 · Frames per second: %3</source>
         <translation>%1 · 帧数：%2 · 每秒帧数：%3</translation>
