@@ -322,6 +322,10 @@ private:
     bool createWorkingFolders();
     void applyTexts();
     void applyIcons();
+    /// Says which of the three commands can be used.
+    void enableRecording(bool record, bool pause, bool stop);
+    /// Whether the whole screen, a region and the rate can be chosen: not while one records.
+    void enableRecordChoices(bool enabled);
     // The save of a stopped recording (record/): begun, reported frame by frame, ended.
     bool mayRecord();
     void saveRecording();

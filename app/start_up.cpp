@@ -85,12 +85,8 @@ bool AppDelegate::applicationDidFinishLaunching() {
     fillRates(*ui->comboGIFFPS, recording.u_FPS());
     capture.setImgScreenCapture({});
     capture.setImageScreenCaptureFinal({});
-    enableCommand(ui->btnRecordFullScreen, ui->menuitemActionRecordFullScreen, true);
-    enableCommand(ui->btnRecordRegion, ui->menuitemActionRecordRegion, true);
-    enableCommand(ui->btnRecordRecord, ui->menuitemActionRecordRecord, true);
-    enableCommand(ui->btnRecordPause, ui->menuitemActionRecordPause, false);
-    enableCommand(ui->btnRecordStop, ui->menuitemActionRecordStop, false);
-    enableCommand(ui->btnRecordFPS, ui->menuitemActionRecordFPS, true);
+    enableRecordChoices(true);
+    enableRecording(true, false, false);
     recording.setM_RecordStatus(RECORD_STATUS_STOP);
     trim.setF_Cut_Percent_Menor(0.0f);
     trim.setF_Cut_Percent_Maior(100.0f);

@@ -68,23 +68,29 @@ void AppDelegate::OnRecordRecord(QObject *) {
         recording.growth = 0;
         recording.heldBefore = recording.store.bytesHeld();
     }
-    enableCommand(ui->btnRecordFullScreen, ui->menuitemActionRecordFullScreen, false);
-    enableCommand(ui->btnRecordRegion, ui->menuitemActionRecordRegion, false);
-    enableCommand(ui->btnRecordRecord, ui->menuitemActionRecordRecord, false);
-    enableCommand(ui->btnRecordPause, ui->menuitemActionRecordPause, true);
-    enableCommand(ui->btnRecordStop, ui->menuitemActionRecordStop, true);
-    enableCommand(ui->btnRecordFPS, ui->menuitemActionRecordFPS, false);
+    enableRecordChoices(false);
+    enableRecording(false, true, true);
     recording.setM_RecordStatus(RECORD_STATUS_RECORD);
     recording.clock.run(now());
     showRecordingState();
 }
 
+void AppDelegate::enableRecording(bool record, bool pause, bool stop) {
+    enableCommand(ui->btnRecordRecord, ui->menuitemActionRecordRecord, record);
+    enableCommand(ui->btnRecordPause, ui->menuitemActionRecordPause, pause);
+    enableCommand(ui->btnRecordStop, ui->menuitemActionRecordStop, stop);
+}
+
+void AppDelegate::enableRecordChoices(bool enabled) {
+    enableCommand(ui->btnRecordFullScreen, ui->menuitemActionRecordFullScreen, enabled);
+    enableCommand(ui->btnRecordRegion, ui->menuitemActionRecordRegion, enabled);
+    enableCommand(ui->btnRecordFPS, ui->menuitemActionRecordFPS, enabled);
+}
+
 void AppDelegate::OnRecordPause(QObject *) {
     recording.setM_RecordStatus(RECORD_STATUS_PAUSE);
     recording.clock.hold(now());
-    enableCommand(ui->btnRecordRecord, ui->menuitemActionRecordRecord, mayRecord());
-    enableCommand(ui->btnRecordPause, ui->menuitemActionRecordPause, false);
-    enableCommand(ui->btnRecordStop, ui->menuitemActionRecordStop, true);
+    enableRecording(mayRecord(), false, true);
     showRecordingState();
 }
 
@@ -93,13 +99,9 @@ void AppDelegate::OnRecordStop(QObject *) {
     if (isSavingRecording())
         return;
     recording.clock.hold(now());
-    enableCommand(ui->btnRecordFullScreen, ui->menuitemActionRecordFullScreen, true);
-    enableCommand(ui->btnRecordRegion, ui->menuitemActionRecordRegion, true);
+    enableRecordChoices(true);
     // Not before the save has ended: a new recording empties store and folder.
-    enableCommand(ui->btnRecordRecord, ui->menuitemActionRecordRecord, false);
-    enableCommand(ui->btnRecordPause, ui->menuitemActionRecordPause, false);
-    enableCommand(ui->btnRecordStop, ui->menuitemActionRecordStop, false);
-    enableCommand(ui->btnRecordFPS, ui->menuitemActionRecordFPS, true);
+    enableRecording(false, false, false);
     recording.setM_RecordStatus(RECORD_STATUS_STOP);
     const std::uint64_t rate = measuredRate(recordingCounts());
     recording.setU_FPS(rate);
