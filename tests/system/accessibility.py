@@ -42,6 +42,15 @@ def desktop():
     return _desktop[0]
 
 
+# Roles that newer accessibility libraries call by another name.
+RENAMED_ROLES = {"button": "push button"}
+
+
+def role_of(item):
+    role = item.get_role_name()
+    return RENAMED_ROLES.get(role, role)
+
+
 def has_state(item, state):
     return item.get_state_set().contains(getattr(atspi().StateType, state))
 
@@ -53,7 +62,7 @@ def is_enabled(item):
 def act(item):
     """The control's first action: press a button, select a tab, trigger a menu item."""
     if not item.get_action_iface() or not item.do_action(0):
-        raise AssertionError(f"no action on {item.get_role_name()} {item.get_name()}")
+        raise AssertionError(f"no action on {role_of(item)} {item.get_name()}")
 
 
 def content(item):
@@ -71,7 +80,7 @@ def search(top, role, name=None, showing=True):
             if item is not top:
                 if showing and not has_state(item, "SHOWING"):
                     continue
-                if role in (None, item.get_role_name()) and name in (None, item.get_name()):
+                if role in (None, role_of(item)) and name in (None, item.get_name()):
                     yield item
             waiting += filter(None, map(item.get_child_at_index, range(item.get_child_count())))
         except bus_errors():

@@ -4,7 +4,7 @@
 leads through all that can be used, in the order in which it stands."""
 
 import case
-from driver import Program, act, atspi, content, has_state, is_enabled, wait_for
+from driver import Program, act, atspi, content, has_state, is_enabled, role_of, wait_for
 
 # What a user can do something with, as assistive technology knows it; the text of an alert can be
 # selected.
@@ -17,7 +17,7 @@ BAR = "page tab"
 
 def name(item):
     """The control's name; a list's own is its value, and the label beside it names it."""
-    if item.get_role_name() != "combo box":
+    if role_of(item) != "combo box":
         return item.get_name()
     labels = [relation.get_target(0).get_name() for relation in item.get_relation_set()
               if relation.get_relation_type() == atspi().RelationType.LABELLED_BY]
@@ -40,7 +40,7 @@ class Accessibility(case.Case):
     def check_named(self):
         """Everything on the screen that takes the focus has a role and a name."""
         for item in self.program.walk(None):
-            role = item.get_role_name()
+            role = role_of(item)
             if has_state(item, "FOCUSABLE"):
                 self.assertIn(role, ROLES, item.get_name())
                 if role != "list":  # within the combo box that is named
@@ -49,8 +49,8 @@ class Accessibility(case.Case):
     def focus(self):
         """Role and name of what has the focus. The tab that is shown claims it too."""
         items = [item for item in self.program.walk(None) if has_state(item, "FOCUSED")]
-        found = [(item.get_role_name(), name(item)) for item in items
-                 if item.get_role_name() not in AROUND]
+        found = [(role_of(item), name(item)) for item in items
+                 if role_of(item) not in AROUND]
         return max(found, key=lambda each: each[0] != BAR, default=None)
 
     def check_order(self, *expected):

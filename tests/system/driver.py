@@ -9,7 +9,7 @@ import time
 
 from accessibility import (  # pylint: disable=unused-import; the tests find all of it here
     act, atspi, bus_errors, content, desktop, extents, has_state, in_picture, is_enabled,
-    middle, search)
+    middle, role_of, search)
 from session import Session  # pylint: disable=unused-import; likewise
 from waiting import PATIENCE, Late, wait_for
 
@@ -87,7 +87,7 @@ class Program:
 
     def describe(self):
         """Role and name of everything that is on the screen."""
-        seen = [f"{item.get_role_name()} {item.get_name()!r}" for item in self.walk(None)
+        seen = [f"{role_of(item)} {item.get_name()!r}" for item in self.walk(None)
                 if item.get_name()]
         return ", ".join(seen) or "nothing"
 
