@@ -266,15 +266,22 @@ MEASURES = {
 }
 
 
+def report(build, name):
+    """Takes one measure and prints its line. Whether its bar was met."""
+    what, measure, bar, higher_is_better = MEASURES[name]
+    value = measure(pathlib.Path(build))
+    met = value >= bar if higher_is_better else value <= bar
+    print(f"{what:<52} {value:6.3f}   bar {bar:.2f}{'' if met else '  MISSED'}", flush=True)
+    return met
+
+
 def main(build, *names):
-    missed = False
-    for name in names or MEASURES:
-        what, measure, bar, higher_is_better = MEASURES[name]
-        value = measure(pathlib.Path(build))
-        met = value >= bar if higher_is_better else value <= bar
-        missed = missed or not met
-        print(f"{what:<52} {value:6.3f}   bar {bar:.2f}{'' if met else '  MISSED'}", flush=True)
-    return 1 if missed else 0
+    if len(names) == 1:
+        return 0 if report(build, names[0]) else 1
+    # A process may have one session only (see session.py), so each measure gets one of its own.
+    runs = [subprocess.run([sys.executable, "-B", __file__, build, name], check=False)
+            for name in names or MEASURES]
+    return 1 if any(run.returncode for run in runs) else 0
 
 
 if __name__ == "__main__":
