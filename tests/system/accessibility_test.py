@@ -8,8 +8,8 @@ from driver import Program, act, atspi, content, has_state, is_enabled, role_of,
 
 # What a user can do something with, as assistive technology knows it; the text of an alert can be
 # selected.
-ROLES = {"check box", "combo box", "image", "label", "list", "list item", "page tab", "page tab list", "panel",
-         "push button", "radio button", "slider", "text"}
+ROLES = {"check box", "combo box", "image", "label", "list", "list item", "page tab", "page tab list",
+         "panel", "push button", "radio button", "slider", "text"}
 # These show which of several has the focus, or hold what has it.
 AROUND = ("page tab list", "panel")
 BAR = "page tab"
@@ -129,7 +129,7 @@ class Accessibility(case.Case):
         self.program.press("Region")
         self.program.press("OK")
         overlay = self.program.await_control("dialog", "Select a region")
-        self.program.wait_for("the corner in hand", lambda: overlay.get_description())
+        self.program.wait_for("the corner in hand", overlay.get_description)
         first = overlay.get_description()
         self.session.xdotool("key", "Tab")
         self.program.wait_for("another corner", lambda: overlay.get_description() != first)

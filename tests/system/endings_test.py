@@ -101,7 +101,7 @@ class Endings(case.Case):
 
     def test_during_each_run_of_the_encoder(self):
         roads = {1: ["SIGTERM"], 2: ["SIGINT"], 3: ["SIGTERM", "SIGINT", "closing the window"]}
-        for run, road in ((run, road) for run in roads for road in roads[run]):
+        for run, road in ((run, road) for run, ways in roads.items() for road in ways):
             with self.subTest(f"run {run}, {road}"):
                 self.check_end(self.encoding(run), road)
         for run in (1, 3):
