@@ -9,6 +9,7 @@
 #include "record/measured_rate.h"
 #include "record/recording_fields.h"
 #include "region/region_fields.h"
+#include "trim/range_rules.h"
 #include "trim/trim_fields.h"
 
 #include <QObject>
@@ -168,8 +169,8 @@ public:
     /// Nothing while one runs or is being saved, or where nothing can be recorded.
     void OnRecordRecord(QObject *sender);
     void OnRecordPause(QObject *sender);
-    /// Measures the rate, which is the capture rate from now on, and starts the save; the Cut tab
-    /// follows when the last frame is on disk. A recording without frames ends here.
+    /// Measures the rate and starts the save; the Cut tab follows when the last frame is on disk. A
+    /// recording without frames ends here.
     void OnRecordStop(QObject *sender);
     /// Lets the user choose the capture rate; returns when the dialog is closed.
     void OnRecordFPS(QObject *sender);
@@ -180,7 +181,7 @@ public:
     void TimerRefreshVideoRoutine();
     /// The one-second tick: counts the frames of a second that fell into a recording.
     void TimerDebug1SecondRoutine();
-    /// Starts the capture timer anew with the interval 1 / `u_FPS`, in single precision.
+    /// Starts the capture timer again with the interval 1 / `u_FPS`, in single precision.
     void restartCaptureTimer();
     void restartOneSecondTimer();
     /// Ends both timers: off the Record tab nothing is grabbed.
@@ -245,9 +246,10 @@ public:
     void enablePlayback(bool play, bool pause, bool stop);
     /// Works out `uFirstFrame` and `uLastFrame` from the handles' percentages.
     void updateTrimmedRange();
-    /// How many frames of the trimmed range the recording has: the upper handle's frame number may
-    /// lie one past the last frame.
-    std::uint64_t framesInTrimmedRange() const;
+    /// The frames that playback and exports show: from `uFirstFrame` to `uLastFrame` or the
+    /// recording's last frame, whichever comes first, both included. None when there is no such
+    /// frame.
+    std::optional<range_rules::Kept> keptRange() const;
     /// Says under the preview what an export would hold; nothing without a recording.
     void showTrimmedRange(bool recordingExists);
 

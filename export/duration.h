@@ -28,9 +28,3 @@ inline std::uint64_t expectedDuration(std::uint64_t firstFrame, std::uint64_t la
     return wholeNumber(
         std::ceil(static_cast<float>(lastFrame - firstFrame) / static_cast<float>(rate)));
 }
-
-/// Whether a range, both ends included, holds fewer than three frames: too few for a moving
-/// picture. The difference is unsigned.
-inline bool rangeIsTooShort(std::uint64_t firstFrame, std::uint64_t lastFrame) {
-    return lastFrame - firstFrame <= 1;
-}

@@ -3,16 +3,25 @@
 #include "export/export_checks.h"
 
 #include "app/app_delegate.h"
-#include "export/duration.h"
 #include "platform/text_number.h"
 #include "ui_MainWindow.h"
+
+namespace {
+
+constexpr std::uint64_t fewestFrames = 3; // fewer are no moving picture
+
+} // namespace
+
+bool hasTooFewFrames(const std::optional<range_rules::Kept> &kept) {
+    return !kept || kept->count() < fewestFrames;
+}
 
 bool mayExport(const AppDelegate &controller) {
     return !controller.exporting.exportRuns() && !controller.exporting.windowProgress();
 }
 
 std::optional<QString> refusal(const AppDelegate &controller) {
-    if (rangeIsTooShort(controller.trim.uFirstFrame(), controller.trim.uLastFrame()))
+    if (hasTooFewFrames(controller.keptRange()))
         return controller.texts.s_IDD_LOW_FRAME_NUMBER();
     const bool sized = integerValue(controller.ui->textGIFWidth->text()) != 0 &&
                        integerValue(controller.ui->textGIFHeigth->text()) != 0;

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include "trim/range_rules.h"
+
 #include <optional>
 
 class AppDelegate;
@@ -13,6 +15,9 @@ class ExportFields;
 /// reaches a control whose window is blocked by a dialog; an export within an export would empty
 /// the folders that the first one works in.
 bool mayExport(const AppDelegate &controller);
+
+/// Whether there are fewer than three frames in what is kept: too few for a moving picture.
+bool hasTooFewFrames(const std::optional<range_rules::Kept> &kept);
 
 /// Why no export of this range or with these sizes begins, in the user's words: fewer than three
 /// frames, or a size field that does not begin with a number other than 0. None when one may.

@@ -26,13 +26,13 @@ void AppDelegate::OnGIFExport(QObject *) {
         return;
     const ExportMark mark(exporting);
     finishEditingGIFSize();
-    if (!rangeIsTooShort(trim.uFirstFrame(), trim.uLastFrame()))
-        exporting.setI_Orig_Duration_in_Seconds(expectedDuration(
-            trim.uFirstFrame(), trim.uLastFrame(), recording.u_Record_Current_FPS()));
     if (const std::optional<QString> reason = refusal(*this)) {
         RunAlert(errorTitle, *reason);
         return;
     }
+    const range_rules::Kept kept = *keptRange();
+    exporting.setI_Orig_Duration_in_Seconds(
+        expectedDuration(kept.first, kept.last, recording.u_Record_Current_FPS()));
     ShowStatus({});
     RemoveAllContentInFolder(shell.s_Export_Folder());
     showProgressSheet(qtTrId("IDD_PROGRESS_GIF"));
@@ -43,9 +43,8 @@ void AppDelegate::OnGIFExport(QObject *) {
     // Somebody may have taken them away since the start.
     working_folders::ensureFolder(shell.s_Export_Folder());
     working_folders::ensureFolder(shell.s_Pallete_Folder());
-    const std::uint64_t staged =
-        stageFrames(shell.s_Output_Folder(), trim.uFirstFrame(), trim.uLastFrame(),
-                    shell.s_Export_Folder(), shell.s_Pallete_Folder());
+    const std::uint64_t staged = stageFrames(shell.s_Output_Folder(), kept.first, kept.last,
+                                             shell.s_Export_Folder(), shell.s_Pallete_Folder());
     const std::optional<QString> failure = encodeGIF();
     if (failure) {
         closeProgressSheet();
@@ -54,7 +53,7 @@ void AppDelegate::OnGIFExport(QObject *) {
     }
     const QString gif = encoder_arguments::gifFile(shell.s_Export_Folder());
     QString note;
-    const std::uint64_t wanted = framesInTrimmedRange();
+    const std::uint64_t wanted = kept.count();
     if (staged < wanted) {
         // The input ends at the gap, or begins after it: only the file knows what it holds.
         const QLocale locale;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
 #include "export/aspect_ratio.h"
-#include "export/duration.h"
+#include "export/export_checks.h"
 #include "export/size_text.h"
 #include "platform/text_number.h"
 #include "ui_MainWindow.h"
@@ -174,18 +174,17 @@ void AppDelegate::updateGIFDimensionHint() {
 }
 
 void AppDelegate::updateGIFSummary() {
-    const std::uint64_t first = trim.uFirstFrame();
-    const std::uint64_t last = trim.uLastFrame();
+    const auto kept = keptRange();
     const int rate = ui->comboGIFFPS->currentIndex() + 1;
-    if (!firstFrameFileExists() || last < first || rate < 1) {
+    if (!firstFrameFileExists() || rate < 1) {
         ui->labelGIFSummary->clear();
         return;
     }
-    if (rangeIsTooShort(first, last)) {
+    if (hasTooFewFrames(kept)) {
         ui->labelGIFSummary->setText(texts.s_IDD_LOW_FRAME_NUMBER());
         return;
     }
-    const std::uint64_t frames = framesInTrimmedRange();
+    const std::uint64_t frames = kept->count();
     const QLocale locale;
     ui->labelGIFSummary->setText(
         qtTrId("IDD_GIF_SUMMARY")

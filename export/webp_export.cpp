@@ -41,9 +41,9 @@ void AppDelegate::Generate_WebP(QObject *) {
         RunAlert(errorTitle, *reason);
         return;
     }
+    const range_rules::Kept kept = *keptRange();
     RemoveAllContentInFolder(shell.s_Export_Folder());
-    const QStringList frames =
-        framesUpToGap(shell.s_Output_Folder(), trim.uFirstFrame(), trim.uLastFrame());
+    const QStringList frames = framesUpToGap(shell.s_Output_Folder(), kept.first, kept.last);
     const std::optional<QString> failure = encodeWebP(frames);
     ShowStatus({});
     if (failure) {
@@ -51,7 +51,7 @@ void AppDelegate::Generate_WebP(QObject *) {
         return;
     }
     QString note;
-    const std::uint64_t wanted = framesInTrimmedRange();
+    const std::uint64_t wanted = kept.count();
     if (static_cast<std::uint64_t>(frames.size()) < wanted) {
         const QLocale locale;
         note = qtTrId("IDD_STATUS_WEBP_GAP")

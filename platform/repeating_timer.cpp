@@ -57,6 +57,27 @@ RepeatingTimer::~RepeatingTimer() {
         close(descriptor_);
 }
 
+void RepeatingTimer::hold() {
+    itimerspec before{};
+    const itimerspec none{};
+    if (left_ > 0.0 || descriptor_ < 0 || timerfd_settime(descriptor_, 0, &none, &before) != 0)
+        return;
+    const double left = static_cast<double>(before.it_value.tv_sec) +
+                        static_cast<double>(before.it_value.tv_nsec) / nanosecondsPerSecond;
+    left_ = std::max(left, shortestSeconds);
+}
+
+void RepeatingTimer::goOn() {
+    if (!(left_ > 0.0))
+        return;
+    itimerspec spec{};
+    spec.it_interval = toTimespec(seconds_);
+    spec.it_value = toTimespec(left_);
+    left_ = 0.0;
+    if (timerfd_settime(descriptor_, 0, &spec, nullptr) != 0)
+        qWarning("timer: %s", std::strerror(errno));
+}
+
 void RepeatingTimer::onReadable() {
     // The kernel counts the deadlines that passed since the last read; reading takes them all, so
     // missed ones are skipped.

@@ -26,6 +26,11 @@ public:
     RepeatingTimer(double seconds, std::function<void()> tick);
     ~RepeatingTimer() override;
 
+    /// Stands still; the part of the interval that was left is what `goOn` begins with. Held or
+    /// running already, nothing happens.
+    void hold();
+    void goOn();
+
     /// The interval as it was asked for, in seconds.
     double interval() const { return seconds_; }
 
@@ -34,6 +39,7 @@ private:
 
     double seconds_;
     std::function<void()> tick_;
+    double left_ = 0.0; // seconds until the next tick, while it is held; 0 while it runs
     int descriptor_ = -1;
     QSocketNotifier *notifier_ = nullptr;
 };

@@ -8,23 +8,29 @@
 
 namespace {
 
-float quotient(const RecordingCounts &counts) {
-    if (counts.countedSeconds > 0 && counts.countedFrames > 0)
-        return static_cast<float>(counts.countedFrames) / static_cast<float>(counts.countedSeconds);
-    if (counts.storedFrames == 0)
-        return 0.0f;
-    if (!(counts.passedSeconds > 0.0))
-        return static_cast<float>(highestRate);
-    return static_cast<float>(counts.storedFrames) / static_cast<float>(counts.passedSeconds);
-}
+/// A recording shorter than this has no rate of its own, in seconds: a frame more or less would
+/// change it by half.
+constexpr double shortestMeasured = 1.0;
 
 } // namespace
 
-std::uint64_t measuredRate(const RecordingCounts &counts) {
-    // Clamped before the conversion, which has no meaning for what 64 bits cannot hold.
-    const float rate = std::clamp(std::ceil(quotient(counts)), static_cast<float>(lowestRate),
-                                  static_cast<float>(highestRate));
-    return static_cast<std::uint64_t>(rate);
+double measuredRate(const RecordingCounts &counts, std::uint64_t chosenRate) {
+    if (counts.storedFrames == 0 || !(counts.passedSeconds >= shortestMeasured))
+        return static_cast<double>(std::clamp(chosenRate, lowestRate, highestRate));
+    return static_cast<double>(counts.storedFrames) / counts.passedSeconds;
+}
+
+std::uint64_t shownRate(double rate) {
+    // Written so that no number at all gives the lowest rate.
+    if (!(rate > static_cast<double>(lowestRate)))
+        return lowestRate;
+    return static_cast<std::uint64_t>(std::round(std::min(rate, static_cast<double>(highestRate))));
+}
+
+bool fellBehind(const RecordingCounts &counts, std::uint64_t chosenRate) {
+    const RecordingCounts oneMore{.storedFrames = counts.storedFrames + 1,
+                                  .passedSeconds = counts.passedSeconds};
+    return counts.storedFrames > 0 && shownRate(measuredRate(oneMore, chosenRate)) < chosenRate;
 }
 
 double captureInterval(std::uint64_t framesPerSecond) {

@@ -4,25 +4,28 @@
 
 #include <cstdint>
 
-/// Rates of a recording, in frames per second. Whole rates lie from 1 to 60 everywhere: playback
-/// and the lists of rates rely on it.
+/// Rates of a recording, in frames per second. Rates that can be chosen are whole numbers from 1 to
+/// 60; the rate that a recording really has is no whole number, and everything that lasts goes by
+/// it.
 inline constexpr std::uint64_t lowestRate = 1;
 inline constexpr std::uint64_t highestRate = 60;
 
-/// What a recording has counted.
+/// What a recording has counted: its frames, and the seconds spent recording, pauses left out.
 struct RecordingCounts {
-    /// Frames that fell into counted seconds, and how many seconds were counted.
-    std::int64_t countedFrames = 0;
-    std::uint64_t countedSeconds = 0;
-    /// All frames stored, and the seconds that really passed in the recording state.
     std::uint64_t storedFrames = 0;
     double passedSeconds = 0.0;
 };
 
-/// The rate at which frames were really taken: counted frames by counted seconds, rounded up, in
-/// single precision. A recording too short to have counted any goes by its stored frames and the
-/// time that really passed.
-std::uint64_t measuredRate(const RecordingCounts &counts);
+/// The rate at which frames were really taken, unrounded, so that frames ÷ rate is the time that
+/// was recorded. A recording of less than a second, or without a frame, has the chosen rate.
+double measuredRate(const RecordingCounts &counts, std::uint64_t chosenRate);
+
+/// That rate as it is shown and listed: the nearest whole number from 1 to 60.
+std::uint64_t shownRate(double rate);
+
+/// Whether a recording could not keep up with the chosen rate. One frame fewer than were due says
+/// nothing: the first one may come a whole interval after the start.
+bool fellBehind(const RecordingCounts &counts, std::uint64_t chosenRate);
 
 /// Seconds between two captures at this rate: computed in single precision, so 5 frames per second
 /// are 0.20000000298... seconds. A rate of 0 gives infinity.

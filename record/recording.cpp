@@ -56,12 +56,14 @@ bool AppDelegate::mayRecord() { return windowServer().reason().isEmpty() && !isS
 void AppDelegate::OnRecordRecord(QObject *) {
     if (recording.m_RecordStatus() == RECORD_STATUS_RECORD || !mayRecord())
         return;
-    if (recording.m_RecordStatus() == RECORD_STATUS_STOP) {
+    const bool goesOn = recording.m_RecordStatus() == RECORD_STATUS_PAUSE;
+    if (!goesOn) {
         RemoveAllContentInFolder(shell.s_Output_Folder());
         ui->btnSaveAgain->hide();
         recording.setU_Record_Current_Frame(0);
         recording.setI_Actual_FPS_while_Recording(0);
         recording.setU_number_of_seconds(0);
+        recording.setI_debug_number_of_view_refresh(0);
         recording.clock = {};
         recording.array_Images.emplace();
         recording.budget = {};
@@ -72,6 +74,10 @@ void AppDelegate::OnRecordRecord(QObject *) {
     enableRecording(false, true, true);
     recording.setM_RecordStatus(RECORD_STATUS_RECORD);
     recording.clock.run(now());
+    if (goesOn && recording.timerdebug1Second)
+        recording.timerdebug1Second->goOn();
+    else
+        restartOneSecondTimer();
     showRecordingState();
 }
 
@@ -90,6 +96,8 @@ void AppDelegate::enableRecordChoices(bool enabled) {
 void AppDelegate::OnRecordPause(QObject *) {
     recording.setM_RecordStatus(RECORD_STATUS_PAUSE);
     recording.clock.hold(now());
+    if (recording.timerdebug1Second)
+        recording.timerdebug1Second->hold();
     enableRecording(mayRecord(), false, true);
     showRecordingState();
 }
@@ -103,9 +111,7 @@ void AppDelegate::OnRecordStop(QObject *) {
     // Not before the save has ended: a new recording empties store and folder.
     enableRecording(false, false, false);
     recording.setM_RecordStatus(RECORD_STATUS_STOP);
-    const std::uint64_t rate = measuredRate(recordingCounts());
-    recording.setU_FPS(rate);
-    recording.setU_Record_Current_FPS(rate);
+    recording.setExactRate(measuredRate(recordingCounts(), recording.u_FPS()));
     recording.store.rest();
     showRecordingState();
     saveRecording();
@@ -116,9 +122,7 @@ void AppDelegate::recordingSaved() {
 }
 
 RecordingCounts AppDelegate::recordingCounts() const {
-    return {.countedFrames = recording.i_Actual_FPS_while_Recording(),
-            .countedSeconds = recording.u_number_of_seconds(),
-            .storedFrames = recording.u_Record_Current_Frame(),
+    return {.storedFrames = recording.u_Record_Current_Frame(),
             .passedSeconds = recording.clock.seconds(now())};
 }
 

@@ -5,6 +5,7 @@
 #include "platform/image.h"
 #include "platform/repeating_timer.h"
 #include "platform/tile_store.h"
+#include "record/measured_rate.h"
 #include "record/memory_budget.h"
 #include "record/recording_clock.h"
 
@@ -30,20 +31,31 @@ public:
     std::uint64_t m_RecordStatus() const { return m_RecordStatus_; }
     void setM_RecordStatus(std::uint64_t status) { m_RecordStatus_ = status; }
 
-    /// Capture rate in frames per second, 1 to 60; sets the capture timer's interval. Stop writes
-    /// the measured rate here.
+    /// Capture rate in frames per second, 1 to 60, as the user chose it; sets the capture timer's
+    /// interval.
     std::uint64_t u_FPS() const { return u_FPS_; }
     void setU_FPS(std::uint64_t rate) { u_FPS_ = rate; }
 
-    /// Measured rate of the last recording in frames per second.
+    /// Rate of the last recording in frames per second, as it is shown: a whole number, 1 to 60.
+    /// Setting it makes it the exact rate as well.
     std::uint64_t u_Record_Current_FPS() const { return u_Record_Current_FPS_; }
-    void setU_Record_Current_FPS(std::uint64_t rate) { u_Record_Current_FPS_ = rate; }
+    void setU_Record_Current_FPS(std::uint64_t rate) {
+        u_Record_Current_FPS_ = rate;
+        exactRate_ = static_cast<double>(rate);
+    }
+
+    /// The same rate unrounded, which every length and delay goes by; above 0 after a recording.
+    double exactRate() const { return exactRate_; }
+    void setExactRate(double rate) {
+        exactRate_ = rate;
+        u_Record_Current_FPS_ = shownRate(rate);
+    }
 
     /// Number of frames stored so far; after Stop the recording's frame count.
     std::uint64_t u_Record_Current_Frame() const { return u_Record_Current_Frame_; }
     void setU_Record_Current_Frame(std::uint64_t count) { u_Record_Current_Frame_ = count; }
 
-    /// Frames stored since the last one-second tick that fell into a recording.
+    /// Frames of the recording that were stored since its last one-second tick.
     std::uint64_t i_debug_number_of_view_refresh() const { return i_debug_number_of_view_refresh_; }
     void setI_debug_number_of_view_refresh(std::uint64_t count) {
         i_debug_number_of_view_refresh_ = count;
@@ -77,13 +89,15 @@ public:
     /// The capture timer; absent while the Record tab is not shown.
     std::unique_ptr<RepeatingTimer> timerVideoRefresh;
 
-    /// The one-second tally timer; absent while the Record tab is not shown.
+    /// The one-second timer: starts with a recording and holds while it is paused. Absent while
+    /// the Record tab is not shown.
     std::unique_ptr<RepeatingTimer> timerdebug1Second;
 
 private:
     std::uint64_t m_RecordStatus_ = RECORD_STATUS_STOP;
     std::uint64_t u_FPS_ = 0;
     std::uint64_t u_Record_Current_FPS_ = 0;
+    double exactRate_ = 0.0;
     std::uint64_t u_Record_Current_Frame_ = 0;
     std::uint64_t i_debug_number_of_view_refresh_ = 0;
     std::int64_t i_Actual_FPS_while_Recording_ = 0;

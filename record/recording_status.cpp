@@ -38,8 +38,9 @@ void AppDelegate::showRecordingState() {
         return;
     const RecordingCounts counts = recordingCounts();
     // No rate is shown before there is one.
-    const QString rate =
-        counts.storedFrames == 0 ? QStringLiteral("–") : QString::number(measuredRate(counts));
+    const QString rate = counts.storedFrames == 0
+                             ? QStringLiteral("–")
+                             : QString::number(shownRate(measuredRate(counts, recording.u_FPS())));
     QString text = qtTrId("IDD_RECORDING_FIGURES")
                        .arg(minutesAndSeconds(counts.passedSeconds),
                             QString::number(counts.storedFrames), rate);

@@ -63,8 +63,14 @@ void AppDelegate::frameReported(std::uint64_t done) {
 
 void AppDelegate::showSaveResult(const FrameSaver &saver) {
     if (saver.missing() == 0) {
-        ShowStatus(
-            qtTrId("IDD_RECORDING_SAVED").arg(saver.count()).arg(recording.u_Record_Current_FPS()));
+        QString text =
+            qtTrId("IDD_RECORDING_SAVED").arg(saver.count()).arg(recording.u_Record_Current_FPS());
+        if (fellBehind(recordingCounts(), recording.u_FPS()))
+            text = qtTrId("IDD_RECORDING_BEHIND")
+                       .arg(saver.count())
+                       .arg(recording.u_FPS())
+                       .arg(recording.u_Record_Current_FPS());
+        ShowStatus(text);
         return;
     }
     const QString text =

@@ -9,30 +9,28 @@
 
 #include <QLocale>
 
-#include <algorithm>
-
 namespace {
 
 constexpr int secondsDecimals = 2; // a frame at 60 per second still counts
 
-/// The rate that a recording is played at, in frames per second. One that was too short to be
-/// measured has the rate 0 and plays at 1.
-std::uint64_t playedRate(const RecordingFields &recording) {
-    return std::max<std::uint64_t>(recording.u_Record_Current_FPS(), 1);
+/// The rate that a recording is played at, in frames per second; before the first one there is
+/// none, and nothing to divide by.
+double playedRate(const RecordingFields &recording) {
+    return recording.exactRate() > 0.0 ? recording.exactRate() : 1.0;
 }
 
 /// What an export would hold, in the user's words.
-QString textOfHeld(std::optional<range_rules::Held> held, std::uint64_t rate) {
-    if (!held)
+QString textOfKept(std::optional<range_rules::Kept> kept, double rate) {
+    if (!kept)
         return qtTrId("IDD_RANGE_EMPTY");
-    const QString seconds = QLocale().toString(
-        static_cast<double>(held->count()) / static_cast<double>(rate), 'f', secondsDecimals);
-    if (held->count() == 1)
-        return qtTrId("IDD_RANGE_ONE").arg(held->first).arg(seconds);
+    const QString seconds =
+        QLocale().toString(static_cast<double>(kept->count()) / rate, 'f', secondsDecimals);
+    if (kept->count() == 1)
+        return qtTrId("IDD_RANGE_ONE").arg(kept->first).arg(seconds);
     return qtTrId("IDD_RANGE_HOLDS")
-        .arg(held->first)
-        .arg(held->last)
-        .arg(held->count())
+        .arg(kept->first)
+        .arg(kept->last)
+        .arg(kept->count())
         .arg(seconds);
 }
 
@@ -65,15 +63,15 @@ void AppDelegate::OnCutPlay(QObject *) {
         trim.setUCurrentFrame(trim.uFirstFrame());
     trim.setM_PlayStatus(PLAY_STATUS_PLAY);
     trim.timerPlayRefresh.reset();
-    const double interval = static_cast<double>(1.0f / static_cast<float>(playedRate(recording)));
-    trim.timerPlayRefresh =
-        std::make_unique<RepeatingTimer>(interval, [this] { TimerRefreshPlayRoutine(); });
+    trim.timerPlayRefresh = std::make_unique<RepeatingTimer>(1.0 / playedRate(recording),
+                                                             [this] { TimerRefreshPlayRoutine(); });
     ui->viewCutRange->update();
 }
 
 void AppDelegate::TimerRefreshPlayRoutine() {
     trim.setUCurrentFrame(trim.uCurrentFrame() + 1);
-    if (trim.uCurrentFrame() >= trim.uLastFrame())
+    const auto kept = keptRange();
+    if (!kept || trim.uCurrentFrame() > kept->last)
         trim.setUCurrentFrame(trim.uFirstFrame());
     ui->viewCutPreview->update();
     ui->viewCutRange->update();
@@ -106,18 +104,15 @@ void AppDelegate::updateTrimmedRange() {
     trim.setULastFrame(range_rules::frameAt(trim.f_Cut_Percent_Maior(), frames));
 }
 
-std::uint64_t AppDelegate::framesInTrimmedRange() const {
-    const auto held = range_rules::heldByExport(trim.uFirstFrame(), trim.uLastFrame(),
-                                                recording.u_Record_Current_Frame());
-    return held ? held->count() : 0;
+std::optional<range_rules::Kept> AppDelegate::keptRange() const {
+    return range_rules::keptFrames(trim.uFirstFrame(), trim.uLastFrame(),
+                                   recording.u_Record_Current_Frame());
 }
 
 void AppDelegate::showTrimmedRange(bool recordingExists) {
     QString text;
     if (recordingExists)
-        text = textOfHeld(range_rules::heldByExport(trim.uFirstFrame(), trim.uLastFrame(),
-                                                    recording.u_Record_Current_Frame()),
-                          playedRate(recording));
+        text = textOfKept(keptRange(), playedRate(recording));
     // Every drawing comes by here: the label is laid out anew only when it says something else.
     if (ui->labelCutRange->text() != text)
         ui->labelCutRange->setText(text);

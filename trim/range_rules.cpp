@@ -76,10 +76,10 @@ std::optional<std::uint64_t> existingFrame(std::uint64_t frame, std::uint64_t fr
     return std::min(frame, frames - 1);
 }
 
-std::optional<Held> heldByExport(std::uint64_t first, std::uint64_t last, std::uint64_t frames) {
+std::optional<Kept> keptFrames(std::uint64_t first, std::uint64_t last, std::uint64_t frames) {
     if (first >= frames || last < first)
         return {};
-    return Held{first, std::min(last, frames - 1)};
+    return Kept{first, std::min(last, frames - 1)};
 }
 
 } // namespace range_rules

@@ -61,14 +61,14 @@ Stretch playhead(std::uint64_t current, std::uint64_t first, std::uint64_t last,
 /// such frame. None in a recording without frames.
 std::optional<std::uint64_t> existingFrame(std::uint64_t frame, std::uint64_t frames);
 
-/// What an export of the range holds: its first and last existing frame, both included.
-struct Held {
+/// What playback and exports of the range show: its first and last existing frame, both included.
+struct Kept {
     std::uint64_t first = 0;
     std::uint64_t last = 0;
     std::uint64_t count() const { return last - first + 1; }
 };
 
 /// None when no frame of the range exists.
-std::optional<Held> heldByExport(std::uint64_t first, std::uint64_t last, std::uint64_t frames);
+std::optional<Kept> keptFrames(std::uint64_t first, std::uint64_t last, std::uint64_t frames);
 
 } // namespace range_rules

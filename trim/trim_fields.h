@@ -32,8 +32,8 @@ public:
     std::uint64_t uFirstFrame() const { return uFirstFrame_; }
     void setUFirstFrame(std::uint64_t frame) { uFirstFrame_ = frame; }
 
-    /// Frame number that the upper handle maps to, likewise. Playback stops short of it, the
-    /// exports include it.
+    /// Frame number that the upper handle maps to, likewise; it may be one past the recording's
+    /// last frame. What is kept of the range is `AppDelegate::keptRange`.
     std::uint64_t uLastFrame() const { return uLastFrame_; }
     void setULastFrame(std::uint64_t frame) { uLastFrame_ = frame; }
 

@@ -236,6 +236,10 @@
         <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
         <translation>Die Aufnahme ist vollständig. Bilder: %1 · Bilder pro Sekunde: %2</translation>
     </message>
+    <message id="IDD_RECORDING_BEHIND">
+        <source>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</source>
+        <translation>Die Aufnahme ist abgeschlossen. Bilder: %1 · %2 Bilder pro Sekunde gewünscht, %3 erreicht</translation>
+    </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
         <translation>Es wurde nichts aufgenommen.</translation>

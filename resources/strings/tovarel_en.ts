@@ -236,6 +236,10 @@
         <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
         <translation>The recording is complete. Frames: %1 · Frames per second: %2</translation>
     </message>
+    <message id="IDD_RECORDING_BEHIND">
+        <source>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</source>
+        <translation>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</translation>
+    </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
         <translation>Nothing was recorded.</translation>

@@ -236,6 +236,10 @@
         <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
         <translation>La grabación está completa. Fotogramas: %1 · Fotogramas por segundo: %2</translation>
     </message>
+    <message id="IDD_RECORDING_BEHIND">
+        <source>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</source>
+        <translation>La grabación ha terminado. Fotogramas: %1 · Se pidieron %2 fotogramas por segundo y se obtuvieron %3</translation>
+    </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
         <translation>No se ha grabado nada.</translation>

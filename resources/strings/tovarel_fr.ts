@@ -236,6 +236,10 @@
         <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
         <translation>L’enregistrement est terminé. Images : %1 · Images par seconde : %2</translation>
     </message>
+    <message id="IDD_RECORDING_BEHIND">
+        <source>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</source>
+        <translation>L’enregistrement est terminé. Images&#xa0;: %1 · %2&#xa0;images par seconde demandées, %3 obtenues</translation>
+    </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
         <translation>Rien n’a été enregistré.</translation>

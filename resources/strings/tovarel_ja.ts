@@ -236,6 +236,10 @@
         <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
         <translation>録画が完了しました。フレーム数: %1 · 1 秒あたりのフレーム数: %2</translation>
     </message>
+    <message id="IDD_RECORDING_BEHIND">
+        <source>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</source>
+        <translation>録画が完了しました。フレーム数: %1 · 指定: %2 fps、実際: %3 fps</translation>
+    </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
         <translation>何も録画されませんでした。</translation>

@@ -236,6 +236,10 @@
         <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
         <translation>A gravação está completa. Quadros: %1 · Quadros por segundo: %2</translation>
     </message>
+    <message id="IDD_RECORDING_BEHIND">
+        <source>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</source>
+        <translation>A gravação terminou. Quadros: %1 · Pedidos: %2 quadros por segundo; obtidos: %3</translation>
+    </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
         <translation>Nada foi gravado.</translation>

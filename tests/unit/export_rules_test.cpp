@@ -73,13 +73,6 @@ TEST(Duration, IsTheDistanceOverTheRateRoundedUpInSinglePrecision) {
         EXPECT_EQ(expectedDuration(first, last, rate), seconds) << first << " " << last;
 }
 
-TEST(Duration, RefusesFewerThanThreeFrames) {
-    EXPECT_TRUE(rangeIsTooShort(0, 0));
-    EXPECT_TRUE(rangeIsTooShort(4, 5));
-    EXPECT_FALSE(rangeIsTooShort(0, 2));
-    EXPECT_FALSE(rangeIsTooShort(1, 0)) << "the difference is unsigned";
-}
-
 TEST(ProgressParser, TakesTheLastCompleteStampOfAChunk) {
     const struct {
         const char *chunk;

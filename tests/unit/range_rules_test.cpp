@@ -85,12 +85,12 @@ TEST(RangeRules, whatIsShownAndExportedExists) {
     EXPECT_EQ(existingFrame(3, 10), 3u);
     EXPECT_EQ(existingFrame(10, 10), 9u);
     EXPECT_FALSE(existingFrame(0, 0));
-    const auto whole = heldByExport(0, 10, 10);
+    const auto whole = keptFrames(0, 10, 10);
     ASSERT_TRUE(whole);
     EXPECT_EQ(whole->first, 0u);
     EXPECT_EQ(whole->last, 9u);
     EXPECT_EQ(whole->count(), 10u);
-    EXPECT_EQ(heldByExport(3, 3, 10)->count(), 1u);
-    EXPECT_FALSE(heldByExport(10, 10, 10));
-    EXPECT_FALSE(heldByExport(0, 0, 0));
+    EXPECT_EQ(keptFrames(3, 3, 10)->count(), 1u);
+    EXPECT_FALSE(keptFrames(10, 10, 10));
+    EXPECT_FALSE(keptFrames(0, 0, 0));
 }

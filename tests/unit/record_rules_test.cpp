@@ -62,27 +62,42 @@ TEST(Fitting, endsForSizesThatNoPictureHas) {
     }
 }
 
-TEST(MeasuredRate, isCountedFramesBySecondsRoundedUpWithinItsBounds) {
+TEST(MeasuredRate, isStoredFramesByTheSecondsRecordedUnrounded) {
+    constexpr std::uint64_t chosen = 24;
     const struct {
         RecordingCounts counts;
-        std::uint64_t expected;
+        double exact;
+        std::uint64_t shown;
     } cases[] = {
-        {{.countedFrames = 25, .countedSeconds = 5, .storedFrames = 30, .passedSeconds = 6.0}, 5},
-        {{.countedFrames = 26, .countedSeconds = 5, .storedFrames = 30, .passedSeconds = 6.0}, 6},
-        {{.countedFrames = 900, .countedSeconds = 5, .storedFrames = 900, .passedSeconds = 5.0},
-         60},
-        // No whole second, or nothing in it: the time that really passed decides.
-        {{.storedFrames = 3, .passedSeconds = 0.4}, 8},
-        {{.countedSeconds = 1, .storedFrames = 3, .passedSeconds = 2.0}, 2},
-        {{.storedFrames = 90, .passedSeconds = 0.5}, 60},
-        {{.storedFrames = 2, .passedSeconds = 0.0}, 60},
-        {{.storedFrames = 0, .passedSeconds = 3.0}, 1},
-        {{.countedFrames = -4, .countedSeconds = 2}, 1},
+        {{17, 3.4}, 17 / 3.4, 5},
+        {{99, 10.0}, 9.9, 10},
+        {{94, 10.0}, 9.4, 9},
+        {{3, 10.0}, 0.3, 1},
+        {{700, 10.0}, 70.0, 60},
+        {{1, 1.0}, 1.0, 1},
+        // Too short to be measured, or nothing in it: what was chosen.
+        {{0, 3.0}, 24.0, 24},
+        {{1, 0.05}, 24.0, 24},
+        {{23, 0.99}, 24.0, 24},
+        {{5, 0.0}, 24.0, 24},
     };
-    for (const auto &c : cases)
-        EXPECT_EQ(measuredRate(c.counts), c.expected)
-            << c.counts.countedFrames << " in " << c.counts.countedSeconds << ", "
-            << c.counts.storedFrames << " in " << c.counts.passedSeconds;
+    for (const auto &c : cases) {
+        SCOPED_TRACE(testing::Message()
+                     << c.counts.storedFrames << " in " << c.counts.passedSeconds);
+        EXPECT_DOUBLE_EQ(measuredRate(c.counts, chosen), c.exact);
+        EXPECT_EQ(shownRate(measuredRate(c.counts, chosen)), c.shown);
+    }
+    EXPECT_EQ(shownRate(undefined), 1u);
+    EXPECT_EQ(shownRate(infinite), 60u);
+}
+
+TEST(MeasuredRate, fallsBehindWhenMoreThanOneFrameIsMissing) {
+    EXPECT_FALSE(fellBehind({5, 1.2}, 5)) << "the first frame came an interval after the start";
+    EXPECT_FALSE(fellBehind({599, 10.0}, 60));
+    EXPECT_TRUE(fellBehind({430, 10.0}, 60));
+    EXPECT_TRUE(fellBehind({3, 2.0}, 5));
+    EXPECT_FALSE(fellBehind({3, 0.9}, 5)) << "too short to say so";
+    EXPECT_FALSE(fellBehind({0, 10.0}, 5));
 }
 
 TEST(CaptureInterval, isComputedInSinglePrecision) {

@@ -79,14 +79,19 @@ TEST_F(Recording, enablesItsControlsByTheStateAndSavesWhatWasStored) {
     EXPECT_FALSE(QFile::exists(frameFile(4)));
 }
 
-TEST_F(Recording, countsFramesPerSecondAcrossPausesAndCarriesTheRestOver) {
+TEST_F(Recording, countsFramesPerSecondAcrossPausesFromItsStart) {
+    tick(3); // Before the recording: not a part of it.
     delegate->OnRecordRecord(nullptr);
+    EXPECT_EQ(delegate->recording.i_debug_number_of_view_refresh(), 0u);
+    const RepeatingTimer *timer = delegate->recording.timerdebug1Second.get();
+    ASSERT_NE(timer, nullptr) << "the one-second timer starts with the recording";
     tick(5);
     delegate->TimerDebug1SecondRoutine();
     delegate->OnRecordPause(nullptr);
     delegate->TimerDebug1SecondRoutine(); // Does not count.
     delegate->OnRecordRecord(nullptr);
     delegate->OnRecordRecord(nullptr); // Does nothing at all.
+    EXPECT_EQ(delegate->recording.timerdebug1Second.get(), timer) << "held, not started again";
     tick(6);
     delegate->TimerDebug1SecondRoutine();
     tick(2);
@@ -94,8 +99,6 @@ TEST_F(Recording, countsFramesPerSecondAcrossPausesAndCarriesTheRestOver) {
     EXPECT_EQ(delegate->recording.u_number_of_seconds(), 2u);
     EXPECT_EQ(frames(), 13u);
     delegate->OnRecordStop(nullptr);
-    EXPECT_EQ(delegate->recording.u_Record_Current_FPS(), 6u);
-    EXPECT_EQ(delegate->recording.u_FPS(), 6u);
     ASSERT_TRUE(waitForSave());
 
     delegate->OnRecordRecord(nullptr);
@@ -103,7 +106,35 @@ TEST_F(Recording, countsFramesPerSecondAcrossPausesAndCarriesTheRestOver) {
     EXPECT_EQ(frames(), 0u);
     EXPECT_TRUE(delegate->recording.array_Images->empty());
     EXPECT_EQ(delegate->recording.u_number_of_seconds(), 0u);
-    EXPECT_EQ(delegate->recording.i_debug_number_of_view_refresh(), 2u);
+    EXPECT_EQ(delegate->recording.i_debug_number_of_view_refresh(), 0u);
+}
+
+TEST_F(Recording, hasTheRateThatItsOwnClockMeasuresAndLeavesTheChosenOneAlone) {
+    delegate->recording.setU_FPS(60);
+    const auto record = [this](int count, std::chrono::duration<double> length) {
+        delegate->OnRecordRecord(nullptr);
+        tick(count);
+        // As if it had begun earlier.
+        delegate->recording.clock = {};
+        delegate->recording.clock.run(
+            std::chrono::steady_clock::now() -
+            std::chrono::duration_cast<std::chrono::steady_clock::duration>(length));
+        delegate->OnRecordStop(nullptr);
+        EXPECT_TRUE(waitForSave());
+        EXPECT_EQ(delegate->recording.u_FPS(), 60u);
+        delegate->OnMenuTabRecord();
+        delegate->stopRecordTimers();
+    };
+    record(86, std::chrono::seconds(2));
+    EXPECT_EQ(delegate->recording.u_Record_Current_FPS(), 43u);
+    EXPECT_NEAR(delegate->recording.exactRate(), 43.0, 0.4);
+    EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_RECORDING_BEHIND").arg(86).arg(60).arg(43));
+    record(120, std::chrono::seconds(2));
+    EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_RECORDING_SAVED").arg(120).arg(60));
+    // Too short to be measured: it is taken to have had the rate that was chosen.
+    record(3, std::chrono::milliseconds(300));
+    EXPECT_EQ(delegate->recording.exactRate(), 60.0);
+    EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_RECORDING_SAVED").arg(3).arg(60));
 }
 
 TEST_F(Recording, withoutAFrameSaysSoAndStays) {
@@ -117,7 +148,8 @@ TEST_F(Recording, withoutAFrameSaysSoAndStays) {
     EXPECT_EQ(delegate->shell.tabviewMain()->selectedIndex(), 0);
     EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_NOTHING_RECORDED"));
     EXPECT_EQ(enabled(), "111001");
-    EXPECT_EQ(delegate->recording.u_FPS(), 1u);
+    EXPECT_EQ(delegate->recording.u_FPS(), 5u);
+    EXPECT_EQ(delegate->recording.u_Record_Current_FPS(), 5u);
 }
 
 TEST_F(Recording, savesTheVeryFramesAgainWhenSomethingStoodInTheWay) {

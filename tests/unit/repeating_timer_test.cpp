@@ -52,6 +52,26 @@ TEST(RepeatingTimer, mayBeDestroyedAndReplacedInItsOwnCallback) {
     EXPECT_EQ(first, 1);
 }
 
+TEST(RepeatingTimer, goesOnWithWhatWasLeftWhenItWasHeld) {
+    constexpr double interval = 0.2; // seconds
+    int ticks = 0;
+    RepeatingTimer timer(interval, [&] { ++ticks; });
+    timer.goOn(); // Runs already.
+    QThread::msleep(120);
+    timer.hold();
+    timer.hold();
+    QThread::msleep(250);
+    QElapsedTimer clock;
+    clock.start();
+    timer.goOn();
+    ASSERT_TRUE(turnUntil([&] { return ticks > 0; }));
+    EXPECT_EQ(ticks, 1) << "nothing happened while it was held";
+    // A started one would take the whole interval; this one has 80 ms left at most.
+    EXPECT_LT(clock.nsecsElapsed(), 160'000'000);
+    ASSERT_TRUE(turnUntil([&] { return ticks > 1; }));
+    EXPECT_GT(clock.nsecsElapsed(), 200'000'000);
+}
+
 TEST(RepeatingTimer, anUndefinedOrInfiniteIntervalDoesNotFire) {
     int ticks = 0;
     RepeatingTimer never(1.0 / 0.0, [&] { ++ticks; });

@@ -109,14 +109,14 @@ TEST_F(TrimEditor, playbackLoopsOverTheRangePausesResumesAndStartsAfreshAfterSto
     EXPECT_EQ(shownFrame(), 3);
     delegate->OnCutPlay(nullptr);
     ASSERT_TRUE(delegate->trim.timerPlayRefresh);
-    EXPECT_EQ(delegate->trim.timerPlayRefresh->interval(), static_cast<double>(1.0f / 60.0f));
+    EXPECT_EQ(delegate->trim.timerPlayRefresh->interval(), 1.0 / 60.0);
     delegate->trim.timerPlayRefresh.reset(); // From here the test is the clock.
     QList<int> shown;
-    for (int tick = 0; tick < 4; ++tick) {
+    for (int tick = 0; tick < 5; ++tick) {
         shown << shownFrame();
         delegate->TimerRefreshPlayRoutine();
     }
-    EXPECT_EQ(shown, QList<int>({3, 4, 5, 3}));
+    EXPECT_EQ(shown, QList<int>({3, 4, 5, 6, 3}));
     delegate->OnCutPause(nullptr);
     EXPECT_EQ(shownFrame(), 4);
     delegate->OnCutPlay(nullptr);
