@@ -5,6 +5,7 @@
 #include "app/interface_strings.h"
 #include "app/shell_fields.h"
 #include "export/export_fields.h"
+#include "export/frame_timing.h"
 #include "record/capture_fields.h"
 #include "record/measured_rate.h"
 #include "record/recording_fields.h"
@@ -273,8 +274,10 @@ public:
     void finishEditingGIFSize();
     /// Says beside the size fields what is wrong with what is typed there, if anything.
     void updateGIFDimensionHint();
-    /// Says what the GIF will hold: frames, and seconds at the chosen rate.
+    /// Says what the file will hold: frames, seconds, and the rate that comes of it.
     void updateGIFSummary();
+    /// What the options ask for, of what is kept of the recording.
+    frame_timing::Request timingRequest() const;
     /// Size of the recording in points; none without a known capture mode.
     std::optional<QSizeF> originalSize() const;
     /// Ratio that the typed size is tied to; none when it is free.
@@ -285,17 +288,22 @@ public:
     /// Makes the GIF of the trimmed range and lets the user choose its place; an alert says why
     /// where that cannot be done. Nothing while an export is under way.
     void OnGIFExport(QObject *sender);
-    /// Likewise the WebP, in the recording's own size; the event loop rests meanwhile.
+    /// Likewise the WebP.
     void Generate_WebP(QObject *sender);
 
     // Running the tools (export/) -------------------------------------------------------------
 
-    /// Runs a tool to its end and returns all that it wrote. The event loop does not turn; only the
-    /// termination notice is heard.
+    /// Runs a tool to its end while the event loop turns and returns all that it wrote. A progress
+    /// sheet stays up, its bar where it is.
     ToolRun RunToolReadAllOutput(const QString &toolPath, const QStringList &arguments);
-    /// Runs the GIF encoder while the event loop turns and its error output moves the bar of the
-    /// progress sheet. The sheet is closed when it returns, however the run ended.
-    ToolExit RunToolWithProgress(const QString &toolPath, const QStringList &arguments);
+    /// Runs an encoder while the event loop turns and its error output moves the bar of the
+    /// progress sheet. The sheet is closed when it returns, however the run ended, unless the run
+    /// only prepares the next one. `type` is one of PROGRESS_TYPE_GIF and the others.
+    ToolExit RunToolWithProgress(const QString &toolPath, const QStringList &arguments,
+                                 std::uint64_t type = PROGRESS_TYPE_GIF);
+    /// Ends the export that is under way: the tool at once, the export itself when the tool has
+    /// ended. Its files are removed, the recording stays.
+    void cancelExport();
     /// The watched tool has written to its output: takes it and forgets it.
     void outData(QProcess &tool);
     /// A chunk of the watched tool's error output; empty at its end.
@@ -307,9 +315,21 @@ public:
 
 private:
     /// The three runs and the look at their result: why there is no GIF, or none.
-    std::optional<QString> encodeGIF();
+    std::optional<QString> encodeGIF(std::span<const frame_timing::TimedFrame> frames);
     /// Likewise for the WebP.
-    std::optional<QString> encodeWebP(const QStringList &frames);
+    std::optional<QString> encodeWebP(std::span<const frame_timing::TimedFrame> frames);
+    /// Scales the frames, each once, into files of their own in the export folder.
+    std::optional<QString> scaleForWebP(std::span<const frame_timing::TimedFrame> frames);
+    /// Starts the tool and waits for its end while events are turned; why it was not started, or
+    /// none.
+    std::optional<ToolExit> runWhileEventsTurn(QProcess &tool, const QString &toolPath,
+                                               const QStringList &arguments);
+    /// Shows the progress sheet of an export, which can be cancelled, and sees to it that it is on
+    /// the screen. `step` stands in its bar.
+    void showExportSheet(const QString &caption, const QString &step);
+    /// Takes the sheet down and shows the alert or removes what a cancelled export has left. True
+    /// when the export has ended with that.
+    bool endedWithoutResult(const std::optional<QString> &failure);
     /// Lets the user choose a place for a finished file and puts it there.
     void saveResult(const SaveRequest &request);
 

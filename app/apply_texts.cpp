@@ -83,6 +83,8 @@ void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
     ui.labelFPS->setText(texts.s_IDD_FPS());
     ui.comboGIFFPS->setAccessibleName(texts.s_IDD_FPS());
     ui.labelNote->setText(texts.s_IDD_NOTE());
+    ui.labelSpeed->setText(qtTrId("IDD_SPEED"));
+    ui.comboGIFSpeed->setAccessibleName(qtTrId("IDD_SPEED"));
     ui.labelWebPLoops->setText(qtTrId("IDD_WEBP_LOOPS"));
     ui.labelWebPLoopsHint->setText(qtTrId("IDD_WEBP_LOOPS_HINT"));
     ui.txtWebPLoops->setAccessibleName(qtTrId("IDD_WEBP_LOOPS"));

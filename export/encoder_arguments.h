@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "export/frame_timing.h"
+
 #include <QString>
 #include <QStringList>
 
 #include <cstdint>
+#include <span>
 
 /// The encoders' command lines and the names of the files that they hand to each other. Rules only:
 /// nothing is run and no file is touched. Folders are absolute, without a slash at the end. Numbers
@@ -24,7 +27,9 @@ QString inputPattern(const QString &folder);
 QString videoFile(const QString &paletteFolder);
 QString paletteFile(const QString &paletteFolder);
 QString gifFile(const QString &exportFolder);
-QString webpFile(const QString &recordingFolder);
+QString webpFile(const QString &exportFolder);
+/// The file of scaled frame `number`, which the WebP is made of where it has a size of its own.
+QString scaledFile(const QString &exportFolder, std::uint64_t number);
 
 /// First run: the palette folder's frames as a small video.
 QStringList paletteVideoArguments(const QString &paletteFolder);
@@ -32,13 +37,27 @@ QStringList paletteVideoArguments(const QString &paletteFolder);
 /// Second run: the palette of that video.
 QStringList paletteArguments(const QString &paletteFolder);
 
-/// Third run: the GIF. `rate` is in frames per second; `width` and `height` are the user's texts as
-/// they stand, since it is the encoder that judges them.
+/// Third run: the GIF of the staged frames, each shown as long as `frames`, the same frames in the
+/// same order, say in hundredths of a second. `width` and `height` are the user's texts as they
+/// stand, since it is the encoder that judges them.
 QStringList gifArguments(const QString &exportFolder, const QString &paletteFolder,
-                         std::uint64_t rate, const QString &width, const QString &height);
+                         std::span<const frame_timing::TimedFrame> frames, const QString &width,
+                         const QString &height);
+
+/// The run that scales the staged frames for the WebP, as the GIF's are scaled. It counts them at
+/// one a second, which its time stamps go by.
+QStringList scalingArguments(const QString &exportFolder, const QString &width,
+                             const QString &height);
+
+/// A picture of the WebP and how long it is shown.
+struct WebPFrame {
+    QString file;
+    std::uint64_t milliseconds = 0;
+};
 
 /// The WebP. `loopsText` is the user's: text that does not begin with a number means 0, for ever.
-QStringList webpArguments(QStringView loopsText, const QStringList &frameFiles,
+/// The encoder says on its error output which frames it has added.
+QStringList webpArguments(QStringView loopsText, std::span<const WebPFrame> frames,
                           const QString &output);
 
 } // namespace encoder_arguments

@@ -28,5 +28,8 @@ std::optional<QString> refusal(const AppDelegate &controller) {
     return sized ? std::nullopt : std::optional(controller.texts.s_IDD_INVALID_DIMENSION());
 }
 
-ExportMark::ExportMark(ExportFields &fields) : fields_(fields) { fields_.setExportRuns(true); }
+ExportMark::ExportMark(ExportFields &fields) : fields_(fields) {
+    fields_.setExportRuns(true);
+    fields_.setExportCancelled(false);
+}
 ExportMark::~ExportMark() { fields_.setExportRuns(false); }

@@ -4,6 +4,7 @@
 #include "ui_MainWindow.h"
 
 #include <QKeyEvent>
+#include <QLocale>
 
 namespace {
 
@@ -67,7 +68,10 @@ void AppDelegate::connectExportControls() {
 
     connect(ui->checkGIFKeepAspectRatio, &QCheckBox::toggled, this,
             [this] { OnGIFChangeKeepAspectRatio(ui->checkGIFKeepAspectRatio); });
-    connect(ui->comboGIFFPS, &QComboBox::currentIndexChanged, this, &AppDelegate::updateGIFSummary);
+    for (const double speed : frame_timing::speeds)
+        ui->comboGIFSpeed->addItem(QLocale().toString(speed) + QChar(u'×'), speed);
+    for (const QComboBox *list : {ui->comboGIFFPS, ui->comboGIFSpeed})
+        connect(list, &QComboBox::currentIndexChanged, this, &AppDelegate::updateGIFSummary);
     connect(ui->btnGIFExport, &QPushButton::clicked, this,
             [this] { OnGIFExport(ui->btnGIFExport); });
     connect(ui->menuitemActionGIFExport, &QAction::triggered, this,

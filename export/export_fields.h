@@ -9,8 +9,11 @@
 
 class Window_Progress;
 
-/// The kind of job that the progress sheet follows: the GIF encoding run.
+/// The kind of run that the progress sheet follows: the GIF's last one, one that only prepares an
+/// export, the WebP's.
 inline constexpr std::uint64_t PROGRESS_TYPE_GIF = 0;
+inline constexpr std::uint64_t PROGRESS_TYPE_PREPARATION = 1;
+inline constexpr std::uint64_t PROGRESS_TYPE_WEBP = 2;
 
 /// State of the exports and of the progress sheet. `export/` owns the behaviour.
 class ExportFields {
@@ -27,11 +30,14 @@ public:
     std::uint64_t u_Type_Progress() const { return u_Type_Progress_; }
     void setU_Type_Progress(std::uint64_t type) { u_Type_Progress_ = type; }
 
-    /// Expected length of the clip being encoded, in whole seconds.
-    std::uint64_t i_Orig_Duration_in_Seconds() const { return i_Orig_Duration_in_Seconds_; }
-    void setI_Orig_Duration_in_Seconds(std::uint64_t seconds) {
-        i_Orig_Duration_in_Seconds_ = seconds;
-    }
+    /// The last time stamp that the watched run is going to report, in seconds of what it writes:
+    /// there the bar is full.
+    double i_Orig_Duration_in_Seconds() const { return i_Orig_Duration_in_Seconds_; }
+    void setI_Orig_Duration_in_Seconds(double seconds) { i_Orig_Duration_in_Seconds_ = seconds; }
+
+    /// Whether the user has cancelled the export that is under way.
+    bool exportCancelled() const { return exportCancelled_; }
+    void setExportCancelled(bool cancelled) { exportCancelled_ = cancelled; }
 
     /// What the watched tool wrote to its error output, or the end of it.
     QByteArray toolErrors;
@@ -48,7 +54,8 @@ private:
     Window_Progress *windowProgress_ = nullptr;
     bool terminated_ = false;
     std::uint64_t u_Type_Progress_ = PROGRESS_TYPE_GIF;
-    std::uint64_t i_Orig_Duration_in_Seconds_ = 0;
+    double i_Orig_Duration_in_Seconds_ = 0.0;
+    bool exportCancelled_ = false;
     bool exportRuns_ = false;
     QString lastSaveFolder_;
 };

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
 #include "app/working_folders.h"
-#include "export/duration.h"
 #include "export/encoder_arguments.h"
 #include "export/export_checks.h"
 #include "export/save_request.h"
@@ -14,10 +13,11 @@
 #include <QImageReader>
 #include <QLocale>
 
+#include <algorithm>
+
 namespace {
 
 const QString encoder = QStringLiteral("ffmpeg");
-const QString errorTitle = QStringLiteral("Error");
 
 } // namespace
 
@@ -27,39 +27,33 @@ void AppDelegate::OnGIFExport(QObject *) {
     const ExportMark mark(exporting);
     finishEditingGIFSize();
     if (const std::optional<QString> reason = refusal(*this)) {
-        RunAlert(errorTitle, *reason);
+        RunAlert(QStringLiteral("Error"), *reason);
         return;
     }
-    const range_rules::Kept kept = *keptRange();
-    exporting.setI_Orig_Duration_in_Seconds(
-        expectedDuration(kept.first, kept.last, recording.u_Record_Current_FPS()));
     ShowStatus({});
     RemoveAllContentInFolder(shell.s_Export_Folder());
-    showProgressSheet(qtTrId("IDD_PROGRESS_GIF"));
-    // The two runs for the palette tell nothing and let nothing be painted.
-    setProgressText(qtTrId("IDD_PROGRESS_PALETTE"));
-    paintProgressSheet();
+    showExportSheet(qtTrId("IDD_PROGRESS_GIF"), qtTrId("IDD_PROGRESS_PALETTE"));
     RemoveAllContentInFolder(shell.s_Pallete_Folder());
     // Somebody may have taken them away since the start.
     working_folders::ensureFolder(shell.s_Export_Folder());
     working_folders::ensureFolder(shell.s_Pallete_Folder());
-    const std::uint64_t staged = stageFrames(shell.s_Output_Folder(), kept.first, kept.last,
-                                             shell.s_Export_Folder(), shell.s_Pallete_Folder());
-    const std::optional<QString> failure = encodeGIF();
-    if (failure) {
-        closeProgressSheet();
-        RunAlert(errorTitle, *failure);
+    using namespace frame_timing;
+    const std::vector<TimedFrame> frames = timedFrames(timingRequest(), gifTicks);
+    const std::span<const TimedFrame> all(frames);
+    const std::uint64_t staged = stageFrames(shell.s_Output_Folder(), all, shell.s_Export_Folder());
+    stageFrames(shell.s_Output_Folder(),
+                all.first(std::min<std::size_t>(all.size(), encoder_arguments::paletteFrames)),
+                shell.s_Pallete_Folder());
+    if (endedWithoutResult(encodeGIF(all)))
         return;
-    }
     const QString gif = encoder_arguments::gifFile(shell.s_Export_Folder());
     QString note;
-    const std::uint64_t wanted = kept.count();
-    if (staged < wanted) {
+    if (staged < frames.size()) {
         // The input ends at the gap, or begins after it: only the file knows what it holds.
         const QLocale locale;
         note = qtTrId("IDD_STATUS_GAP")
                    .arg(locale.toString(QImageReader(gif).imageCount()),
-                        locale.toString(qulonglong{wanted}));
+                        locale.toString(qulonglong{frames.size()}));
         ShowStatus(note);
     }
     saveResult({.file = gif,
@@ -68,7 +62,7 @@ void AppDelegate::OnGIFExport(QObject *) {
                 .note = note});
 }
 
-std::optional<QString> AppDelegate::encodeGIF() {
+std::optional<QString> AppDelegate::encodeGIF(std::span<const frame_timing::TimedFrame> frames) {
     using namespace encoder_arguments;
     const QString &tool = shell.sffmpegPath();
     const QString &palette = shell.s_Pallete_Folder();
@@ -80,15 +74,13 @@ std::optional<QString> AppDelegate::encodeGIF() {
     }
     const QString width = ui->textGIFWidth->text();
     const QString height = ui->textGIFHeigth->text();
-    const auto rate = static_cast<std::uint64_t>(ui->comboGIFFPS->currentIndex() + 1);
     setProgressText(qtTrId("IDD_PROGRESS_PICTURES"));
+    exporting.setI_Orig_Duration_in_Seconds(
+        frame_timing::beginOfLast(frames, frame_timing::gifTicks));
     const ToolExit exit = RunToolWithProgress(
-        tool, gifArguments(shell.s_Export_Folder(), palette, rate, width, height));
-    if (exit.kind == ToolExit::Kind::Ended && exit.code != 0)
-        return toolFailureText(encoder, exit) + QStringLiteral("\n\n") +
-               qtTrId("IDD_REFUSED_SIZE").arg(width, height);
+        tool, gifArguments(shell.s_Export_Folder(), palette, frames, width, height));
     if (!exit.succeeded())
-        return toolFailureText(encoder, exit);
+        return refusedSizeText(encoder, exit, width, height);
     const QString gif = gifFile(shell.s_Export_Folder());
     if (QFileInfo(gif).size() == 0)
         return noResultText(encoder, gif, exit);

@@ -2,12 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
 #include "export/aspect_ratio.h"
-#include "export/export_checks.h"
 #include "export/size_text.h"
 #include "platform/text_number.h"
 #include "ui_MainWindow.h"
-
-#include <QLocale>
 
 #include <algorithm>
 
@@ -49,6 +46,8 @@ void AppDelegate::resetGIFOptions() {
                                  ui->radioGIFOriginalFPS,
                                  ui->radioGIFCustomFPS,
                                  ui->comboGIFFPS,
+                                 ui->labelSpeed,
+                                 ui->comboGIFSpeed,
                                  ui->btnGIFExport};
     for (QWidget *control : controls)
         control->setEnabled(exists);
@@ -60,6 +59,7 @@ void AppDelegate::resetGIFOptions() {
         OnGIFOriginalResolution(ui->radioGIFOriginalDimension);
         ui->radioGIFOriginalFPS->setChecked(true);
         OnGIFOriginalFPS(ui->radioGIFOriginalFPS);
+        ui->comboGIFSpeed->setCurrentIndex(ui->comboGIFSpeed->findData(1.0));
     }
     updateGIFSummary();
 }
@@ -106,6 +106,7 @@ void AppDelegate::OnGIFOriginalFPS(QObject *) {
     const std::uint64_t rate = std::clamp<std::uint64_t>(recording.u_Record_Current_FPS(), 1,
                                                          std::max<std::uint64_t>(entries, 1));
     ui->comboGIFFPS->setCurrentIndex(static_cast<int>(rate) - 1);
+    updateGIFSummary();
 }
 
 void AppDelegate::OnGIFCustomFPS(QObject *) {
@@ -113,6 +114,7 @@ void AppDelegate::OnGIFCustomFPS(QObject *) {
         return;
     ui->radioGIFOriginalFPS->setChecked(false);
     ui->comboGIFFPS->setEnabled(true);
+    updateGIFSummary();
 }
 
 std::optional<float> AppDelegate::tiedAspectRatio() const {
@@ -171,24 +173,4 @@ void AppDelegate::updateGIFDimensionHint() {
     ui->labelDimensionHint->setText(hint);
     ui->labelDimensionHint->setToolTip(hint);
     ui->labelDimensionHint->setVisible(!hint.isEmpty());
-}
-
-void AppDelegate::updateGIFSummary() {
-    const auto kept = keptRange();
-    const int rate = ui->comboGIFFPS->currentIndex() + 1;
-    if (!firstFrameFileExists() || rate < 1) {
-        ui->labelGIFSummary->clear();
-        return;
-    }
-    if (hasTooFewFrames(kept)) {
-        ui->labelGIFSummary->setText(texts.s_IDD_LOW_FRAME_NUMBER());
-        return;
-    }
-    const std::uint64_t frames = kept->count();
-    const QLocale locale;
-    ui->labelGIFSummary->setText(
-        qtTrId("IDD_GIF_SUMMARY")
-            .arg(locale.toString(qulonglong{frames}),
-                 locale.toString(static_cast<double>(frames) / rate, 'f', 1),
-                 locale.toString(rate)));
 }

@@ -19,10 +19,15 @@ std::optional<QString> strictUtf8(QByteArrayView bytes);
 /// computed with in 64 unsigned bits.
 std::uint64_t secondsFromStamp(QStringView stamp);
 
-/// Seconds of the last complete "time=" stamp in a chunk; none when there is none, or when the
-/// chunk is not UTF-8. Only the first occurrence must be in lower case and complete.
-std::optional<std::uint64_t> secondsInChunk(QByteArrayView chunk);
+/// Seconds of the last complete "time=" stamp in a chunk, with the hundredths where they follow it;
+/// none when there is none, or when the chunk is not UTF-8. Only the first occurrence must be in
+/// lower case and complete.
+std::optional<double> secondsInChunk(QByteArrayView chunk);
+
+/// Seconds at which the last frame begins that the WebP encoder says in a chunk to have added
+/// ("Added frame # 12 at time 400 (file: ...)", a line of its own); none likewise.
+std::optional<double> secondsOfAddedFrame(QByteArrayView chunk);
 
 /// Position in percent, in single precision: beyond 100 when the clip runs longer than `duration`
 /// seconds, not finite when that is 0.
-double progressPercentage(std::uint64_t seconds, std::uint64_t duration);
+double progressPercentage(double seconds, double duration);

@@ -3,7 +3,6 @@
 #include "export/staging.h"
 
 #include "app/working_folders.h"
-#include "export/encoder_arguments.h"
 
 #include <QFile>
 
@@ -20,18 +19,13 @@ bool stage(const QString &source, const QString &target) {
 
 } // namespace
 
-std::uint64_t stageFrames(const QString &recordingFolder, std::uint64_t first, std::uint64_t last,
-                          const QString &exportFolder, const QString &paletteFolder) {
+std::uint64_t stageFrames(const QString &recordingFolder,
+                          std::span<const frame_timing::TimedFrame> frames, const QString &folder) {
     std::uint64_t staged = 0;
-    for (std::uint64_t frame = first; frame <= last; ++frame) {
-        const std::uint64_t number = frame - first;
-        const QString source = working_folders::frameFile(recordingFolder, frame);
-        if (stage(source, working_folders::stagedFile(exportFolder, number)))
+    std::uint64_t number = 0;
+    for (const frame_timing::TimedFrame &frame : frames)
+        if (stage(working_folders::frameFile(recordingFolder, frame.source),
+                  working_folders::stagedFile(folder, number++)))
             ++staged;
-        if (number < encoder_arguments::paletteFrames)
-            stage(source, working_folders::stagedFile(paletteFolder, number));
-        if (frame == last)
-            break; // the largest number has no successor
-    }
     return staged;
 }

@@ -54,10 +54,20 @@ QString toolFailureText(const QString &toolName, const ToolExit &exit) {
                              .arg(toolName, QString::number(exit.code),
                                   QString::fromLocal8Bit(strsignal(exit.code))),
                          exit);
+    case ToolExit::Kind::Cancelled:
+        return qtTrId("IDD_EXPORT_CANCELLED");
     case ToolExit::Kind::Ended:
         break;
     }
     return withLines(qtTrId("IDD_TOOL_FAILED").arg(toolName, QString::number(exit.code)), exit);
+}
+
+QString refusedSizeText(const QString &toolName, const ToolExit &exit, const QString &width,
+                        const QString &height) {
+    const QString text = toolFailureText(toolName, exit);
+    if (exit.kind != ToolExit::Kind::Ended)
+        return text;
+    return text + QStringLiteral("\n\n") + qtTrId("IDD_REFUSED_SIZE").arg(width, height);
 }
 
 QString noResultText(const QString &toolName, const QString &file, const ToolExit &exit) {

@@ -15,5 +15,9 @@ QString lastMeaningfulLines(QByteArrayView errorOutput);
 /// said.
 QString toolFailureText(const QString &toolName, const ToolExit &exit);
 
+/// The same for a run that was given a size; the size too, where it may be the reason.
+QString refusedSizeText(const QString &toolName, const ToolExit &exit, const QString &width,
+                        const QString &height);
+
 /// What the user is told when a tool ended well and its result is missing or empty.
 QString noResultText(const QString &toolName, const QString &file, const ToolExit &exit);

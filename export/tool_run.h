@@ -11,6 +11,7 @@ struct ToolExit {
         NotStarted, ///< The system refused; `reason` is its sentence.
         Crashed,    ///< Ended by the signal `code`.
         Ended,      ///< With the exit status `code`.
+        Cancelled,  ///< Not started: the user has cancelled the export.
     };
     Kind kind = Kind::Missing;
     int code = 0;
@@ -21,7 +22,7 @@ struct ToolExit {
     bool succeeded() const { return kind == Kind::Ended && code == 0; }
 };
 
-/// A tool's run that was waited for with the event loop at rest.
+/// A tool's run of which all that it wrote is of interest.
 struct ToolRun {
     /// All that it wrote to its output and its error output; empty when that is not UTF-8.
     QString text;

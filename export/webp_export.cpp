@@ -5,29 +5,50 @@
 #include "export/encoder_arguments.h"
 #include "export/export_checks.h"
 #include "export/save_request.h"
+#include "export/size_text.h"
+#include "export/staging.h"
 #include "export/tool_failure.h"
+#include "platform/text_number.h"
 #include "ui_MainWindow.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
+#include <QImageReader>
 #include <QLocale>
+
+using frame_timing::TimedFrame;
 
 namespace {
 
 const QString encoder = QStringLiteral("img2webp");
-const QString errorTitle = QStringLiteral("Error");
+const QString scaler = QStringLiteral("ffmpeg");
 
-/// The frame files of the range up to the first one that is missing.
-QStringList framesUpToGap(const QString &folder, std::uint64_t first, std::uint64_t last) {
-    QStringList files;
-    for (std::uint64_t frame = first; frame <= last; ++frame) {
-        const QString file = working_folders::frameFile(folder, frame);
-        if (!QFileInfo::exists(file))
-            break;
-        files += file;
-    }
-    return files;
+/// The frames up to the first one whose file is missing.
+std::span<const TimedFrame> framesUpToGap(const QString &folder,
+                                          std::span<const TimedFrame> frames) {
+    std::size_t count = 0;
+    while (count < frames.size() &&
+           QFileInfo::exists(working_folders::frameFile(folder, frames[count].source)))
+        ++count;
+    return frames.first(count);
+}
+
+/// The frames without those that repeat the one before.
+std::vector<TimedFrame> withoutRepeats(std::span<const TimedFrame> frames) {
+    std::vector<TimedFrame> each;
+    for (const TimedFrame &frame : frames)
+        if (each.empty() || each.back().source != frame.source)
+            each.push_back(frame);
+    return each;
+}
+
+/// Whether the texts say anything but the size that this picture has.
+bool asksForAnotherSize(const QString &picture, const QString &width, const QString &height) {
+    const QSize size = QImageReader(picture).size();
+    const auto says = [](const QString &text, int pixels) {
+        return sizeTextProblem(text) == SizeTextProblem::None && integerValue(text) == pixels;
+    };
+    return !says(width, size.width()) || !says(height, size.height());
 }
 
 } // namespace
@@ -38,48 +59,81 @@ void AppDelegate::Generate_WebP(QObject *) {
     const ExportMark mark(exporting);
     finishEditingGIFSize();
     if (const std::optional<QString> reason = refusal(*this)) {
-        RunAlert(errorTitle, *reason);
+        RunAlert(QStringLiteral("Error"), *reason);
         return;
     }
-    const range_rules::Kept kept = *keptRange();
-    RemoveAllContentInFolder(shell.s_Export_Folder());
-    const QStringList frames = framesUpToGap(shell.s_Output_Folder(), kept.first, kept.last);
-    const std::optional<QString> failure = encodeWebP(frames);
     ShowStatus({});
-    if (failure) {
-        RunAlert(errorTitle, *failure);
+    RemoveAllContentInFolder(shell.s_Export_Folder());
+    working_folders::ensureFolder(shell.s_Export_Folder());
+    showExportSheet(qtTrId("IDD_PROGRESS_WEBP"), QStringLiteral("%p%"));
+    const std::vector<TimedFrame> wanted =
+        frame_timing::timedFrames(timingRequest(), frame_timing::webpTicks);
+    const std::span<const TimedFrame> frames = framesUpToGap(shell.s_Output_Folder(), wanted);
+    if (endedWithoutResult(encodeWebP(frames)))
         return;
-    }
     QString note;
-    const std::uint64_t wanted = kept.count();
-    if (static_cast<std::uint64_t>(frames.size()) < wanted) {
+    if (frames.size() < wanted.size()) {
         const QLocale locale;
         note = qtTrId("IDD_STATUS_WEBP_GAP")
-                   .arg(locale.toString(frames.size()), locale.toString(qulonglong{wanted}));
+                   .arg(locale.toString(qulonglong{frames.size()}),
+                        locale.toString(qulonglong{wanted.size()}));
         ShowStatus(note);
     }
-    saveResult({.file = encoder_arguments::webpFile(shell.s_Output_Folder()),
+    saveResult({.file = encoder_arguments::webpFile(shell.s_Export_Folder()),
                 .panelTitle = QStringLiteral("Select a folder to save the WebP image"),
                 .successText = QStringLiteral("Success"),
                 .note = note});
 }
 
-std::optional<QString> AppDelegate::encodeWebP(const QStringList &frames) {
-    const QString output = encoder_arguments::webpFile(shell.s_Output_Folder());
-    // One that was not saved earlier must not pass for the result of this run.
-    QFile::remove(output);
-    ShowStatus(qtTrId("IDD_STATUS_WEBP_RUNS"));
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    ui->labelStatus->repaint();
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    const ToolRun run = RunToolReadAllOutput(
+std::optional<QString> AppDelegate::encodeWebP(std::span<const TimedFrame> frames) {
+    const bool scaled =
+        !frames.empty() && asksForAnotherSize(working_folders::frameFile(shell.s_Output_Folder(),
+                                                                         frames.front().source),
+                                              ui->textGIFWidth->text(), ui->textGIFHeigth->text());
+    if (scaled) {
+        if (const std::optional<QString> failure = scaleForWebP(frames))
+            return failure;
+    }
+    std::vector<encoder_arguments::WebPFrame> pictures;
+    pictures.reserve(frames.size());
+    std::uint64_t number = 0;
+    for (std::size_t at = 0; at < frames.size(); ++at) {
+        if (at > 0 && frames[at].source != frames[at - 1].source)
+            ++number;
+        pictures.push_back(
+            {.file = scaled
+                         ? encoder_arguments::scaledFile(shell.s_Export_Folder(), number)
+                         : working_folders::frameFile(shell.s_Output_Folder(), frames[at].source),
+             .milliseconds = frames[at].delay});
+    }
+    const QString output = encoder_arguments::webpFile(shell.s_Export_Folder());
+    exporting.setI_Orig_Duration_in_Seconds(
+        frame_timing::beginOfLast(frames, frame_timing::webpTicks));
+    const ToolExit exit = RunToolWithProgress(
         shell.simg2webpPath(),
-        encoder_arguments::webpArguments(ui->txtWebPLoops->text(), frames, output));
-    QGuiApplication::restoreOverrideCursor();
-    qInfo("%s", qPrintable(run.text));
-    if (!run.exit.succeeded())
-        return toolFailureText(encoder, run.exit);
+        encoder_arguments::webpArguments(ui->txtWebPLoops->text(), pictures, output),
+        PROGRESS_TYPE_WEBP);
+    if (!exit.succeeded())
+        return toolFailureText(encoder, exit);
     if (QFileInfo(output).size() == 0)
-        return noResultText(encoder, output, run.exit);
+        return noResultText(encoder, output, exit);
+    return std::nullopt;
+}
+
+std::optional<QString> AppDelegate::scaleForWebP(std::span<const TimedFrame> frames) {
+    const std::vector<TimedFrame> each = withoutRepeats(frames);
+    stageFrames(shell.s_Output_Folder(), each, shell.s_Export_Folder());
+    setProgressText(qtTrId("IDD_PROGRESS_SCALING"));
+    const QString width = ui->textGIFWidth->text();
+    const QString height = ui->textGIFHeigth->text();
+    // One a second, see `scalingArguments`; this encoder's stamps tell where a picture ends.
+    exporting.setI_Orig_Duration_in_Seconds(static_cast<double>(each.size()));
+    const ToolExit exit = RunToolWithProgress(
+        shell.sffmpegPath(),
+        encoder_arguments::scalingArguments(shell.s_Export_Folder(), width, height),
+        PROGRESS_TYPE_PREPARATION);
+    setProgressText(qtTrId("IDD_PROGRESS_PICTURES"));
+    if (!exit.succeeded())
+        return refusedSizeText(scaler, exit, width, height);
     return std::nullopt;
 }

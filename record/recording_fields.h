@@ -9,6 +9,7 @@
 #include "record/memory_budget.h"
 #include "record/recording_clock.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -37,14 +38,14 @@ public:
     void setU_FPS(std::uint64_t rate) { u_FPS_ = rate; }
 
     /// Rate of the last recording in frames per second, as it is shown: a whole number, 1 to 60.
-    /// Setting it makes it the exact rate as well.
+    /// Setting it makes it the exact rate as well, if it is one.
     std::uint64_t u_Record_Current_FPS() const { return u_Record_Current_FPS_; }
     void setU_Record_Current_FPS(std::uint64_t rate) {
         u_Record_Current_FPS_ = rate;
-        exactRate_ = static_cast<double>(rate);
+        exactRate_ = static_cast<double>(std::max(rate, lowestRate));
     }
 
-    /// The same rate unrounded, which every length and delay goes by; above 0 after a recording.
+    /// The same rate unrounded, which every length and delay goes by; always above 0.
     double exactRate() const { return exactRate_; }
     void setExactRate(double rate) {
         exactRate_ = rate;
@@ -97,7 +98,7 @@ private:
     std::uint64_t m_RecordStatus_ = RECORD_STATUS_STOP;
     std::uint64_t u_FPS_ = 0;
     std::uint64_t u_Record_Current_FPS_ = 0;
-    double exactRate_ = 0.0;
+    double exactRate_ = static_cast<double>(lowestRate);
     std::uint64_t u_Record_Current_Frame_ = 0;
     std::uint64_t i_debug_number_of_view_refresh_ = 0;
     std::int64_t i_Actual_FPS_while_Recording_ = 0;

@@ -3,7 +3,9 @@
 #include "record/window_fps.h"
 
 #include "app/app_delegate.h"
+#include "app/elided_label.h"
 #include "app/mnemonics.h"
+#include "export/frame_timing.h"
 #include "record/rate_list.h"
 #include "ui_Window_FPS.h"
 
@@ -30,6 +32,13 @@ void Window_FPS::windowDidLoad() {
     ui_->btnOK->setText(qtTrId("IDD_OK"));
     ui_->btnCancel->setText(qtTrId("IDD_CANCEL"));
     mnemonics::mark(*this);
+    const auto sayWhatAGifGets = [this](int index) {
+        const bool thinned = static_cast<std::uint64_t>(index) + lowestRate >
+                             frame_timing::highestRate(frame_timing::gifTicks);
+        ui_->labelThinned->setText(thinned ? qtTrId("IDD_GIF_THINNED") : QString());
+    };
+    connect(ui_->comboScreenFPS, &QComboBox::currentIndexChanged, this, sayWhatAGifGets);
+    sayWhatAGifGets(ui_->comboScreenFPS->currentIndex());
     connect(ui_->btnOK, &QPushButton::clicked, this, [this] { OnOK(ui_->btnOK); });
     connect(ui_->btnCancel, &QPushButton::clicked, this, [this] { OnCancel(ui_->btnCancel); });
 }

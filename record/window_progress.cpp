@@ -26,6 +26,9 @@ Window_Progress::Window_Progress(QWidget &anchor, const QString &caption)
     setWindowTitle(caption);
     ui_->labelDescription->setText(caption);
     ui_->progressBar->setAccessibleName(caption);
+    ui_->btnCancel->setText(qtTrId("IDD_CANCEL"));
+    ui_->btnCancel->hide();
+    connect(ui_->btnCancel, &QPushButton::clicked, this, &Window_Progress::cancel);
     anchor.window()->installEventFilter(this);
     // The toolkit drops close requests for a window that a modal one blocks.
     closeRequests_ = std::make_unique<CloseRequests>([this](WId window) {
@@ -79,6 +82,22 @@ void Window_Progress::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
     painter.setPen(line);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void Window_Progress::offerCancel() {
+    ui_->btnCancel->show();
+    ui_->btnCancel->setFocus();
+    adjustSize();
+    place();
+}
+
+void Window_Progress::reject() { cancel(); }
+
+void Window_Progress::cancel() {
+    if (!ui_->btnCancel->isVisibleTo(this) || !ui_->btnCancel->isEnabled())
+        return;
+    ui_->btnCancel->setEnabled(false);
+    Q_EMIT cancelled();
 }
 
 void Window_Progress::closeEvent(QCloseEvent *event) { event->ignore(); }

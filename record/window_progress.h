@@ -13,9 +13,9 @@ namespace Ui {
 class Window_Progress;
 }
 
-/// The progress sheet: a caption and a bar, hanging from a strip of the window that it blocks. It
-/// has no action of its own and cannot be dismissed by the user; the job that showed it takes it
-/// down. A sheet is never used twice.
+/// The progress sheet: a caption and a bar, hanging from a strip of the window that it blocks. The
+/// job that showed it takes it down, the user cannot; a job that can be cancelled says so, and is
+/// told when the user does. A sheet is never used twice.
 class Window_Progress : public QDialog {
     Q_OBJECT
 
@@ -37,12 +37,17 @@ public:
     /// Values beyond the range show as empty or full; one that is not finite moves nothing.
     void setDoubleValue(double value);
 
-    /// The sheet stays: neither Escape nor a close request ends it.
-    void reject() override {}
+    /// Shows a button that asks for the job to be cancelled, as Escape then does.
+    void offerCancel();
+
+    /// Escape, or a close request. The sheet stays.
+    void reject() override;
 
 Q_SIGNALS:
     /// The user asked the window manager to close the window beneath the sheet.
     void parentCloseRequested();
+    /// The user asked for the job to be cancelled: once at most, and only where that is offered.
+    void cancelled();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -53,6 +58,7 @@ protected:
 private:
     void showValue();
     void place();
+    void cancel();
 
     std::unique_ptr<Ui::Window_Progress> ui_;
     QWidget &anchor_;

@@ -13,12 +13,6 @@ namespace {
 
 constexpr int secondsDecimals = 2; // a frame at 60 per second still counts
 
-/// The rate that a recording is played at, in frames per second; before the first one there is
-/// none, and nothing to divide by.
-double playedRate(const RecordingFields &recording) {
-    return recording.exactRate() > 0.0 ? recording.exactRate() : 1.0;
-}
-
 /// What an export would hold, in the user's words.
 QString textOfKept(std::optional<range_rules::Kept> kept, double rate) {
     if (!kept)
@@ -63,7 +57,7 @@ void AppDelegate::OnCutPlay(QObject *) {
         trim.setUCurrentFrame(trim.uFirstFrame());
     trim.setM_PlayStatus(PLAY_STATUS_PLAY);
     trim.timerPlayRefresh.reset();
-    trim.timerPlayRefresh = std::make_unique<RepeatingTimer>(1.0 / playedRate(recording),
+    trim.timerPlayRefresh = std::make_unique<RepeatingTimer>(1.0 / recording.exactRate(),
                                                              [this] { TimerRefreshPlayRoutine(); });
     ui->viewCutRange->update();
 }
@@ -112,7 +106,7 @@ std::optional<range_rules::Kept> AppDelegate::keptRange() const {
 void AppDelegate::showTrimmedRange(bool recordingExists) {
     QString text;
     if (recordingExists)
-        text = textOfKept(keptRange(), playedRate(recording));
+        text = textOfKept(keptRange(), recording.exactRate());
     // Every drawing comes by here: the label is laid out anew only when it says something else.
     if (ui->labelCutRange->text() != text)
         ui->labelCutRange->setText(text);

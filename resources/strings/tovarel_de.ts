@@ -66,8 +66,8 @@
         <translation>Bilder pro Sekunde</translation>
     </message>
     <message id="IDD_INSTRUCTIONS">
-        <source>Choose the size and the frame rate, then generate the GIF.</source>
-        <translation>Größe und Bildrate wählen, dann das GIF erzeugen.</translation>
+        <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
+        <translation>Größe, Bildrate und Geschwindigkeit wählen, dann das GIF erzeugen.</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
@@ -359,13 +359,25 @@
         <source>Making the GIF…</source>
         <translation>Das GIF wird erzeugt …</translation>
     </message>
+    <message id="IDD_PROGRESS_WEBP">
+        <source>Generating the WebP…</source>
+        <translation>Das WebP wird erzeugt&#xa0;…</translation>
+    </message>
     <message id="IDD_PROGRESS_PALETTE">
         <source>Step 1 of 2: choosing the colours</source>
         <translation>Schritt 1 von 2: Farben auswählen</translation>
     </message>
+    <message id="IDD_PROGRESS_SCALING">
+        <source>Step 1 of 2, scaling: %p%</source>
+        <translation>Schritt 1 von 2, Skalieren: %p&#xa0;%</translation>
+    </message>
     <message id="IDD_PROGRESS_PICTURES">
         <source>Step 2 of 2: %p%</source>
         <translation>Schritt 2 von 2: %p %</translation>
+    </message>
+    <message id="IDD_EXPORT_CANCELLED">
+        <source>The export was canceled.</source>
+        <translation>Der Export wurde abgebrochen.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
         <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
@@ -431,17 +443,21 @@ Sie bleibt unter %3.</translation>
         <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
         <translation>Das WebP enthält %1 von %2 Bildern: Das nächste fehlte.</translation>
     </message>
-    <message id="IDD_STATUS_WEBP_RUNS">
-        <source>Making the WebP…</source>
-        <translation>Das WebP wird erzeugt …</translation>
+    <message id="IDD_SPEED">
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message id="IDD_GIF_THINNED">
+        <source>GIF: thinned to 50&#xa0;fps</source>
+        <translation>GIF: auf 50&#xa0;fps verringert</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>WebP erzeugen</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
-        <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
-        <translation>Erzeugt ein WebP in der Größe der Aufnahme und mit der Bildrate des Werkzeugs</translation>
+        <source>Generates a WebP with the size, frame rate and speed chosen here</source>
+        <translation>Erzeugt ein WebP mit der hier gewählten Größe, Bildrate und Geschwindigkeit</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
         <source>WebP loops</source>
@@ -472,8 +488,8 @@ Sie bleibt unter %3.</translation>
         <translation>höchstens 65.535 Pixel</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>%1 frames, %2 s at %3 frames per second</source>
-        <translation>%1 Bilder, %2 s bei %3 Bildern pro Sekunde</translation>
+        <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
+        <translation>%1 Bilder, %2&#xa0;s bei %3&#xa0;fps</translation>
     </message>
 </context>
 </TS>

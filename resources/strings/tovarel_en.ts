@@ -66,8 +66,8 @@
         <translation>Frames per Second</translation>
     </message>
     <message id="IDD_INSTRUCTIONS">
-        <source>Choose the size and the frame rate, then generate the GIF.</source>
-        <translation>Choose the size and the frame rate, then generate the GIF.</translation>
+        <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
+        <translation>Choose the size, the frame rate and the speed, then generate the GIF.</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
@@ -359,13 +359,25 @@
         <source>Making the GIF…</source>
         <translation>Making the GIF…</translation>
     </message>
+    <message id="IDD_PROGRESS_WEBP">
+        <source>Generating the WebP…</source>
+        <translation>Generating the WebP…</translation>
+    </message>
     <message id="IDD_PROGRESS_PALETTE">
         <source>Step 1 of 2: choosing the colours</source>
         <translation>Step 1 of 2: choosing the colours</translation>
     </message>
+    <message id="IDD_PROGRESS_SCALING">
+        <source>Step 1 of 2, scaling: %p%</source>
+        <translation>Step 1 of 2, scaling: %p%</translation>
+    </message>
     <message id="IDD_PROGRESS_PICTURES">
         <source>Step 2 of 2: %p%</source>
         <translation>Step 2 of 2: %p%</translation>
+    </message>
+    <message id="IDD_EXPORT_CANCELLED">
+        <source>The export was canceled.</source>
+        <translation>The export was canceled.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
         <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
@@ -431,17 +443,21 @@ It remains at %3.</translation>
         <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
         <translation>The WebP holds %1 of %2 frames: the next one was missing.</translation>
     </message>
-    <message id="IDD_STATUS_WEBP_RUNS">
-        <source>Making the WebP…</source>
-        <translation>Making the WebP…</translation>
+    <message id="IDD_SPEED">
+        <source>Speed</source>
+        <translation>Speed</translation>
+    </message>
+    <message id="IDD_GIF_THINNED">
+        <source>GIF: thinned to 50&#xa0;fps</source>
+        <translation>GIF: thinned to 50&#xa0;fps</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>Generate WebP</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
-        <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
-        <translation>Makes a WebP in the recording's own size, at the tool's own rate</translation>
+        <source>Generates a WebP with the size, frame rate and speed chosen here</source>
+        <translation>Generates a WebP with the size, frame rate and speed chosen here</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
         <source>WebP loops</source>
@@ -472,8 +488,8 @@ It remains at %3.</translation>
         <translation>65,535 pixels at most</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>%1 frames, %2 s at %3 frames per second</source>
-        <translation>%1 frames, %2 s at %3 frames per second</translation>
+        <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
+        <translation>%1 frames, %2&#xa0;s at %3&#xa0;fps</translation>
     </message>
 </context>
 </TS>

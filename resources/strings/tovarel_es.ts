@@ -66,8 +66,8 @@
         <translation>Fotogramas por segundo</translation>
     </message>
     <message id="IDD_INSTRUCTIONS">
-        <source>Choose the size and the frame rate, then generate the GIF.</source>
-        <translation>Elija el tamaño y la frecuencia de fotogramas y luego cree el GIF.</translation>
+        <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
+        <translation>Elija el tamaño, la frecuencia de fotogramas y la velocidad, y luego cree el GIF.</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
@@ -359,13 +359,25 @@
         <source>Making the GIF…</source>
         <translation>Creando el GIF…</translation>
     </message>
+    <message id="IDD_PROGRESS_WEBP">
+        <source>Generating the WebP…</source>
+        <translation>Creando el WebP…</translation>
+    </message>
     <message id="IDD_PROGRESS_PALETTE">
         <source>Step 1 of 2: choosing the colours</source>
         <translation>Paso 1 de 2: elección de los colores</translation>
     </message>
+    <message id="IDD_PROGRESS_SCALING">
+        <source>Step 1 of 2, scaling: %p%</source>
+        <translation>Paso 1 de 2, cambio de tamaño: %p&#xa0;%</translation>
+    </message>
     <message id="IDD_PROGRESS_PICTURES">
         <source>Step 2 of 2: %p%</source>
         <translation>Paso 2 de 2: %p %</translation>
+    </message>
+    <message id="IDD_EXPORT_CANCELLED">
+        <source>The export was canceled.</source>
+        <translation>La exportación se ha cancelado.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
         <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
@@ -431,17 +443,21 @@ Sigue en %3.</translation>
         <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
         <translation>El WebP contiene %1 de %2 fotogramas: faltaba el siguiente.</translation>
     </message>
-    <message id="IDD_STATUS_WEBP_RUNS">
-        <source>Making the WebP…</source>
-        <translation>Creando el WebP…</translation>
+    <message id="IDD_SPEED">
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message id="IDD_GIF_THINNED">
+        <source>GIF: thinned to 50&#xa0;fps</source>
+        <translation>GIF: se reduce a 50&#xa0;fps</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>Crear WebP</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
-        <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
-        <translation>Crea un WebP con el tamaño de la grabación y la frecuencia propia de la herramienta</translation>
+        <source>Generates a WebP with the size, frame rate and speed chosen here</source>
+        <translation>Crea un WebP con el tamaño, la frecuencia de fotogramas y la velocidad elegidos aquí</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
         <source>WebP loops</source>
@@ -472,8 +488,8 @@ Sigue en %3.</translation>
         <translation>65 535 píxeles como máximo</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>%1 frames, %2 s at %3 frames per second</source>
-        <translation>%1 fotogramas, %2 s a %3 por segundo</translation>
+        <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
+        <translation>%1 fotogramas, %2&#xa0;s a %3&#xa0;fps</translation>
     </message>
 </context>
 </TS>

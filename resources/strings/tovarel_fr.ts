@@ -66,8 +66,8 @@
         <translation>Images par seconde</translation>
     </message>
     <message id="IDD_INSTRUCTIONS">
-        <source>Choose the size and the frame rate, then generate the GIF.</source>
-        <translation>Choisissez la taille et la fréquence d’images, puis créez le GIF.</translation>
+        <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
+        <translation>Choisissez la taille, la fréquence d’images et la vitesse, puis créez le GIF.</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
@@ -359,13 +359,25 @@
         <source>Making the GIF…</source>
         <translation>Création du GIF…</translation>
     </message>
+    <message id="IDD_PROGRESS_WEBP">
+        <source>Generating the WebP…</source>
+        <translation>Création du WebP…</translation>
+    </message>
     <message id="IDD_PROGRESS_PALETTE">
         <source>Step 1 of 2: choosing the colours</source>
         <translation>Étape 1 sur 2 : choix des couleurs</translation>
     </message>
+    <message id="IDD_PROGRESS_SCALING">
+        <source>Step 1 of 2, scaling: %p%</source>
+        <translation>Étape 1 sur 2, redimensionnement&#xa0;: %p&#x202f;%</translation>
+    </message>
     <message id="IDD_PROGRESS_PICTURES">
         <source>Step 2 of 2: %p%</source>
         <translation>Étape 2 sur 2 : %p %</translation>
+    </message>
+    <message id="IDD_EXPORT_CANCELLED">
+        <source>The export was canceled.</source>
+        <translation>L’exportation a été annulée.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
         <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
@@ -431,17 +443,21 @@ Il reste à l’emplacement %3.</translation>
         <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
         <translation>Le WebP contient %1 images sur %2 : la suivante manquait.</translation>
     </message>
-    <message id="IDD_STATUS_WEBP_RUNS">
-        <source>Making the WebP…</source>
-        <translation>Création du WebP…</translation>
+    <message id="IDD_SPEED">
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message id="IDD_GIF_THINNED">
+        <source>GIF: thinned to 50&#xa0;fps</source>
+        <translation>GIF&#xa0;: réduit à 50&#xa0;i/s</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>Créer le WebP</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
-        <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
-        <translation>Crée un WebP à la taille de l’enregistrement, à la fréquence propre à l’outil</translation>
+        <source>Generates a WebP with the size, frame rate and speed chosen here</source>
+        <translation>Crée un WebP avec la taille, la fréquence d’images et la vitesse choisies ici</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
         <source>WebP loops</source>
@@ -472,8 +488,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>65 535 pixels au plus</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>%1 frames, %2 s at %3 frames per second</source>
-        <translation>%1 images, %2 s à %3 images par seconde</translation>
+        <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
+        <translation>%1 images, %2&#xa0;s à %3&#xa0;i/s</translation>
     </message>
 </context>
 </TS>

@@ -66,8 +66,8 @@
         <translation>1 秒あたりのフレーム数</translation>
     </message>
     <message id="IDD_INSTRUCTIONS">
-        <source>Choose the size and the frame rate, then generate the GIF.</source>
-        <translation>サイズとフレームレートを選んで、GIF を作成します。</translation>
+        <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
+        <translation>サイズ、フレームレート、速度を選んで、GIF を作成します。</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
@@ -359,13 +359,25 @@
         <source>Making the GIF…</source>
         <translation>GIF を作成しています…</translation>
     </message>
+    <message id="IDD_PROGRESS_WEBP">
+        <source>Generating the WebP…</source>
+        <translation>WebP を作成しています…</translation>
+    </message>
     <message id="IDD_PROGRESS_PALETTE">
         <source>Step 1 of 2: choosing the colours</source>
         <translation>1/2: 色を選んでいます</translation>
     </message>
+    <message id="IDD_PROGRESS_SCALING">
+        <source>Step 1 of 2, scaling: %p%</source>
+        <translation>1/2: サイズを変更しています %p%</translation>
+    </message>
     <message id="IDD_PROGRESS_PICTURES">
         <source>Step 2 of 2: %p%</source>
         <translation>2/2: %p%</translation>
+    </message>
+    <message id="IDD_EXPORT_CANCELLED">
+        <source>The export was canceled.</source>
+        <translation>書き出しを中止しました。</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
         <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
@@ -431,17 +443,21 @@ It remains at %3.</source>
         <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
         <translation>WebP に含まれるのは %2 フレーム中 %1 フレームです。次のフレームが見つかりませんでした。</translation>
     </message>
-    <message id="IDD_STATUS_WEBP_RUNS">
-        <source>Making the WebP…</source>
-        <translation>WebP を作成しています…</translation>
+    <message id="IDD_SPEED">
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message id="IDD_GIF_THINNED">
+        <source>GIF: thinned to 50&#xa0;fps</source>
+        <translation>GIF は 50 fps に間引かれます</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>WebP を作成</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
-        <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
-        <translation>録画と同じサイズ、ツール既定のフレームレートで WebP を作成します</translation>
+        <source>Generates a WebP with the size, frame rate and speed chosen here</source>
+        <translation>ここで選択したサイズ、フレームレート、速度で WebP を作成します</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
         <source>WebP loops</source>
@@ -472,8 +488,8 @@ It remains at %3.</source>
         <translation>65,535 ピクセルまでです</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>%1 frames, %2 s at %3 frames per second</source>
-        <translation>%1 フレーム、%2 秒（毎秒 %3 フレーム）</translation>
+        <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
+        <translation>%1 フレーム、%2 秒（%3 fps）</translation>
     </message>
 </context>
 </TS>

@@ -66,8 +66,8 @@
         <translation>Quadros por segundo</translation>
     </message>
     <message id="IDD_INSTRUCTIONS">
-        <source>Choose the size and the frame rate, then generate the GIF.</source>
-        <translation>Escolha o tamanho e a taxa de quadros e depois crie o GIF.</translation>
+        <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
+        <translation>Escolha o tamanho, a taxa de quadros e a velocidade e depois crie o GIF.</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
@@ -359,13 +359,25 @@
         <source>Making the GIF…</source>
         <translation>Criando o GIF…</translation>
     </message>
+    <message id="IDD_PROGRESS_WEBP">
+        <source>Generating the WebP…</source>
+        <translation>Criando o WebP…</translation>
+    </message>
     <message id="IDD_PROGRESS_PALETTE">
         <source>Step 1 of 2: choosing the colours</source>
         <translation>Etapa 1 de 2: escolha das cores</translation>
     </message>
+    <message id="IDD_PROGRESS_SCALING">
+        <source>Step 1 of 2, scaling: %p%</source>
+        <translation>Etapa 1 de 2, redimensionamento: %p%</translation>
+    </message>
     <message id="IDD_PROGRESS_PICTURES">
         <source>Step 2 of 2: %p%</source>
         <translation>Etapa 2 de 2: %p%</translation>
+    </message>
+    <message id="IDD_EXPORT_CANCELLED">
+        <source>The export was canceled.</source>
+        <translation>A exportação foi cancelada.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
         <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
@@ -431,17 +443,21 @@ Ele continua em %3.</translation>
         <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
         <translation>O WebP contém %1 de %2 quadros: o seguinte estava faltando.</translation>
     </message>
-    <message id="IDD_STATUS_WEBP_RUNS">
-        <source>Making the WebP…</source>
-        <translation>Criando o WebP…</translation>
+    <message id="IDD_SPEED">
+        <source>Speed</source>
+        <translation>Velocidade</translation>
+    </message>
+    <message id="IDD_GIF_THINNED">
+        <source>GIF: thinned to 50&#xa0;fps</source>
+        <translation>GIF: reduzido a 50&#xa0;fps</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>Criar WebP</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
-        <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
-        <translation>Cria um WebP com o tamanho da gravação e a taxa própria da ferramenta</translation>
+        <source>Generates a WebP with the size, frame rate and speed chosen here</source>
+        <translation>Cria um WebP com o tamanho, a taxa de quadros e a velocidade escolhidos aqui</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
         <source>WebP loops</source>
@@ -472,8 +488,8 @@ Ele continua em %3.</translation>
         <translation>no máximo 65.535 pixels</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>%1 frames, %2 s at %3 frames per second</source>
-        <translation>%1 quadros, %2 s a %3 por segundo</translation>
+        <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
+        <translation>%1 quadros, %2&#xa0;s a %3&#xa0;fps</translation>
     </message>
 </context>
 </TS>

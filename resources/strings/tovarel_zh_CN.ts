@@ -66,8 +66,8 @@
         <translation>每秒帧数</translation>
     </message>
     <message id="IDD_INSTRUCTIONS">
-        <source>Choose the size and the frame rate, then generate the GIF.</source>
-        <translation>选择尺寸和帧率，然后生成 GIF。</translation>
+        <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
+        <translation>选择尺寸、帧率和速度，然后生成 GIF。</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
@@ -359,13 +359,25 @@
         <source>Making the GIF…</source>
         <translation>正在生成 GIF…</translation>
     </message>
+    <message id="IDD_PROGRESS_WEBP">
+        <source>Generating the WebP…</source>
+        <translation>正在生成 WebP…</translation>
+    </message>
     <message id="IDD_PROGRESS_PALETTE">
         <source>Step 1 of 2: choosing the colours</source>
         <translation>第 1 步，共 2 步：选择颜色</translation>
     </message>
+    <message id="IDD_PROGRESS_SCALING">
+        <source>Step 1 of 2, scaling: %p%</source>
+        <translation>第 1 步，共 2 步，缩放：%p%</translation>
+    </message>
     <message id="IDD_PROGRESS_PICTURES">
         <source>Step 2 of 2: %p%</source>
         <translation>第 2 步，共 2 步：%p%</translation>
+    </message>
+    <message id="IDD_EXPORT_CANCELLED">
+        <source>The export was canceled.</source>
+        <translation>导出已取消。</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
         <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
@@ -431,17 +443,21 @@ It remains at %3.</source>
         <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
         <translation>WebP 包含 %2 帧中的 %1 帧：下一帧缺失。</translation>
     </message>
-    <message id="IDD_STATUS_WEBP_RUNS">
-        <source>Making the WebP…</source>
-        <translation>正在生成 WebP…</translation>
+    <message id="IDD_SPEED">
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message id="IDD_GIF_THINNED">
+        <source>GIF: thinned to 50&#xa0;fps</source>
+        <translation>GIF 将减至 50 帧/秒</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>生成 WebP</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
-        <source>Makes a WebP in the recording's own size, at the tool's own rate</source>
-        <translation>以录制内容的尺寸和工具自身的帧率生成 WebP</translation>
+        <source>Generates a WebP with the size, frame rate and speed chosen here</source>
+        <translation>按此处选择的尺寸、帧率和速度生成 WebP</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
         <source>WebP loops</source>
@@ -472,8 +488,8 @@ It remains at %3.</source>
         <translation>最多 65,535 像素</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
-        <source>%1 frames, %2 s at %3 frames per second</source>
-        <translation>%1 帧，%2 秒，每秒 %3 帧</translation>
+        <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
+        <translation>%1 帧，%2 秒，%3 帧/秒</translation>
     </message>
 </context>
 </TS>

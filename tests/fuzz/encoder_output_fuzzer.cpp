@@ -22,12 +22,15 @@ void checkText(QByteArrayView bytes) {
 }
 
 void checkSeconds(QByteArrayView chunk) {
-    const std::optional<std::uint64_t> seconds = secondsInChunk(chunk);
+    const std::optional<double> seconds = secondsInChunk(chunk);
     const qsizetype mark = chunk.indexOf("time=");
     if (mark < 0 || chunk.size() < mark + 13 || !strictUtf8(chunk))
         REQUIRE(!seconds);
-    for (const std::uint64_t duration : {std::uint64_t{0}, std::uint64_t{3}, ~std::uint64_t{0}})
-        progressPercentage(seconds.value_or(0), duration);
+    const std::optional<double> added = secondsOfAddedFrame(chunk);
+    if (chunk.indexOf('\n') < 0 || chunk.indexOf("at time ") < 0)
+        REQUIRE(!added);
+    for (const double duration : {0.0, 3.0, 1e300})
+        progressPercentage(seconds.value_or(added.value_or(0)), duration);
 }
 
 void checkLines(QByteArrayView output) {

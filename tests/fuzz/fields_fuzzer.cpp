@@ -9,6 +9,7 @@
 #include <QByteArray>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 
@@ -36,10 +37,10 @@ void checkFloat(const QString &text) {
 
 void checkArguments(const QString &text) {
     using namespace encoder_arguments;
-    const QStringList webp = webpArguments(text, {text}, text);
-    REQUIRE(webp.size() == 5 && webp[2] == text && webp[4] == text);
+    const QStringList webp = webpArguments(text, std::array{WebPFrame{text, 40}}, text);
+    REQUIRE(webp.size() == 8 && webp[5] == text && webp[7] == text);
     bool number = false;
-    webp[1].toInt(&number);
+    webp[2].toInt(&number);
     REQUIRE(number);
     // A folder's name may be anything; what the pattern leads to is that folder.
     QString pattern = inputPattern(text);
@@ -47,9 +48,12 @@ void checkArguments(const QString &text) {
     pattern.chop(12);
     REQUIRE(pattern.count(u'%') == 2 * text.count(u'%'));
     REQUIRE(pattern.replace(QStringLiteral("%%"), QStringLiteral("%")) == text);
-    const QStringList gif = gifArguments(text, text, 1, text, text);
-    REQUIRE(gif.contains(QStringLiteral("scale=") + text + u'x' + text +
-                         QStringLiteral(":flags=lanczos[x];[x][1:v]paletteuse")));
+    const QStringList gif =
+        gifArguments(text, text, std::array{frame_timing::TimedFrame{0, 2}}, text, text);
+    const QString scale = QStringLiteral(",scale=") + text + u'x' + text +
+                          QStringLiteral(":flags=lanczos[x];[x][1:v]paletteuse");
+    REQUIRE(std::any_of(gif.begin(), gif.end(),
+                        [&scale](const QString &argument) { return argument.endsWith(scale); }));
 }
 
 } // namespace

@@ -100,7 +100,8 @@ class Endings(case.Case):
         self.check_end(program, "closing the window")
 
     def test_during_each_run_of_the_encoder(self):
-        roads = {1: ["SIGTERM"], 2: ["SIGINT"], 3: ["SIGTERM", "SIGINT", "closing the window"]}
+        roads = {1: ["SIGTERM"], 2: ["SIGINT", "closing the window"],
+                 3: ["SIGTERM", "SIGINT", "closing the window"]}
         for run, road in ((run, road) for run, ways in roads.items() for road in ways):
             with self.subTest(f"run {run}, {road}"):
                 self.check_end(self.encoding(run), road)
@@ -124,7 +125,7 @@ class Endings(case.Case):
             "saving": self.saving,
             "playing": self.playing,
             "in the run with progress": lambda display: self.encoding(3, display),
-            "in a run that is waited for": lambda display: self.encoding(2, display),
+            "in a run that prepares it": lambda display: self.encoding(2, display),
             "under the save panel": self.choosing_a_place,
         }
         for state, reach in states.items():

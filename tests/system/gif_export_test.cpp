@@ -1,10 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
+#include "export/frame_timing.h"
 #include "export_fixture.h"
+#include "record/window_progress.h"
 
 #include <QDir>
 #include <QImageReader>
 #include <QLabel>
+#include <QPushButton>
+#include <QTest>
 
 namespace {
 
@@ -29,8 +33,6 @@ TEST_F(GifExport, GivesTheRangeAsItWasRecordedOverAnOldFile) {
     ui.radioGIFCustomDimension->click();
     ui.textGIFWidth->setText(QStringLiteral("40"));
     ui.textGIFHeigth->setText(QStringLiteral("30"));
-    ui.radioGIFCustomFPS->click();
-    ui.comboGIFFPS->setCurrentIndex(4);
     ui.btnGIFExport->click();
 
     ASSERT_EQ(answers.alerts.size(), 1u);
@@ -39,7 +41,6 @@ TEST_F(GifExport, GivesTheRangeAsItWasRecordedOverAnOldFile) {
     EXPECT_EQ(answers.panels,
               QStringList(QStringLiteral("Select a folder to save the GIF image|output.gif")));
     EXPECT_TRUE(ui.labelStatus->text().contains(answers.savePath));
-    EXPECT_EQ(controller.exporting.i_Orig_Duration_in_Seconds(), 1u);
     QImageReader gif(answers.savePath);
     ASSERT_EQ(gif.imageCount(), 5);
     EXPECT_EQ(gif.loopCount(), -1) << "for ever";
@@ -48,9 +49,146 @@ TEST_F(GifExport, GivesTheRangeAsItWasRecordedOverAnOldFile) {
         ASSERT_EQ(picture.size(), QSize(40, 30));
         EXPECT_TRUE(alike(picture.pixelColor(20, 15), colourOf(frame)))
             << frame << picture.pixelColor(20, 15).name().toStdString();
-        EXPECT_EQ(gif.nextImageDelay(), 200);
+        EXPECT_EQ(gif.nextImageDelay(), 100);
     }
     EXPECT_EQ(filesIn(controller.shell.s_Output_Folder()).size(), 7) << "the recording is whole";
+}
+
+TEST_F(GifExport, WritesTheVeryFramesAndDelaysThatTheRateAndTheSpeedAskFor) {
+    using namespace frame_timing;
+    record(9);
+    answers.savePath = place("timed.gif");
+    const struct {
+        double recorded;
+        int chosen; // 0 for the recording's own
+        double speed;
+    } cases[] = {{9.83, 0, 1.0},  {9.83, 0, 4.0}, {9.83, 5, 1.0},
+                 {9.83, 24, 0.5}, {59.3, 0, 1.0}, {0.9, 0, 1.5}};
+    for (const auto &[recorded, chosen, speed] : cases) {
+        SCOPED_TRACE(testing::Message() << recorded << " to " << chosen << ", " << speed);
+        controller.recording.setExactRate(recorded);
+        (chosen > 0 ? ui.radioGIFCustomFPS : ui.radioGIFOriginalFPS)->click();
+        ui.comboGIFFPS->setCurrentIndex(std::max(chosen, 1) - 1);
+        ui.comboGIFSpeed->setCurrentIndex(ui.comboGIFSpeed->findData(speed));
+        const auto wanted =
+            timedFrames({.count = 9,
+                         .recordedRate = recorded,
+                         .chosenRate = chosen > 0 ? std::optional(chosen) : std::nullopt,
+                         .speed = speed},
+                        gifTicks);
+        QFile::remove(answers.savePath);
+        ui.btnGIFExport->click();
+        QImageReader gif(answers.savePath);
+        ASSERT_EQ(gif.imageCount(), wanted.size());
+        for (const TimedFrame &frame : wanted) {
+            const QImage picture = gif.read();
+            EXPECT_TRUE(alike(picture.pixelColor(20, 15), colourOf(static_cast<int>(frame.source))))
+                << frame.source << ' ' << picture.pixelColor(20, 15).name().toStdString();
+            EXPECT_EQ(gif.nextImageDelay(), 10 * static_cast<int>(frame.delay));
+        }
+    }
+}
+
+/// Presses a button of the sheet, or a key, once the tool is at work.
+class Canceller : public QObject {
+public:
+    Canceller(AppDelegate &controller, QString sign, bool byKey)
+        : controller_(controller), sign_(std::move(sign)), byKey_(byKey) {
+        connect(&timer_, &QTimer::timeout, this, &Canceller::look);
+        timer_.start(5);
+    }
+    bool done = false;
+
+private:
+    void look() {
+        Window_Progress *sheet = controller_.exporting.windowProgress();
+        if (done || !sheet || !QFile::exists(sign_))
+            return;
+        done = true;
+        if (byKey_)
+            QTest::keyClick(sheet, Qt::Key_Escape);
+        else
+            sheet->findChild<QPushButton *>(QStringLiteral("btnCancel"))->click();
+    }
+    AppDelegate &controller_;
+    QString sign_;
+    bool byKey_;
+    QTimer timer_;
+};
+
+TEST_F(GifExport, AndTheWebPLeaveNothingWhenTheyAreCancelledInAnyRun) {
+    record(4);
+    const QString ffmpeg = controller.shell.sffmpegPath();
+    const struct {
+        const char *run; // a word of its command line
+        bool webp;
+        bool byKey;
+    } cases[] = {{"640x480", false, false},
+                 {"palettegen", false, true},
+                 {"paletteuse", false, false},
+                 {"scaled%d.png", true, false},
+                 {"output.webp", true, true}};
+    for (const auto &[run, webp, byKey] : cases) {
+        SCOPED_TRACE(run);
+        answers.alerts.clear();
+        const QString sign = place("runs");
+        QFile::remove(sign);
+        const QString still =
+            standIn(QByteArray("case \"$*\" in *") + run + "*) : >'" + QFile::encodeName(sign) +
+                    "'; : >\"$last\"; trap '' TERM; exec sleep 1000;; esac; exec '" +
+                    QFile::encodeName(ffmpeg) + "' \"$@\"");
+        controller.shell.setSffmpegPath(still);
+        controller.shell.setSimg2webpPath(still);
+        ui.radioGIFCustomDimension->click();
+        ui.textGIFWidth->setText(QString::fromLatin1(run) == u"scaled%d.png"
+                                     ? QStringLiteral("32")
+                                     : QStringLiteral("64"));
+        Canceller canceller(controller, sign, byKey);
+        (webp ? ui.btnWebPGenerate : ui.btnGIFExport)->click();
+        EXPECT_TRUE(canceller.done);
+        EXPECT_TRUE(answers.alerts.empty());
+        EXPECT_TRUE(answers.panels.isEmpty());
+        EXPECT_EQ(ui.labelStatus->text(), qtTrId("IDD_EXPORT_CANCELLED"));
+        EXPECT_EQ(controller.exporting.windowProgress(), nullptr);
+        EXPECT_TRUE(filesIn(controller.shell.s_Export_Folder()).isEmpty());
+        EXPECT_TRUE(filesIn(controller.shell.s_Pallete_Folder()).isEmpty());
+        EXPECT_EQ(filesIn(controller.shell.s_Output_Folder()).size(), 4);
+    }
+    // The next one is not cancelled.
+    controller.shell.setSffmpegPath(ffmpeg);
+    answers.savePath = place("after.gif");
+    ui.btnGIFExport->click();
+    EXPECT_EQ(QImageReader(answers.savePath).imageCount(), 4);
+}
+
+TEST_F(GifExport, FillsTheBarAtAnyRateAndSpeed) {
+    record(9);
+    class Watch : public QObject {
+    public:
+        bool eventFilter(QObject *watched, QEvent *event) override {
+            // Hidden when the last run has ended.
+            if (event->type() == QEvent::Hide)
+                last = static_cast<Window_Progress *>(watched)->doubleValue();
+            return false;
+        }
+        double last = -1.0;
+    } watch;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        if (Window_Progress *sheet = controller.exporting.windowProgress())
+            sheet->installEventFilter(&watch);
+    });
+    look.start(1);
+    for (const double speed : {0.25, 4.0})
+        for (const int chosen : {10, 30})
+            for (QPushButton *button : {ui.btnGIFExport, ui.btnWebPGenerate}) {
+                ui.radioGIFCustomFPS->click();
+                ui.comboGIFFPS->setCurrentIndex(chosen - 1);
+                ui.comboGIFSpeed->setCurrentIndex(ui.comboGIFSpeed->findData(speed));
+                watch.last = -1.0;
+                button->click();
+                EXPECT_NEAR(watch.last, 100.0, 15.0) << speed << ' ' << chosen;
+            }
 }
 
 TEST_F(GifExport, StagesEveryFrameAndTheFirstSixtyForThePalette) {
@@ -83,7 +221,6 @@ TEST_F(GifExport, AndTheWebPRefuseTooFewFramesAndAnEmptySizeBeforeTheyTouchAnyth
     record(3);
     const QString kept = controller.shell.s_Export_Folder() + QStringLiteral("/kept");
     put(kept, "kept");
-    controller.exporting.setI_Orig_Duration_in_Seconds(77);
     const auto exportBoth = [this] {
         answers.alerts.clear();
         ui.menuitemActionGIFExport->trigger();
@@ -94,7 +231,6 @@ TEST_F(GifExport, AndTheWebPRefuseTooFewFramesAndAnEmptySizeBeforeTheyTouchAnyth
     ASSERT_EQ(answers.alerts.size(), 2u);
     for (const Answerer::Alert &alert : answers.alerts)
         EXPECT_EQ(alert.text, controller.texts.s_IDD_LOW_FRAME_NUMBER());
-    EXPECT_EQ(controller.exporting.i_Orig_Duration_in_Seconds(), 77u);
     controller.trim.setULastFrame(2);
     for (auto [field, text] : {std::pair(ui.textGIFWidth, u"abc"), {ui.textGIFHeigth, u""}}) {
         field->setText(QString::fromUtf16(text));
@@ -104,7 +240,6 @@ TEST_F(GifExport, AndTheWebPRefuseTooFewFramesAndAnEmptySizeBeforeTheyTouchAnyth
             EXPECT_EQ(alert.text, controller.texts.s_IDD_INVALID_DIMENSION());
         field->setText(QStringLiteral("64"));
     }
-    EXPECT_EQ(controller.exporting.i_Orig_Duration_in_Seconds(), 1u);
     EXPECT_TRUE(QFile::exists(kept));
 }
 

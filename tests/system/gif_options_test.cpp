@@ -35,6 +35,13 @@ protected:
         if (text.isEmpty())
             QTest::keyClick(field, Qt::Key_Delete);
     }
+    std::string summary() const { return ui.labelGIFSummary->text().toStdString(); }
+    static std::string figures(int frames, double seconds, const char *rate) {
+        return qtTrId("IDD_GIF_SUMMARY")
+            .arg(QString::number(frames), QString::number(seconds, 'f', 1),
+                 QString::fromLatin1(rate))
+            .toStdString();
+    }
     std::string size() const {
         return (ui.textGIFWidth->text() + u'x' + ui.textGIFHeigth->text()).toStdString();
     }
@@ -76,7 +83,7 @@ TEST_F(GifOptions, FormTwoPairsThatDoNotTouchEachOther) {
         ui.radioGIFCustomDimension->click();
         ui.radioGIFCustomFPS->click();
     }
-    EXPECT_TRUE(ui.labelGIFSummary->text().contains(QLocale().toString(1.0, 'f', 1)));
+    EXPECT_EQ(summary(), figures(75, 2.5, "30")) << "a rate of its own keeps the length";
 
     ui.radioGIFOriginalDimension->click();
     EXPECT_EQ(size(), "1366x768");
@@ -84,7 +91,32 @@ TEST_F(GifOptions, FormTwoPairsThatDoNotTouchEachOther) {
     EXPECT_TRUE(ui.comboGIFFPS->isEnabled());
     ui.radioGIFOriginalFPS->click();
     EXPECT_EQ(ui.comboGIFFPS->currentIndex(), 11);
-    EXPECT_TRUE(ui.labelGIFSummary->text().contains(QLocale().toString(2.5, 'f', 1)));
+    EXPECT_EQ(summary(), figures(30, 2.5, "12"));
+}
+
+TEST_F(GifOptions, TellFramesSecondsAndRateThatTheFileWillReallyHave) {
+    enterTab();
+    EXPECT_EQ(ui.comboGIFSpeed->currentText(), QStringLiteral("1×"));
+    ui.comboGIFSpeed->setCurrentIndex(3);
+    EXPECT_EQ(ui.comboGIFSpeed->currentText(), QStringLiteral("1.5×"));
+    EXPECT_EQ(summary(), figures(30, 1.7, "18"));
+    ui.radioGIFCustomFPS->click();
+    ui.comboGIFFPS->setCurrentIndex(9);
+    EXPECT_EQ(summary(), figures(17, 1.7, "10.2"));
+    EXPECT_TRUE(ui.labelGIFThinned->text().isEmpty());
+    ui.comboGIFFPS->setCurrentIndex(59);
+    EXPECT_EQ(ui.labelGIFThinned->text(), qtTrId("IDD_GIF_THINNED"));
+    EXPECT_EQ(summary(),
+              "GIF: " + figures(83, 1.7, "49.7") + " · WebP: " + figures(100, 1.7, "60"));
+    // The list shows the rate in whole numbers; what counts is the true one.
+    controller.recording.setExactRate(12.4);
+    controller.resetGIFOptions();
+    EXPECT_EQ(ui.comboGIFFPS->currentText(), QStringLiteral("12"));
+    EXPECT_EQ(ui.comboGIFSpeed->currentText(), QStringLiteral("1×"));
+    EXPECT_TRUE(ui.labelGIFThinned->text().isEmpty());
+    EXPECT_EQ(summary(), figures(30, 2.4, "12.4"));
+    ui.radioGIFCustomFPS->click();
+    EXPECT_EQ(summary(), figures(29, 2.4, "12"));
 }
 
 TEST_F(GifOptions, TieTheOtherSideWhenAFieldSendsItsAction) {

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
+#include "export/frame_timing.h"
 #include "export_fixture.h"
 
-#include <QGuiApplication>
 #include <QProcess>
+#include <QRegularExpression>
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -13,7 +14,7 @@ namespace {
 class WebPExport : public ExportTest {
 protected:
     QString output() const {
-        return controller.shell.s_Output_Folder() + QStringLiteral("/output.webp");
+        return controller.shell.s_Export_Folder() + QStringLiteral("/output.webp");
     }
 };
 
@@ -32,8 +33,6 @@ TEST_F(WebPExport, HoldsTheRecordingsOwnPixels) {
     answers.savePath = place("mine.webp");
     put(answers.savePath, "old");
     ui.txtWebPLoops->setText(QStringLiteral("3 times"));
-    // The tool's frames have the recording's size, whatever is asked of the GIF.
-    ui.textGIFWidth->setText(QStringLiteral("10"));
     ui.btnWebPGenerate->click();
 
     ASSERT_EQ(answers.alerts.size(), 1u);
@@ -43,7 +42,6 @@ TEST_F(WebPExport, HoldsTheRecordingsOwnPixels) {
               QStringList(QStringLiteral("Select a folder to save the WebP image|output.webp")));
     EXPECT_TRUE(ui.labelStatus->text().contains(answers.savePath));
     EXPECT_FALSE(QFile::exists(output()));
-    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     const QString info = run("webpinfo", {answers.savePath});
     EXPECT_TRUE(info.contains(QStringLiteral("Loop count      : 3"))) << info.toStdString();
     EXPECT_EQ(info.count(QStringLiteral("Chunk ANMF")), 4);
@@ -96,7 +94,6 @@ TEST_F(WebPExport, EndsWithOneAlertWhateverGoesWrong) {
         EXPECT_TRUE(answers.alerts[0].text.contains(QStringLiteral("img2webp")));
         EXPECT_TRUE(answers.alerts[0].text.contains(reason))
             << answers.alerts[0].text.toStdString();
-        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     }
     EXPECT_TRUE(answers.panels.isEmpty());
 }
@@ -106,6 +103,7 @@ TEST_F(WebPExport, SaysWhenTheFramesDoNotFitOnACommandLine) {
     record(3);
     for (int frame = 3; frame < many; ++frame)
         ASSERT_EQ(link(QFile::encodeName(frameFile(0)), QFile::encodeName(frameFile(frame))), 0);
+    controller.recording.setU_Record_Current_Frame(many);
     controller.trim.setULastFrame(many - 1);
     // The system takes a quarter of the stack's limit for arguments, and 128 KiB at least.
     rlimit before{};
@@ -120,20 +118,42 @@ TEST_F(WebPExport, SaysWhenTheFramesDoNotFitOnACommandLine) {
     EXPECT_TRUE(answers.panels.isEmpty());
 }
 
-TEST_F(WebPExport, IsSeenToRunBeforeItWaits) {
-    record(3);
-    class Watch : public QObject {
-    public:
-        bool eventFilter(QObject *watched, QEvent *event) override {
-            if (event->type() == QEvent::Paint && QGuiApplication::overrideCursor())
-                painted = static_cast<QLabel *>(watched)->text();
-            return false;
-        }
-        QString painted;
-    } watch;
-    ui.labelStatus->installEventFilter(&watch);
+TEST_F(WebPExport, HasTheSizeTheRateAndTheSpeedThatWereChosen) {
+    record(9);
+    controller.recording.setExactRate(9.83);
+    answers.savePath = place("timed.webp");
+    ui.radioGIFCustomDimension->click();
+    ui.checkGIFKeepAspectRatio->setChecked(false);
+    ui.textGIFWidth->setText(QStringLiteral("40"));
+    ui.textGIFHeigth->setText(QStringLiteral("20"));
+    for (const auto &[chosen, speed] : {std::pair(0, 1.0), {0, 2.0}, {5, 1.0}}) {
+        (chosen > 0 ? ui.radioGIFCustomFPS : ui.radioGIFOriginalFPS)->click();
+        ui.comboGIFFPS->setCurrentIndex(std::max(chosen, 1) - 1);
+        ui.comboGIFSpeed->setCurrentIndex(ui.comboGIFSpeed->findData(speed));
+        QFile::remove(answers.savePath);
+        ui.btnWebPGenerate->click();
+        const QString info = run("webpinfo", {answers.savePath});
+        EXPECT_TRUE(info.contains(QStringLiteral("Canvas size 40 x 20"))) << info.toStdString();
+        std::vector<std::uint64_t> found;
+        static const QRegularExpression duration(QStringLiteral("Duration: (\\d+)"));
+        auto each = duration.globalMatch(info);
+        while (each.hasNext())
+            found.push_back(each.next().captured(1).toULongLong());
+        std::vector<std::uint64_t> wanted;
+        for (const auto &frame : frame_timing::timedFrames({.count = 9,
+                                 .recordedRate = 9.83,
+                                 .chosenRate = chosen > 0 ? std::optional(chosen) : std::nullopt,
+                                 .speed = speed},
+                                                           frame_timing::webpTicks))
+            wanted.push_back(frame.delay);
+        EXPECT_EQ(found, wanted);
+    }
+    ui.textGIFWidth->setText(QStringLiteral("40px"));
+    answers.alerts.clear();
     ui.btnWebPGenerate->click();
-    EXPECT_EQ(watch.painted, qtTrId("IDD_STATUS_WEBP_RUNS"));
+    ASSERT_EQ(answers.alerts.size(), 1u);
+    EXPECT_TRUE(answers.alerts[0].text.contains(QStringLiteral("40px × 20")));
+    EXPECT_EQ(QImage(frameFile(0)).size(), QSize(64, 48)) << "the recording is whole";
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "export/aspect_ratio.h"
-#include "export/duration.h"
 #include "export/encoder_arguments.h"
 #include "export/progress_parser.h"
 #include "export/size_text.h"
@@ -23,11 +22,13 @@ TEST(EncoderArguments, AreTheThreeRunsInOrder) {
               "-i|/d/Pal/image%d.png|-vf|scale=640x480|/d/Pal/output.mp4");
     EXPECT_EQ(paletteArguments(palette).join(u'|').toStdString(),
               "-i|/d/Pal/output.mp4|-vf|scale=320:-1:flags=lanczos,palettegen|/d/Pal/palette.png");
-    EXPECT_EQ(gifArguments(exports, palette, 10, QStringLiteral("320px"), QStringLiteral("%1"))
+    const frame_timing::TimedFrame frames[] = {{0, 33}, {1, 34}, {2, 33}};
+    EXPECT_EQ(gifArguments(exports, palette, frames, QStringLiteral("320px"), QStringLiteral("%1"))
                   .join(u'|')
                   .toStdString(),
-              "-f|image2|-framerate|10|-i|/d/Ex/image%d.png|-i|/d/Pal/palette.png|-filter_complex|"
-              "scale=320pxx%1:flags=lanczos[x];[x][1:v]paletteuse|/d/Ex/output.gif");
+              "-f|image2|-framerate|100|-i|/d/Ex/image%d.png|-i|/d/Pal/palette.png|-filter_complex|"
+              "setpts=floor((200*N+3)/6),scale=320pxx%1:flags=lanczos[x];[x][1:v]paletteuse|"
+              "-fps_mode|passthrough|-final_delay|33|/d/Ex/output.gif");
 }
 
 TEST(EncoderArguments, KeepAPercentSignOfTheFolderFromBeingTakenForANumber) {
@@ -39,7 +40,7 @@ TEST(EncoderArguments, KeepAPercentSignOfTheFolderFromBeingTakenForANumber) {
     EXPECT_EQ(paletteArguments(folder)[1], QStringLiteral("/100% a/%1/output.mp4"));
     EXPECT_EQ(paletteArguments(folder).mid(4).join(u'|').toStdString(),
               "-update|1|/100% a/%1/palette.png");
-    EXPECT_EQ(gifArguments(folder, folder, 10, {}, {}).mid(6, 4).join(u'|').toStdString(),
+    EXPECT_EQ(gifArguments(folder, folder, {}, {}, {}).mid(6, 4).join(u'|').toStdString(),
               "-f|png_pipe|-i|/100% a/%1/palette.png");
 }
 
@@ -49,38 +50,25 @@ TEST(EncoderArguments, TakeTheLoopCountThatTheTextBeginsWith) {
         const char *loops;
     } cases[] = {{u"3", "3"},   {u"", "0"},    {u"abc", "0"},
                  {u" 7x", "7"}, {u"-2", "-2"}, {u"99999999999", "2147483647"}};
+    const encoder_arguments::WebPFrame frames[] = {
+        {QStringLiteral("a"), 17}, {QStringLiteral("b"), 17}, {QStringLiteral("c"), 16}};
     for (const auto &[text, loops] : cases)
-        EXPECT_EQ(encoder_arguments::webpArguments(text, {QStringLiteral("a"), QStringLiteral("b")},
-                                                   QStringLiteral("out"))
+        EXPECT_EQ(encoder_arguments::webpArguments(text, frames, QStringLiteral("out"))
                       .join(u'|')
                       .toStdString(),
-                  std::string("-loop|") + loops + "|a|b|-o|out");
-}
-
-TEST(Duration, IsTheDistanceOverTheRateRoundedUpInSinglePrecision) {
-    const struct {
-        std::uint64_t first, last, rate, seconds;
-    } cases[] = {
-        {0, 29, 10, 3},
-        {0, 30, 10, 3},
-        {0, 31, 10, 4},
-        {100, 189, 10, 9},
-        {0, 16777217, 1, 16777216}, // the odd number has no single-precision value
-        {0, 9, 0, 0},               // no rate, no length
-        {1, 0, 1, Limits::max()},   // the difference is unsigned
-    };
-    for (const auto &[first, last, rate, seconds] : cases)
-        EXPECT_EQ(expectedDuration(first, last, rate), seconds) << first << " " << last;
+                  std::string("-v|-loop|") + loops + "|-d|17|a|b|-d|16|c|-o|out");
 }
 
 TEST(ProgressParser, TakesTheLastCompleteStampOfAChunk) {
     const struct {
         const char *chunk;
-        std::optional<std::uint64_t> seconds;
+        std::optional<double> seconds;
     } cases[] = {
-        {"frame=   12 fps=0.0 size=0kB time=00:00:01.20 bitrate=1\r", 1},
+        {"frame=   12 fps=0.0 size=0kB time=00:00:01.20 bitrate=1\r", 1.2},
         {"time=00:00:01.00 x\rtime=00:00:02.00 x\r", 2},
-        {"time=00:01:05.97", 65},
+        {"time=00:01:05.97", 65.97},
+        {"time=00:01:05.9", 65},  // cut off
+        {"time=00:01:05,97", 65}, // no fraction
         {"time=01:00:00", 3600},
         {"time=00:00:0", std::nullopt},
         {"time=00:00:03 time=00:00:0", 3},
@@ -108,6 +96,22 @@ TEST(ProgressParser, TakesNothingFromBytesThatAreNotUtf8) {
 TEST(ProgressParser, ReadsNegativeFieldsInUnsignedArithmetic) {
     EXPECT_EQ(secondsFromStamp(u"00:00:-1"), Limits::max());
     EXPECT_EQ(secondsFromStamp(u" 1: 2:+3"), 3723u);
+}
+
+TEST(ProgressParser, TakesTheLastFrameThatTheWebPEncoderHasAdded) {
+    const struct {
+        const char *chunk;
+        std::optional<double> seconds;
+    } cases[] = {
+        {"Added frame #  0 at time    0 (file: a.png)\n", 0.0},
+        {"Added frame #  1 at time 1200 (file: a.png)\nAdded frame #  2 at time 1300 (f)\n", 1.3},
+        {"Added frame #  1 at time 1200 (file: a.png)\nAdded frame #  2 at time 13", 1.2},
+        {"Added frame #  2 at time 13", std::nullopt},
+        {"File : a.png\n", std::nullopt},
+        {"\xff at time 1200 \n", std::nullopt},
+    };
+    for (const auto &[chunk, seconds] : cases)
+        EXPECT_EQ(secondsOfAddedFrame(chunk), seconds) << chunk;
 }
 
 TEST(ProgressParser, ComputesThePercentageInSinglePrecision) {

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "export/frame_timing.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace frame_timing {
+
+namespace {
+
+/// A length as a number of things of which there are so many a second, to the nearest one.
+std::uint64_t nearest(double value) {
+    // Beyond what any file holds, and what a double tells apart: no number at all counts as none.
+    constexpr double most = 9007199254740992.0; // 2^53
+    return value > 0.0 ? static_cast<std::uint64_t>(std::round(std::min(value, most))) : 0;
+}
+
+double trueSeconds(const Request &request) {
+    return static_cast<double>(request.count) / request.recordedRate / request.speed;
+}
+
+std::uint64_t wholeTicks(const Request &request, Ticks ticks) {
+    const std::uint64_t whole =
+        nearest(trueSeconds(request) * static_cast<double>(ticks.perSecond));
+    return std::max(whole, ticks.shortest);
+}
+
+std::uint64_t wantedFrames(const Request &request) {
+    if (!request.chosenRate)
+        return request.count;
+    return std::max<std::uint64_t>(nearest(trueSeconds(request) * *request.chosenRate), 1);
+}
+
+} // namespace
+
+std::vector<TimedFrame> timedFrames(const Request &request, Ticks ticks) {
+    if (request.count == 0)
+        return {};
+    const std::uint64_t whole = wholeTicks(request, ticks);
+    const std::uint64_t frames = std::min(wantedFrames(request), whole / ticks.shortest);
+    // Half up: the tick at which frame number `index` truly begins.
+    const auto begin = [whole, frames](std::uint64_t index) {
+        return (2 * whole * index + frames) / (2 * frames);
+    };
+    std::vector<TimedFrame> result;
+    result.reserve(frames);
+    for (std::uint64_t index = 0; index < frames; ++index)
+        result.push_back({.source = request.first + index * request.count / frames,
+                          .delay = begin(index + 1) - begin(index)});
+    return result;
+}
+
+std::uint64_t length(std::span<const TimedFrame> frames) {
+    std::uint64_t sum = 0;
+    for (const TimedFrame &frame : frames)
+        sum += frame.delay;
+    return sum;
+}
+
+double beginOfLast(std::span<const TimedFrame> frames, Ticks ticks) {
+    if (frames.empty())
+        return 0.0;
+    return static_cast<double>(length(frames) - frames.back().delay) /
+           static_cast<double>(ticks.perSecond);
+}
+
+double seconds(std::span<const TimedFrame> frames, Ticks ticks) {
+    return static_cast<double>(length(frames)) / static_cast<double>(ticks.perSecond);
+}
+
+double rate(std::span<const TimedFrame> frames, Ticks ticks) {
+    return frames.empty() ? 0.0 : static_cast<double>(frames.size()) / seconds(frames, ticks);
+}
+
+bool isThinned(const Request &request, Ticks ticks) {
+    return request.count > 0 && wantedFrames(request) > wholeTicks(request, ticks) / ticks.shortest;
+}
+
+} // namespace frame_timing

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "export/frame_timing.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <ostream>
+
+using namespace frame_timing;
+
+namespace frame_timing {
+std::ostream &operator<<(std::ostream &out, const TimedFrame &frame) {
+    return out << frame.source << ':' << frame.delay;
+}
+} // namespace frame_timing
+
+TEST(FrameTiming, showsEveryFrameOnceAndRoundsWithoutAddingUp) {
+    // 9.83 a second: 33 frames take 3.357 seconds.
+    const auto frames = timedFrames({.first = 7, .count = 33, .recordedRate = 9.83}, gifTicks);
+    ASSERT_EQ(frames.size(), 33u);
+    EXPECT_EQ(length(frames), 336u);
+    for (std::size_t index = 0; index < frames.size(); ++index) {
+        EXPECT_EQ(frames[index].source, 7 + index);
+        EXPECT_NEAR(static_cast<double>(frames[index].delay), 10.17, 1.0);
+    }
+    EXPECT_EQ(timedFrames({.first = 0, .count = 3, .recordedRate = 5.0}, gifTicks),
+              (std::vector<TimedFrame>{{0, 20}, {1, 20}, {2, 20}}));
+    EXPECT_EQ(timedFrames({.first = 0, .count = 3, .recordedRate = 60.0}, webpTicks),
+              (std::vector<TimedFrame>{{0, 17}, {1, 16}, {2, 17}}));
+}
+
+TEST(FrameTiming, dropsOrRepeatsForAChosenRateAndKeepsTheSpeed) {
+    EXPECT_EQ(timedFrames({.count = 6, .recordedRate = 10.0, .chosenRate = 5.0}, gifTicks),
+              (std::vector<TimedFrame>{{0, 20}, {2, 20}, {4, 20}}));
+    EXPECT_EQ(timedFrames({.count = 2, .recordedRate = 10.0, .chosenRate = 20.0}, gifTicks),
+              (std::vector<TimedFrame>{{0, 5}, {0, 5}, {1, 5}, {1, 5}}));
+    EXPECT_EQ(
+        timedFrames({.count = 4, .recordedRate = 10.0, .chosenRate = 10.0, .speed = 2.0}, gifTicks),
+        (std::vector<TimedFrame>{{0, 10}, {2, 10}}));
+    // A rate that asks for less than one frame.
+    EXPECT_EQ(timedFrames({.count = 3, .recordedRate = 10.0, .chosenRate = 1.0}, gifTicks),
+              (std::vector<TimedFrame>{{0, 30}}));
+}
+
+TEST(FrameTiming, neverWritesADelayThatViewersDoNotHonour) {
+    const Request sixty{.count = 60, .recordedRate = 60.0};
+    const auto frames = timedFrames(sixty, gifTicks);
+    ASSERT_EQ(frames.size(), 50u);
+    EXPECT_TRUE(isThinned(sixty, gifTicks));
+    EXPECT_FALSE(isThinned(sixty, webpTicks));
+    EXPECT_FALSE(isThinned({.count = 50, .recordedRate = 50.0}, gifTicks));
+    EXPECT_EQ(length(frames), 100u);
+    for (std::size_t index = 1; index < frames.size(); ++index) {
+        const std::uint64_t step = frames[index].source - frames[index - 1].source;
+        EXPECT_TRUE(step == 1 || step == 2) << "dropped evenly";
+    }
+    // So short that there is not even time for one frame.
+    EXPECT_EQ(timedFrames({.count = 3, .recordedRate = 60.0, .speed = 4.0}, gifTicks),
+              (std::vector<TimedFrame>{{0, 2}}));
+    EXPECT_TRUE(timedFrames({.count = 0}, gifTicks).empty());
+}
+
+TEST(FrameTiming, isTrueToTheTickForEveryRateSpeedAndLength) {
+    for (const Ticks ticks : {gifTicks, webpTicks})
+        for (const double recorded : {0.3, 0.97, 4.85, 9.83, 14.99, 24.0, 29.7, 43.2, 59.94, 61.0})
+            for (const double speed : speeds)
+                for (const double chosen : {0.0, 1.0, 7.0, 10.0, 25.0, 50.0, 60.0})
+                    for (const std::uint64_t count : {3u, 17u, 100u, 599u}) {
+                        const Request request{.first = 5,
+                                              .count = count,
+                                              .recordedRate = recorded,
+                                              .chosenRate = chosen > 0.0 ? std::optional(chosen)
+                                                                         : std::nullopt,
+                                              .speed = speed};
+                        const auto frames = timedFrames(request, ticks);
+                        SCOPED_TRACE(testing::Message() << count << " at " << recorded << " to "
+                                                        << chosen << ", " << speed << " times");
+                        ASSERT_FALSE(frames.empty());
+                        const double wanted = static_cast<double>(count) / recorded / speed;
+                        ASSERT_LE(std::abs(seconds(frames, ticks) - wanted),
+                                  0.5001 * static_cast<double>(ticks.shortest) /
+                                      static_cast<double>(ticks.perSecond));
+                        const auto [least, most] =
+                            std::ranges::minmax(frames, {}, &TimedFrame::delay);
+                        ASSERT_GE(least.delay, ticks.shortest);
+                        ASSERT_LE(most.delay, least.delay + 1) << "even";
+                        ASSERT_TRUE(std::ranges::is_sorted(frames, {}, &TimedFrame::source));
+                        ASSERT_EQ(frames.front().source, 5u);
+                        ASSERT_LT(frames.back().source, 5 + count);
+                    }
+}
