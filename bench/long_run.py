@@ -18,7 +18,6 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" 
 
 import counter  # noqa: E402  pylint: disable=wrong-import-position
 import driver  # noqa: E402  pylint: disable=wrong-import-position
-import recording  # noqa: E402  pylint: disable=wrong-import-position
 
 SCREEN = (1280, 720)
 RATE = 60  # frames a second
@@ -70,7 +69,7 @@ def main(build, minutes=20.0):
         program = driver.Program(session)
         began = time.monotonic()
         start = show("at the start", program, began)
-        recording.choose_rate(program, RATE)
+        program.choose_rate(RATE)
         program.press("Record")
         program.recording_for(1)
         silence = longest_silence(program, minutes * 60)

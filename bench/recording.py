@@ -39,23 +39,6 @@ exit $status
 """
 
 
-def choose_rate(program, rate):
-    """In the frame-rate dialog, by the keys: the list finds the number that is typed."""
-    program.press("Frames per Second")
-    dialog = program.await_control("dialog", "Frames per Second")
-    box = driver.wait_for("the list of rates",
-                          lambda: next(driver.search(dialog, "combo box"), None))
-    box.grab_focus()
-    driver.wait_for("focus on the list", lambda: driver.has_state(box, "FOCUSED"))
-    program.session.xdotool("type", str(rate))
-    driver.wait_for("the rate", lambda: box.get_name() == str(rate)
-                    or driver.content(box) == str(rate)
-                    or any(driver.has_state(item, "SELECTED") and item.get_name() == str(rate)
-                           for item in driver.search(box, "list item", showing=False)))
-    program.press("OK")
-    program.wait_for("the dialog to close", lambda: not program.find("dialog"))
-
-
 def distinct_frames(screen, size, changes, rate, length=LENGTH):
     """The share of the frames due, in the time between the first frame and the last, that show a
     picture of their own."""
@@ -64,7 +47,7 @@ def distinct_frames(screen, size, changes, rate, length=LENGTH):
             inside = session.counter("--at", "0,0", "--size", "%dx%d" % size, "--rate",
                                      str(changes), "--unmanaged")
             program = driver.Program(session)
-            choose_rate(program, rate)
+            program.choose_rate(rate)
             program.press("Record")
             program.recording_for(length)
             program.press("Stop")
@@ -111,7 +94,7 @@ def share_of_grabber(build):
         grabber.terminate()
         grabber.wait()
         program = driver.Program(session)
-        choose_rate(program, 60)
+        program.choose_rate(60)
         program.press("Record")
         time.sleep(1)
         recording = used_in(session, LENGTH, program.process.pid) - alone
@@ -135,7 +118,7 @@ def outside_encoder(build):
         session.counter("--at", "0,0", "--size", "%dx%d" % HD, "--rate", "45", "--unmanaged")
         path = f"{tools}:{session.environment['PATH']}"
         program = driver.Program(session, {"PATH": path})
-        choose_rate(program, 30)
+        program.choose_rate(30)
         program.press("Record")
         program.recording_for(10)
         program.press("Stop")
@@ -195,7 +178,7 @@ def played(build):
         inside = session.counter("--at", "0,0", "--size", "%dx%d" % HD, "--rate", "90",
                                  "--unmanaged")
         program = driver.Program(session)
-        choose_rate(program, 60)
+        program.choose_rate(60)
         program.press("Record")
         program.recording_for(LENGTH)
         program.press("Stop")

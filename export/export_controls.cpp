@@ -70,6 +70,7 @@ void AppDelegate::connectExportControls() {
             [this] { OnGIFChangeKeepAspectRatio(ui->checkGIFKeepAspectRatio); });
     for (const double speed : frame_timing::speeds)
         ui->comboGIFSpeed->addItem(QLocale().toString(speed) + QChar(u'×'), speed);
+    ui->comboGIFSpeed->setCurrentIndex(ui->comboGIFSpeed->findData(1.0));
     for (const QComboBox *list : {ui->comboGIFFPS, ui->comboGIFSpeed})
         connect(list, &QComboBox::currentIndexChanged, this, &AppDelegate::updateGIFSummary);
     connect(ui->btnGIFExport, &QPushButton::clicked, this,

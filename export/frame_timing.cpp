@@ -20,16 +20,22 @@ double trueSeconds(const Request &request) {
     return static_cast<double>(request.count) / request.recordedRate / request.speed;
 }
 
-std::uint64_t wholeTicks(const Request &request, Ticks ticks) {
-    const std::uint64_t whole =
-        nearest(trueSeconds(request) * static_cast<double>(ticks.perSecond));
-    return std::max(whole, ticks.shortest);
-}
-
 std::uint64_t wantedFrames(const Request &request) {
     if (!request.chosenRate)
         return request.count;
     return std::max<std::uint64_t>(nearest(trueSeconds(request) * *request.chosenRate), 1);
+}
+
+std::uint64_t wholeTicks(const Request &request, Ticks ticks) {
+    const std::uint64_t whole =
+        nearest(trueSeconds(request) * static_cast<double>(ticks.perSecond));
+    // A recording at the very highest rate may have a frame more than fits, by chance: that is not
+    // worth a jump in what is shown.
+    constexpr std::uint64_t unnoticed = 50; // one part in so many of the length
+    const std::uint64_t needed = wantedFrames(request) * ticks.shortest;
+    if (needed > whole && needed - whole <= std::min(ticks.shortest, whole / unnoticed))
+        return needed;
+    return std::max(whole, ticks.shortest);
 }
 
 } // namespace

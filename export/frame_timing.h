@@ -11,9 +11,9 @@
 /// the rate at which it was recorded, the rate that was chosen and the speed. Every encoder goes by
 /// this. Pure arithmetic.
 ///
-/// The length is true: what was recorded, by the speed, to the nearest tick. Delays are whole
-/// ticks; each begins where the one before ended and ends where its frame truly ends, rounded, so
-/// that rounding never adds up.
+/// The length is true: what was recorded, by the speed, to the nearest tick (one shortest delay
+/// more where that saves a frame). Delays are whole ticks; each begins where the one before ended
+/// and ends where its frame truly ends, rounded, so that rounding never adds up.
 namespace frame_timing {
 
 /// What a file format counts delays in.

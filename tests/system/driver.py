@@ -169,6 +169,38 @@ class Program:
         self.wait_for("the recording to run", lambda: self.enabled("Stop") and self.enabled("Pause"))
         time.sleep(seconds)
 
+    def activate(self):
+        """Gives the main window the keys."""
+        self.session.xdotool("windowactivate", "--sync", self.window())
+
+    def list_of(self, wanted):
+        """The list whose present entry is as wanted: a list goes by that, not by a name."""
+        return self.wait_for("the list", lambda: next(
+            (box for box in self.walk("combo box") if wanted(box.get_name())), None))
+
+    def choose_in(self, box, text):
+        """Chooses from a list by the keys: it finds the entry that is typed."""
+        if box.get_name() == text:
+            return
+        box.grab_focus()
+        wait_for("focus on the list", lambda: has_state(box, "FOCUSED"))
+        # The search begins behind the present entry: "5" would find 50 from 10 on.
+        self.session.xdotool("key", "Home")
+        first = self.wait_for("the first entry", lambda: (
+            name := box.get_name()) in ("1", "0.25×") and name)
+        if first != text:
+            self.session.xdotool("type", text.rstrip("×"))
+        self.wait_for(f"{text} in the list", lambda: box.get_name() == text)
+
+    def choose_rate(self, rate):
+        """Sets the rate of the recordings to come, in the frame-rate dialog."""
+        self.press("Frames per Second")
+        dialog = self.await_control("dialog", "Frames per Second")
+        self.choose_in(wait_for("the list of rates",
+                                lambda: next(search(dialog, "combo box"), None)), str(rate))
+        self.press("OK")
+        self.wait_for("the dialog to close", lambda: not self.find("dialog"))
+
     def record(self, seconds):
         """Record, Stop, and the frames saved: ends on the Cut tab."""
         self.press("Record")
