@@ -274,6 +274,8 @@ public:
     void finishEditingGIFSize();
     /// Says beside the size fields what is wrong with what is typed there, if anything.
     void updateGIFDimensionHint();
+    /// Says beside the loop field what is wrong with what is typed there, or else what 0 means.
+    void updateWebPLoopsHint();
     /// Says what the file will hold: frames, seconds, and the rate that comes of it.
     void updateGIFSummary();
     /// What the options ask for, of what is kept of the recording.

@@ -24,8 +24,10 @@ bool AppDelegate::eventFilter(QObject *watched, QEvent *event) {
 
 void AppDelegate::windowWillClose() {
     // A click on the close button must not cost the recording that is being saved.
-    if (isSavingRecording())
+    if (isSavingRecording()) {
+        ShowStatus(qtTrId("IDD_CLOSE_WAITS"));
         return;
+    }
     Terminate_App();
 }
 

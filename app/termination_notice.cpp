@@ -45,11 +45,18 @@ TerminationNotice::TerminationNotice(std::function<void()> notify) {
     action.sa_flags = SA_RESTART;
     sigaction(SIGTERM, &action, nullptr);
     sigaction(SIGINT, &action, nullptr);
+    // Whoever started us so that it is ignored (nohup) wants us to outlive the terminal.
+    struct sigaction inherited {};
+    if (sigaction(SIGHUP, nullptr, &inherited) == 0 && inherited.sa_handler != SIG_IGN)
+        sigaction(SIGHUP, &action, nullptr);
 }
 
 TerminationNotice::~TerminationNotice() {
-    signal(SIGTERM, SIG_DFL);
-    signal(SIGINT, SIG_DFL);
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        struct sigaction current {};
+        if (sigaction(number, nullptr, &current) == 0 && current.sa_handler == onSignal)
+            signal(number, SIG_DFL);
+    }
     notifier.reset();
     for (int &end : wakeUp)
         if (end >= 0)

@@ -4,8 +4,9 @@
 
 #include <functional>
 
-/// The platform's wish that the program ends: SIGTERM and SIGINT (the end of the desktop session
-/// reaches the program through the application object). One instance, made in main before the event
+/// The platform's wish that the program ends: SIGTERM, SIGINT, and SIGHUP when the terminal closes,
+/// unless that was ignored at the start (the end of the desktop session reaches the program through
+/// the application object). One instance, made in main before the event
 /// loop and kept until the process ends.
 class TerminationNotice {
 public:

@@ -8,18 +8,28 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <sys/stat.h>
+
 #include <filesystem>
 #include <system_error>
 
 namespace working_folders {
+
+namespace fs = std::filesystem;
 
 namespace {
 
 /// Digits of a frame number in a file name, at least.
 constexpr int frameDigits = 8;
 
+constexpr mode_t forTheUserAlone = 0700;
+
 QString inDocuments(const QString &documentsFolder, const char *name) {
     return QDir::cleanPath(documentsFolder + QLatin1Char('/') + QLatin1String(name));
+}
+
+void oops(const fs::path &path, const std::error_code &error) {
+    qWarning("oops: %s: %s", path.c_str(), error.message().c_str());
 }
 
 } // namespace
@@ -50,34 +60,48 @@ QString stagedFile(const QString &folder, std::uint64_t number) {
 bool ensureFolder(const QString &folder) {
     // A broken link is nothing that can be used, but something of that name: it counts as present.
     const QFileInfo info(folder);
-    return info.exists() || info.isSymLink() || QDir().mkpath(folder);
+    if (!info.exists() && !info.isSymLink()) {
+        // Pictures of somebody's screen: nobody else is to read them, not even for a moment.
+        return QDir().mkpath(info.absolutePath()) &&
+               mkdir(QFile::encodeName(folder).constData(), forTheUserAlone) == 0;
+    }
+    // One that an earlier version made, or somebody opened to others; a link's target is not ours.
+    if (info.isDir() && !info.isSymLink())
+        chmod(QFile::encodeName(folder).constData(), forTheUserAlone);
+    return true;
+}
+
+void removeContent(const fs::path &folder) {
+    std::error_code error;
+    // The standard library's walk, not QDir: it leaves out neither hidden files nor broken links.
+    // Not its remove_all either, which ends at the first entry that cannot be removed.
+    fs::directory_iterator entries(folder, error);
+    if (error) {
+        // No folder, no entries; anything else the user's log should know.
+        if (error != std::errc::no_such_file_or_directory)
+            oops(folder, error);
+        return;
+    }
+    while (entries != fs::directory_iterator()) {
+        const fs::path path = entries->path();
+        // A link to a folder is an entry of its own: what it leads to is not ours.
+        if (fs::is_directory(entries->symlink_status(error)))
+            removeContent(path);
+        fs::remove(path, error);
+        if (error)
+            oops(path, error);
+        entries.increment(error);
+        if (error) {
+            oops(folder, error);
+            return;
+        }
+    }
 }
 
 } // namespace working_folders
 
 void AppDelegate::RemoveAllContentInFolder(const QString &folder) {
-    namespace fs = std::filesystem;
-    const auto oops = [](const std::string &what) { qWarning("oops: %s", what.c_str()); };
-    std::error_code error;
-    // The standard library's walk, not QDir: it leaves out neither hidden files nor broken links.
-    fs::directory_iterator entries(QFile::encodeName(folder).toStdString(), error);
-    if (error) {
-        // No folder, no entries; anything else the user's log should know.
-        if (error != std::errc::no_such_file_or_directory)
-            oops(folder.toStdString() + ": " + error.message());
-        return;
-    }
-    while (entries != fs::directory_iterator()) {
-        const fs::path path = entries->path();
-        fs::remove_all(path, error);
-        if (error)
-            oops(path.string() + ": " + error.message());
-        entries.increment(error);
-        if (error) {
-            oops(folder.toStdString() + ": " + error.message());
-            return;
-        }
-    }
+    working_folders::removeContent(QFile::encodeName(folder).toStdString());
 }
 
 bool AppDelegate::firstFrameFileExists() const {

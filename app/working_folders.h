@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <filesystem>
 
 /// The three working folders and the names of the frame files in them. Paths and names only; the
 /// recording, the trim editor and the exports write and read the files.
@@ -22,8 +23,14 @@ QString frameFile(const QString &recordingFolder, std::uint64_t number);
 /// The file of staged frame `number` in an encoder's folder: "<folder>/image7.png".
 QString stagedFile(const QString &folder, std::uint64_t number);
 
-/// Makes the folder and those above it, unless something of that name exists: a plain file counts
-/// as present. False when it could not be made.
+/// Makes the folder, for the user alone (mode 0700), and those above it, unless something of that
+/// name exists: a plain file counts as present, a folder is closed to others. False when it could
+/// not be made.
 bool ensureFolder(const QString &folder);
+
+/// Removes every entry of the folder and of the folders in it (hidden files and broken links too),
+/// and keeps the folder itself. What cannot be removed is logged as "oops: ..." and keeps none of
+/// its neighbours.
+void removeContent(const std::filesystem::path &folder);
 
 } // namespace working_folders

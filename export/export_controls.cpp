@@ -61,6 +61,7 @@ void AppDelegate::connectExportControls() {
     };
     field(ui->textGIFWidth, &AppDelegate::OnGIFChangeWidth);
     field(ui->textGIFHeigth, &AppDelegate::OnGIFChangeHeigth);
+    connect(ui->txtWebPLoops, &QLineEdit::textChanged, this, &AppDelegate::updateWebPLoopsHint);
 
     auto *passage = new ShortcutPassage(*ui->menuitemActionGIFExport, this);
     for (QLineEdit *edit : {ui->textGIFWidth, ui->textGIFHeigth, ui->txtWebPLoops})

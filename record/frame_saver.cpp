@@ -108,13 +108,17 @@ QString FrameSaver::writeRun(std::size_t first, std::size_t end, const PngBands 
         // which takes the links of the frames that follow.
         const bool linked = !written.isEmpty() && linkFile(written, path) == 0;
         if (!linked && error == 0) {
-            error = writeFileAtomically(path, file.parts());
+            error = saveImageAtPath(file, path);
             if (error == 0)
                 written = path;
         }
         reportFrame(frame, error);
     }
     return written;
+}
+
+int FrameSaver::saveImageAtPath(const PngFile &image, const QString &path) {
+    return writeFileAtomically(path, image.parts());
 }
 
 void FrameSaver::reportFrame(std::size_t frame, int error) {

@@ -67,6 +67,8 @@ private:
     PngBands encode(std::size_t run, Awaited &before, ImageReader &reader,
                     std::unique_ptr<PngBandWriter> &writer, bool &changed) const;
     QString writeRun(std::size_t first, std::size_t end, const PngBands &bands, QString written);
+    /// Writes one frame as a PNG file, whole or not at all. 0, or the system's error number.
+    static int saveImageAtPath(const PngFile &image, const QString &path);
     void reportFrame(std::size_t frame, int error);
     void onSaved(std::size_t frame, int error);
 

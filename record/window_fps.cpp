@@ -65,6 +65,9 @@ void AppDelegate::OnRecordFPS(QObject *) {
     Window_FPS dialog(shell.window());
     dialog.setWindowModality(Qt::ApplicationModal);
     dialog.exec();
-    if (dialog.bOK())
-        restartCaptureTimer();
+    if (!dialog.bOK())
+        return;
+    restartCaptureTimer();
+    // Not only with the next tick, which a low rate keeps waiting.
+    showCaptureMode();
 }

@@ -248,6 +248,10 @@
         <source>%1 of %2 frames could not be written to %3: %4</source>
         <translation>%1 of %2 frames could not be written to %3: %4</translation>
     </message>
+    <message id="IDD_CLOSE_WAITS">
+        <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
+        <translation>The recording is still being saved. Tovarel can be closed when that is done.</translation>
+    </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>
         <translation>Save Again</translation>
@@ -466,6 +470,18 @@ It remains at %3.</translation>
     <message id="IDD_WEBP_LOOPS_HINT">
         <source>0 means for ever</source>
         <translation>0 means for ever</translation>
+    </message>
+    <message id="IDD_LOOPS_NOT_NUMBER">
+        <source>must be a whole number</source>
+        <translation>must be a whole number</translation>
+    </message>
+    <message id="IDD_LOOPS_NEGATIVE">
+        <source>must not be negative</source>
+        <translation>must not be negative</translation>
+    </message>
+    <message id="IDD_LOOPS_TOO_LARGE">
+        <source>65,535 at most</source>
+        <translation>65,535 at most</translation>
     </message>
     <message id="IDD_SIZE_HINT">
         <source>%1: %2</source>

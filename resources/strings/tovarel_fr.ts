@@ -248,6 +248,10 @@
         <source>%1 of %2 frames could not be written to %3: %4</source>
         <translation>%1 images sur %2 n’ont pas pu être écrites dans %3 : %4</translation>
     </message>
+    <message id="IDD_CLOSE_WAITS">
+        <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
+        <translation>L’enregistrement est encore en cours de sauvegarde. Tovarel pourra être fermé ensuite.</translation>
+    </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>
         <translation>Sauvegarder à nouveau</translation>
@@ -466,6 +470,18 @@ Il reste à l’emplacement %3.</translation>
     <message id="IDD_WEBP_LOOPS_HINT">
         <source>0 means for ever</source>
         <translation>0 signifie sans fin</translation>
+    </message>
+    <message id="IDD_LOOPS_NOT_NUMBER">
+        <source>must be a whole number</source>
+        <translation>doit être un nombre entier</translation>
+    </message>
+    <message id="IDD_LOOPS_NEGATIVE">
+        <source>must not be negative</source>
+        <translation>ne doit pas être négatif</translation>
+    </message>
+    <message id="IDD_LOOPS_TOO_LARGE">
+        <source>65,535 at most</source>
+        <translation>65&#xa0;535 au plus</translation>
     </message>
     <message id="IDD_SIZE_HINT">
         <source>%1: %2</source>

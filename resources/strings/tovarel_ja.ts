@@ -248,6 +248,10 @@
         <source>%1 of %2 frames could not be written to %3: %4</source>
         <translation>%2 フレームのうち %1 フレームを %3 に書き込めませんでした: %4</translation>
     </message>
+    <message id="IDD_CLOSE_WAITS">
+        <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
+        <translation>録画を保存しています。保存が終わると Tovarel を閉じることができます。</translation>
+    </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>
         <translation>もう一度保存</translation>
@@ -466,6 +470,18 @@ It remains at %3.</source>
     <message id="IDD_WEBP_LOOPS_HINT">
         <source>0 means for ever</source>
         <translation>0 は無限</translation>
+    </message>
+    <message id="IDD_LOOPS_NOT_NUMBER">
+        <source>must be a whole number</source>
+        <translation>整数を入力してください</translation>
+    </message>
+    <message id="IDD_LOOPS_NEGATIVE">
+        <source>must not be negative</source>
+        <translation>負の数は使えません</translation>
+    </message>
+    <message id="IDD_LOOPS_TOO_LARGE">
+        <source>65,535 at most</source>
+        <translation>65,535 までです</translation>
     </message>
     <message id="IDD_SIZE_HINT">
         <source>%1: %2</source>

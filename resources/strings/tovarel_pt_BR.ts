@@ -248,6 +248,10 @@
         <source>%1 of %2 frames could not be written to %3: %4</source>
         <translation>Não foi possível gravar %1 de %2 quadros em %3: %4</translation>
     </message>
+    <message id="IDD_CLOSE_WAITS">
+        <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
+        <translation>A gravação ainda está sendo salva. Depois disso, o Tovarel pode ser fechado.</translation>
+    </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>
         <translation>Salvar novamente</translation>
@@ -466,6 +470,18 @@ Ele continua em %3.</translation>
     <message id="IDD_WEBP_LOOPS_HINT">
         <source>0 means for ever</source>
         <translation>0 significa sem fim</translation>
+    </message>
+    <message id="IDD_LOOPS_NOT_NUMBER">
+        <source>must be a whole number</source>
+        <translation>deve ser um número inteiro</translation>
+    </message>
+    <message id="IDD_LOOPS_NEGATIVE">
+        <source>must not be negative</source>
+        <translation>não deve ser negativo</translation>
+    </message>
+    <message id="IDD_LOOPS_TOO_LARGE">
+        <source>65,535 at most</source>
+        <translation>no máximo 65.535</translation>
     </message>
     <message id="IDD_SIZE_HINT">
         <source>%1: %2</source>

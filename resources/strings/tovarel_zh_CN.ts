@@ -248,6 +248,10 @@
         <source>%1 of %2 frames could not be written to %3: %4</source>
         <translation>%2 帧中有 %1 帧无法写入 %3：%4</translation>
     </message>
+    <message id="IDD_CLOSE_WAITS">
+        <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
+        <translation>录制内容仍在保存。保存完成后即可关闭 Tovarel。</translation>
+    </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>
         <translation>重新保存</translation>
@@ -466,6 +470,18 @@ It remains at %3.</source>
     <message id="IDD_WEBP_LOOPS_HINT">
         <source>0 means for ever</source>
         <translation>0 表示无限循环</translation>
+    </message>
+    <message id="IDD_LOOPS_NOT_NUMBER">
+        <source>must be a whole number</source>
+        <translation>必须是整数</translation>
+    </message>
+    <message id="IDD_LOOPS_NEGATIVE">
+        <source>must not be negative</source>
+        <translation>不能为负数</translation>
+    </message>
+    <message id="IDD_LOOPS_TOO_LARGE">
+        <source>65,535 at most</source>
+        <translation>最多 65,535</translation>
     </message>
     <message id="IDD_SIZE_HINT">
         <source>%1: %2</source>

@@ -24,11 +24,12 @@ class Program:
 
     _count = 0
 
-    def __init__(self, session, environment=None, wait=True):
+    def __init__(self, session, environment=None, wait=True, command=(), recover=False):
         self.session = session
         Program._count += 1
         self.log = f"tovarel-{Program._count}"
-        self.process = session.start(self.log, [session.build / BINARY], environment)
+        self.process = session.start(
+            self.log, [*command, session.build / BINARY], environment)
         if wait:
             wait_for("the main window", lambda: self.ended() or self.frame())
             assert not self.ended(), f"ended at start with {self.process.poll()}:\n{self.output()}"

@@ -27,6 +27,7 @@ class Endings(case.Case):
         return {
             "SIGTERM": lambda: program.process.send_signal(signal.SIGTERM),
             "SIGINT": lambda: program.process.send_signal(signal.SIGINT),
+            "SIGHUP": lambda: program.process.send_signal(signal.SIGHUP),
             "closing the window": lambda: self.close(program),
             "Quit in the menu": lambda: program.choose("Tovarel", "Quit Tovarel"),
             "Quit by its shortcut": lambda: self.session.xdotool("key", "ctrl+q"),
@@ -87,12 +88,21 @@ class Endings(case.Case):
                 self.check_end(self.recording(), road)
                 self.assertEqual(list(self.session.frames.iterdir()), [])
 
-    def test_while_a_recording_is_saved_a_signal_ends_it_and_a_close_request_does_nothing(self):
-        for road in ("SIGTERM", "SIGINT"):
+    def test_a_hangup_that_was_ignored_at_the_start_stays_ignored(self):
+        program = Program(self.session, command=["nohup"])
+        program.process.send_signal(signal.SIGHUP)
+        program.record(1)
+        self.assertFalse(program.ended())
+        self.check_end(program, "SIGTERM")
+
+    def test_while_a_recording_is_saved_a_signal_ends_it_and_a_close_request_says_why_it_waits(self):
+        for road in ("SIGTERM", "SIGINT", "SIGHUP"):
             with self.subTest(road):
                 self.check_end(self.saving(), road)
         program = self.saving()
         self.close(program)
+        program.wait_for("the reason", lambda: any(
+            "still being saved" in text for text in program.labels()))
         self.assertIsNotNone(program.find("progress bar"))
         self.hold.unlink()
         program.await_tab("Cut")

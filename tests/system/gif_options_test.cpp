@@ -172,6 +172,20 @@ TEST_F(GifOptions, SayWhileTypingWhatTheEncoderWillRefuse) {
     EXPECT_TRUE(ui.labelDimensionHint->text().isEmpty());
 }
 
+TEST_F(GifOptions, SayWhileTypingWhatIsWrongWithTheLoops) {
+    enterTab();
+    const QString usual = ui.labelWebPLoopsHint->text();
+    for (const auto &[typed, key] :
+         {std::pair(u"abc", "IDD_LOOPS_NOT_NUMBER"), std::pair(u"-1", "IDD_LOOPS_NEGATIVE")}) {
+        type(ui.txtWebPLoops, QString::fromUtf16(typed));
+        EXPECT_EQ(ui.labelWebPLoopsHint->text(), qtTrId(key));
+        EXPECT_EQ(ui.txtWebPLoops->accessibleDescription(), qtTrId(key));
+    }
+    type(ui.txtWebPLoops, QStringLiteral("3"));
+    EXPECT_EQ(ui.labelWebPLoopsHint->text(), usual);
+    EXPECT_TRUE(ui.txtWebPLoops->accessibleDescription().isEmpty());
+}
+
 TEST_F(GifOptions, ActOnAnEditThatTheExportsShortcutFinds) {
     enterTab();
     chooseCustomSize(true);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/aspect_ratio.h"
 #include "export/encoder_arguments.h"
+#include "export/loops_text.h"
 #include "export/progress_parser.h"
 #include "export/size_text.h"
 #include "export/tool_failure.h"
@@ -147,6 +148,19 @@ TEST(SizeText, SaysWhatTheExportOrTheEncoderWillRefuse) {
                  {u"320 ", Problem::NotPlain},  {u"320x240", Problem::NotPlain}};
     for (const auto &[text, problem] : cases)
         EXPECT_EQ(sizeTextProblem(text), problem) << QString::fromUtf16(text).toStdString();
+}
+
+TEST(LoopsText, NamesWhatTheEncoderRefusesAndWhatIsNoNumber) {
+    using Problem = LoopsTextProblem;
+    const std::pair<const char16_t *, Problem> cases[] = {
+        {u"", Problem::None},          {u"0", Problem::None},
+        {u" +00", Problem::None},      {u"3 times", Problem::None},
+        {u"-0", Problem::None},        {u"65535", Problem::None},
+        {u"65536", Problem::TooLarge}, {u"-1", Problem::Negative},
+        {u"abc", Problem::NotNumber},  {u"times 3", Problem::NotNumber},
+        {u"-", Problem::NotNumber}};
+    for (const auto &[text, problem] : cases)
+        EXPECT_EQ(loopsTextProblem(text), problem) << QString::fromUtf16(text).toStdString();
 }
 
 TEST(ToolFailure, ShowsTheLastLinesThatSaySomething) {

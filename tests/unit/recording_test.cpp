@@ -216,6 +216,7 @@ TEST_F(Recording, theCaptureTimerRunsAtTheRateChosenInTheDialogAndOnlyAfterOK) {
     });
     EXPECT_EQ(delegate->recording.u_FPS(), 60u);
     EXPECT_EQ(delegate->recording.timerVideoRefresh->interval(), static_cast<double>(1.0f / 60.0f));
+    EXPECT_EQ(ui().labelCaptureRate->text(), qtTrId("IDD_CAPTURE_RATE").arg(60)) << "at once";
     delegate->recording.setU_FPS(77);
     during([](Window_FPS &dialog) {
         EXPECT_EQ(dialog.comboScreenFPS()->currentText(), QStringLiteral("1"));

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringView>
+
+/// What is wrong with the text of the loop field. The field takes anything; the export reads the
+/// number that the text begins with, and the encoder judges that.
+enum class LoopsTextProblem {
+    None,
+    NotNumber, ///< Does not begin with a number: it counts as 0, for ever.
+    Negative,  ///< The encoder refuses it.
+    TooLarge,  ///< More than the WebP format can hold: the encoder refuses it.
+};
+
+/// The first of these that holds. An empty field means 0, as does what it shows at first.
+LoopsTextProblem loopsTextProblem(QStringView text);
