@@ -280,8 +280,8 @@ public:
     void updateGIFSummary();
     /// What the options ask for, of what is kept of the recording.
     frame_timing::Request timingRequest() const;
-    /// Size of the recording in points; none without a known capture mode.
-    std::optional<QSizeF> originalSize() const;
+    /// Size of the recording's frames in pixels; none without a recording.
+    std::optional<QSize> originalSize() const;
     /// Ratio that the typed size is tied to; none when it is free.
     std::optional<float> tiedAspectRatio() const;
 

@@ -10,8 +10,6 @@
 
 namespace {
 
-QString wholeNumberText(double value) { return QString::number(aspect_ratio::cut(value)); }
-
 /// Gives the field a text of ours: it is not an edit that still waits for its action.
 void write(QLineEdit &field, const QString &text) {
     field.setText(text);
@@ -64,14 +62,6 @@ void AppDelegate::resetGIFOptions() {
     updateGIFSummary();
 }
 
-std::optional<QSizeF> AppDelegate::originalSize() const {
-    if (region.i_Type_Screen_Capture() == CAPTURE_REGION)
-        return region.rect_Screen_Region().size();
-    if (region.i_Type_Screen_Capture() == CAPTURE_FULL_SCREEN)
-        return QSizeF(capture.imgScreenCapture().size());
-    return std::nullopt;
-}
-
 void AppDelegate::OnGIFOriginalResolution(QObject *) {
     if (!ui->radioGIFOriginalDimension->isChecked())
         return;
@@ -79,9 +69,9 @@ void AppDelegate::OnGIFOriginalResolution(QObject *) {
     ui->textGIFWidth->setEnabled(false);
     ui->textGIFHeigth->setEnabled(false);
     ui->checkGIFKeepAspectRatio->setEnabled(false);
-    if (const std::optional<QSizeF> size = originalSize()) {
-        write(*ui->textGIFWidth, wholeNumberText(size->width()));
-        write(*ui->textGIFHeigth, wholeNumberText(size->height()));
+    if (const std::optional<QSize> size = originalSize()) {
+        write(*ui->textGIFWidth, QString::number(size->width()));
+        write(*ui->textGIFHeigth, QString::number(size->height()));
     }
     updateGIFDimensionHint();
 }
@@ -118,7 +108,7 @@ void AppDelegate::OnGIFCustomFPS(QObject *) {
 }
 
 std::optional<float> AppDelegate::tiedAspectRatio() const {
-    const std::optional<QSizeF> size = originalSize();
+    const std::optional<QSize> size = originalSize();
     if (!ui->checkGIFKeepAspectRatio->isChecked() || !size)
         return std::nullopt;
     const float ratio = aspect_ratio::ratio(size->width(), size->height());

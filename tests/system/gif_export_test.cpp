@@ -232,6 +232,7 @@ TEST_F(GifExport, AndTheWebPRefuseTooFewFramesAndAnEmptySizeBeforeTheyTouchAnyth
     for (const Answerer::Alert &alert : answers.alerts)
         EXPECT_EQ(alert.text, controller.texts.s_IDD_LOW_FRAME_NUMBER());
     controller.trim.setULastFrame(2);
+    ui.checkGIFKeepAspectRatio->setChecked(false); // else one side mends the other
     for (auto [field, text] : {std::pair(ui.textGIFWidth, u"abc"), {ui.textGIFHeigth, u""}}) {
         field->setText(QString::fromUtf16(text));
         exportBoth();
@@ -245,6 +246,7 @@ TEST_F(GifExport, AndTheWebPRefuseTooFewFramesAndAnEmptySizeBeforeTheyTouchAnyth
 
 TEST_F(GifExport, NamesTheSizeThatTheEncoderRefused) {
     record(3);
+    ui.checkGIFKeepAspectRatio->setChecked(false); // else the text becomes the number in it
     ui.textGIFWidth->setText(QStringLiteral("320px"));
     ui.btnGIFExport->click();
     ASSERT_EQ(answers.alerts.size(), 1u);

@@ -12,14 +12,12 @@ namespace {
 /// The GIF tab of the real window, with a recording of 30 frames at 12 frames per second.
 class GifOptions : public ExportTest {
 protected:
-    GifOptions() {
-        QApplication::setActiveWindow(controller.shell.window());
-        controller.region.setI_Type_Screen_Capture(CAPTURE_REGION);
-        controller.region.setRect_Screen_Region({10, 10, 1366, 768});
-    }
+    GifOptions() { QApplication::setActiveWindow(controller.shell.window()); }
 
-    void enterTab() {
+    /// The first frame alone has the size: it is the one that is asked.
+    void enterTab(QSize size = {1366, 768}) {
         record(30);
+        ASSERT_TRUE(QImage(size, QImage::Format_RGB32).save(frameFile(0)));
         controller.recording.setU_Record_Current_FPS(12);
         controller.resetGIFOptions();
     }
@@ -50,20 +48,26 @@ protected:
 } // namespace
 
 TEST_F(GifOptions, BeginWithTheRecordingsOwnSizeAndRate) {
-    controller.region.setRect_Screen_Region({0, 0, 641.6, 480.9});
-    enterTab();
+    enterTab({641, 480});
     EXPECT_TRUE(ui.btnGIFExport->isEnabled() && ui.btnWebPGenerate->isEnabled());
     EXPECT_TRUE(ui.radioGIFOriginalDimension->isChecked() && ui.radioGIFOriginalFPS->isChecked());
     EXPECT_FALSE(ui.textGIFWidth->isEnabled() || ui.textGIFHeigth->isEnabled() ||
                  ui.checkGIFKeepAspectRatio->isEnabled() || ui.comboGIFFPS->isEnabled());
+    EXPECT_TRUE(ui.checkGIFKeepAspectRatio->isChecked());
     EXPECT_EQ(size(), "641x480");
     EXPECT_EQ(ui.comboGIFFPS->currentText(), QStringLiteral("12"));
 
+    // What would be recorded now is not what was recorded.
     controller.region.setI_Type_Screen_Capture(CAPTURE_FULL_SCREEN);
     controller.capture.setImgScreenCapture(Image::fromQImage({1440, 900, QImage::Format_RGB32}));
+    controller.region.setRect_Screen_Region({0, 0, 320, 240});
     controller.recording.setU_Record_Current_FPS(61);
     controller.resetGIFOptions();
-    EXPECT_EQ(size(), "1440x900");
+    EXPECT_EQ(size(), "641x480");
+    ui.radioGIFCustomDimension->click();
+    type(ui.textGIFWidth, QStringLiteral("1282"));
+    QTest::keyClick(ui.textGIFWidth, Qt::Key_Return);
+    EXPECT_EQ(size(), "1282x960");
     EXPECT_EQ(ui.comboGIFFPS->currentText(), QStringLiteral("60")) << "never without a selection";
 }
 
@@ -138,7 +142,7 @@ TEST_F(GifOptions, TieTheOtherSideWhenAFieldSendsItsAction) {
         EXPECT_EQ(ui.textGIFHeigth->text(), QStringLiteral("450"));
         EXPECT_EQ(ui.textGIFWidth->text(), QString::fromUtf16(nothing));
     }
-    controller.region.setI_Type_Screen_Capture(7);
+    ASSERT_TRUE(QFile::remove(frameFile(0)));
     type(ui.textGIFWidth, QStringLiteral("100"));
     QTest::keyClick(ui.textGIFWidth, Qt::Key_Return);
     EXPECT_EQ(size(), "100x450") << "without an original size there is no ratio";
