@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
+#include "app/mnemonics.h"
+#include "app/question.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -8,6 +10,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace {
 
@@ -47,6 +50,11 @@ void addDetail(QMessageBox &box, QGridLayout &grid, const QString &text) {
     grid.addWidget(buttons, grid.rowCount(), 0, 1, grid.columnCount());
 }
 
+/// Without it the box is as narrow as its title, and a sentence becomes a column of words.
+void widen(QGridLayout &grid) {
+    grid.addItem(new QSpacerItem(alertTextWidth, 0), grid.rowCount(), 0, 1, grid.columnCount());
+}
+
 /// Which tool serves, or that none was found: the first thing to know when an export fails.
 QString toolLine(const QString &name, const QString &path) {
     return QStringLiteral("%1: %2").arg(name,
@@ -68,11 +76,41 @@ void AppDelegate::RunAlert(const QString &messageText, const QString &informativ
     if (auto *grid = qobject_cast<QGridLayout *>(alert.layout())) {
         if (!detail.isEmpty())
             addDetail(alert, *grid, detail);
-        // Without it the box is as narrow as its title, and a sentence becomes a column of words.
-        grid->addItem(new QSpacerItem(alertTextWidth, 0), grid->rowCount(), 0, 1,
-                      grid->columnCount());
+        widen(*grid);
     }
     alert.exec();
+}
+
+void AppDelegate::Ask(const Question &question, std::function<void(Answer)> answered) {
+    // It returns at once: assistive technology that pressed a button waits for the answer to that.
+    auto *box = new QMessageBox(shell.window());
+    box->setObjectName(QStringLiteral("question"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowTitle(shell.s_App_Name());
+    box->setIcon(QMessageBox::Question);
+    setTexts(*box, question.message, question.detail);
+    box->setWindowModality(Qt::ApplicationModal);
+    QPushButton *accept = box->addButton(question.accept, QMessageBox::AcceptRole);
+    QPushButton *destroy = box->addButton(question.destroy, QMessageBox::DestructiveRole);
+    QPushButton *cancel = question.cancel.isEmpty()
+                              ? accept
+                              : box->addButton(question.cancel, QMessageBox::RejectRole);
+    box->setDefaultButton(accept);
+    box->setEscapeButton(cancel);
+    mnemonics::mark(*box);
+    if (auto *grid = qobject_cast<QGridLayout *>(box->layout()))
+        widen(*grid);
+    connect(box, &QDialog::finished, this, [=, this] {
+        const QAbstractButton *clicked = box->clickedButton();
+        const Answer answer = clicked == destroy  ? Answer::Destroy
+                              : clicked == accept ? Answer::Accept
+                                                  : Answer::Cancel;
+        question_ = nullptr;
+        QMetaObject::invokeMethod(
+            this, [=] { answered(answer); }, Qt::QueuedConnection);
+    });
+    question_ = box;
+    box->show();
 }
 
 void AppDelegate::OnMenuAbout() {

@@ -6,6 +6,7 @@
 #include "platform/global_shortcuts.h"
 #include "platform/window_server.h"
 #include "record/frame_saver.h"
+#include "record/recording_loader.h"
 #include "ui_MainWindow.h"
 
 #include <QTextDocument>

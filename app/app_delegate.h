@@ -13,7 +13,9 @@
 #include "trim/range_rules.h"
 #include "trim/trim_fields.h"
 
+#include <QMessageBox>
 #include <QObject>
+#include <QPointer>
 #include <QProcess>
 
 #include <cstdint>
@@ -25,7 +27,11 @@
 
 class FrameSaver;
 class GlobalShortcuts;
+class RecordingLoader;
 class WindowServer;
+enum class Answer;
+struct Question;
+struct RecordingNote;
 struct SaveRequest;
 struct ToolExit;
 struct ToolRun;
@@ -74,8 +80,8 @@ public:
     /// could not be made (the user has been told): the process must end, with status 0.
     bool applicationDidFinishLaunching();
     bool applicationShouldTerminateAfterLastWindowClosed() const { return true; }
-    /// The main window is closing: ends the process, unless a recording is being saved.
-    /// Returns only in that case.
+    /// The main window is closing: ends the process. Returns when a recording is being saved, as
+    /// the status line then says, or when something has to be answered first.
     void windowWillClose();
     /// The platform's termination notice (signals, the end of the session).
     void applicationWillTerminate();
@@ -131,7 +137,7 @@ public:
     void listenToDesktopKeys();
     /// Version, licence, and which encoders were found where; returns when it is dismissed.
     void OnMenuAbout();
-    /// Ends the process as `Terminate_App` does.
+    /// Ends the process as `Terminate_App` does, once nothing has to be answered first.
     void OnMenuQuit();
 
     // Telling the user (app/) -----------------------------------------------------------------
@@ -140,6 +146,10 @@ public:
     /// is a text of its own beneath, for a path that somebody may want to copy.
     void RunAlert(const QString &messageText, const QString &informativeText,
                   const QString &detail = {});
+    /// Asks over the main window and returns at once; `answered` is called from the event loop when
+    /// the dialog has gone. Escape stands for cancel, or else for accept. Not while `isAsking`.
+    void Ask(const Question &question, std::function<void(Answer)> answered);
+    bool isAsking() const { return !question_.isNull(); }
     /// Shows `text` in the status line until the next one; an empty text clears it.
     void ShowStatus(const QString &text);
     /// Lets the main window's title and icon tell of a recording, for whoever sees only a task bar.
@@ -193,6 +203,15 @@ public:
     RecordingCounts recordingCounts() const;
     /// Whether the frames of a stopped recording are still being written.
     bool isSavingRecording() const;
+    /// Keeps beside the saved frames what a later start needs to open them again.
+    void noteRecording();
+    /// The user has ended the program: the next start has nothing to offer.
+    void forgetRecording();
+    /// Asks whether to open the recording that an earlier start left in the recording folder, or to
+    /// delete it.
+    void offerRecording(const RecordingNote &note);
+    /// Whether its frames are being read.
+    bool isOpeningRecording() const;
     /// Shows on the Record tab whether this session can be recorded, and what would be.
     void prepareRecordTab();
     /// Brings the labels beside the capture buttons up to what is recorded, screen or region, and
@@ -293,6 +312,16 @@ public:
     /// Likewise the WebP.
     void Generate_WebP(QObject *sender);
 
+    /// Whether a finished export has no place of the user's yet, since the panel was cancelled or
+    /// the place could not be used. It lies in the export folder.
+    bool hasUnsavedResult() const;
+    /// Lets the user choose a place for it once more.
+    void saveUnsavedResult();
+    /// To be asked before a new recording, a new export and the end of the program, all of which
+    /// lose an unsaved export. False when nothing is in the way. True when something is: the caller
+    /// does nothing, and `goOn` is called later if the user saves or discards the export.
+    bool mustAskFirst(std::function<void()> goOn);
+
     // Running the tools (export/) -------------------------------------------------------------
 
     /// Runs a tool to its end while the event loop turns and returns all that it wrote. A progress
@@ -334,6 +363,9 @@ private:
     bool endedWithoutResult(const std::optional<QString> &failure);
     /// Lets the user choose a place for a finished file and puts it there.
     void saveResult(const SaveRequest &request);
+    void chooseResultsPlace();
+    void showUnsavedResult();
+    void forgetResult();
 
     // Connecting controls to actions, each in its concern's folder.
     void connectShellControls();
@@ -341,6 +373,9 @@ private:
     void connectTrimControls();
     void connectExportControls();
 
+    /// Ends the process as the user wishes it, by closing the window or from the menu. Returns when
+    /// something has to be answered first.
+    void endForTheUser();
     bool eventFilter(QObject *watched, QEvent *event) override;
     /// False when one could not be made; the user has been told.
     bool createWorkingFolders();
@@ -356,10 +391,16 @@ private:
     void frameReported(std::uint64_t done);
     void recordingSaved();
     void showSaveResult(const FrameSaver &saver);
+    // A recording that was left by an earlier start (record/): read frame by frame, taken over.
+    void openRecording(const RecordingNote &note);
+    void frameLoaded(std::uint64_t done);
+    void takeRecording(std::vector<Image> frames, const RecordingNote &note);
 
     std::unique_ptr<WindowServer> windowServer_;
     QString documentsFolder_;
     std::unique_ptr<FrameSaver> frameSaver_;
+    std::unique_ptr<RecordingLoader> loader_;
+    QPointer<QMessageBox> question_; // while it waits for its answer
     std::unique_ptr<GlobalShortcuts> desktopKeys_;
     QProcess *watchedTool_ = nullptr; // while `RunToolWithProgress` waits for it
 };

@@ -64,6 +64,7 @@ void nameCommands(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
     ui.btnWebPGenerate->setText(qtTrId("IDD_GENERATE_WEBP"));
     ui.btnWebPGenerate->setToolTip(qtTrId("IDD_GENERATE_WEBP_TIP"));
     ui.btnSaveAgain->setText(qtTrId("IDD_SAVE_AGAIN"));
+    ui.btnSaveResult->setText(qtTrId("IDD_SAVE_RESULT"));
 }
 
 void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
@@ -99,8 +100,8 @@ void AppDelegate::applyTexts() {
     for (const QString &label : {texts.s_IDD_RECORD(), texts.s_IDD_CUT(), texts.s_IDD_SAVE()})
         shell.tabviewMain()->addTab(label);
     // Chosen last: a letter depends on the texts around it.
-    const QString taken =
-        mnemonics::mark(*ui->menubar, *ui->tabBar, *ui->tabStack, *ui->btnSaveAgain);
+    const QString taken = mnemonics::mark(*ui->menubar, *ui->tabBar, *ui->tabStack,
+                                          {ui->btnSaveResult, ui->btnSaveAgain});
     for (const QWidget *page : {ui->pageRecord, ui->pageCut, ui->pageGIF})
         mnemonics::mark(*page, taken);
 }

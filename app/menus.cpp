@@ -41,4 +41,4 @@ void AppDelegate::OnMenuHelpCompanyHomePage() { openHelpPage(QStringLiteral("mak
 void AppDelegate::OnMenuHelpPrivacyPolicy() { openHelpPage(QStringLiteral("privacy.html")); }
 void AppDelegate::OnMenuHelpSubmitTicket() { openHelpPage(QStringLiteral("ticket.html")); }
 
-void AppDelegate::OnMenuQuit() { Terminate_App(); }
+void AppDelegate::OnMenuQuit() { endForTheUser(); }

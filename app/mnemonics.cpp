@@ -180,7 +180,7 @@ std::vector<QString> marked(const std::vector<Bearer> &bearers, const QString &t
 }
 
 QString mark(const QMenuBar &bar, QTabBar &tabs, const QStackedWidget &pages,
-             QAbstractButton &beneath) {
+             std::initializer_list<QAbstractButton *> beneath) {
     for (const QMenu *menu : bar.findChildren<QMenu *>()) {
         Group items;
         addItems(items, menu->actions());
@@ -191,7 +191,8 @@ QString mark(const QMenuBar &bar, QTabBar &tabs, const QStackedWidget &pages,
         always.add(tabs.tabText(tab), pages.widget(tab)->objectName(),
                    [&tabs, tab](const QString &text) { tabs.setTabText(tab, text); });
     addItems(always, bar.actions());
-    addButton(always, beneath);
+    for (QAbstractButton *button : beneath)
+        addButton(always, *button);
     return always.apply({});
 }
 

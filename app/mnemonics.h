@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <initializer_list>
 #include <vector>
 
 class QAbstractButton;
@@ -30,10 +31,10 @@ struct Bearer {
 std::vector<QString> marked(const std::vector<Bearer> &bearers, const QString &taken);
 
 /// Marks what is on the screen whichever page is, which is one group: the menu bar, the tabs over
-/// `pages`, and a button beneath these; the letters that it took. The items of each menu are a
+/// `pages`, and the buttons beneath these; the letters that it took. The items of each menu are a
 /// group of their own.
 QString mark(const QMenuBar &bar, QTabBar &tabs, const QStackedWidget &pages,
-             QAbstractButton &beneath);
+             std::initializer_list<QAbstractButton *> beneath);
 
 /// Marks the controls of a page or a dialog: buttons that show a text, and labels that have a
 /// buddy.

@@ -12,6 +12,8 @@ namespace {
 
 const QString howToKey = QStringLiteral("MACBrenmoor_Lumsey_b_Show_Select_Region_How_To");
 
+const QString lastSaveFolderKey = QStringLiteral("LastSaveFolder");
+
 void sync(QSettings &store) {
     store.sync();
     if (store.status() != QSettings::NoError)
@@ -31,6 +33,16 @@ std::int64_t readShowSelectRegionHowTo() {
 void writeShowSelectRegionHowTo(std::int64_t flag) {
     QSettings store;
     store.setValue(howToKey, QString::number(flag));
+    sync(store);
+}
+
+QString readLastSaveFolder() { return QSettings().value(lastSaveFolderKey).toString(); }
+
+void writeLastSaveFolder(const QString &folder) {
+    QSettings store;
+    if (store.value(lastSaveFolderKey).toString() == folder)
+        return;
+    store.setValue(lastSaveFolderKey, folder);
     sync(store);
 }
 

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
 
-/// The one persisted setting, in the user's settings file. Values are stored as text, so that a
-/// person can read and change them.
+/// What is remembered from one start to the next, in the user's settings file. Values are stored as
+/// text, so that a person can read and change them.
 namespace settings {
 
 /// The stored how-to flag as a whole number; 1 is stored and returned when there is none yet. A
@@ -15,6 +17,11 @@ std::int64_t readShowSelectRegionHowTo();
 /// Stores the flag; it is on disk when this returns. A file that cannot be written is logged and
 /// otherwise ignored: the flag then holds until the program ends.
 void writeShowSelectRegionHowTo(std::int64_t flag);
+
+/// The folder that a file was last saved in, as it was stored; empty before the first. Whether it
+/// still exists is for the caller to see.
+QString readLastSaveFolder();
+void writeLastSaveFolder(const QString &folder);
 
 /// Writes what is not on disk yet.
 void flush();

@@ -9,6 +9,7 @@
 #include "app/tabs.h"
 #include "app/working_folders.h"
 #include "platform/bundle.h"
+#include "record/left_recording.h"
 #include "record/rate_list.h"
 #include "ui_MainWindow.h"
 
@@ -73,7 +74,9 @@ bool AppDelegate::applicationDidFinishLaunching() {
     shell.setSimg2webpPath(bundle::pathForTool(QStringLiteral("img2webp")));
     if (!createWorkingFolders())
         return false;
-    RemoveAllContentInFolder(shell.s_Output_Folder());
+    const std::optional<RecordingNote> left = left_recording::find(shell.s_Output_Folder());
+    if (!left)
+        RemoveAllContentInFolder(shell.s_Output_Folder());
     RemoveAllContentInFolder(shell.s_Export_Folder());
     RemoveAllContentInFolder(shell.s_Pallete_Folder());
     GetScreenSize();
@@ -108,6 +111,8 @@ bool AppDelegate::applicationDidFinishLaunching() {
     shell.setLocaleChangeObserver(connect(screens, &ScreenWatcher::changed, this,
                                           &AppDelegate::screenParametersDidChange,
                                           Qt::QueuedConnection));
+    if (left)
+        offerRecording(*left);
     return true;
 }
 

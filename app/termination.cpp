@@ -28,6 +28,16 @@ void AppDelegate::windowWillClose() {
         ShowStatus(qtTrId("IDD_CLOSE_WAITS"));
         return;
     }
+    endForTheUser();
+}
+
+void AppDelegate::endForTheUser() {
+    // What is being read is still whole on disk, and is offered again.
+    if (isOpeningRecording())
+        Terminate_App();
+    if (mustAskFirst([this] { endForTheUser(); }))
+        return;
+    forgetRecording();
     Terminate_App();
 }
 

@@ -80,4 +80,8 @@ void AppDelegate::connectExportControls() {
             &AppDelegate::OnMenuActionGIFExport);
     connect(ui->btnWebPGenerate, &QPushButton::clicked, this,
             [this] { Generate_WebP(ui->btnWebPGenerate); });
+    // From the event loop: assistive technology waits for the answer to its press, and would wait
+    // until the panel ends.
+    connect(ui->btnSaveResult, &QPushButton::clicked, this, &AppDelegate::saveUnsavedResult,
+            Qt::QueuedConnection);
 }

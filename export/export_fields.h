@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "export/save_request.h"
+
 #include <QByteArray>
-#include <QString>
 
 #include <cstdint>
+#include <optional>
 
 class Window_Progress;
 
@@ -46,9 +48,8 @@ public:
     bool exportRuns() const { return exportRuns_; }
     void setExportRuns(bool runs) { exportRuns_ = runs; }
 
-    /// Folder of the last file that was saved; empty before the first.
-    const QString &lastSaveFolder() const { return lastSaveFolder_; }
-    void setLastSaveFolder(const QString &folder) { lastSaveFolder_ = folder; }
+    /// A finished export that has no place of the user's yet.
+    std::optional<SaveRequest> unsaved;
 
 private:
     Window_Progress *windowProgress_ = nullptr;
@@ -57,5 +58,4 @@ private:
     double i_Orig_Duration_in_Seconds_ = 0.0;
     bool exportCancelled_ = false;
     bool exportRuns_ = false;
-    QString lastSaveFolder_;
 };

@@ -30,6 +30,8 @@ void AppDelegate::OnGIFExport(QObject *) {
         RunAlert(QStringLiteral("Error"), *reason);
         return;
     }
+    if (mustAskFirst([this] { OnGIFExport(nullptr); }))
+        return;
     ShowStatus({});
     RemoveAllContentInFolder(shell.s_Export_Folder());
     showExportSheet(qtTrId("IDD_PROGRESS_GIF"), qtTrId("IDD_PROGRESS_PALETTE"));

@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 
 /// A finished export that the user is asked to give a place.
 struct SaveRequest {
-    QString file;        ///< The encoder's output; its name is offered.
+    QString file;        ///< The encoder's output.
     QString panelTitle;  ///< Title of the save panel.
     QString successText; ///< Informative text of the alert after a confirmed save.
     QString note;        ///< What the status line says beside the path and size; may be empty.
+    /// When it was made: the name that is offered says so, however late it is saved.
+    QDateTime made = QDateTime::currentDateTime();
 };

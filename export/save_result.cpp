@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
+#include "app/settings.h"
+#include "export/preset_name.h"
 #include "export/safe_move.h"
 #include "export/save_request.h"
 
@@ -17,10 +19,11 @@
 namespace {
 
 /// The folder that the save panel shows first: the last one used, else the one for pictures.
-QString startFolder(const QString &lastUsed) {
+QString startFolder() {
+    const QString lastUsed = settings::readLastSaveFolder();
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     for (const QString &folder : {lastUsed, pictures})
-        if (!folder.isEmpty() && QFileInfo(folder).isDir())
+        if (QDir::isAbsolutePath(folder) && QFileInfo(folder).isDir())
             return folder;
     return QDir::homePath();
 }
@@ -42,9 +45,13 @@ QString runSavePanel(QWidget *parent, const SaveRequest &request, const QString 
     panel.setObjectName(QStringLiteral("savePanel"));
     panel.setAcceptMode(QFileDialog::AcceptSave);
     panel.setFileMode(QFileDialog::AnyFile);
-    panel.selectFile(QFileInfo(request.file).fileName());
+    const QString suffix = QFileInfo(request.file).suffix();
+    panel.selectFile(presetName(request.made, suffix, [&folder](const QString &name) {
+        const QFileInfo found(QDir(folder).filePath(name));
+        return found.exists() || found.isSymLink();
+    }));
     // A name typed without an ending gets the one that other programs know the file by.
-    panel.setDefaultSuffix(QFileInfo(request.file).suffix());
+    panel.setDefaultSuffix(suffix);
     if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty())
         return {};
     return panel.selectedFiles().first();
@@ -53,20 +60,29 @@ QString runSavePanel(QWidget *parent, const SaveRequest &request, const QString 
 } // namespace
 
 void AppDelegate::saveResult(const SaveRequest &request) {
-    const QString path =
-        runSavePanel(shell.window(), request, startFolder(exporting.lastSaveFolder()));
-    if (path.isEmpty())
+    exporting.unsaved = request;
+    chooseResultsPlace();
+}
+
+void AppDelegate::chooseResultsPlace() {
+    const SaveRequest request = *exporting.unsaved;
+    const QString path = runSavePanel(shell.window(), request, startFolder());
+    if (path.isEmpty()) {
+        showUnsavedResult();
         return;
+    }
     const std::optional<QString> failure = liesInWorkingFolder(path, shell)
                                                ? qtTrId("IDD_MOVE_WORKING_FOLDER")
                                                : safeMove(request.file, path);
     if (failure) {
         RunAlert(QStringLiteral("Error"),
                  qtTrId("IDD_MOVE_FAILED").arg(path, *failure, request.file));
+        showUnsavedResult();
         return;
     }
+    forgetResult();
     const QFileInfo saved(path);
-    exporting.setLastSaveFolder(saved.absolutePath());
+    settings::writeLastSaveFolder(saved.absolutePath());
     const QString size = QLocale().formattedDataSize(saved.size());
     QString status = qtTrId("IDD_STATUS_SAVED").arg(path, size);
     if (!request.note.isEmpty())

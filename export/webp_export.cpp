@@ -62,6 +62,8 @@ void AppDelegate::Generate_WebP(QObject *) {
         RunAlert(QStringLiteral("Error"), *reason);
         return;
     }
+    if (mustAskFirst([this] { Generate_WebP(nullptr); }))
+        return;
     ShowStatus({});
     RemoveAllContentInFolder(shell.s_Export_Folder());
     working_folders::ensureFolder(shell.s_Export_Folder());

@@ -16,16 +16,14 @@
 
 namespace {
 
-constexpr mode_t anyoneAsTheUmaskAllows = 0666;
-
 /// A file of this name can only be the rest of an earlier run that was ended in mid-write.
-int createNew(const QByteArray &path) {
+int createNew(const QByteArray &path, mode_t mode) {
     constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
-    const int descriptor = open(path.constData(), flags, anyoneAsTheUmaskAllows);
+    const int descriptor = open(path.constData(), flags, mode);
     if (descriptor >= 0 || errno != EEXIST)
         return descriptor;
     unlink(path.constData());
-    return open(path.constData(), flags, anyoneAsTheUmaskAllows);
+    return open(path.constData(), flags, mode);
 }
 
 int writeAll(int descriptor, std::span<const std::span<const std::uint8_t>> parts) {
@@ -54,10 +52,11 @@ int writeAll(int descriptor, std::span<const std::span<const std::uint8_t>> part
 
 } // namespace
 
-int writeFileAtomically(const QString &path, std::span<const std::span<const std::uint8_t>> parts) {
+int writeFileAtomically(const QString &path, std::span<const std::span<const std::uint8_t>> parts,
+                        mode_t mode) {
     const QByteArray target = QFile::encodeName(path);
     const QByteArray temporary = target + ".part";
-    const int descriptor = createNew(temporary);
+    const int descriptor = createNew(temporary, mode);
     if (descriptor < 0)
         return errno;
     int error = writeAll(descriptor, parts);

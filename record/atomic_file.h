@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <sys/types.h>
+
 #include <cstdint>
 #include <span>
 
@@ -12,7 +14,9 @@
 /// Writes `parts`, one after another, to `path`, in place of any file there, by way of a new file
 /// beside it. 0, or the system's error number; nothing is left behind then. The data is not forced
 /// onto the medium: it is scratch, and a crash of the system costs it anyway.
-int writeFileAtomically(const QString &path, std::span<const std::span<const std::uint8_t>> parts);
+/// `mode` is the new file's, less what the umask takes.
+int writeFileAtomically(const QString &path, std::span<const std::span<const std::uint8_t>> parts,
+                        mode_t mode = 0666);
 
 /// Gives `existing` the second name `path`. 0, or the system's error number: a file system without
 /// links, too many links, or a name that is taken.

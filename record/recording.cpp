@@ -58,6 +58,8 @@ void AppDelegate::OnRecordRecord(QObject *) {
         return;
     const bool goesOn = recording.m_RecordStatus() == RECORD_STATUS_PAUSE;
     if (!goesOn) {
+        if (mustAskFirst([this] { OnRecordRecord(nullptr); }))
+            return;
         RemoveAllContentInFolder(shell.s_Output_Folder());
         ui->btnSaveAgain->hide();
         recording.setU_Record_Current_Frame(0);

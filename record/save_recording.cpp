@@ -63,6 +63,7 @@ void AppDelegate::frameReported(std::uint64_t done) {
 
 void AppDelegate::showSaveResult(const FrameSaver &saver) {
     if (saver.missing() == 0) {
+        noteRecording();
         QString text =
             qtTrId("IDD_RECORDING_SAVED").arg(saver.count()).arg(recording.u_Record_Current_FPS());
         if (fellBehind(recordingCounts(), recording.u_FPS()))

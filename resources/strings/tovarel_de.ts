@@ -252,6 +252,30 @@
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
         <translation>Die Aufnahme wird noch gespeichert. Danach lässt sich Tovarel schließen.</translation>
     </message>
+    <message id="IDD_RECOVER_QUESTION">
+        <source>An earlier recording is still there.</source>
+        <translation>Eine frühere Aufnahme ist noch vorhanden.</translation>
+    </message>
+    <message id="IDD_RECOVER_DETAIL">
+        <source>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <translation>Tovarel wurde nicht ordnungsgemäß beendet. Die Aufnahme vom %1 ist vollständig: %2 Bilder, %3&#xa0;s. Sie können sie im Reiter „Schneiden“ öffnen oder löschen.</translation>
+    </message>
+    <message id="IDD_RECOVER_OPEN">
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message id="IDD_RECOVER_DELETE">
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message id="IDD_RECOVER_LOADING">
+        <source>Opening the recording…</source>
+        <translation>Die Aufnahme wird geöffnet&#xa0;…</translation>
+    </message>
+    <message id="IDD_RECOVER_FAILED">
+        <source>The recording could not be opened: the file %1 is damaged.</source>
+        <translation>Die Aufnahme konnte nicht geöffnet werden: Die Datei %1 ist beschädigt.</translation>
+    </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>
         <translation>Nochmals speichern</translation>
@@ -438,6 +462,26 @@ Sie bleibt unter %3.</translation>
     <message id="IDD_STATUS_SAVED">
         <source>Saved: %1 (%2).</source>
         <translation>Gespeichert: %1 (%2).</translation>
+    </message>
+    <message id="IDD_STATUS_UNSAVED">
+        <source>The %1 has not been saved, but it is still there.</source>
+        <translation>Das %1 ist nicht gespeichert, aber noch vorhanden.</translation>
+    </message>
+    <message id="IDD_SAVE_RESULT">
+        <source>Save…</source>
+        <translation>Speichern&#xa0;…</translation>
+    </message>
+    <message id="IDD_UNSAVED_QUESTION">
+        <source>The %1 has not been saved.</source>
+        <translation>Das %1 ist noch nicht gespeichert.</translation>
+    </message>
+    <message id="IDD_UNSAVED_DETAIL">
+        <source>Save it before you continue? If you discard it, it is gone for good.</source>
+        <translation>Vor dem Fortfahren speichern? Wenn Sie es verwerfen, ist es endgültig verloren.</translation>
+    </message>
+    <message id="IDD_DISCARD">
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
     </message>
     <message id="IDD_STATUS_GAP">
         <source>The GIF holds %1 of %2 frames: the others were missing.</source>

@@ -252,6 +252,30 @@
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
         <translation>The recording is still being saved. Tovarel can be closed when that is done.</translation>
     </message>
+    <message id="IDD_RECOVER_QUESTION">
+        <source>An earlier recording is still there.</source>
+        <translation>An earlier recording is still there.</translation>
+    </message>
+    <message id="IDD_RECOVER_DETAIL">
+        <source>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <translation>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</translation>
+    </message>
+    <message id="IDD_RECOVER_OPEN">
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message id="IDD_RECOVER_DELETE">
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message id="IDD_RECOVER_LOADING">
+        <source>Opening the recording…</source>
+        <translation>Opening the recording…</translation>
+    </message>
+    <message id="IDD_RECOVER_FAILED">
+        <source>The recording could not be opened: the file %1 is damaged.</source>
+        <translation>The recording could not be opened: the file %1 is damaged.</translation>
+    </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>
         <translation>Save Again</translation>
@@ -438,6 +462,26 @@ It remains at %3.</translation>
     <message id="IDD_STATUS_SAVED">
         <source>Saved: %1 (%2).</source>
         <translation>Saved: %1 (%2).</translation>
+    </message>
+    <message id="IDD_STATUS_UNSAVED">
+        <source>The %1 has not been saved, but it is still there.</source>
+        <translation>The %1 has not been saved, but it is still there.</translation>
+    </message>
+    <message id="IDD_SAVE_RESULT">
+        <source>Save…</source>
+        <translation>Save…</translation>
+    </message>
+    <message id="IDD_UNSAVED_QUESTION">
+        <source>The %1 has not been saved.</source>
+        <translation>The %1 has not been saved.</translation>
+    </message>
+    <message id="IDD_UNSAVED_DETAIL">
+        <source>Save it before you continue? If you discard it, it is gone for good.</source>
+        <translation>Save it before you continue? If you discard it, it is gone for good.</translation>
+    </message>
+    <message id="IDD_DISCARD">
+        <source>Discard</source>
+        <translation>Discard</translation>
     </message>
     <message id="IDD_STATUS_GAP">
         <source>The GIF holds %1 of %2 frames: the others were missing.</source>

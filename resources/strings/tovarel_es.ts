@@ -252,6 +252,30 @@
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
         <translation>La grabación aún se está guardando. Después podrá cerrar Tovarel.</translation>
     </message>
+    <message id="IDD_RECOVER_QUESTION">
+        <source>An earlier recording is still there.</source>
+        <translation>Aún existe una grabación anterior.</translation>
+    </message>
+    <message id="IDD_RECOVER_DETAIL">
+        <source>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <translation>Tovarel no se cerró correctamente. La grabación del %1 está completa: %2 fotogramas, %3&#xa0;s. Puede abrirla en la pestaña «Recortar» o eliminarla.</translation>
+    </message>
+    <message id="IDD_RECOVER_OPEN">
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message id="IDD_RECOVER_DELETE">
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message id="IDD_RECOVER_LOADING">
+        <source>Opening the recording…</source>
+        <translation>Abriendo la grabación…</translation>
+    </message>
+    <message id="IDD_RECOVER_FAILED">
+        <source>The recording could not be opened: the file %1 is damaged.</source>
+        <translation>No se pudo abrir la grabación: el archivo %1 está dañado.</translation>
+    </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>
         <translation>Guardar de nuevo</translation>
@@ -438,6 +462,26 @@ Sigue en %3.</translation>
     <message id="IDD_STATUS_SAVED">
         <source>Saved: %1 (%2).</source>
         <translation>Guardado: %1 (%2).</translation>
+    </message>
+    <message id="IDD_STATUS_UNSAVED">
+        <source>The %1 has not been saved, but it is still there.</source>
+        <translation>El %1 no se ha guardado, pero sigue disponible.</translation>
+    </message>
+    <message id="IDD_SAVE_RESULT">
+        <source>Save…</source>
+        <translation>Guardar…</translation>
+    </message>
+    <message id="IDD_UNSAVED_QUESTION">
+        <source>The %1 has not been saved.</source>
+        <translation>El %1 no se ha guardado.</translation>
+    </message>
+    <message id="IDD_UNSAVED_DETAIL">
+        <source>Save it before you continue? If you discard it, it is gone for good.</source>
+        <translation>¿Desea guardarlo antes de continuar? Si lo descarta, se perderá definitivamente.</translation>
+    </message>
+    <message id="IDD_DISCARD">
+        <source>Discard</source>
+        <translation>Descartar</translation>
     </message>
     <message id="IDD_STATUS_GAP">
         <source>The GIF holds %1 of %2 frames: the others were missing.</source>

@@ -252,6 +252,30 @@
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
         <translation>L’enregistrement est encore en cours de sauvegarde. Tovarel pourra être fermé ensuite.</translation>
     </message>
+    <message id="IDD_RECOVER_QUESTION">
+        <source>An earlier recording is still there.</source>
+        <translation>Un enregistrement précédent existe toujours.</translation>
+    </message>
+    <message id="IDD_RECOVER_DETAIL">
+        <source>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <translation>Tovarel n’a pas été fermé correctement. L’enregistrement du %1 est complet&#xa0;: %2 images, %3&#xa0;s. Vous pouvez l’ouvrir dans l’onglet «&#xa0;Couper&#xa0;» ou le supprimer.</translation>
+    </message>
+    <message id="IDD_RECOVER_OPEN">
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message id="IDD_RECOVER_DELETE">
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message id="IDD_RECOVER_LOADING">
+        <source>Opening the recording…</source>
+        <translation>Ouverture de l’enregistrement…</translation>
+    </message>
+    <message id="IDD_RECOVER_FAILED">
+        <source>The recording could not be opened: the file %1 is damaged.</source>
+        <translation>L’enregistrement n’a pas pu être ouvert&#xa0;: le fichier %1 est endommagé.</translation>
+    </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>
         <translation>Sauvegarder à nouveau</translation>
@@ -438,6 +462,26 @@ Il reste à l’emplacement %3.</translation>
     <message id="IDD_STATUS_SAVED">
         <source>Saved: %1 (%2).</source>
         <translation>Enregistré : %1 (%2).</translation>
+    </message>
+    <message id="IDD_STATUS_UNSAVED">
+        <source>The %1 has not been saved, but it is still there.</source>
+        <translation>Le fichier %1 n’est pas sauvegardé, mais il existe toujours.</translation>
+    </message>
+    <message id="IDD_SAVE_RESULT">
+        <source>Save…</source>
+        <translation>Sauvegarder…</translation>
+    </message>
+    <message id="IDD_UNSAVED_QUESTION">
+        <source>The %1 has not been saved.</source>
+        <translation>Le fichier %1 n’est pas sauvegardé.</translation>
+    </message>
+    <message id="IDD_UNSAVED_DETAIL">
+        <source>Save it before you continue? If you discard it, it is gone for good.</source>
+        <translation>Le sauvegarder avant de continuer&#x202f;? Si vous l’abandonnez, il sera définitivement perdu.</translation>
+    </message>
+    <message id="IDD_DISCARD">
+        <source>Discard</source>
+        <translation>Abandonner</translation>
     </message>
     <message id="IDD_STATUS_GAP">
         <source>The GIF holds %1 of %2 frames: the others were missing.</source>

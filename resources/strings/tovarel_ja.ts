@@ -252,6 +252,30 @@
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
         <translation>録画を保存しています。保存が終わると Tovarel を閉じることができます。</translation>
     </message>
+    <message id="IDD_RECOVER_QUESTION">
+        <source>An earlier recording is still there.</source>
+        <translation>以前の録画が残っています。</translation>
+    </message>
+    <message id="IDD_RECOVER_DETAIL">
+        <source>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <translation>Tovarel は正しく終了しませんでした。%1 の録画は完全です: %2 フレーム、%3&#xa0;秒。「カット」タブで開くか、削除できます。</translation>
+    </message>
+    <message id="IDD_RECOVER_OPEN">
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message id="IDD_RECOVER_DELETE">
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message id="IDD_RECOVER_LOADING">
+        <source>Opening the recording…</source>
+        <translation>録画を開いています…</translation>
+    </message>
+    <message id="IDD_RECOVER_FAILED">
+        <source>The recording could not be opened: the file %1 is damaged.</source>
+        <translation>録画を開けませんでした: ファイル %1 が破損しています。</translation>
+    </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>
         <translation>もう一度保存</translation>
@@ -438,6 +462,26 @@ It remains at %3.</source>
     <message id="IDD_STATUS_SAVED">
         <source>Saved: %1 (%2).</source>
         <translation>保存しました: %1 (%2)</translation>
+    </message>
+    <message id="IDD_STATUS_UNSAVED">
+        <source>The %1 has not been saved, but it is still there.</source>
+        <translation>%1 は保存されていませんが、まだ残っています。</translation>
+    </message>
+    <message id="IDD_SAVE_RESULT">
+        <source>Save…</source>
+        <translation>保存…</translation>
+    </message>
+    <message id="IDD_UNSAVED_QUESTION">
+        <source>The %1 has not been saved.</source>
+        <translation>%1 は保存されていません。</translation>
+    </message>
+    <message id="IDD_UNSAVED_DETAIL">
+        <source>Save it before you continue? If you discard it, it is gone for good.</source>
+        <translation>続行する前に保存しますか? 破棄すると元に戻せません。</translation>
+    </message>
+    <message id="IDD_DISCARD">
+        <source>Discard</source>
+        <translation>破棄</translation>
     </message>
     <message id="IDD_STATUS_GAP">
         <source>The GIF holds %1 of %2 frames: the others were missing.</source>

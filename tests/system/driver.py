@@ -4,6 +4,7 @@
 pointer and the keys. A Program is one start of Tovarel in a Session. Nothing here waits for a fixed
 time: every wait is for a condition and has a limit."""
 
+import re
 import subprocess
 import time
 
@@ -14,6 +15,7 @@ from session import Session  # pylint: disable=unused-import; likewise
 from waiting import PATIENCE, Late, wait_for
 
 BINARY = "tovarel"
+NOTE = "recording.txt"  # what lies beside the frames of a saved recording
 # A button on each tab's page that no other page has.
 PAGES = {"Record": "Region", "Cut": "Play", "GIF": "Generate GIF"}
 
@@ -26,6 +28,11 @@ class Program:
 
     def __init__(self, session, environment=None, wait=True, command=(), recover=False):
         self.session = session
+        if not recover:
+            # A recording that an earlier start left would be offered before anything else.
+            note = session.frames / NOTE
+            if note.is_file():
+                note.unlink()
         Program._count += 1
         self.log = f"tovarel-{Program._count}"
         self.process = session.start(
@@ -222,12 +229,30 @@ class Program:
         self.wait_for("the alert to close", lambda: not self.find("alert"))
         return said
 
+    def cancel_panel(self, kind="GIF"):
+        """Cancels the save panel once it is there."""
+        panel_title = f"Select a folder to save the {kind} image"
+        panel = self.await_control("dialog", panel_title)
+        act(wait_for("the panel's Cancel", lambda: next(search(panel, "push button", "Cancel"), None)))
+        self.wait_for("the panel to close", lambda: not self.find("dialog", panel_title))
+
+    def answer(self, wanted, button):
+        """Answers the question that is up, which has to say what is wanted."""
+        said = self.alert()
+        assert wanted in said, f"expected {wanted!r}, the question says {said!r}"
+        # The window behind it may have a button of the same name.
+        act(wait_for(f"the answer {button}", lambda: next(
+            search(self.find("alert"), "push button", button), None)))
+        self.wait_for("the question to go", lambda: not self.find("alert"))
+        return said
+
     def save_panel(self, path, replace=False, patience=PATIENCE, kind="GIF"):
         """Types the path into the save panel and confirms it, once more if a file is replaced."""
         panel_title = f"Select a folder to save the {kind} image"
         panel = self.await_control("dialog", panel_title, patience)
         field = wait_for("the panel's name field", lambda: next(search(panel, "text"), None))
-        wait_for("a preset name", lambda: content(field) == f"output.{kind.lower()}")
+        wait_for("a preset name", lambda: re.fullmatch(
+            rf"Tovarel \d{{4}}-\d\d-\d\d \d\d\.\d\d\.\d\d( \(\d+\))?\.{kind.lower()}", content(field)))
         field.set_text_contents(str(path))
         wait_for("the path in the field", lambda: content(field) == str(path))
         self.press("Save")

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QTest>
 
 namespace {
 
@@ -26,6 +27,12 @@ void Answerer::answer() {
     QWidget *modal = QApplication::activeModalWidget();
     if (auto *alert = qobject_cast<QMessageBox *>(modal)) {
         // A save panel asks by a box of its own whether a file may be replaced.
+        if (alert->objectName() == QLatin1String("question")) {
+            ++questions;
+            for (QAbstractButton *button : alert->buttons())
+                if (alert->buttonRole(button) == choice)
+                    return button->click();
+        }
         if (alert->objectName() == QLatin1String("alert"))
             alerts.push_back({alert->text(), alert->informativeText()});
         QAbstractButton *yes = alert->button(QMessageBox::Yes);
@@ -34,6 +41,7 @@ void Answerer::answer() {
         answered_ = panel;
         const QString name = QFileInfo(panel->selectedFiles().value(0)).fileName();
         panels += panel->windowTitle() + u'|' + name;
+        folder = panel->directory().path();
         if (!savePath.isEmpty())
             panel->selectFile(savePath);
         // Later: the panel may ask about an existing file, and this timer must tick for that.
@@ -57,6 +65,15 @@ void ExportTest::record(int count) {
     // Set last: with no frame in memory the Cut tab would work out an empty range.
     controller.trim.setUFirstFrame(0);
     controller.trim.setULastFrame(static_cast<std::uint64_t>(count - 1));
+}
+
+bool ExportTest::finish() {
+    return QTest::qWaitFor(
+        [this] {
+            return !controller.isAsking() && !controller.exporting.exportRuns() &&
+                   !controller.exporting.windowProgress();
+        },
+        30'000);
 }
 
 QString ExportTest::standIn(const QByteArray &script) {

@@ -5,6 +5,7 @@
 #include "tests/controller_fixture.h"
 #include "tests/files.h"
 
+#include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
 
@@ -24,6 +25,10 @@ public:
     QString savePath; ///< Where the save panel is sent; it is cancelled when this is empty.
     std::vector<Alert> alerts;
     QStringList panels; ///< Title and offered name of each save panel, joined by a bar.
+    QString folder;     ///< What the last save panel showed.
+    /// Which button answers a question, and how many there were.
+    QMessageBox::ButtonRole choice = QMessageBox::DestructiveRole;
+    int questions = 0;
 
 private:
     void answer();
@@ -43,6 +48,8 @@ protected:
     static QColor colourOf(int frame);
     /// An executable shell script that stands in for a tool; its last argument is `$last`.
     QString standIn(const QByteArray &script);
+    /// Waits until neither a question nor an export is under way.
+    bool finish();
     QString place(const char *name) const { return folder.filePath(QString::fromLatin1(name)); }
 
     AppDelegate &controller = *delegate;

@@ -43,7 +43,7 @@ class Recording(case.Case):
         self.assertEqual(len({icon for title, icon in (plain, recording, paused)}), 3)
         self.assertEqual(program.in_task_bar(), plain)
 
-        files = sorted(self.session.frames.iterdir())
+        files = self.frame_files()
         self.assertEqual([path.name for path in files],
                          [f"frame{number:08}.png" for number in range(len(files))])
         frames = counter.decode(str(self.session.frames / "frame%08d.png"), pattern=True)

@@ -91,6 +91,7 @@ TEST(Mnemonics, differWithinEveryGroupInEveryLanguage) {
         for (int tab = 0; tab < ui.tabBar->count(); ++tab)
             always.add(ui.tabBar->tabText(tab));
         always.add(ui.btnSaveAgain->text());
+        always.add(ui.btnSaveResult->text());
         for (const QWidget *page : {ui.pageRecord, ui.pageCut, ui.pageGIF}) {
             Letters letters = always;
             letters.addControls(*page);

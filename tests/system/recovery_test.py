@@ -1,0 +1,154 @@
+# SPDX-FileCopyrightText: 2026 The Tovarel authors
+# SPDX-License-Identifier: MIT
+"""A recording that was saved outlives the program's end by a crash, a kill or the end of the session,
+and only that: the next start offers it, and takes it up as it was."""
+
+import re
+import signal
+import stat
+import time
+
+import case
+import counter
+import driver
+from driver import Program
+
+STILL_THERE = "An earlier recording is still there"
+RECORDED = 3  # seconds
+KEPT = re.compile(r"Frames 0 to (\d+): (\d+) frames, ([\d.]+)\ss")
+
+
+class Recovery(case.Case):
+    def recorded(self, wanted, seconds=RECORDED, environment=None):
+        """Records, and ends the program by this signal."""
+        program = Program(self.session, environment)
+        program.record(seconds)
+        self.finish(program, wanted)
+
+    def finish(self, program, wanted):
+        program.process.send_signal(wanted)
+        program.process.wait()
+
+    def kept(self, program):
+        """Number of frames and seconds, as the Cut tab shows them."""
+        found = [match for text in program.labels() if (match := KEPT.search(text))]
+        self.assertTrue(found, program.labels())
+        self.assertEqual(int(found[0][1]) + 1, int(found[0][2]))
+        return int(found[0][2]), float(found[0][3])
+
+    def check_nothing_is_offered(self):
+        program = Program(self.session, recover=True)
+        self.assertEqual(list(self.session.frames.iterdir()), [])
+        program.press("Record")
+        program.wait_for("the recording", lambda: program.enabled("Stop"))
+        self.assertIsNone(program.find("alert"))
+        self.finish(program, signal.SIGKILL)
+
+    def test_after_a_kill_the_frames_are_opened_again_and_exported(self):
+        inside = driver.in_picture(self.session.counter("--at", "60,80", "--rate", "5"))
+        began = time.monotonic()
+        self.recorded(signal.SIGKILL)
+        note = dict(line.split(" ", 1) for line in
+                    (self.session.frames / driver.NOTE).read_text("ascii").splitlines())
+        recorded = float(note["seconds"])
+        self.assertTrue(RECORDED <= recorded <= time.monotonic() - began, note)
+        files = self.frame_files()
+        before = [path.read_bytes() for path in files]
+        self.assertEqual(stat.S_IMODE(self.session.frames.stat().st_mode), 0o700)
+        self.assertEqual(stat.S_IMODE((self.session.frames / driver.NOTE).stat().st_mode), 0o600)
+
+        # One that is killed while it asks has not touched anything.
+        asking = Program(self.session, recover=True)
+        asking.alert()
+        self.finish(asking, signal.SIGKILL)
+        program = Program(self.session, recover=True)
+        said = program.answer(STILL_THERE, "Open")
+        self.assertIn(f"{len(files)} frames", said)
+        program.await_tab("Cut")
+        self.assertEqual([path.read_bytes() for path in self.frame_files()], before)
+        frames, seconds = self.kept(program)
+        self.assertEqual(frames, len(files))
+        # To a whole rate: the time is as true as that.
+        self.assertAlmostEqual(seconds, recorded, delta=recorded * 0.12)
+        program.press("Play")
+        program.press("Stop")
+        program.enter("GIF")
+        pictures = self.check_gif(program, self.session.home / "again.gif")
+        wanted = [counter.read(counter.decode(path)[0], *inside) for path in files]
+        self.assertNotIn(None, wanted)
+        self.assertEqual([counter.read(picture, *inside) for picture in pictures], wanted)
+        # It is a recording like any other, up to the next one.
+        program.enter("Record")
+        program.record(1)
+        self.assertNotEqual(len(self.frame_files()), 0)
+        self.assertEqual(program.end(), 0)
+
+    def test_after_the_end_of_the_session_it_can_be_deleted(self):
+        for wanted in (signal.SIGTERM, signal.SIGHUP):
+            with self.subTest(wanted.name):
+                self.recorded(wanted, 1)
+                program = Program(self.session, recover=True)
+                program.answer(STILL_THERE, "Delete")
+                driver.wait_for("an empty folder",
+                                lambda: not list(self.session.frames.iterdir()))
+                self.finish(program, signal.SIGKILL)
+                self.check_nothing_is_offered()
+
+    def test_after_an_end_by_the_user_nothing_is_offered(self):
+        for keys in ("alt+F4", "ctrl+q"):
+            with self.subTest(keys):
+                program = Program(self.session)
+                program.record(1)
+                self.session.xdotool("windowactivate", "--sync", program.window())
+                self.session.xdotool("key", keys)
+                self.assertEqual(program.status(), 0)
+                self.assertNotEqual(self.frame_files(), [], "no folder is emptied at the end")
+                self.check_nothing_is_offered()
+
+    def test_a_recording_that_is_not_whole_is_not_offered(self):
+        def cut_short():
+            path = self.frame_files()[-1]
+            content = path.read_bytes()
+            path.unlink()  # it may be another frame's file, too
+            path.write_bytes(content[:-10])
+
+        for what, spoil in (
+                ("a frame is missing", lambda: self.frame_files()[1].unlink()),
+                ("a frame is cut short", cut_short),
+                ("the note is cut short", lambda: (self.session.frames / driver.NOTE).write_bytes(
+                    (self.session.frames / driver.NOTE).read_bytes()[:-3]))):
+            with self.subTest(what):
+                self.recorded(signal.SIGKILL, 1)
+                spoil()
+                self.check_nothing_is_offered()
+        with self.subTest("killed while it is saved"):
+            hold = self.session.folder / "hold"
+            program = Program(self.session, {
+                "LD_PRELOAD": str(self.session.build / "tests/system/libhold_rename.so"),
+                "HOLD_RENAME": str(hold),
+                "ASAN_OPTIONS": "detect_leaks=0:verify_asan_link_order=0"})
+            program.press("Record")
+            program.recording_for(1.5)
+            hold.touch()
+            program.press("Stop")
+            program.await_control("progress bar")
+            self.finish(program, signal.SIGKILL)
+            self.check_nothing_is_offered()
+
+    def test_frames_with_a_damaged_picture_are_said_to_be_so_and_stay(self):
+        self.recorded(signal.SIGKILL, 1)
+        path = self.frame_files()[-1]
+        content = path.read_bytes()
+        path.unlink()
+        path.write_bytes(content[:60] + bytes(len(content) - 60))
+        program = Program(self.session, recover=True)
+        program.answer(STILL_THERE, "Open")
+        said = program.dismiss_alert("Error")
+        self.assertIn(path.name, said)
+        self.assertTrue(path.exists())
+        program.record(1)
+        self.assertEqual(program.end(), 0)
+
+
+if __name__ == "__main__":
+    case.main()
