@@ -74,7 +74,8 @@ class Recovery(case.Case):
         program.press("Stop")
         program.enter("GIF")
         pictures = self.check_gif(program, self.session.home / "again.gif")
-        wanted = [counter.read(counter.decode(path)[0], *inside) for path in files]
+        stored = counter.decode(str(self.session.frames / "frame%08d.png"), pattern=True)
+        wanted = [counter.read(picture, *inside) for picture in stored]
         self.assertNotIn(None, wanted)
         self.assertEqual([counter.read(picture, *inside) for picture in pictures], wanted)
         # It is a recording like any other, up to the next one.
