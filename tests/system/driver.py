@@ -186,18 +186,17 @@ class Program:
         return self.wait_for("the list", lambda: next(
             (box for box in self.walk("combo box") if wanted(box.get_name())), None))
 
-    def choose_in(self, box, text):
-        """Chooses from a list by the keys: it finds the entry that is typed."""
+    def choose_in(self, box, text, first):
+        """Opens a list and finds the entry that is typed; `first` is the list's first one."""
         if box.get_name() == text:
             return
-        box.grab_focus()
-        wait_for("focus on the list", lambda: has_state(box, "FOCUSED"))
+        self.click(box)
+        wait_for("the open list", lambda: next(search(box, "list item"), None))
         # The search begins behind the present entry: "5" would find 50 from 10 on.
         self.session.xdotool("key", "Home")
-        first = self.wait_for("the first entry", lambda: (
-            name := box.get_name()) in ("1", "0.25×") and name)
-        if first != text:
+        if text != first:
             self.session.xdotool("type", text.rstrip("×"))
+        self.session.xdotool("key", "Return")
         self.wait_for(f"{text} in the list", lambda: box.get_name() == text)
 
     def choose_rate(self, rate):
@@ -205,7 +204,7 @@ class Program:
         self.press("Frames per Second")
         dialog = self.await_control("dialog", "Frames per Second")
         self.choose_in(wait_for("the list of rates",
-                                lambda: next(search(dialog, "combo box"), None)), str(rate))
+                                lambda: next(search(dialog, "combo box"), None)), str(rate), "1")
         self.press("OK")
         self.wait_for("the dialog to close", lambda: not self.find("dialog"))
 

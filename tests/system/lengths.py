@@ -69,8 +69,9 @@ def export(program, take, target):
     program.activate()
     if take.custom:
         act(program.await_control("radio button", "Custom frame rate"))
-        program.choose_in(program.list_of(str.isdigit), str(take.custom))
-    program.choose_in(program.list_of(lambda name: name.endswith("×")), f"{take.speed:g}×")
+        program.choose_in(program.list_of(str.isdigit), str(take.custom), "1")
+    program.choose_in(program.list_of(lambda name: name.endswith("×")), f"{take.speed:g}×",
+                      "0.25×")
     program.press(f"Generate {take.kind}")
     program.save_panel(target, patience=300, kind=take.kind)
     program.dismiss_alert("Success")
