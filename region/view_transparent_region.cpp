@@ -67,12 +67,15 @@ QRegion region_drawing::Pieces::shape() const {
 }
 
 region_drawing::Pieces region_drawing::pieces(const Squares &squares, const Region &region,
-                                              double areaHeight, double ratio) {
+                                              double areaHeight, double ratio, QPoint origin) {
     // Edges go to the nearest pixel each, as the eye expects of lines that meet.
     const auto inPixels = [&](const QRectF &box) {
-        const QPoint topLeft(qRound(box.left() * ratio),
-                             qRound((areaHeight - box.bottom()) * ratio));
-        const QPoint end(qRound(box.right() * ratio), qRound((areaHeight - box.top()) * ratio));
+        const auto x = [&](double points) { return qRound((origin.x() + points) * ratio); };
+        const auto y = [&](double points) {
+            return qRound((origin.y() + areaHeight - points) * ratio);
+        };
+        const QPoint topLeft(x(box.left()), y(box.bottom()));
+        const QPoint end(x(box.right()), y(box.top()));
         return QRect(topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y()));
     };
     constexpr double half = outlineWidth / 2;
@@ -101,23 +104,33 @@ void View_Transparent_Region::paintEvent(QPaintEvent *) {
     const Squares squares = controller_squares::read(fields);
     QPainter painter(this);
     if (shaped_)
-        paintPieces(painter, squares, region);
-    else
-        region_drawing::draw(painter, squares, region, height());
+        return paintPieces(painter, squares, region);
+    painter.translate(screenInWindow());
+    region_drawing::draw(painter, squares, region, screen_.height());
+}
+
+QPoint View_Transparent_Region::screenInWindow() const {
+    return screen_.topLeft() - window()->geometry().topLeft();
+}
+
+region_drawing::Pieces View_Transparent_Region::pieces(const Squares &squares,
+                                                       const Region &region) const {
+    return region_drawing::pieces(squares, region, screen_.height(), devicePixelRatioF(),
+                                  screenInWindow());
 }
 
 void View_Transparent_Region::paintPieces(QPainter &painter, const Squares &squares,
                                           const Region &region) const {
     const double ratio = devicePixelRatioF();
-    const region_drawing::Pieces pieces = region_drawing::pieces(squares, region, height(), ratio);
+    const region_drawing::Pieces drawn = pieces(squares, region);
     painter.scale(1 / ratio, 1 / ratio);
-    for (const QRect &box : pieces.outline)
+    for (const QRect &box : drawn.outline)
         painter.fillRect(box, outlineColor);
     for (std::size_t index = 0; index < squares.size(); ++index) {
         if (region_geometry::isCorner(static_cast<int>(index)))
-            painter.fillRect(pieces.squares[index], cornerColor);
+            painter.fillRect(drawn.squares[index], cornerColor);
     }
-    const QRectF middle = pieces.squares[region_geometry::middle];
+    const QRectF middle = drawn.squares[region_geometry::middle];
     painter.fillRect(middle, middleColor);
     drawCross(painter, middle, ratio);
 }

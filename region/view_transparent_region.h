@@ -28,10 +28,11 @@ struct Pieces {
     QRegion shape() const;
 };
 
-/// The pieces in a window `areaHeight` points high with `ratio` pixels per point; pixels from its
-/// upper left corner.
+/// The pieces on a screen `areaHeight` points high with `ratio` pixels per point; in pixels from
+/// the upper left corner of a window in which the screen's upper left corner is at `origin`
+/// (points).
 Pieces pieces(const region_geometry::Squares &squares, const region_geometry::Region &region,
-              double areaHeight, double ratio);
+              double areaHeight, double ratio, QPoint origin);
 
 } // namespace region_drawing
 
@@ -42,7 +43,9 @@ class View_Transparent_Region : public QWidget {
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    /// Draws the part of `screen` (its frame in points, upper left origin) that the window covers.
+    View_Transparent_Region(QWidget *parent, const QRect &screen)
+        : QWidget(parent), screen_(screen) {}
 
     /// Works out the region from the squares and stores it in the controller.
     static void storeRegion();
@@ -50,12 +53,19 @@ public:
     /// For a desktop that does not blend windows, where the window is shaped to the drawing.
     void setShaped(bool shaped) { shaped_ = shaped; }
 
+    /// What is then drawn, in pixels from the window's upper left corner.
+    region_drawing::Pieces pieces(const region_geometry::Squares &squares,
+                                  const region_geometry::Region &region) const;
+
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
     void paintPieces(QPainter &painter, const region_geometry::Squares &squares,
                      const region_geometry::Region &region) const;
+    /// The screen's upper left corner, in points from the window's.
+    QPoint screenInWindow() const;
 
+    QRect screen_;
     bool shaped_ = false;
 };

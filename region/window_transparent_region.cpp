@@ -14,6 +14,7 @@
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMouseEvent>
+#include <QMoveEvent>
 #include <QScreen>
 #include <QTimerEvent>
 #include <QWindow>
@@ -44,8 +45,10 @@ QString cornerName(const Place &place) {
 
 Window_Transparent_Region::Window_Transparent_Region(QScreen &screen)
     : QWidget(appDelegate()->shell.window(),
-              Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
-      viewTransparentRegion_(new View_Transparent_Region(this)), tip_(new RegionTip(this)) {
+              Qt::Tool | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint),
+      screenFrame_(screen.geometry()),
+      viewTransparentRegion_(new View_Transparent_Region(this, screenFrame_)),
+      tip_(new RegionTip(this)) {
     setObjectName(QStringLiteral("Window_Transparent_Region"));
     viewTransparentRegion_->setObjectName(QStringLiteral("viewTransparentRegion"));
     setWindowTitle(qtTrId("IDD_REGION_OVERLAY"));
@@ -61,7 +64,8 @@ Window_Transparent_Region::Window_Transparent_Region(QScreen &screen)
 Window_Transparent_Region::~Window_Transparent_Region() = default;
 
 void Window_Transparent_Region::awakeFromNib(QScreen &screen) {
-    screenFrame_ = screen.geometry();
+    // Past the window manager: it would keep the window clear of the desktop's panels or, for a
+    // window that asks for the full screen, take the panels away from what is to be framed.
     setScreen(&screen);
     setGeometry(screenFrame_);
     // A visual with alpha, on which nothing is drawn but what the view draws.
@@ -140,8 +144,7 @@ void Window_Transparent_Region::mouseDragged(Point pointer) {
 void Window_Transparent_Region::mouseUp() { setB_Mouse_Down(false); }
 
 Point Window_Transparent_Region::fromScreenCorner(QPointF inWindow) const {
-    // Not the position in the widget, which loses its fraction on the way up from the view. A
-    // window manager may have put the window elsewhere; what counts is the screen.
+    // The toolkit's position in the widget and on the desktop both lose their fractions.
     const QPointF inScreen = inWindow + geometry().topLeft() - screenFrame_.topLeft();
     return {inScreen.x(), screenFrame_.height() - inScreen.y()};
 }
@@ -231,9 +234,7 @@ void Window_Transparent_Region::squaresChanged() {
     QRegion shape;
     if (!blended_) {
         const Squares now = squares();
-        shape = region_drawing::pieces(now, region_geometry::boundingRegion(now), height(),
-                                       devicePixelRatioF())
-                    .shape();
+        shape = viewTransparentRegion_->pieces(now, region_geometry::boundingRegion(now)).shape();
     }
     shapeWindow(winId(), shape);
     viewTransparentRegion_->update();
@@ -259,19 +260,21 @@ void Window_Transparent_Region::showTip() {
 }
 
 void Window_Transparent_Region::adaptToDesktop() {
+    if (!isActiveWindow())
+        activateWindow();
     const bool blended = desktopBlendsWindows();
     if (blended != std::exchange(blended_, blended)) {
         viewTransparentRegion_->setShaped(!blended);
         squaresChanged();
     }
-    // A shaped window gets no press outside its shape, and where no window manager gives it the
-    // focus no key either. Another client may hold them for a moment (a menu that is closing).
-    const bool wanted = !blended_;
-    if (wanted == holdsInput_ || !windowHandle())
+    // A panel that the compositing manager draws lies above every window, and a shaped window has
+    // no presses outside its shape. Another client may hold them for a moment (a menu that is
+    // closing).
+    if (holdsInput_ || !windowHandle())
         return;
-    const bool pointer = windowHandle()->setMouseGrabEnabled(wanted);
-    const bool keyboard = windowHandle()->setKeyboardGrabEnabled(wanted);
-    holdsInput_ = wanted && pointer && keyboard;
+    const bool pointer = windowHandle()->setMouseGrabEnabled(true);
+    const bool keyboard = windowHandle()->setKeyboardGrabEnabled(true);
+    holdsInput_ = pointer && keyboard;
 }
 
 void Window_Transparent_Region::timerEvent(QTimerEvent *event) {
@@ -284,6 +287,8 @@ void Window_Transparent_Region::timerEvent(QTimerEvent *event) {
 void Window_Transparent_Region::resizeEvent(QResizeEvent *) {
     viewTransparentRegion_->setGeometry(rect());
 }
+
+void Window_Transparent_Region::moveEvent(QMoveEvent *) { squaresChanged(); }
 
 void Window_Transparent_Region::closeEvent(QCloseEvent *event) {
     event->ignore();

@@ -18,9 +18,9 @@ class View_Transparent_Region;
 /// controller's squares; it neither draws (see its view) nor decides what the result means (see the
 /// region command).
 ///
-/// Where the desktop blends windows, the window is transparent. Where it does not, the window is
-/// shaped to what is drawn, and pointer and keyboard are held for its time, so that the screen
-/// stays visible and live in both cases.
+/// Where the desktop blends windows, the window is transparent; where it does not, the window is
+/// shaped to what is drawn: the screen stays visible and live in both cases. Pointer and keyboard
+/// are held while it is open. Everything counts from the screen's frame, wherever the window is.
 class Window_Transparent_Region : public QWidget {
     Q_OBJECT
 
@@ -68,6 +68,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
 
 private:
@@ -88,11 +89,11 @@ private:
 
     bool b_Mouse_Down_ = false;
     std::int32_t i_button_index_ = -1;
+    QRect screenFrame_; // points, upper left origin
     View_Transparent_Region *viewTransparentRegion_;
     RegionTip *tip_;
     /// The corner that the arrow keys move and that the tip stands at.
     int cornerInHand_ = region_geometry::lowerRight;
-    QRect screenFrame_; // points, upper left origin
     bool blended_ = true;
     bool holdsInput_ = false;
     QBasicTimer desktopWatch_;
