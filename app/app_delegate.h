@@ -247,9 +247,10 @@ public:
 
     void OnRecordFullScreen(QObject *sender);
     /// Explains, unless the user has had enough of it, and lets a region be chosen on the main
-    /// window's screen; the whole screen is recorded when that is cancelled. Returns after it.
+    /// window's screen; when that is cancelled, what is recorded stays as it was. Returns after it.
     void OnRecordRegion(QObject *sender);
-    /// Ends and closes the open overlay and its modal loop; `pFullScreen` is null afterwards.
+    /// Ends and closes the open overlay and its modal loop because the screen has changed;
+    /// `pFullScreen` is null afterwards, and the whole screen is recorded.
     void endRegionOverlay();
 
     // Trim editor (trim/) ---------------------------------------------------------------------
@@ -258,6 +259,8 @@ public:
     void OnCutPlay(QObject *sender);
     void OnCutPause(QObject *sender);
     void OnCutStop(QObject *sender);
+    /// Puts the handles to the ends: a new recording is kept whole.
+    void keepWholeRecording();
     /// The playback tick: the next frame, and the first one again after the last.
     void TimerRefreshPlayRoutine();
     /// Pauses what plays, plays what does not, if there is something to play.

@@ -91,8 +91,7 @@ bool AppDelegate::applicationDidFinishLaunching() {
     enableRecordChoices(true);
     enableRecording(true, false, false);
     recording.setM_RecordStatus(RECORD_STATUS_STOP);
-    trim.setF_Cut_Percent_Menor(0.0f);
-    trim.setF_Cut_Percent_Maior(100.0f);
+    keepWholeRecording();
     trim.setM_PlayStatus(PLAY_STATUS_STOP);
     shell.tabviewMain()->selectTabViewItemAtIndex(tabs::record);
     ui->submenuitemRecord->setEnabled(true);

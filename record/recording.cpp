@@ -63,6 +63,7 @@ void AppDelegate::OnRecordRecord(QObject *) {
         RemoveAllContentInFolder(shell.s_Output_Folder());
         ui->btnSaveAgain->hide();
         recording.setU_Record_Current_Frame(0);
+        keepWholeRecording();
         recording.setI_Actual_FPS_while_Recording(0);
         recording.setU_number_of_seconds(0);
         recording.setI_debug_number_of_view_refresh(0);

@@ -82,7 +82,15 @@ void AppDelegate::OnCutStop(QObject *) {
     trim.timerPlayRefresh.reset();
     enablePlayback(true, false, false);
     trim.setM_PlayStatus(PLAY_STATUS_STOP);
+    trim.setPreviewedEnd(RangeEnd::First);
+    ui->viewCutPreview->update();
     ui->viewCutRange->update();
+}
+
+void AppDelegate::keepWholeRecording() {
+    trim.setF_Cut_Percent_Menor(0.0f);
+    trim.setF_Cut_Percent_Maior(100.0f);
+    trim.setPreviewedEnd(RangeEnd::First);
 }
 
 void AppDelegate::togglePlayback() {

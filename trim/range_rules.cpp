@@ -38,9 +38,19 @@ bool contains(Stretch stretch, double x) { return stretch.x <= x && x < stretch.
 
 std::optional<Handles> dragged(Handles handles, Handle handle, double x, double previewWidth) {
     // Written so that a pointer or a width that is no number moves nothing.
-    if (!(x > 0.0 && x < previewWidth))
+    if (!(previewWidth > 0.0) || std::isnan(x))
         return {};
-    return with(handles, handle, static_cast<float>(x * 100.0 / previewWidth));
+    return with(handles, handle, percentAt(x, previewWidth));
+}
+
+float percentAt(double x, double previewWidth) {
+    return static_cast<float>(std::clamp(x, 0.0, previewWidth) * 100.0 / previewWidth);
+}
+
+Handle inHand(Handles moved, Handle handle, float percent) {
+    if (moved.menor == moved.maior)
+        return handle;
+    return moved.maior == percent ? Handle::Maior : Handle::Menor;
 }
 
 Handles with(Handles handles, Handle handle, float percent) {

@@ -38,10 +38,17 @@ Stretch bandBetween(Handles handles, double stripWidth);
 /// Whether the stretch contains x; its right end lies outside.
 bool contains(Stretch stretch, double x);
 
-/// One step of a drag: `handle` follows the pointer at x, in a preview of `previewWidth`. None when
-/// the pointer is at or beyond an end: the handle keeps its last place. When the lower one passes
-/// the upper one the two values are swapped.
+/// One step of a drag: `handle` follows the pointer at x, in a preview of `previewWidth`, to the
+/// end where the pointer is beyond it. None without a width. When the lower one passes the upper
+/// one the two values are swapped.
 std::optional<Handles> dragged(Handles handles, Handle handle, double x, double previewWidth);
+
+/// Which of the two handles is the one in hand after `handle` was moved to `percent`: the other one
+/// once they have changed places.
+Handle inHand(Handles moved, Handle handle, float percent);
+
+/// The percentage at x in a preview of `previewWidth`, 0 to 100.
+float percentAt(double x, double previewWidth);
 
 /// Sets one handle's percentage, and swaps the two when they are out of order.
 Handles with(Handles handles, Handle handle, float percent);

@@ -12,6 +12,9 @@ inline constexpr std::uint64_t PLAY_STATUS_STOP = 0;
 inline constexpr std::uint64_t PLAY_STATUS_PLAY = 1;
 inline constexpr std::uint64_t PLAY_STATUS_PAUSE = 2;
 
+/// An end of the kept range.
+enum class RangeEnd { First, Last };
+
 /// State of the trim editor. `trim/` owns the behaviour.
 class TrimFields {
 public:
@@ -41,6 +44,10 @@ public:
     std::uint64_t uCurrentFrame() const { return uCurrentFrame_; }
     void setUCurrentFrame(std::uint64_t frame) { uCurrentFrame_ = frame; }
 
+    /// The end that the preview shows while nothing plays: that of the handle in hand.
+    RangeEnd previewedEnd() const { return previewedEnd_; }
+    void setPreviewedEnd(RangeEnd end) { previewedEnd_ = end; }
+
     /// The playback timer; absent unless the preview plays.
     std::unique_ptr<RepeatingTimer> timerPlayRefresh;
 
@@ -51,4 +58,5 @@ private:
     std::uint64_t uFirstFrame_ = 0;
     std::uint64_t uLastFrame_ = 0;
     std::uint64_t uCurrentFrame_ = 0;
+    RangeEnd previewedEnd_ = RangeEnd::First;
 };

@@ -55,9 +55,11 @@ void View_Cut_Preview::drawFrame(QPainter &painter) {
     AppDelegate &delegate = *appDelegate();
     const auto &frames = delegate.recording.array_Images;
     const bool stopped = delegate.trim.m_PlayStatus() == PLAY_STATUS_STOP;
-    const auto number = range_rules::existingFrame(stopped ? delegate.trim.uFirstFrame()
-                                                           : delegate.trim.uCurrentFrame(),
-                                                   frames ? frames->size() : 0);
+    const std::uint64_t atHandle = delegate.trim.previewedEnd() == RangeEnd::Last
+                                       ? delegate.trim.uLastFrame()
+                                       : delegate.trim.uFirstFrame();
+    const auto number = range_rules::existingFrame(
+        stopped ? atHandle : delegate.trim.uCurrentFrame(), frames ? frames->size() : 0);
     if (!number)
         return;
     const Image &frame = (*frames)[*number];

@@ -119,10 +119,13 @@ void View_Cut_Range::mouseMoveEvent(QMouseEvent *event) {
     if (!stopped(*delegate) || !b_Mouse_Down_ || !(b_Dragging_Menor_ || b_Dragging_Maior_))
         return;
     const Handle handle = b_Dragging_Menor_ ? Handle::Menor : Handle::Maior;
-    const auto moved = range_rules::dragged(handlesOf(*delegate), handle, event->position().x(),
-                                            delegate->ui->viewCutPreview->width());
-    if (moved)
-        store(*moved);
+    const double width = delegate->ui->viewCutPreview->width();
+    const double x = event->position().x();
+    const auto moved = range_rules::dragged(handlesOf(*delegate), handle, x, width);
+    if (!moved)
+        return;
+    preview(range_rules::inHand(*moved, handle, range_rules::percentAt(x, width)));
+    store(*moved);
 }
 
 void View_Cut_Range::mouseReleaseEvent(QMouseEvent *event) {
@@ -140,6 +143,14 @@ void View_Cut_Range::showWhatCanBeDragged(double x) {
                       (range_rules::contains({rectMenor_.x(), rectMenor_.width()}, x) ||
                        range_rules::contains({rectMaior_.x(), rectMaior_.width()}, x));
     setCursor(over ? Qt::SizeHorCursor : Qt::ArrowCursor);
+}
+
+void View_Cut_Range::preview(Handle handle) {
+    AppDelegate *delegate = appDelegate();
+    if (!delegate)
+        return;
+    delegate->trim.setPreviewedEnd(handle == Handle::Menor ? RangeEnd::First : RangeEnd::Last);
+    delegate->ui->viewCutPreview->update();
 }
 
 void View_Cut_Range::store(Handles handles) {
@@ -174,6 +185,7 @@ void View_Cut_Range::moveToFrame(Handle handle, std::uint64_t frame) {
     const Handles before = handlesOf(*delegate);
     const float percent = range_rules::percentFor(std::min(frame, frames), frames);
     const bool passes = handle == Handle::Menor ? percent > before.maior : percent < before.menor;
+    preview(passes ? other(handle) : handle);
     store(range_rules::with(before, handle, percent));
     // A drag is seen, so that the preview's drawing follows; whoever sets a value through assistive
     // technology may have the window covered.
@@ -212,6 +224,7 @@ void View_Cut_Range::keyPressEvent(QKeyEvent *event) {
 
 void View_Cut_Range::choose(Handle handle) {
     chosen_ = handle;
+    preview(handle);
     handles_[handle == Handle::Menor ? 0 : 1]->announceFocus();
     // The ring shows which handle is chosen.
     Q_EMIT chosenHandleChanged();

@@ -80,6 +80,8 @@ protected:
 
 private:
     void choose(range_rules::Handle handle);
+    /// Shows the frame at this handle while nothing plays.
+    void preview(range_rules::Handle handle);
     void store(range_rules::Handles handles);
     void drawPlayhead(QPainter &painter, const TrimFields &trim);
     void drawHandles(QPainter &painter, range_rules::Handles handles);

@@ -27,12 +27,15 @@ TEST(RangeRules, aHandleContainsItsLeftEndAndNotItsRightOne) {
     EXPECT_FALSE(contains(handle, 9.999));
 }
 
-TEST(RangeRules, aDragFollowsThePointerInsideThePreviewOnly) {
+TEST(RangeRules, aDragFollowsThePointerAndStaysAtTheEndBeyondIt) {
     const Handles handles{10.0f, 90.0f};
     EXPECT_EQ(dragged(handles, Handle::Menor, 150, 600)->menor, 25.0f);
     EXPECT_EQ(dragged(handles, Handle::Maior, 450, 600)->maior, 75.0f);
-    for (const double x : {0.0, -1.0, 600.0, 700.0, std::numeric_limits<double>::quiet_NaN()})
-        EXPECT_FALSE(dragged(handles, Handle::Menor, x, 600)) << x;
+    for (const double x : {0.0, -1.0, -1e300})
+        EXPECT_EQ(dragged(handles, Handle::Menor, x, 600)->menor, 0.0f) << x;
+    for (const double x : {600.0, 700.0, std::numeric_limits<double>::infinity()})
+        EXPECT_EQ(dragged(handles, Handle::Maior, x, 600)->maior, 100.0f) << x;
+    EXPECT_FALSE(dragged(handles, Handle::Menor, std::numeric_limits<double>::quiet_NaN(), 600));
     EXPECT_FALSE(dragged(handles, Handle::Menor, 1, 0));
 }
 

@@ -106,7 +106,6 @@ TEST_F(TrimEditor, playbackLoopsOverTheRangePausesResumesAndStartsAfreshAfterSto
     haveRecording(10, 60);
     strip->moveToFrame(Handle::Menor, 3);
     strip->moveToFrame(Handle::Maior, 6);
-    EXPECT_EQ(shownFrame(), 3);
     delegate->OnCutPlay(nullptr);
     ASSERT_TRUE(delegate->trim.timerPlayRefresh);
     EXPECT_EQ(delegate->trim.timerPlayRefresh->interval(), 1.0 / 60.0);
@@ -128,6 +127,35 @@ TEST_F(TrimEditor, playbackLoopsOverTheRangePausesResumesAndStartsAfreshAfterSto
     EXPECT_EQ(shownFrame(), 3);
     delegate->OnCutPlay(nullptr);
     EXPECT_EQ(shownFrame(), 3);
+}
+
+TEST_F(TrimEditor, thePreviewShowsTheFrameAtTheHandleInHandAndTheFirstAfterStop) {
+    haveRecording(10, 5);
+    const double W = strip->width();
+    strip->grab(); // A handle can be hit where it was drawn.
+    drag(W - 3, W * 0.65);
+    EXPECT_EQ(shownFrame(), 7);
+    strip->setFocus();
+    QTest::keyClick(strip, Qt::Key_Left);
+    EXPECT_EQ(shownFrame(), 6);
+    strip->grab();
+    drag(2, W * 0.25);
+    EXPECT_EQ(shownFrame(), 3);
+    // Past the other one: what is in hand is then the upper handle.
+    strip->grab();
+    drag(W * 0.25 + 2, W * 0.85);
+    EXPECT_EQ(shownFrame(), 9);
+    delegate->OnCutPlay(nullptr);
+    delegate->OnCutStop(nullptr);
+    EXPECT_EQ(shownFrame(), static_cast<int>(delegate->trim.uFirstFrame()));
+    // Beyond the strip's end a handle is at the end, and the last frame is shown.
+    strip->grab();
+    drag(W * 0.85 - 3, W + 30);
+    EXPECT_EQ(delegate->trim.f_Cut_Percent_Maior(), 100.0f);
+    EXPECT_EQ(shownFrame(), 9);
+
+    delegate->keepWholeRecording();
+    EXPECT_EQ(shownFrame(), 0);
 }
 
 TEST_F(TrimEditor, aRangeAtTheVeryEndShowsTheLastFrameInPlaybackToo) {
