@@ -56,17 +56,22 @@ void AppDelegate::createMultiWindowShot(std::span<const WindowEntry> selection) 
 void AppDelegate::setOutputImage(const std::optional<Image> &grab) {
     if (!grab)
         return;
-    if (!isDoubleDensity(shell.frame_Screen().width(), grab->width())) {
+    const std::optional<QPoint> halvedFrom = originOfHalving(*this);
+    if (!halvedFrom) {
         capture.setGrabBeforeHalving({});
         capture.setImgScreenCapture(*grab);
         return;
     }
     // A desktop on which nothing changed yields the same picture: so must its half, for what is
     // drawn and written only once for the same picture.
-    if (!capture.grabBeforeHalving().sameAs(*grab)) {
-        capture.setGrabBeforeHalving(*grab);
-        capture.setImgScreenCapture(Scale_Image_By_Percentage(*grab, halfSize));
-    }
+    if (capture.grabBeforeHalving().sameAs(*grab) && capture.halvedFrom() == *halvedFrom)
+        return;
+    capture.setGrabBeforeHalving(*grab);
+    capture.setHalvedFrom(*halvedFrom);
+    const QRect halved =
+        QRect(QPoint(), grab->size()).adjusted(halvedFrom->x(), halvedFrom->y(), 0, 0);
+    capture.setImgScreenCapture(
+        Scale_Image_By_Percentage(halvedFrom->isNull() ? *grab : grab->cut(halved, {}), halfSize));
 }
 
 Image AppDelegate::Scale_Image_By_Percentage(const Image &image, float percentage) {

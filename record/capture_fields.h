@@ -6,6 +6,7 @@
 #include "platform/window_server.h"
 #include "record/window_entry.h"
 
+#include <QPoint>
 #include <QRect>
 #include <QRectF>
 
@@ -53,6 +54,10 @@ public:
     const Image &grabBeforeHalving() const { return grabBeforeHalving_; }
     void setGrabBeforeHalving(const Image &image) { grabBeforeHalving_ = image; }
 
+    /// The pixel of that grab which is the upper left one of those that became the half's first.
+    QPoint halvedFrom() const { return halvedFrom_; }
+    void setHalvedFrom(QPoint pixel) { halvedFrom_ = pixel; }
+
     /// The image that the record preview drew last: the whole grab, or the region cut out of it.
     const Image &imageScreenCaptureFinal() const { return imageScreenCaptureFinal_; }
     void setImageScreenCaptureFinal(const Image &image) { imageScreenCaptureFinal_ = image; }
@@ -64,5 +69,6 @@ private:
     Image imgScreenCapture_;
     std::optional<QRect> grabbedPart_;
     Image grabBeforeHalving_;
+    QPoint halvedFrom_;
     Image imageScreenCaptureFinal_;
 };

@@ -3,7 +3,6 @@
 #include "record/grab_geometry.h"
 
 #include <cmath>
-#include <cstdint>
 
 namespace {
 
@@ -13,12 +12,6 @@ constexpr double farthest = 1 << 24;
 bool isOnSomeDesktop(double number) { return std::abs(number) <= farthest; }
 
 } // namespace
-
-bool isDoubleDensity(double screenWidth, double grabWidth) {
-    if (!(screenWidth >= 1.0 && isOnSomeDesktop(screenWidth) && isOnSomeDesktop(grabWidth)))
-        return false;
-    return static_cast<std::uint64_t>(screenWidth) * 2 == static_cast<std::uint64_t>(grabWidth);
-}
 
 ScaledSize scaledByPercentage(double width, double height, float percentage) {
     const float w = static_cast<float>(width);

@@ -2,12 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// Numbers of a grab: when it is halved, how large a scaled one is, which pixels a region covers.
-
-/// Whether a grab comes from a screen of double density: twice the screen's width in points is the
-/// grab's width in pixels, both cut to whole numbers. Only the widths count, so that a desktop of
-/// several screens is never halved.
-bool isDoubleDensity(double screenWidth, double grabWidth);
+/// Numbers of a grab: how large a scaled one is, which pixels a region covers.
 
 /// A size in points, in single precision.
 struct ScaledSize {

@@ -42,17 +42,27 @@ struct Units {
     bool operator==(const Units &) const = default;
 };
 
+/// Whether what is recorded on a screen is halved: two pixels for a point become one unit. The
+/// screen's own ratio decides, whatever else the desktop consists of.
+inline bool isHalved(double ratio) { return ratio == 2.0; }
+
 /// Where `region` lies in a grab that has `unitsPerPixel` units for one pixel of the desktop (1, or
 /// a half where a grab of double density was halved). Each edge goes to the nearest whole unit, so
-/// that neighbouring regions stay neighbours. At least one unit wide and high, because there is no
-/// picture of nothing.
-inline Units fromPoints(const Points &region, const Screen &screen, double unitsPerPixel) {
+/// that neighbouring regions stay neighbours. A screen's size in points is rounded, so that its
+/// last unit may be one that the grab, `grabWidth` by `grabHeight`, does not have: that one is left
+/// out. At least one unit wide and high, because there is no picture of nothing.
+inline Units fromPoints(const Points &region, const Screen &screen, double unitsPerPixel,
+                        int grabWidth, int grabHeight) {
+    const auto unit = [](double exact, int end) {
+        const double nearest = std::floor(exact + 0.5);
+        return nearest == end + 1.0 ? end : nearest;
+    };
     const auto horizontal = [&](double x) {
-        return std::floor((screen.originX + x * screen.ratio) * unitsPerPixel + 0.5);
+        return unit((screen.originX + x * screen.ratio) * unitsPerPixel, grabWidth);
     };
     const auto vertical = [&](double y) {
         const double fromTop = screen.height - y;
-        return std::floor((screen.originY + fromTop * screen.ratio) * unitsPerPixel + 0.5);
+        return unit((screen.originY + fromTop * screen.ratio) * unitsPerPixel, grabHeight);
     };
     const double left = horizontal(region.x);
     const double top = vertical(region.y + region.height);

@@ -21,8 +21,12 @@ void AppDelegate::OnRecordRegion(QObject *) {
     // Assistive technology reaches the command past a modal window.
     if (QApplication::activeModalWidget())
         return;
-    if (region.b_Show_Select_Region_How_To() == 1)
-        Window_Region_How_It_Works(shell.window()).exec();
+    if (region.b_Show_Select_Region_How_To() == 1 &&
+        Window_Region_How_It_Works(shell.window()).exec() != QDialog::Accepted)
+        return;
+    const std::int64_t typeBefore = region.i_Type_Screen_Capture();
+    const QRectF rectangleBefore = region.rect_Screen_Region();
+    const std::optional<grab_units::Screen> screenBefore = region.screenOfRegion();
     region.setI_Type_Screen_Capture(CAPTURE_REGION);
     GetScreenSize();
     region.setSize_Region(startingSize);
@@ -33,14 +37,19 @@ void AppDelegate::OnRecordRegion(QObject *) {
         code = overlay.runModal();
         region.setPFullScreen(nullptr);
     }
-    if (code != Window_Transparent_Region::accepted)
-        region.setI_Type_Screen_Capture(CAPTURE_FULL_SCREEN);
+    if (code == Window_Transparent_Region::accepted)
+        return;
+    // A region may lie anywhere on a screen that has changed.
+    region.setI_Type_Screen_Capture(
+        code == Window_Transparent_Region::screenChanged ? CAPTURE_FULL_SCREEN : typeBefore);
+    region.setRect_Screen_Region(rectangleBefore);
+    region.setScreenOfRegion(screenBefore);
 }
 
 void AppDelegate::endRegionOverlay() {
     if (!region.pFullScreen())
         return;
-    region.pFullScreen()->stopModalWithCode(Window_Transparent_Region::cancelled);
+    region.pFullScreen()->stopModalWithCode(Window_Transparent_Region::screenChanged);
     region.pFullScreen()->hide();
     region.setPFullScreen(nullptr);
 }

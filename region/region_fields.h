@@ -42,10 +42,12 @@ public:
     void setRect_Screen_Region(const QRectF &region) { rect_Screen_Region_ = region; }
 
     /// The screen that the region is measured on: that of the main window when the overlay opened.
-    /// None until then; the region then counts from the lower left corner of the grab, in its
-    /// units.
+    /// None until a region has been chosen; the region then counts from the lower left corner of
+    /// the grab, in its units.
     const std::optional<grab_units::Screen> &screenOfRegion() const { return screenOfRegion_; }
-    void setScreenOfRegion(const grab_units::Screen &screen) { screenOfRegion_ = screen; }
+    void setScreenOfRegion(const std::optional<grab_units::Screen> &screen) {
+        screenOfRegion_ = screen;
+    }
 
     /// The open region overlay; null while there is none. Borrowed from the region command, whose
     /// modal loop owns it.

@@ -23,12 +23,17 @@
 
 namespace {
 
+using region_drag::Held;
 using region_geometry::Place;
 using region_geometry::Point;
+using region_geometry::Region;
 using region_geometry::Squares;
 
 constexpr double smallStep = 1.0;  // points
 constexpr double largeStep = 10.0; // points, with Shift
+
+/// The encoders refuse less.
+constexpr int smallestSide = 2; // pixels of a frame
 
 /// Often enough for the eye; one question to the server each time.
 constexpr int desktopWatchInterval = 200; // milliseconds
@@ -70,18 +75,23 @@ void Window_Transparent_Region::awakeFromNib(QScreen &screen) {
     setGeometry(screenFrame_);
     // A visual with alpha, on which nothing is drawn but what the view draws.
     setAttribute(Qt::WA_TranslucentBackground);
-    appDelegate()->region.setScreenOfRegion(screenOnDesktop(screen));
 }
 
 void Window_Transparent_Region::windowDidLoad() {
     setB_Mouse_Down(false);
     setI_button_index(-1);
-    AppDelegate &controller = *appDelegate();
-    const QSizeF start = controller.region.size_Region();
-    const QSizeF whole = controller.shell.size_Screen();
-    controller_squares::write(controller.region,
-                              region_geometry::initialSquares(start.width(), start.height(),
-                                                              whole.width(), whole.height()));
+    RegionFields &fields = appDelegate()->region;
+    const QSizeF size = fields.size_Region();
+    Region start = region_geometry::boundingRegion(region_geometry::initialSquares(
+        size.width(), size.height(), screenFrame_.width(), screenFrame_.height()));
+    // The last region, wherever the window has gone since: it may have to fit another screen.
+    if (fields.screenOfRegion()) {
+        const QRect last = fields.rect_Screen_Region().toRect();
+        start = {last.x(), last.y(), last.width(), last.height()};
+    }
+    controller_squares::write(fields,
+                              region_drag::squaresOf(region_drag::within(start, screenInPoints())));
+    fields.setScreenOfRegion(screenOnDesktop(*screen()));
 }
 
 int Window_Transparent_Region::runModal() {
@@ -113,32 +123,47 @@ void Window_Transparent_Region::stopModalWithCode(int code) {
 void Window_Transparent_Region::accept() {
     // The last change may not have been drawn yet.
     View_Transparent_Region::storeRegion();
+    if (isTooSmall())
+        return showTip(); // It says why.
     stopModalWithCode(accepted);
+}
+
+bool Window_Transparent_Region::isTooSmall() const {
+    const QRect recorded = regionInFrames(*appDelegate());
+    const Region region = region_geometry::boundingRegion(squares());
+    return region.width == 0 || region.height == 0 || recorded.width() < smallestSide ||
+           recorded.height() < smallestSide;
 }
 
 // Pointer -----------------------------------------------------------------------------------------
 
 void Window_Transparent_Region::mouseDown(Point pointer) {
     const std::optional<int> hit = region_geometry::squareAt(squares(), pointer);
-    if (!hit)
-        return;
-    setI_button_index(*hit);
-    if (*hit == region_geometry::middle) {
-        accept();
-        return;
-    }
+    if (hit)
+        setI_button_index(*hit);
+    if (hit == region_geometry::middle)
+        return accept();
     setB_Mouse_Down(true);
-    cornerInHand_ = *hit;
+    grip_ = region_drag::gripAt(squares(), hit, pointer);
+    if (hit)
+        cornerInHand_ = *hit;
     showTip();
 }
 
 void Window_Transparent_Region::mouseDragged(Point pointer) {
     if (!b_Mouse_Down())
         return;
-    Squares moved = squares();
-    region_geometry::drag(moved, i_button_index(), pointer);
+    const Squares moved = region_drag::dragged(grip_, pointer, screenInPoints());
+    if (grip_.held == Held::NewRegion && grip_.drawing)
+        cornerInHand_ = grip_.corner;
     controller_squares::write(appDelegate()->region, moved);
     squaresChanged();
+}
+
+region_drag::Screen Window_Transparent_Region::screenInPoints() const {
+    return {.width = static_cast<double>(screenFrame_.width()),
+            .height = static_cast<double>(screenFrame_.height()),
+            .pixel = 1.0 / devicePixelRatioF()};
 }
 
 void Window_Transparent_Region::mouseUp() { setB_Mouse_Down(false); }
@@ -150,8 +175,12 @@ Point Window_Transparent_Region::fromScreenCorner(QPointF inWindow) const {
 }
 
 void Window_Transparent_Region::mousePressEvent(QMouseEvent *event) {
-    if (event->button() == Qt::LeftButton)
-        mouseDown(fromScreenCorner(event->scenePosition()));
+    const Point pointer = fromScreenCorner(event->scenePosition());
+    // While the pointer is held, presses on other screens arrive here too.
+    const bool onScreen = pointer.x >= 0 && pointer.x <= screenFrame_.width() && pointer.y >= 0 &&
+                          pointer.y <= screenFrame_.height();
+    if (event->button() == Qt::LeftButton && onScreen)
+        mouseDown(pointer);
 }
 
 void Window_Transparent_Region::mouseMoveEvent(QMouseEvent *event) {
@@ -169,13 +198,13 @@ void Window_Transparent_Region::mouseReleaseEvent(QMouseEvent *event) {
 
 void Window_Transparent_Region::showCursor(Point pointer) {
     const Squares now = squares();
-    const std::optional<int> hit =
-        b_Mouse_Down() ? i_button_index() : region_geometry::squareAt(now, pointer);
-    Qt::CursorShape shape = Qt::ArrowCursor;
-    if (hit == region_geometry::middle) {
-        shape = Qt::PointingHandCursor;
-    } else if (hit) {
-        const Place place = region_geometry::placeOf(now, *hit);
+    const std::optional<int> hit = region_geometry::squareAt(now, pointer);
+    if (!b_Mouse_Down() && hit == region_geometry::middle)
+        return setCursor(Qt::PointingHandCursor);
+    const region_drag::Grip grip = b_Mouse_Down() ? grip_ : region_drag::gripAt(now, hit, pointer);
+    Qt::CursorShape shape = grip.held == Held::Whole ? Qt::SizeAllCursor : Qt::CrossCursor;
+    if (grip.held == Held::Corner) {
+        const Place place = region_geometry::placeOf(now, grip.corner);
         shape = place.left == place.lower ? Qt::SizeBDiagCursor : Qt::SizeFDiagCursor;
     }
     setCursor(shape);
@@ -217,8 +246,11 @@ bool Window_Transparent_Region::focusNextPrevChild(bool next) {
 
 void Window_Transparent_Region::moveCorner(double dx, double dy) {
     Squares moved = squares();
-    const Point &corner = moved[static_cast<std::size_t>(cornerInHand_)];
-    region_geometry::drag(moved, cornerInHand_, {corner.x + dx, corner.y + dy});
+    const Point mark = region_drag::markOf(moved[static_cast<std::size_t>(cornerInHand_)]);
+    const Point to = region_drag::clamped({mark.x + dx, mark.y + dy}, screenInPoints());
+    region_geometry::drag(
+        moved, cornerInHand_,
+        {to.x - region_geometry::squareInset, to.y - region_geometry::squareInset});
     controller_squares::write(appDelegate()->region, moved);
     squaresChanged();
 }
@@ -244,17 +276,19 @@ void Window_Transparent_Region::squaresChanged() {
 
 void Window_Transparent_Region::showTip() {
     View_Transparent_Region::storeRegion();
-    const QRect recorded = regionInGrab(*appDelegate());
+    const QRect recorded = regionInFrames(*appDelegate());
     const Squares now = squares();
     const Point &corner = now[static_cast<std::size_t>(cornerInHand_)];
     const QPointF marked(corner.x + region_geometry::squareInset,
                          screenFrame_.height() - corner.y - region_geometry::squareInset);
-    const QString text = qtTrId("IDD_REGION_TIP")
-                             .arg(cornerName(region_geometry::placeOf(now, cornerInHand_)))
-                             .arg(recorded.width())
-                             .arg(recorded.height())
-                             .arg(recorded.x())
-                             .arg(recorded.y());
+    QString text = qtTrId("IDD_REGION_TIP")
+                       .arg(cornerName(region_geometry::placeOf(now, cornerInHand_)))
+                       .arg(recorded.width())
+                       .arg(recorded.height())
+                       .arg(recorded.x())
+                       .arg(recorded.y());
+    if (isTooSmall())
+        text += QLatin1Char('\n') + qtTrId("IDD_REGION_TOO_SMALL").arg(smallestSide);
     tip_->showNear(marked.toPoint() + screenFrame_.topLeft(), QCursor::pos(), screenFrame_, text);
     setAccessibleDescription(text);
 }

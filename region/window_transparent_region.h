@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "region/region_drag.h"
 #include "region/region_geometry.h"
 
 #include <QBasicTimer>
@@ -14,9 +15,9 @@ class RegionTip;
 class View_Transparent_Region;
 
 /// The region selection's overlay: a see-through window over the whole screen of the main window,
-/// on which the corners of the region are dragged. It turns pointer and keys into changes of the
-/// controller's squares; it neither draws (see its view) nor decides what the result means (see the
-/// region command).
+/// on which the region is dragged, by its corners, as a whole, or as a new one. It turns pointer
+/// and keys into changes of the controller's squares; it neither draws (see its view) nor decides
+/// what the result means (see the region command).
 ///
 /// Where the desktop blends windows, the window is transparent; where it does not, the window is
 /// shaped to what is drawn: the screen stays visible and live in both cases. Pointer and keyboard
@@ -25,22 +26,24 @@ class Window_Transparent_Region : public QWidget {
     Q_OBJECT
 
 public:
-    /// How the modal loop ended.
+    /// How the modal loop ended: by the user, or because the screen has changed.
     static constexpr int cancelled = 0;
     static constexpr int accepted = 1;
+    static constexpr int screenChanged = 2;
 
-    /// Covers `screen` and lays out the squares for the controller's `size_Region`, which must be
-    /// set before, centred. Not shown yet.
+    /// Covers `screen` and lays out the squares for the controller's region if one was chosen
+    /// before, else for its `size_Region`, which must be set before, centred. The region is
+    /// measured on `screen` from then on. Not shown yet.
     explicit Window_Transparent_Region(QScreen &screen);
     ~Window_Transparent_Region() override;
 
     /// Shows the overlay and turns events until it is accepted, cancelled or ended from outside;
-    /// hides it again. Returns one of the two codes above.
+    /// hides it again. Returns one of the codes above.
     int runModal();
     /// Ends the modal loop with `code`; nothing happens outside the loop.
     void stopModalWithCode(int code);
 
-    /// A corner square was pressed and the button is held.
+    /// The button is held: something is being dragged.
     bool b_Mouse_Down() const { return b_Mouse_Down_; }
     void setB_Mouse_Down(bool down) { b_Mouse_Down_ = down; }
 
@@ -76,7 +79,10 @@ private:
     void windowDidLoad();
     /// The pointer in points from the screen's lower left corner.
     region_geometry::Point fromScreenCorner(QPointF inWindow) const;
+    region_drag::Screen screenInPoints() const;
+    /// Ends the loop, unless the region is too small.
     void accept();
+    bool isTooSmall() const;
     void moveCorner(double dx, double dy);
     void chooseCorner(int step);
     /// The squares have changed: shape, drawing and tip follow.
@@ -89,7 +95,8 @@ private:
 
     bool b_Mouse_Down_ = false;
     std::int32_t i_button_index_ = -1;
-    QRect screenFrame_; // points, upper left origin
+    region_drag::Grip grip_; // while the button is held
+    QRect screenFrame_;      // points, upper left origin
     View_Transparent_Region *viewTransparentRegion_;
     RegionTip *tip_;
     /// The corner that the arrow keys move and that the tip stands at.

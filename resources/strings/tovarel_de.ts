@@ -309,6 +309,10 @@
         <source>%1: %2 × %3 pixels at %4, %5</source>
         <translation>%1: %2 × %3 Pixel bei %4, %5</translation>
     </message>
+    <message id="IDD_REGION_TOO_SMALL">
+        <source>Too small: at least %1 × %1 pixels are needed</source>
+        <translation>Zu klein: Mindestens %1 × %1 Pixel sind nötig</translation>
+    </message>
     <message id="IDD_REGION_LOWER_LEFT">
         <source>Lower left</source>
         <translation>Unten links</translation>
@@ -330,8 +334,8 @@
         <translation>So wählen Sie einen Bereich</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one.</source>
-        <translation>Auf dem Bildschirm erscheint ein Rechteck mit fünf Quadraten. Ziehen Sie die grünen, bis es umrahmt, was Sie aufnehmen möchten, und klicken Sie dann auf das rote.</translation>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <translation>Auf dem Bildschirm erscheint ein Rechteck mit fünf Quadraten. Ziehen Sie die grünen, bis es umrahmt, was Sie aufnehmen möchten, und klicken Sie dann auf das rote. Ziehen innerhalb des Rechtecks verschiebt es, Ziehen außerhalb zeichnet ein neues.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>

@@ -309,6 +309,10 @@
         <source>%1: %2 × %3 pixels at %4, %5</source>
         <translation>%1: %2 × %3 píxeles en %4, %5</translation>
     </message>
+    <message id="IDD_REGION_TOO_SMALL">
+        <source>Too small: at least %1 × %1 pixels are needed</source>
+        <translation>Demasiado pequeña: se necesitan al menos %1 × %1 píxeles</translation>
+    </message>
     <message id="IDD_REGION_LOWER_LEFT">
         <source>Lower left</source>
         <translation>Abajo a la izquierda</translation>
@@ -330,8 +334,8 @@
         <translation>Cómo elegir una zona</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one.</source>
-        <translation>En la pantalla aparece un rectángulo con cinco cuadrados. Arrastre los verdes hasta enmarcar lo que quiere grabar y haga clic en el rojo.</translation>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <translation>En la pantalla aparece un rectángulo con cinco cuadrados. Arrastre los verdes hasta enmarcar lo que quiere grabar y haga clic en el rojo. Arrastre dentro del rectángulo para moverlo o fuera de él para dibujar uno nuevo.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>

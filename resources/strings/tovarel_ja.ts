@@ -309,6 +309,10 @@
         <source>%1: %2 × %3 pixels at %4, %5</source>
         <translation>%1: %2 × %3 ピクセル（位置 %4, %5）</translation>
     </message>
+    <message id="IDD_REGION_TOO_SMALL">
+        <source>Too small: at least %1 × %1 pixels are needed</source>
+        <translation>小さすぎます。%1 × %1 ピクセル以上が必要です</translation>
+    </message>
     <message id="IDD_REGION_LOWER_LEFT">
         <source>Lower left</source>
         <translation>左下</translation>
@@ -330,8 +334,8 @@
         <translation>範囲の選び方</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one.</source>
-        <translation>画面に 5 つの四角が付いた枠が表示されます。緑の四角をドラッグして録画したい部分を囲み、赤い四角をクリックしてください。</translation>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <translation>画面に 5 つの四角が付いた枠が表示されます。緑の四角をドラッグして録画したい部分を囲み、赤い四角をクリックしてください。枠の内側をドラッグすると移動し、外側をドラッグすると新しい枠を描けます。</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>

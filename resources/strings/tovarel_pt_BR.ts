@@ -309,6 +309,10 @@
         <source>%1: %2 × %3 pixels at %4, %5</source>
         <translation>%1: %2 × %3 pixels em %4, %5</translation>
     </message>
+    <message id="IDD_REGION_TOO_SMALL">
+        <source>Too small: at least %1 × %1 pixels are needed</source>
+        <translation>Pequena demais: são necessários pelo menos %1 × %1 pixels</translation>
+    </message>
     <message id="IDD_REGION_LOWER_LEFT">
         <source>Lower left</source>
         <translation>Canto inferior esquerdo</translation>
@@ -330,8 +334,8 @@
         <translation>Como escolher uma área</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one.</source>
-        <translation>Um retângulo com cinco quadrados aparece na tela. Arraste os verdes até enquadrar o que você quer gravar e clique no vermelho.</translation>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <translation>Um retângulo com cinco quadrados aparece na tela. Arraste os verdes até enquadrar o que você quer gravar e clique no vermelho. Arraste dentro do retângulo para movê-lo ou fora dele para desenhar um novo.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>

@@ -309,6 +309,10 @@
         <source>%1: %2 × %3 pixels at %4, %5</source>
         <translation>%1：%2 × %3 像素，位于 %4, %5</translation>
     </message>
+    <message id="IDD_REGION_TOO_SMALL">
+        <source>Too small: at least %1 × %1 pixels are needed</source>
+        <translation>太小：至少需要 %1 × %1 像素</translation>
+    </message>
     <message id="IDD_REGION_LOWER_LEFT">
         <source>Lower left</source>
         <translation>左下角</translation>
@@ -330,8 +334,8 @@
         <translation>如何选择区域</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one.</source>
-        <translation>屏幕上会出现一个带有五个方块的矩形。拖动绿色方块框住要录制的内容，然后点击红色方块。</translation>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <translation>屏幕上会出现一个带有五个方块的矩形。拖动绿色方块框住要录制的内容，然后点击红色方块。在矩形内拖动可移动它，在矩形外拖动可绘制新的矩形。</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>

@@ -35,7 +35,7 @@ class RegionCase(case.Case):
 
     # Helpers -----------------------------------------------------------------------------------
 
-    def program(self, scale=1, how_to="0"):
+    def program(self, scale=1, how_to="0", environment=None):
         # One at a time: where a part of a test failed, its program is still there.
         self.end_programs(signal.SIGKILL)
         self.await_none(BINARY)
@@ -44,7 +44,7 @@ class RegionCase(case.Case):
         settings.unlink(missing_ok=True)
         if how_to is not None:
             settings.write_text(f"[General]\n{KEY}={how_to}\n")
-        return Program(self.session, {"QT_SCALE_FACTOR": str(scale)})
+        return Program(self.session, environment or {"QT_SCALE_FACTOR": str(scale)})
 
     def stored_flag(self):
         text = (self.session.home / ".config" / "Tovarel" / "Tovarel.conf").read_text()
@@ -139,11 +139,12 @@ class RegionCase(case.Case):
     def overlay(self):
         return self.session.xdotool("search", "--onlyvisible", "--name", OVERLAY, check=False)
 
-    def open_overlay(self, program, screen):
-        """Opens the overlay and waits until it is drawn, with the region that it starts with."""
+    def open_overlay(self, program, screen, region=None):
+        """Opens the overlay and waits until it is drawn, with the region that it starts with: the
+        last one, or else that of a first time."""
         program.press("Region")
         wait_for("the overlay", self.overlay)
-        left, bottom, right, top = screen.start()
+        left, bottom, right, top = region or screen.start()
         self.await_square((left + right) / 2, (bottom + top) / 2, screen, RED)
         return left, bottom, right, top
 
@@ -168,10 +169,10 @@ class RegionCase(case.Case):
         left, bottom, right, top = self.open_overlay(program, screen)
         for pixel in (by_way_of, target[0]) if by_way_of else target[:1]:
             self.drag(screen.pixel(left, bottom), pixel)
-            left, bottom = screen.edge(*pixel)
+            left, bottom = screen.dragged((left, bottom), pixel)
             self.await_square(left - 4, bottom, screen, GREEN)
         self.drag(screen.pixel(right, top), target[1])
-        right, top = screen.edge(*target[1])
+        right, top = screen.dragged((right, top), target[1])
         self.await_square(right - 4, top, screen, GREEN)
         edges = left, bottom, right, top
         self.check_see_through(screen, edges)
@@ -209,11 +210,11 @@ class RegionCase(case.Case):
         self.session.xdotool("windowmove", "--sync", program.window(), x, y)
 
     def check_framing(self, screen, window, target, halved=False, blending=False,
-                      by_way_of=None):
+                      by_way_of=None, environment=None):
         """What is framed on this screen, with the window put there, is what is recorded."""
         self.block = 2 if halved else 1
         with self.pattern(), self.compositing(blending):
-            program = self.program(screen.scale)
+            program = self.program(screen.scale, environment=environment)
             self.put_aside(program, *window)
             area = screen.recorded(*self.frame(program, screen, target, by_way_of))
             self.check_recorded(program, tuple(x // self.block for x in area))

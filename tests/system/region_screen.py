@@ -40,11 +40,15 @@ class Screen:
         return (self.x + math.floor(x * self.scale + 0.5),
                 self.y + math.floor((self.points[1] - y) * self.scale + 0.5))
 
-    def edge(self, x, y):
-        """What a corner square that is dragged to a pixel of the desktop makes of it: the point
-        that it marks."""
-        point = (x - self.x) / self.scale, self.points[1] - (y - self.y) / self.scale
-        return int(point[0]) + 5, int(point[1]) + 5
+    def point(self, x, y):
+        """The pointer's place in points, at a pixel of the desktop."""
+        return (x - self.x) / self.scale, self.points[1] - (y - self.y) / self.scale
+
+    def dragged(self, corner, pixel):
+        """Where a corner goes whose square is picked up at the corner and dragged to a pixel that
+        is not on the screen's edge: it keeps its distance to the pointer."""
+        moves = zip(corner, self.point(*pixel), self.point(*self.pixel(*corner)))
+        return tuple(math.floor(place + to - picked + 0.5) for place, to, picked in moves)
 
     def recorded(self, left, bottom, right, top):
         """The desktop's pixels between these edges: x, y, width, height."""

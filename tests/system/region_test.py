@@ -28,11 +28,35 @@ class Region(RegionCase):
             with self.subTest(scale=scale):
                 self.check_framing(Screen(500, 130, 700, 700, scale), (800, 400),
                                    ((559, 720), (733, 503)))
-        # A grab twice as wide as the main window's screen counts as one of double density.
+        # Two of the same width: the grab is twice as wide as the screen, and is not halved.
         self.monitors("600x900+0+0", "600x900+600+0")
-        with self.subTest("beside an equal display a frame is half of what was framed"):
-            self.check_framing(Screen(600, 0, 600, 900, 1), (620, 20), ((663, 821), (935, 621)),
-                               halved=True)
+        with self.subTest("beside an equal display"):
+            self.check_framing(Screen(600, 0, 600, 900, 1), (620, 20), ((663, 821), (935, 621)))
+        # At an odd place, so that the pixels of its points are not those of the desktop's pairs.
+        self.monitors("601x900+0+0", "598x898+601+1")
+        for scale, halved in ((1, False), (2, True)):
+            with self.subTest("of another density", scale=scale):
+                factors = {"QT_SCREEN_SCALE_FACTORS": f"{3 - scale};{scale}", "QT_SCALE_FACTOR": "1"}
+                self.check_density(Screen(601, 1, 598, 898, scale), factors, halved)
+
+    def check_density(self, screen, environment, halved):
+        """The recorded screen's density decides, not that of the other one."""
+        self.block = 1
+        with self.pattern():
+            program = self.program(environment=environment)
+            self.put_aside(program, 620, 20)
+            area = screen.recorded(*self.frame(program, screen, ((663, 821), (935, 621))))
+            program.record(0.6)
+            frame = counter.decode(str(self.session.frames / "frame%08d.png"), pattern=True)[0]
+            step = 2 if halved else 1
+            self.assertEqual((frame.width, frame.height), (area[2] // step, area[3] // step))
+            for x, y in itertools.product((0, 7, frame.width - 1), (0, 11, frame.height - 1)):
+                block = [colour(area[0] + x * step + dx, area[1] + y * step + dy)
+                         for dx, dy in itertools.product(range(step), repeat=2)]
+                for channel, value in enumerate(frame.pixel(x, y)):
+                    mean = sum(pixel[channel] for pixel in block) / len(block)
+                    self.assertLessEqual(abs(value - mean), 2 if halved else 0, f"at {x}, {y}")
+            program.end()
 
     def test_a_panel_moves_neither_the_overlay_nor_what_is_recorded(self):
         for side, scale in itertools.product(("left", "right", "top", "bottom"), (1, 2)):
@@ -65,49 +89,81 @@ class Region(RegionCase):
                 self.assertEqual(min(nearby, key=misfit), (0, 0), f"the corner at {x}, {y}")
             program.end()
 
-    def test_a_region_partly_outside_the_desktop_is_transparent_there(self):
+    def test_a_region_reaches_the_edges_of_the_screen_and_no_further(self):
         self.block = 1
         with self.pattern():
             program = self.program()
             self.put_aside(program, *ASIDE)
             screen = Screen(0, 0, *self.screen, 1)
             left, bottom, right, top = self.open_overlay(program, screen)
-            self.drag(screen.pixel(left, bottom), (0, 899))
-            self.await_square(1, 6, screen, GREEN)
-            # The pointer cannot leave the screen, but the arrow keys go on.
+            # Picked up beside its middle, and yet into the very corner of the screen.
+            spot = screen.pixel(left, bottom)
+            self.drag((spot[0] - 3, spot[1] - 2), (0, 899))
+            self.await_square(-2, 2, screen, GREEN)
             for _ in range(3):
                 self.session.xdotool("key", "shift+Left", "key", "shift+Down")
             self.session.xdotool("key", "Return")
             self.await_no_overlay()
-            program.record(0.4)
+            self.check_recorded(program, (0, 900 - top, right, top))
             path = sorted(self.session.frames.iterdir())[0]
-            x, y = -30 + 5, -30 + 1 + 5
-            self.assertEqual(counter.probe(str(path), "stream=width,height,pix_fmt")[0],
-                             f"{right - x},{top - y},rgba")
-            frame = counter.decode(str(path))[0]
-            self.assertEqual(frame.pixel(25, 0), colour(0, 900 - top))
-            self.assertEqual(frame.pixel(24, 0), (0, 0, 0))
-            self.assertEqual(frame.pixel(100, top - 1), colour(75, 899))
-            self.assertEqual(frame.pixel(100, top), (0, 0, 0))
+            self.assertEqual(counter.probe(str(path), "stream=pix_fmt")[0], "rgb24")
 
-    def test_keys_move_the_corners_and_escape_gives_the_full_screen_back(self):
+    def test_a_region_is_moved_as_a_whole_and_drawn_anew(self):
+        self.block = 1
+        screen = Screen(0, 0, *self.screen, 1)
+        with self.pattern():
+            program = self.program()
+            self.put_aside(program, *ASIDE)
+            for blending in (False, True):
+                with self.subTest(blending=blending), self.compositing(blending):
+                    # On from what was accepted last.
+                    last = (60, 250, 260, 370) if blending else None
+                    left, bottom = self.open_overlay(program, screen, last)[:2]
+                    self.drag((100, 100), (300, 220))
+                    self.await_square(100 - 4, 900 - 100, screen, GREEN)
+                    self.drag((250, 130), (210, 560))
+                    self.await_square(60 - 4, 900 - 530, screen, GREEN)
+                    self.session.xdotool("mousemove", "--sync", 160, 590, "click", 1)
+                    self.await_no_overlay()
+                    self.await_label(program, "200 × 120 at 60,\u00a0530")
+            self.check_recorded(program, (60, 530, 200, 120))
+
+    def test_a_region_that_no_encoder_takes_is_not_accepted(self):
         program = self.program()
         screen = Screen(0, 0, *self.screen, 1)
+        left, bottom, right, top = self.open_overlay(program, screen)
+        self.drag(screen.pixel(left, bottom), screen.pixel(right - 1, top - 1))
+        wait_for("the reason", lambda: any("Too small" in text for text in program.labels()))
+        self.session.xdotool("key", "Return", "key", "shift+Up",
+                             "key", "shift+Left")
+        wait_for("the reason to go", lambda: not any("Too small" in text for text in program.labels()))
+        self.assertTrue(self.overlay())
+        self.session.xdotool("key", "Escape")
+        self.await_no_overlay()
+        self.await_label(program, "Full screen")
+
+    def test_keys_move_the_corners_and_escape_leaves_the_choice_as_it_was(self):
+        program = self.program()
+        screen = Screen(0, 0, *self.screen, 1)
+        region, shown = screen.start(), "Full screen"
         for blending in (False, True):
             with self.subTest(blending=blending), self.compositing(blending):
-                left, bottom, right, top = self.open_overlay(program, screen)
+                region = self.open_overlay(program, screen, region)
+                left, bottom, right, top = region
+                self.session.xdotool("key", "Down", "key", "Escape")
+                self.await_no_overlay()
+                self.await_label(program, shown)
+                self.assertEqual(self.open_overlay(program, screen, region), region)
                 # Lower right first, then on to the upper right, then back.
                 for key in ("Right", "shift+Down", "Tab", "shift+Up", "Up", "shift+Tab", "Left",
                             "Left"):
                     self.session.xdotool("key", key)
                 self.session.xdotool("key", "Return")
                 self.await_no_overlay()
-                width, height = right - left - 1, top - bottom + 21
-                self.await_label(program, f"{width} × {height} at {left},\u00a0{900 - top - 11}")
-                self.open_overlay(program, screen)
-                self.session.xdotool("key", "Escape")
-                self.await_no_overlay()
-                self.await_label(program, "Full screen")
+                region = left, bottom - 10, right - 1, top + 11
+                width, height = region[2] - left, region[3] - region[1]
+                shown = f"{width} × {height} at {left},\u00a0{900 - region[3]}"
+                self.await_label(program, shown)
 
     def test_another_screen_ends_the_overlay_and_the_same_one_does_not(self):
         self.addCleanup(self.monitors)
@@ -125,7 +181,7 @@ class Region(RegionCase):
                 # The other display is none of the overlay's business.
                 self.monitors("700x900+0+0", "400x800+700+0")
                 self.drag(screen.pixel(left, bottom), (100, 800))
-                left, bottom = screen.edge(100, 800)
+                left, bottom = screen.dragged((left, bottom), (100, 800))
                 self.await_square(left - 4, bottom, screen, GREEN)
                 self.assertTrue(self.overlay())
                 self.monitors(*places)
@@ -152,17 +208,22 @@ class Region(RegionCase):
         def tick():
             act(program.await_control("check box"))
 
-        for leave, stored in ((lambda: program.press("OK"), "1"),
-                              (lambda: (tick(), self.session.xdotool("key", "Escape")), "1"),
-                              (lambda: (tick(), program.press("OK")), "0")):
+        for leave, stored, goes_on in (
+                (lambda: program.press("OK"), "1", True),
+                (lambda: (tick(), self.session.xdotool("key", "Escape")), "1", False),
+                (lambda: (tick(), program.press("OK")), "0", True)):
             program.press("Region")
             program.await_control("dialog", HOW_TO)
             leave()
-            # However it ended, the region is chosen next.
-            wait_for("the overlay", self.overlay)
+            if goes_on:
+                wait_for("the overlay", self.overlay)
+                self.session.xdotool("key", "Escape")
+                self.await_no_overlay()
+            else:
+                wait_for("the dialog to close", lambda: not program.find("dialog", HOW_TO))
+                program.wait_for("the window", lambda: program.enabled("Region"))
+                self.assertFalse(self.overlay())
             self.assertEqual(self.stored_flag(), [stored])
-            self.session.xdotool("key", "Escape")
-            self.await_no_overlay()
         program.press("Region")
         wait_for("the overlay", self.overlay)
         self.assertIsNone(program.find("dialog", HOW_TO))

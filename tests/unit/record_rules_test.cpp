@@ -120,14 +120,6 @@ TEST(RecordingClock, leavesPausesOut) {
     EXPECT_EQ(clock.seconds(start + seconds(11)), 3.0);
 }
 
-TEST(GrabGeometry, halvesOnlyAGrabOfExactlyTwiceTheScreensWidth) {
-    EXPECT_TRUE(isDoubleDensity(1440, 2880));
-    EXPECT_TRUE(isDoubleDensity(1440.7, 2880));
-    EXPECT_FALSE(isDoubleDensity(1920, 2880));
-    EXPECT_FALSE(isDoubleDensity(1440, 2881));
-    EXPECT_FALSE(isDoubleDensity(0, 0)); // A window without a screen.
-}
-
 TEST(GrabGeometry, scalesTheLargerSideAndLetsTheOtherFollow) {
     const ScaledSize landscape = scaledByPercentage(2880, 1800, 50);
     EXPECT_EQ(landscape.width, 1440.0f);
