@@ -9,6 +9,10 @@
 
 #include <QApplication>
 
+#include <optional>
+#include <string>
+#include <vector>
+
 namespace {
 
 /// "Super+Ctrl" as the user's keyboard has it: the toolkit knows what the second key is called.
@@ -17,24 +21,27 @@ QString modifiers() {
     return QStringLiteral("Super+%1").arg(one.section(QLatin1Char('+'), 0, 0));
 }
 
+QString nameOf(char letter) { return QString(QChar::fromLatin1(letter).toUpper()); }
+
 } // namespace
 
 void AppDelegate::listenToDesktopKeys() {
     if (!windowServer().reason().isEmpty())
         return;
+    // No letter twice: the server grants a client what it has already.
     const struct {
-        char letter;
+        std::string letters;
         QAction *item;
         const QString &name;
     } keys[] = {
-        {'r', ui->menuitemActionRecordRecord, texts.s_IDD_RECORD()},
-        {'p', ui->menuitemActionRecordPause, texts.s_IDD_PAUSE()},
-        {'s', ui->menuitemActionRecordStop, texts.s_IDD_STOP()},
+        {"recd", ui->menuitemActionRecordRecord, texts.s_IDD_RECORD()},
+        {"pauw", ui->menuitemActionRecordPause, texts.s_IDD_PAUSE()},
+        {"stox", ui->menuitemActionRecordStop, texts.s_IDD_STOP()},
     };
-    std::vector<char> letters;
+    std::vector<std::string> letters;
     std::vector<QAction *> items;
     for (const auto &key : keys) {
-        letters.push_back(key.letter);
+        letters.push_back(key.letters);
         items.push_back(key.item);
     }
     desktopKeys_ = std::make_unique<GlobalShortcuts>(letters, [this, items](std::size_t place) {
@@ -49,9 +56,15 @@ void AppDelegate::listenToDesktopKeys() {
     QStringList granted;
     QStringList taken;
     for (std::size_t place = 0; place < std::size(keys); ++place) {
-        const QString key = QStringLiteral("%1 %2").arg(
-            QChar::fromLatin1(keys[place].letter).toUpper(), keys[place].name);
-        (desktopKeys_->granted(place) ? granted : taken) << key;
+        const std::optional<char> letter = desktopKeys_->granted(place);
+        const QString wanted = nameOf(keys[place].letters.front());
+        if (letter)
+            granted << QStringLiteral("%1 %2").arg(nameOf(*letter), keys[place].name);
+        // Another letter does its work: then only the key is of interest.
+        if (!letter)
+            taken << QStringLiteral("%1 %2").arg(wanted, keys[place].name);
+        else if (*letter != keys[place].letters.front())
+            taken << wanted;
     }
     const QString between = QStringLiteral(" · ");
     QStringList sentences;

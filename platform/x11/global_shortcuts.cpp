@@ -26,33 +26,45 @@ constexpr std::uint16_t realModifiers = 0xff;
 /// are not its own.
 class GlobalShortcuts::Grabs {
 public:
-    Grabs(std::unique_ptr<x11::Connection> connection, std::vector<char> letters, Handler handler)
+    Grabs(std::unique_ptr<x11::Connection> connection, const std::vector<std::string> &keys,
+          Handler handler)
         : connection_(std::move(connection)), handler_(std::move(handler)),
           notifier_(xcb_get_file_descriptor(connection_->get()), QSocketNotifier::Read) {
-        for (const char letter : letters)
-            keys_.push_back({.letter = letter});
+        for (const std::string &letters : keys)
+            keys_.push_back({.letters = letters});
         grabAll();
         QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this] { read(); });
     }
 
-    bool granted(std::size_t place) const { return keys_[place].granted; }
+    std::optional<char> granted(std::size_t place) const { return keys_[place].granted; }
 
 private:
     struct Key {
-        char letter;
-        xcb_keycode_t code = 0; // 0: the layout has no such letter
-        bool granted = false;
+        std::string letters; // in order of preference
+        xcb_keycode_t code = 0;
+        std::optional<char> granted = std::nullopt;
     };
 
     void grabAll() {
         readKeyboard();
-        for (Key &key : keys_) {
-            key.code = codeOf(static_cast<xcb_keysym_t>(key.letter));
-            key.granted = key.code != 0 && super_ != 0 && grab(key.code);
-        }
+        for (Key &key : keys_)
+            grabOneOf(key);
         // Events that came while we waited for answers are queued without a notice.
         QMetaObject::invokeMethod(
             &notifier_, [this] { read(); }, Qt::QueuedConnection);
+    }
+
+    void grabOneOf(Key &key) {
+        // One that was granted before was shown to the user: it stays if it can.
+        const std::string letters = key.granted ? *key.granted + key.letters : key.letters;
+        key.granted.reset();
+        for (const char letter : letters) {
+            key.code = codeOf(static_cast<xcb_keysym_t>(letter)); // 0: not in this layout
+            if (key.code != 0 && super_ != 0 && grab(key.code)) {
+                key.granted = letter;
+                return;
+            }
+        }
     }
 
     void readKeyboard() {
@@ -171,12 +183,13 @@ private:
     std::uint16_t numLock_ = 0;
 };
 
-GlobalShortcuts::GlobalShortcuts(std::vector<char> letters, Handler handler) {
+GlobalShortcuts::GlobalShortcuts(const std::vector<std::string> &keys, Handler handler) {
     if (auto connection = x11::Connection::open())
-        grabs_ =
-            std::make_unique<Grabs>(std::move(connection), std::move(letters), std::move(handler));
+        grabs_ = std::make_unique<Grabs>(std::move(connection), keys, std::move(handler));
 }
 
 GlobalShortcuts::~GlobalShortcuts() = default;
 
-bool GlobalShortcuts::granted(std::size_t place) const { return grabs_ && grabs_->granted(place); }
+std::optional<char> GlobalShortcuts::granted(std::size_t place) const {
+    return grabs_ ? grabs_->granted(place) : std::nullopt;
+}
