@@ -145,7 +145,7 @@ class RegionCase(case.Case):
         program.press("Region")
         wait_for("the overlay", self.overlay)
         left, bottom, right, top = region or screen.start()
-        self.await_square((left + right) / 2, (bottom + top) / 2, screen, RED)
+        self.await_square((left + right) // 2, (bottom + top) // 2, screen, RED)
         return left, bottom, right, top
 
     def await_square(self, x, y, screen, wanted):
