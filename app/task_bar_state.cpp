@@ -8,21 +8,21 @@
 void AppDelegate::showStateInTaskBar() {
     const struct {
         std::uint64_t state;
-        const char *sign; // drawn in front, where a narrow task bar does not cut it off
         QString words;
         QIcon icon;
     } states[] = {
-        {RECORD_STATUS_RECORD, "●", qtTrId("IDD_STATE_RECORDING"),
+        {RECORD_STATUS_RECORD, qtTrId("IDD_STATE_RECORDING"),
          QIcon(QStringLiteral(":/icons/tovarel-recording.svg"))},
-        {RECORD_STATUS_PAUSE, "❚❚", qtTrId("IDD_STATE_PAUSED"),
+        {RECORD_STATUS_PAUSE, qtTrId("IDD_STATE_PAUSED"),
          QIcon(QStringLiteral(":/icons/tovarel-paused.svg"))},
     };
     QString title = shell.s_App_Name();
     QIcon icon = QApplication::windowIcon();
     for (const auto &each : states)
         if (each.state == recording.m_RecordStatus()) {
-            title =
-                QStringLiteral("%1 %2 – %3").arg(QString::fromUtf8(each.sign), each.words, title);
+            // The word first, where a narrow task bar does not cut it off. No sign before it: one
+            // window manager (marco) draws no title that begins with a character like "●".
+            title = QStringLiteral("%1 – %2").arg(each.words, title);
             icon = each.icon;
         }
     // Also asked for every second; the window manager hears of changes only.

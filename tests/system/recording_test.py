@@ -39,7 +39,7 @@ class Recording(case.Case):
         program.await_tab("Cut")
 
         self.assertEqual([title for title, icon in (plain, recording, paused)],
-                         ["Tovarel", "● Recording – Tovarel", "❚❚ Paused – Tovarel"])
+                         ["Tovarel", "Recording – Tovarel", "Paused – Tovarel"])
         self.assertEqual(len({icon for title, icon in (plain, recording, paused)}), 3)
         self.assertEqual(program.in_task_bar(), plain)
 
