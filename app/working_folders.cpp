@@ -62,7 +62,8 @@ bool ensureFolder(const QString &folder) {
     const QFileInfo info(folder);
     if (!info.exists() && !info.isSymLink()) {
         // Pictures of somebody's screen: nobody else is to read them, not even for a moment.
-        return QDir().mkpath(info.absolutePath()) &&
+        const QString above = info.absolutePath();
+        return (QFileInfo::exists(above) || QDir().mkpath(above)) &&
                mkdir(QFile::encodeName(folder).constData(), forTheUserAlone) == 0;
     }
     // One that an earlier version made, or somebody opened to others; a link's target is not ours.
