@@ -86,7 +86,7 @@ class Recovery(case.Case):
 
     def test_after_the_end_of_the_session_it_can_be_deleted(self):
         for wanted in (signal.SIGTERM, signal.SIGHUP):
-            with self.subTest(wanted.name):
+            with self.subTest(str(wanted)):
                 self.recorded(wanted, 1)
                 program = Program(self.session, recover=True)
                 program.answer(STILL_THERE, "Delete")
@@ -107,6 +107,9 @@ class Recovery(case.Case):
                 self.check_nothing_is_offered()
 
     def test_a_recording_that_is_not_whole_is_not_offered(self):
+        def lose_one():
+            self.frame_files()[1].unlink()
+
         def cut_short():
             path = self.frame_files()[-1]
             content = path.read_bytes()
@@ -114,7 +117,7 @@ class Recovery(case.Case):
             path.write_bytes(content[:-10])
 
         for what, spoil in (
-                ("a frame is missing", lambda: self.frame_files()[1].unlink()),
+                ("a frame is missing", lose_one),
                 ("a frame is cut short", cut_short),
                 ("the note is cut short", lambda: (self.session.frames / driver.NOTE).write_bytes(
                     (self.session.frames / driver.NOTE).read_bytes()[:-3]))):

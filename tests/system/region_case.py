@@ -11,8 +11,8 @@ import subprocess
 
 import case
 import counter
-from driver import BINARY, PATIENCE, Late, Program, act, wait_for
-from region_screen import Screen, brightness, colour, cut_out
+from driver import BINARY, PATIENCE, Late, Program, wait_for
+from region_screen import colour, cut_out
 
 OVERLAY = "^Select a region$"
 HOW_TO = "How to select a region"

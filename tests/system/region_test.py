@@ -3,13 +3,12 @@
 """The region overlay on a real display: what the user frames is what is recorded, to the pixel, at
 any scale, on any display, with a compositing manager and without; and it can always be left."""
 
-import contextlib
 import itertools
 
 import case
 import counter
 from driver import act, wait_for
-from region_case import ASIDE, GREEN, HOW_TO, RED, RegionCase
+from region_case import ASIDE, GREEN, HOW_TO, RegionCase
 from region_screen import Screen, brightness, colour
 
 
@@ -99,7 +98,7 @@ class Region(RegionCase):
                 with self.subTest(blending=blending), self.compositing(blending):
                     # On from what was accepted last.
                     last = (60, 250, 260, 370) if blending else None
-                    left, bottom = self.open_overlay(program, screen, last)[:2]
+                    self.open_overlay(program, screen, last)
                     self.drag((100, 100), (300, 220))
                     self.await_square(100 - 4, 900 - 100, screen, GREEN)
                     self.drag((250, 130), (210, 560))
