@@ -45,6 +45,7 @@ public:
         next_ = firstFree_;
         sent_ = 0;
         width_ = codeSize + 1;
+        forgetNext();
         for (int code = 0; code < (1 << codeSize); ++code)
             nodes_[std::size_t(code)] = {
                 none, none, none, 1, std::uint8_t(code), std::uint8_t(code)};
@@ -70,6 +71,7 @@ public:
             return;
         Node &parent = nodes_[code];
         const auto added = std::uint16_t(next_++);
+        forgetNext();
         Node &node = nodes_[added];
         node = {std::uint16_t(code), none, none, std::uint16_t(parent.length + 1),
                 parent.first,        index};
@@ -104,6 +106,12 @@ public:
     }
 
 private:
+    /// The next phrase is looked at before it is added, and has no children then.
+    void forgetNext() {
+        if (next_ < mostCodes)
+            nodes_[std::size_t(next_)].firstChild = none;
+    }
+
     std::vector<Node> nodes_;
     std::unique_ptr<std::uint16_t[]> children_;
     int codeSize_ = 2;

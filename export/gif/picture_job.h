@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "export/gif/lzw_coder.h"
+#include "export/gif/picture_coder.h"
+#include "export/gif/prepared_picture.h"
+
+#include <span>
+#include <stop_token>
+#include <vector>
+
+namespace gif {
+
+/// A table for one picture, and what each of the picture's colours becomes in it.
+struct TableInUse {
+    std::span<const Rgb> table;
+    std::vector<std::uint8_t> nearest;
+    int transparent = -1;
+    bool shared = false;
+};
+
+/// One way to code a picture. Which is the shortest is seen by trying: they differ by some percent,
+/// now this way, now that. What it points to outlives it.
+struct PictureJob {
+    /// What a kept pixel is rather, where both serve.
+    enum class Kept { Shown, Transparent, OnlyTransparent };
+
+    const PreparedPicture *picture = nullptr;
+    const TableInUse *table = nullptr;
+    std::span<const Rgb> canvas; ///< of the whole file
+    int canvasWidth = 0;
+    float tolerance = 0;
+    Rect box; ///< within the picture's, in the file's pixels
+    Kept kept = Kept::Shown;
+    int lookAhead = 0;
+};
+
+struct PictureAttempt {
+    CodedPicture coded;
+    std::vector<std::uint8_t> indices; ///< of the box
+
+    std::size_t bytes() const;
+};
+
+/// The smallest box around the pixels that the canvas does not show well enough.
+Rect neededBox(const PreparedPicture &picture, const TableInUse &table, std::span<const Rgb> canvas,
+               int canvasWidth, float tolerance);
+
+/// No data when `stop` was asked for.
+PictureAttempt attempt(const PictureJob &job, LzwCoder &coder, const std::stop_token &stop);
+
+} // namespace gif
