@@ -30,44 +30,48 @@ namespace gif {
 // A phrase is at most as long as the table has codes, and one search meets each of them at most
 // once, whatever the choices.
 
-/// Each pixel has one index, or one of two: the first is preferred where both serve as well.
+/// A pixel's index, and another one that serves as well; the same where there is none.
+struct IndexPair {
+    std::uint8_t first = 0; ///< preferred where both lead equally far
+    std::uint8_t second = 0;
+};
+
+/// Each pixel has one of two indices. The span outlives this.
 class PairChoices {
 public:
     struct State {
         bool operator<(const State &) const { return false; }
     };
 
-    /// The spans have the same size and outlive this. `second` repeats `first` where there is no
-    /// choice.
-    PairChoices(std::span<const std::uint8_t> first, std::span<const std::uint8_t> second)
-        : first_(first), second_(second) {}
+    explicit PairChoices(std::span<const IndexPair> pixels) : pixels_(pixels) {}
 
-    std::size_t size() const { return first_.size(); }
+    std::size_t size() const { return pixels_.size(); }
 
     template <typename Function> void starts(std::size_t pos, Function f) const {
-        if (second_[pos] != first_[pos])
-            f(second_[pos], State());
-        f(first_[pos], State());
+        const auto [first, second] = pixels_[pos];
+        if (second != first)
+            f(second, State());
+        f(first, State());
     }
 
     template <typename Function>
     void continuations(std::size_t pos, State, const LzwTable &table, unsigned code,
                        Function f) const {
-        if (second_[pos] != first_[pos]) {
-            if (const auto child = table.child(code, second_[pos]); child != LzwTable::none)
+        const auto [first, second] = pixels_[pos];
+        if (second != first) {
+            if (const auto child = table.child(code, second); child != LzwTable::none)
                 f(child, State());
         }
-        if (const auto child = table.child(code, first_[pos]); child != LzwTable::none)
+        if (const auto child = table.child(code, first); child != LzwTable::none)
             f(child, State());
     }
 
     bool allows(std::size_t pos, State, std::uint8_t index, State &) const {
-        return index == first_[pos] || index == second_[pos];
+        return index == pixels_[pos].first || index == pixels_[pos].second;
     }
 
 private:
-    std::span<const std::uint8_t> first_;
-    std::span<const std::uint8_t> second_;
+    std::span<const IndexPair> pixels_;
 };
 
 /// How hard to look for short codings.

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "export/gif/colour.h"
-#include "export/gif/lzw_table.h"
+#include "export/gif/lzw_coder.h"
 #include "export/gif/prepared_picture.h"
 
 #include <cmath>
@@ -14,17 +14,40 @@
 
 namespace gif {
 
+/// Remembers differences between colours: recordings use the same ones over and over.
+class DifferenceCache {
+public:
+    /// As of `colourDifference`.
+    float difference(Rgb x, Rgb y) {
+        const std::uint64_t key = std::uint64_t(x) << 24 | y;
+        Known &known = known_[key * 0x9E3779B97F4A7C15u >> (64 - bits)];
+        if (known.key != key)
+            known = {key, colourDifference(x, y)};
+        return known.difference;
+    }
+
+private:
+    struct Known {
+        std::uint64_t key = ~std::uint64_t(0);
+        float difference = 0;
+    };
+    static constexpr int bits = 15;
+
+    std::vector<Known> known_ = std::vector<Known>(std::size_t(1) << bits);
+};
+
 /// How far each colour of a picture may be from each entry of its table. The bound holds in
 /// CIEDE2000 and is worked out when it is first asked for, as few pairs ever are.
 class Tolerance {
 public:
-    /// Of `tolerance` flat colours may use half. `picture` and `table` outlive this.
-    Tolerance(const PreparedPicture &picture, std::span<const Rgb> table,
-              std::span<const std::uint8_t> nearest, float tolerance);
+    /// Judges colours of `picture`, which outlives this, from now on; none when there is no tolerance. Of `tolerance` flat colours
+    /// may use half.
+    void begin(const PreparedPicture &picture, std::span<const Rgb> table,
+               std::span<const std::uint8_t> nearest, float tolerance);
 
     /// Beyond the error of the nearest entry, in CIEDE2000.
     float limit(std::uint32_t colour) const {
-        return picture_.colours[colour].flat ? tolerance_ / 2 : tolerance_;
+        return picture_->colours[colour].flat ? tolerance_ / 2 : tolerance_;
     }
 
     bool allows(std::uint32_t colour, std::uint8_t entry) {
@@ -39,8 +62,8 @@ public:
     }
 
     /// Whether a pixel of this colour may stay what the canvas shows.
-    bool allowsShown(std::uint32_t colour, Rgb shown) const {
-        return colourDifference(picture_.colours[colour].rgb, shown) <= limit(colour);
+    bool allowsShown(std::uint32_t colour, Rgb shown) {
+        return differences_.difference(picture_->colours[colour].rgb, shown) <= limit(colour);
     }
 
 private:
@@ -48,12 +71,13 @@ private:
 
     bool judge(std::uint32_t colour, std::uint8_t entry);
 
-    const PreparedPicture &picture_;
+    const PreparedPicture *picture_ = nullptr;
     std::span<const Rgb> table_;
     std::span<const std::uint8_t> nearest_;
-    float tolerance_;
+    float tolerance_ = 0;
     std::vector<std::uint8_t> known_; ///< two bits for each pair
     std::vector<float> smallest_;     ///< error of the nearest entry; negative when unknown
+    DifferenceCache differences_;
 };
 
 /// What the pixels of a box may be where a tolerance is given: those that are kept, transparent or
@@ -68,38 +92,32 @@ public:
         bool operator<(const State &other) const { return error < other.error; }
     };
 
-    /// A pixel of the box that is coded.
-    struct Pixel {
-        std::uint32_t colour = PreparedPicture::kept;
-        /// Its preferred index and the other one, as in PairChoices.
-        std::uint8_t first = 0;
-        std::uint8_t second = 0;
-    };
-
     struct Colours {
         std::span<const PreparedPicture::Colour> wanted; ///< the picture's
         std::span<const Perceived> entries;              ///< the table's
         int transparent = -1;
     };
 
-    NearChoices(std::span<const Pixel> pixels, const Colours &colours, Tolerance &tolerance)
-        : pixels_(pixels), colours_(colours), tolerance_(tolerance) {}
+    /// `pixels` has the colour of each pixel, or `PreparedPicture::kept`; `pairs` its nearest entry
+    /// or what a kept pixel is rather, and what it may be instead.
+    NearChoices(std::span<const std::uint32_t> pixels, std::span<const IndexPair> pairs,
+                const Colours &colours, Tolerance &tolerance)
+        : pixels_(pixels), pairs_(pairs), colours_(colours), tolerance_(tolerance) {}
 
     std::size_t size() const { return pixels_.size(); }
 
     template <typename Function> void starts(std::size_t pos, Function f) const {
-        const Pixel &pixel = pixels_[pos];
-        if (pixel.second != pixel.first)
-            f(pixel.second, begun(pixel, pixel.second));
-        f(pixel.first, begun(pixel, pixel.first));
+        const auto [first, second] = pairs_[pos];
+        if (second != first)
+            f(second, begun(pixels_[pos], second));
+        f(first, begun(pixels_[pos], first));
     }
 
     template <typename Function>
     void continuations(std::size_t pos, const State &state, const LzwTable &table, unsigned code,
                        Function f) const {
-        const Pixel &pixel = pixels_[pos];
         State next;
-        if (pixel.colour != PreparedPicture::kept) {
+        if (pixels_[pos] != PreparedPicture::kept) {
             for (auto child = table.node(code).firstChild; child != LzwTable::none;
                  child = table.node(child).nextSibling) {
                 if (allows(pos, state, table.node(child).last, next))
@@ -107,52 +125,51 @@ public:
             }
             return;
         }
-        for (const std::uint8_t index : {pixel.second, pixel.first}) {
-            const auto child = table.child(code, index);
-            if (child != LzwTable::none && allows(pos, state, index, next))
-                f(child, next);
-            if (pixel.second == pixel.first)
-                break;
-        }
+        const auto [first, second] = pairs_[pos];
+        next = {{}, state.error};
+        if (const auto child = table.child(code, second);
+            second != first && child != LzwTable::none)
+            f(child, next);
+        if (const auto child = table.child(code, first); child != LzwTable::none)
+            f(child, next);
     }
 
     bool allows(std::size_t pos, const State &state, std::uint8_t index, State &next) const {
-        const Pixel &pixel = pixels_[pos];
-        if (pixel.colour == PreparedPicture::kept) {
+        const std::uint32_t colour = pixels_[pos];
+        const auto [first, second] = pairs_[pos];
+        if (colour == PreparedPicture::kept || int(index) == colours_.transparent) {
             next = {{}, state.error};
-            return index == pixel.first || index == pixel.second;
+            return index == first || index == second;
         }
-        if (int(index) == colours_.transparent) {
-            next = {{}, state.error};
-            return pixel.second == index || pixel.first == index;
-        }
-        const Perceived &wanted = colours_.wanted[pixel.colour].place;
+        const PreparedPicture::Colour &wanted = colours_.wanted[colour];
         const Perceived &entry = colours_.entries[index];
-        const Perceived left{wanted.lightness + carry * state.carried.lightness - entry.lightness,
-                             wanted.a + carry * state.carried.a - entry.a,
-                             wanted.b + carry * state.carried.b - entry.b};
+        const Perceived left{wanted.place.lightness + carry * state.carried.lightness -
+                                 entry.lightness,
+                             wanted.place.a + carry * state.carried.a - entry.a,
+                             wanted.place.b + carry * state.carried.b - entry.b};
         const float squared = squaredDistance(left, {});
         next = {left, state.error + squared};
-        if (index == pixel.first)
+        if (index == first)
             return true;
-        const float most = tolerance_.limit(pixel.colour) + colours_.wanted[pixel.colour].distance;
-        return squared <= most * most && tolerance_.allows(pixel.colour, index);
+        const float most = tolerance_.limit(colour) + wanted.distance;
+        return squared <= most * most && tolerance_.allows(colour, index);
     }
 
 private:
     static constexpr float carry = 0.75f;
 
-    State begun(const Pixel &pixel, std::uint8_t index) const {
-        if (pixel.colour == PreparedPicture::kept || int(index) == colours_.transparent)
+    State begun(std::uint32_t colour, std::uint8_t index) const {
+        if (colour == PreparedPicture::kept || int(index) == colours_.transparent)
             return {};
-        const Perceived &wanted = colours_.wanted[pixel.colour].place;
+        const Perceived &wanted = colours_.wanted[colour].place;
         const Perceived &entry = colours_.entries[index];
         const Perceived left{wanted.lightness - entry.lightness, wanted.a - entry.a,
                              wanted.b - entry.b};
         return {left, squaredDistance(left, {})};
     }
 
-    std::span<const Pixel> pixels_;
+    std::span<const std::uint32_t> pixels_;
+    std::span<const IndexPair> pairs_;
     Colours colours_;
     Tolerance &tolerance_;
 };

@@ -12,6 +12,9 @@ namespace gif {
 namespace {
 
 constexpr std::size_t mostEntries = 256;
+/// Pictures of up to so many pixels are coded in both ways, larger ones in the way that was shorter
+/// last time.
+constexpr std::int64_t mostTriedTwice = 1 << 15;
 
 TableInUse ownTable(const PreparedPicture &picture) {
     TableInUse own{picture.table, {}, -1, false};
@@ -26,7 +29,9 @@ TableInUse ownTable(const PreparedPicture &picture) {
 
 PictureCoder::PictureCoder(int width, int height, float tolerance, Workers &workers)
     : width_(width), tolerance_(tolerance), workers_(workers),
-      canvas_(std::size_t(width) * std::size_t(height)) {}
+      canvas_(std::size_t(width) * std::size_t(height)), spaces_(1) {}
+
+PictureCoder::~PictureCoder() = default;
 
 std::optional<CodedPicture> PictureCoder::code(const PreparedPicture &picture,
                                                const std::stop_token &stop) {
@@ -35,12 +40,18 @@ std::optional<CodedPicture> PictureCoder::code(const PreparedPicture &picture,
     const TableInUse own = ownTable(picture);
     std::vector<PictureJob> jobs;
     const auto offer = [&](const TableInUse &table) {
+        spaces_[0].tolerance.begin(picture, table.table, table.nearest, tolerance_);
         const Rect box =
-            begun_ ? neededBox(picture, table, canvas_, width_, tolerance_) : picture.box;
-        for (const auto kept : {PictureJob::Kept::Shown, PictureJob::Kept::Transparent}) {
-            if (!box.isEmpty() && (jobs.empty() || table.transparent >= 0))
-                jobs.push_back({&picture, &table, canvas_, width_, tolerance_, box, kept, 0});
-        }
+            begun_ ? neededBox(picture, table, canvas_, width_, tolerance_, spaces_[0].tolerance)
+                   : picture.box;
+        if (box.isEmpty())
+            return;
+        using Kept = PictureJob::Kept;
+        const Kept likely = preferShown_ ? Kept::Shown : Kept::Transparent;
+        const Kept other = preferShown_ ? Kept::Transparent : Kept::Shown;
+        jobs.push_back({&picture, &table, canvas_, width_, tolerance_, box, likely, 0});
+        if (table.transparent >= 0 && std::int64_t(box.width) * box.height <= mostTriedTwice)
+            jobs.push_back({&picture, &table, canvas_, width_, tolerance_, box, other, 0});
     };
     offer(own);
     begun_ = true;
@@ -54,38 +65,40 @@ std::optional<CodedPicture> PictureCoder::code(const PreparedPicture &picture,
 
 /// Tries all jobs, and shows the smallest result on the canvas.
 CodedPicture PictureCoder::best(const std::vector<PictureJob> &jobs, const std::stop_token &stop) {
-    if (coders_.size() < jobs.size())
-        coders_.resize(jobs.size());
-    std::vector<PictureAttempt> attempts(jobs.size());
+    if (spaces_.size() < jobs.size())
+        spaces_.resize(jobs.size());
+    std::vector<CodedPicture> attempts(jobs.size());
     std::vector<std::future<void>> running;
     for (std::size_t i = 1; i < jobs.size(); ++i) {
         running.push_back(
-            workers_.start([&, i] { attempts[i] = attempt(jobs[i], coders_[i], stop); }, true));
+            workers_.start([&, i] { attempts[i] = attempt(jobs[i], spaces_[i], stop); }, true));
     }
-    attempts[0] = attempt(jobs[0], coders_[0], stop);
+    attempts[0] = attempt(jobs[0], spaces_[0], stop);
     for (std::future<void> &job : running)
         workers_.wait(job);
     if (stop.stop_requested())
         return {};
-    const auto smallest = std::ranges::min_element(attempts, {}, &PictureAttempt::bytes);
-    const TableInUse &table = *jobs[std::size_t(smallest - attempts.begin())].table;
-    const Rect &box = smallest->coded.box;
-    const std::uint8_t *index = smallest->indices.data();
-    for (int y = box.y; y < box.y + box.height; ++y) {
+    const auto smallest = std::ranges::min_element(attempts, {}, bytesOf) - attempts.begin();
+    const PictureJob &job = jobs[std::size_t(smallest)];
+    if (jobs.size() > 1)
+        preferShown_ = job.kept == PictureJob::Kept::Shown;
+    const std::uint8_t *index = spaces_[std::size_t(smallest)].indices.data();
+    for (int y = job.box.y; y < job.box.y + job.box.height; ++y) {
         Rgb *row = &canvas_[std::size_t(y) * std::size_t(width_)];
-        for (int x = box.x; x < box.x + box.width; ++x, ++index) {
-            if (int(*index) != table.transparent)
-                row[x] = table.table[*index];
+        for (int x = job.box.x; x < job.box.x + job.box.width; ++x, ++index) {
+            if (int(*index) != job.table->transparent)
+                row[x] = job.table->table[*index];
         }
     }
-    return std::move(smallest->coded);
+    return std::move(attempts[std::size_t(smallest)]);
 }
 
 CodedPicture PictureCoder::unchangedPixel() const {
     LzwCoder coder;
-    std::vector<std::uint8_t> index{0}, chosen;
+    const std::vector<IndexPair> index(1);
+    std::vector<std::uint8_t> chosen;
     CodedPicture picture{{0, 0, 1, 1}, {canvas_[0]}, -1, 2, {}};
-    picture.data = coder.code(PairChoices(index, index), picture.codeSize, {}, chosen);
+    picture.data = coder.code(PairChoices(index), picture.codeSize, {}, chosen);
     return picture;
 }
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "export/gif/lzw_coder.h"
 #include "export/gif/prepared_picture.h"
 #include "export/gif/workers.h"
 
@@ -28,6 +27,7 @@ struct SharedTable {
 };
 
 struct PictureJob;
+struct PictureSpace;
 
 /// Codes pictures onto the canvas: what a viewer shows so far.
 ///
@@ -38,6 +38,7 @@ class PictureCoder {
 public:
     /// `tolerance` in CIEDE2000; 0 writes the nearest entry everywhere. `workers` outlives this.
     PictureCoder(int width, int height, float tolerance, Workers &workers);
+    ~PictureCoder();
 
     void setSharedTable(SharedTable table) { shared_ = std::move(table); }
 
@@ -56,7 +57,8 @@ private:
     std::vector<Rgb> canvas_;
     bool begun_ = false;
     SharedTable shared_;
-    std::vector<LzwCoder> coders_;
+    std::vector<PictureSpace> spaces_;
+    bool preferShown_ = true; ///< what was shorter for the picture before
 };
 
 } // namespace gif

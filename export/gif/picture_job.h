@@ -3,6 +3,7 @@
 #pragma once
 
 #include "export/gif/lzw_coder.h"
+#include "export/gif/near_choices.h"
 #include "export/gif/picture_coder.h"
 #include "export/gif/prepared_picture.h"
 
@@ -24,7 +25,7 @@ struct TableInUse {
 /// now this way, now that. What it points to outlives it.
 struct PictureJob {
     /// What a kept pixel is rather, where both serve.
-    enum class Kept { Shown, Transparent, OnlyTransparent };
+    enum class Kept { Shown, Transparent };
 
     const PreparedPicture *picture = nullptr;
     const TableInUse *table = nullptr;
@@ -36,18 +37,23 @@ struct PictureJob {
     int lookAhead = 0;
 };
 
-struct PictureAttempt {
-    CodedPicture coded;
-    std::vector<std::uint8_t> indices; ///< of the box
-
-    std::size_t bytes() const;
+/// What one job after another works with.
+struct PictureSpace {
+    LzwCoder coder;
+    Tolerance tolerance;
+    std::vector<IndexPair> pairs;
+    std::vector<std::uint32_t> colours;
+    std::vector<std::uint8_t> indices; ///< of the box, as they were coded
 };
+
+/// What a picture adds to the file, but for some bytes that every picture has.
+std::size_t bytesOf(const CodedPicture &coded);
 
 /// The smallest box around the pixels that the canvas does not show well enough.
 Rect neededBox(const PreparedPicture &picture, const TableInUse &table, std::span<const Rgb> canvas,
-               int canvasWidth, float tolerance);
+               int canvasWidth, float tolerance, Tolerance &judge);
 
 /// No data when `stop` was asked for.
-PictureAttempt attempt(const PictureJob &job, LzwCoder &coder, const std::stop_token &stop);
+CodedPicture attempt(const PictureJob &job, PictureSpace &space, const std::stop_token &stop);
 
 } // namespace gif

@@ -14,11 +14,20 @@ namespace {
 
 using Indices = std::vector<std::uint8_t>;
 
+std::vector<IndexPair> pairs(std::span<const std::uint8_t> first,
+                             std::span<const std::uint8_t> second) {
+    std::vector<IndexPair> both;
+    for (std::size_t i = 0; i < first.size(); ++i)
+        both.push_back({first[i], second[i]});
+    return both;
+}
+
 std::vector<std::uint8_t> codedExactly(LzwCoder &coder, std::span<const std::uint8_t> indices,
                                        int codeSize, int lookAhead = 0) {
     Indices chosen;
+    const auto both = pairs(indices, indices);
     auto data =
-        coder.code(PairChoices(indices, indices), codeSize, {.lookAhead = lookAhead}, chosen);
+        coder.code(PairChoices(both), codeSize, {.lookAhead = lookAhead}, chosen);
     EXPECT_TRUE(std::ranges::equal(chosen, indices));
     return data;
 }
@@ -111,7 +120,7 @@ TEST(Lzw, takesTheIndexThatMakesTheFileShorterAndNoOther) {
     }
     Indices chosen;
     const auto always = codedExactly(coder, first, 6);
-    const auto data = coder.code(PairChoices(second, first), 6, {.lookAhead = 2}, chosen);
+    const auto data = coder.code(PairChoices(pairs(second, first)), 6, {.lookAhead = 2}, chosen);
     const auto got = decodeSlowly(data, 6);
     ASSERT_TRUE(got);
     EXPECT_EQ(got->indices, chosen);
@@ -131,5 +140,5 @@ TEST(Lzw, stopsWhenAsked) {
     stop.request_stop();
     Indices chosen;
     const Indices indices(100, 1);
-    EXPECT_TRUE(coder.code(PairChoices(indices, indices), 2, {}, chosen, stop.get_token()).empty());
+    EXPECT_TRUE(coder.code(PairChoices(pairs(indices, indices)), 2, {}, chosen, stop.get_token()).empty());
 }
