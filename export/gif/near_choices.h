@@ -40,8 +40,8 @@ private:
 /// CIEDE2000 and is worked out when it is first asked for, as few pairs ever are.
 class Tolerance {
 public:
-    /// Judges colours of `picture`, which outlives this, from now on; none when there is no tolerance. Of `tolerance` flat colours
-    /// may use half.
+    /// Judges colours of `picture`, which outlives this, from now on; none when there is no
+    /// tolerance. Of `tolerance` flat colours may use half.
     void begin(const PreparedPicture &picture, std::span<const Rgb> table,
                std::span<const std::uint8_t> nearest, float tolerance);
 

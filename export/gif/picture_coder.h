@@ -58,7 +58,6 @@ private:
     bool begun_ = false;
     SharedTable shared_;
     std::vector<PictureSpace> spaces_;
-    bool preferShown_ = true; ///< what was shorter for the picture before
 };
 
 } // namespace gif

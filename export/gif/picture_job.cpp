@@ -12,7 +12,7 @@ namespace gif {
 namespace {
 
 /// The longest phrases are looked for only so far where many entries are near enough.
-constexpr int mostVisits = 1000;
+constexpr int mostVisits = 4096;
 
 /// Whether a pixel may stay what the canvas shows.
 class Shown {
