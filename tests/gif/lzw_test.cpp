@@ -26,8 +26,7 @@ std::vector<std::uint8_t> codedExactly(LzwCoder &coder, std::span<const std::uin
                                        int codeSize, int lookAhead = 0) {
     Indices chosen;
     const auto both = pairs(indices, indices);
-    auto data =
-        coder.code(PairChoices(both), codeSize, {.lookAhead = lookAhead}, chosen);
+    auto data = coder.code(PairChoices(both), codeSize, {.lookAhead = lookAhead}, chosen);
     EXPECT_TRUE(std::ranges::equal(chosen, indices));
     return data;
 }
@@ -140,5 +139,6 @@ TEST(Lzw, stopsWhenAsked) {
     stop.request_stop();
     Indices chosen;
     const Indices indices(100, 1);
-    EXPECT_TRUE(coder.code(PairChoices(pairs(indices, indices)), 2, {}, chosen, stop.get_token()).empty());
+    EXPECT_TRUE(
+        coder.code(PairChoices(pairs(indices, indices)), 2, {}, chosen, stop.get_token()).empty());
 }
