@@ -1,112 +1,183 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 //
-// bench_gif RAW WIDTH HEIGHT RATE TOLERANCE THREADS OUT: codes raw RGB frames as one GIF, and
-// prints its size, its pictures, and the processor time and time of the encoder alone.
+// The presets on recordings: size, time and likeness of each in one run.
+//   bench_gif                          recordings made here
+//   bench_gif NAME RAW WIDTH HEIGHT RATE [FOLDER]
+//                                      one of raw RGB frames; its files are kept in the folder
+#include "bench/gif/recordings.h"
+#include "export/gif/colour.h"
 #include "export/gif/encoder.h"
 
 #include <chrono>
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <string>
-#include <vector>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <unordered_map>
 
 namespace {
 
-constexpr int tile = 64;
+constexpr int threads = 2;
+constexpr std::size_t measuredFrames = 24;
 
-/// All frames in memory, with the tiles of 64 by 64 in which each differs from the one before: what
-/// a recording knows.
-class Recording : public gif::FrameSource {
-public:
-    Recording(const char *path, int width, int height, double rate)
-        : width_(width), height_(height), rate_(rate) {
-        std::FILE *file = std::fopen(path, "rb");
-        if (!file)
-            std::exit(2);
-        const auto pixels = std::size_t(width) * std::size_t(height);
-        std::vector<unsigned char> raw(pixels * 3);
-        while (std::fread(raw.data(), 1, raw.size(), file) == raw.size()) {
-            std::vector<std::uint32_t> frame(pixels);
-            for (std::size_t i = 0; i < pixels; ++i)
-                frame[i] =
-                    0xFF000000u | unsigned(raw[3 * i] << 16 | raw[3 * i + 1] << 8) | raw[3 * i + 2];
-            findChanges(frame);
-            frames_.push_back(std::move(frame));
-        }
-        std::fclose(file);
-    }
+struct Preset {
+    const char *name;
+    float tolerance;
+};
+constexpr Preset presets[] = {{"Best", gif::bestTolerance},
+                              {"Balanced", gif::balancedTolerance},
+                              {"Small", gif::smallTolerance}};
 
-    bool next(gif::Frame &frame) override {
-        if (next_ == frames_.size())
-            return false;
-        frame.pixels = frames_[next_].data();
-        frame.stride = width_;
-        frame.changed = changes_[next_];
-        const auto at = [&](std::size_t i) { return std::llround(double(i) * 100 / rate_); };
-        frame.delay = at(next_ + 1) - at(next_);
-        ++next_;
+struct Made {
+    std::vector<std::uint8_t> bytes;
+    gif::Outcome outcome;
+    double seconds = 0;
+    double processor = 0;
+};
+
+/// Of all threads, in seconds.
+double processorTime() { return double(std::clock()) / CLOCKS_PER_SEC; }
+
+Made encoded(BenchRecording &recording, float tolerance) {
+    gif::Options options{.width = recording.width, .height = recording.height};
+    options.tolerance = tolerance;
+    options.threads = threads;
+    recording.rewind();
+    Made made;
+    const auto began = std::chrono::steady_clock::now();
+    const double before = processorTime();
+    made.outcome = gif::encode(recording, options, [&](std::span<const std::uint8_t> part) {
+        made.bytes.insert(made.bytes.end(), part.begin(), part.end());
         return true;
-    }
+    });
+    made.processor = processorTime() - before;
+    made.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
+    return made;
+}
 
-    bool rewind() override {
-        next_ = 0;
-        return true;
+/// The delays of all pictures, by the blocks of the file.
+std::vector<std::int64_t> delaysOf(const std::vector<std::uint8_t> &bytes) {
+    std::vector<std::int64_t> delays;
+    const auto tableSize = [](int flags) {
+        return flags & 0x80 ? std::size_t(6) << (flags & 7) : 0;
+    };
+    std::size_t at = 13 + tableSize(bytes[10]);
+    while (bytes[at] != 0x3B) {
+        if (bytes[at] == 0x21) {
+            if (bytes[at + 1] == 0xF9)
+                delays.push_back(bytes[at + 4] | bytes[at + 5] << 8);
+            at += 2;
+        } else
+            at += 11 + tableSize(bytes[at + 9]);
+        while (bytes[at] != 0)
+            at += bytes[at] + std::size_t(1);
+        ++at;
     }
+    return delays;
+}
 
-private:
-    void findChanges(const std::vector<std::uint32_t> &frame) {
-        std::vector<gif::Rect> changed;
-        for (int y = 0; !frames_.empty() && y < height_; y += tile) {
-            for (int x = 0; x < width_; x += tile) {
-                const int right = std::min(x + tile, width_), bottom = std::min(y + tile, height_);
-                bool differs = false;
-                for (int row = y; row < bottom && !differs; ++row) {
-                    const auto begin = std::size_t(row) * std::size_t(width_) + std::size_t(x);
-                    differs = !std::equal(frame.begin() + std::ptrdiff_t(begin),
-                                          frame.begin() + std::ptrdiff_t(begin) + (right - x),
-                                          frames_.back().begin() + std::ptrdiff_t(begin));
-                }
-                if (differs)
-                    changed.push_back({x, y, right - x, bottom - y});
+/// The mean CIEDE2000 of some frames against the recording, as ffmpeg composes the file.
+double meanDifference(const BenchRecording &recording, const std::vector<std::uint8_t> &bytes,
+                      const std::string &path) {
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char *>(bytes.data()), std::streamsize(bytes.size()));
+    const std::string command = "ffmpeg -v error -nostdin -i '" + path +
+                                "' -fps_mode passthrough -enc_time_base 0.001 -f rawvideo "
+                                "-pix_fmt rgb24 -";
+    std::FILE *pipe = popen(command.c_str(), "r");
+    if (!pipe)
+        throw std::runtime_error("ffmpeg does not run");
+    const auto pixels = std::size_t(recording.width) * std::size_t(recording.height);
+    std::vector<unsigned char> shown(pixels * 3);
+    std::unordered_map<std::uint64_t, float> known;
+    double sum = 0;
+    std::int64_t end = 0, begin = 0, measured = 0;
+    std::size_t frame = 0;
+    for (const std::int64_t delay : delaysOf(bytes)) {
+        if (std::fread(shown.data(), 1, shown.size(), pipe) != shown.size())
+            throw std::runtime_error("the file does not decode");
+        end += delay;
+        for (; frame < recording.size() && begin < end; begin += recording.delay(frame++)) {
+            if (frame % std::max(recording.size() / measuredFrames, std::size_t(1)) != 0)
+                continue;
+            ++measured;
+            for (std::size_t i = 0; i < pixels; ++i) {
+                const std::uint32_t wanted = recording.pixels(frame)[i];
+                const std::uint32_t got =
+                    unsigned(shown[3 * i] << 16 | shown[3 * i + 1] << 8) | shown[3 * i + 2];
+                if (wanted == got)
+                    continue;
+                const auto [entry, fresh] = known.try_emplace(std::uint64_t(wanted) << 24 | got);
+                if (fresh)
+                    entry->second = gif::colourDifference(wanted, got);
+                sum += double(entry->second);
             }
         }
-        changes_.push_back(std::move(changed));
     }
+    pclose(pipe);
+    return sum / double(measured) / double(pixels);
+}
 
-    int width_, height_;
-    double rate_;
-    std::size_t next_ = 0;
-    std::vector<std::vector<std::uint32_t>> frames_;
-    std::vector<std::vector<gif::Rect>> changes_;
-};
+void report(BenchRecording &recording, const std::filesystem::path &folder) {
+    for (const Preset &preset : presets) {
+        const Made made = encoded(recording, preset.tolerance);
+        const std::string name = recording.name.substr(0, recording.name.find('/')) +
+                                 (recording.name.ends_with("/2") ? "-half-" : "-") + preset.name;
+        const double difference =
+            meanDifference(recording, made.bytes, (folder / (name + ".gif")).string());
+        std::printf("%-14s %-9s %9.1f KB %4lld pictures %6.2f s %6.2f s of processor, "
+                    "difference %.4f\n",
+                    recording.name.c_str(), preset.name, double(made.bytes.size()) / 1024,
+                    static_cast<long long>(made.outcome.pictures), made.seconds, made.processor,
+                    difference);
+        std::fflush(stdout);
+    }
+}
+
+/// What a change costs may depend neither on the picture around it nor on how long nothing changes.
+void reportScaling() {
+    const auto cost = [](int width, int height, int seconds) {
+        BenchRecording recording = madeSquare(width, height, seconds);
+        BenchRecording first = madeSquare(width, height, 0);
+        BenchRecording::Pixels pixels = recording.pixels(0);
+        first.add(std::move(pixels));
+        const double all = encoded(recording, gif::balancedTolerance).processor;
+        return std::pair(all, all - encoded(first, gif::balancedTolerance).processor);
+    };
+    const auto small = cost(1280, 800, 10), large = cost(3840, 2160, 10),
+               longer = cost(1280, 800, 60);
+    std::printf("A change of 200x100 on 3840x2160 costs %.2f of what it costs on 1280x800\n",
+                large.second / small.second);
+    std::printf("60 s with the changes of 10 s cost %.2f of these 10 s\n",
+                longer.first / small.first);
+}
 
 } // namespace
 
 int main(int argc, char **argv) {
-    if (argc != 8)
-        return 2;
-    Recording recording(argv[1], std::atoi(argv[2]), std::atoi(argv[3]), std::atof(argv[4]));
-    gif::Options options;
-    options.width = std::atoi(argv[2]);
-    options.height = std::atoi(argv[3]);
-    options.tolerance = float(std::atof(argv[5]));
-    options.threads = std::atoi(argv[6]);
-    std::FILE *out = std::fopen(argv[7], "wb");
-    if (!out)
-        return 2;
-    const auto began = std::chrono::steady_clock::now();
-    const std::clock_t processor = std::clock();
-    const gif::Outcome outcome =
-        gif::encode(recording, options, [&](std::span<const std::uint8_t> bytes) {
-            return std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
-        });
-    const double spent = double(std::clock() - processor) / CLOCKS_PER_SEC;
-    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - began;
-    std::fclose(out);
-    std::printf("%.1f KB, %lld pictures, %.2f s, processor %.2f s\n", double(outcome.bytes) / 1024,
-                static_cast<long long>(outcome.pictures), took.count(), spent);
-    return outcome.end == gif::Outcome::End::Complete ? 0 : 1;
+    const auto work = std::filesystem::temp_directory_path() / "tovarel-bench-gif";
+    std::filesystem::create_directories(work);
+    if (argc >= 6) {
+        BenchRecording recording(argv[1], std::atoi(argv[3]), std::atoi(argv[4]),
+                                 std::atof(argv[5]));
+        if (!recording.load(argv[2]))
+            return 2;
+        const std::filesystem::path folder = argc > 6 ? argv[6] : work;
+        report(recording, folder);
+        BenchRecording half = recording.halved();
+        report(half, folder);
+        return 0;
+    }
+    for (const auto &make : {madeDocument, madePan}) {
+        BenchRecording recording = make(1280, 800);
+        report(recording, work);
+        BenchRecording half = recording.halved();
+        report(half, work);
+    }
+    reportScaling();
+    std::filesystem::remove_all(work);
+    return 0;
 }
