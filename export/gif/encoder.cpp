@@ -121,7 +121,8 @@ private:
             next->picture = reader_.read(frame);
             next->delay = frame.delay;
             PreparedPicture &picture = next->picture;
-            next->prepared = workers_.start([&picture, this] { chooseColours(picture, stop_); });
+            next->prepared = workers_.start(
+                [&picture, this] { chooseColours(picture, options_.tolerance, stop_); });
             pending_.push_back(std::move(next));
         }
     }

@@ -88,6 +88,10 @@ namespace {
 
 /// So many pixels or colours are worked on between two looks at the token that stops.
 constexpr std::size_t stopEvery = 1 << 16;
+/// Pictures of more colours need all entries that there are.
+constexpr std::size_t mostToShrink = 2048;
+/// Of the tolerance, what a smaller table may cost each colour.
+constexpr float shareForTable = 1.0f;
 
 void countColours(PreparedPicture &picture, const std::stop_token &stop) {
     Histogram histogram;
@@ -120,9 +124,34 @@ void assignNearest(PreparedPicture &picture, const std::stop_token &stop) {
     }
 }
 
+/// Makes the table smaller where that costs no more than part of the tolerance: half the entries
+/// are half the bytes, and shorter codes.
+void shrinkTable(PreparedPicture &picture, std::span<const WantedColour> wanted, float tolerance,
+                 const std::stop_token &stop) {
+    const float most = shareForTable * tolerance;
+    const std::size_t reserved = picture.keepsPixels ? 1 : 0;
+    if (picture.colours.size() > mostToShrink)
+        return;
+    for (std::size_t size = 128; size >= 4 && !stop.stop_requested(); size /= 2) {
+        if (picture.table.size() <= size - reserved)
+            continue;
+        PreparedPicture smaller;
+        smaller.colours = picture.colours;
+        smaller.table = makeColourTable(wanted, size - reserved, stop);
+        assignNearest(smaller, stop);
+        for (const PreparedPicture::Colour &colour : smaller.colours) {
+            if (colour.distance > (colour.flat ? 0 : most))
+                return;
+        }
+        picture.colours = std::move(smaller.colours);
+        picture.table = std::move(smaller.table);
+        picture.exact = false;
+    }
+}
+
 } // namespace
 
-void chooseColours(PreparedPicture &picture, const std::stop_token &stop) {
+void chooseColours(PreparedPicture &picture, float tolerance, const std::stop_token &stop) {
     constexpr std::size_t mostEntries = 256;
     if (picture.box.isEmpty())
         return;
@@ -137,10 +166,13 @@ void chooseColours(PreparedPicture &picture, const std::stop_token &stop) {
     for (const PreparedPicture::Colour &colour : picture.colours)
         wanted.push_back({colour.rgb, colour.count, colour.flat});
     picture.table = makeColourTable(wanted, limit, stop);
-    if (!picture.exact)
-        return assignNearest(picture, stop);
-    for (std::size_t i = 0; i < picture.colours.size(); ++i)
-        picture.colours[i].nearest = std::uint8_t(i);
+    if (picture.exact) {
+        for (std::size_t i = 0; i < picture.colours.size(); ++i)
+            picture.colours[i].nearest = std::uint8_t(i);
+    } else
+        assignNearest(picture, stop);
+    if (tolerance > 0)
+        shrinkTable(picture, wanted, tolerance, stop);
 }
 
 } // namespace gif

@@ -28,9 +28,10 @@ private:
     std::vector<Rgb> recorded_; ///< the frame before
 };
 
-/// Counts the colours of a picture, finds its flat areas and makes its table. May be called for
+/// Counts the colours of a picture, finds its flat areas and makes its table: as small
+/// as `tolerance` (CIEDE2000) allows. May be called for
 /// several pictures at a time, each in a thread of its own. The picture is of no use when `stop`
 /// was asked for.
-void chooseColours(PreparedPicture &picture, const std::stop_token &stop);
+void chooseColours(PreparedPicture &picture, float tolerance, const std::stop_token &stop);
 
 } // namespace gif
