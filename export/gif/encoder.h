@@ -54,7 +54,8 @@ using Sink = std::function<bool(std::span<const std::uint8_t>)>;
 
 /// Makes an animated GIF of all frames that `source` has, and calls `sink` and `progress` in the
 /// caller's thread. When `stop` is asked for it returns within a tenth of a second, except from
-/// within the source. Whatever the number of frames, the memory is that of a few of them.
+/// within the source. Whatever the number of frames, the memory is that of a few of them; when
+/// there is not enough, std::bad_alloc comes out.
 Outcome encode(FrameSource &source, const Options &options, const Sink &sink,
                const std::stop_token &stop = {});
 

@@ -7,6 +7,7 @@
 #include "export/gif/picture_job.h"
 
 #include <algorithm>
+#include <exception>
 
 namespace gif {
 namespace {
@@ -79,13 +80,21 @@ CodedPicture PictureCoder::best(const std::vector<PictureJob> &jobs, const std::
         spaces_.resize(jobs.size());
     std::vector<CodedPicture> attempts(jobs.size());
     std::vector<std::future<void>> running;
-    for (std::size_t i = 1; i < jobs.size(); ++i) {
+    for (std::size_t i = 0; i < jobs.size(); ++i) {
         running.push_back(
             workers_.start([&, i] { attempts[i] = attempt(jobs[i], spaces_[i], stop); }, true));
     }
-    attempts[0] = attempt(jobs[0], spaces_[0], stop);
-    for (std::future<void> &job : running)
-        workers_.wait(job);
+    // When one fails, for want of memory, the others still work with what is here.
+    std::exception_ptr failure;
+    for (std::future<void> &job : running) {
+        try {
+            workers_.wait(job);
+        } catch (...) {
+            failure = std::current_exception();
+        }
+    }
+    if (failure)
+        std::rethrow_exception(failure);
     if (stop.stop_requested())
         return {};
     const auto smallest = std::ranges::min_element(attempts, {}, bytesOf) - attempts.begin();
