@@ -30,11 +30,15 @@ class GlobalShortcuts;
 class RecordingLoader;
 class WindowServer;
 enum class Answer;
+enum class GifPreset;
 struct Question;
 struct RecordingNote;
 struct SaveRequest;
 struct ToolExit;
 struct ToolRun;
+struct GifFileJob;
+struct GifFileResult;
+struct MadeGif;
 namespace Ui {
 class MainWindow;
 }
@@ -300,6 +304,12 @@ public:
     void updateWebPLoopsHint();
     /// Says what the file will hold: frames, seconds, and the rate that comes of it.
     void updateGIFSummary();
+    /// The quality that the GIF is made in.
+    GifPreset chosenGIFPreset() const;
+    /// Why the program's own encoder makes no GIF of the size that is typed, in the user's words:
+    /// no plain number from 1 to 65,535, or more memory than half of what is free. None when it
+    /// does.
+    std::optional<QString> GIFSizeRefusal() const;
     /// What the options ask for, of what is kept of the recording.
     frame_timing::Request timingRequest() const;
     /// Size of the recording's frames in pixels; none without a recording.
@@ -335,8 +345,8 @@ public:
     /// only prepares the next one. `type` is one of PROGRESS_TYPE_GIF and the others.
     ToolExit RunToolWithProgress(const QString &toolPath, const QStringList &arguments,
                                  std::uint64_t type = PROGRESS_TYPE_GIF);
-    /// Ends the export that is under way: the tool at once, the export itself when the tool has
-    /// ended. Its files are removed, the recording stays.
+    /// Ends the export that is under way: tool and encoder at once, the export itself when they
+    /// have ended. Its files are removed, the recording stays.
     void cancelExport();
     /// The watched tool has written to its output: takes it and forgets it.
     void outData(QProcess &tool);
@@ -348,8 +358,14 @@ public:
     static std::uint64_t Return_Seconds_From_VOB_Duration_Str(const QString &stamp);
 
 private:
+    /// Makes the GIF with the program's own encoder, in threads of its own, while events are
+    /// turned.
+    MadeGif makeGIF(std::span<const frame_timing::TimedFrame> frames, float tolerance);
+    GifFileResult runEncoder(const GifFileJob &job);
+    /// Stages the frames and makes the GIF by three runs of `ffmpeg`.
+    MadeGif makeClassicGIF(std::span<const frame_timing::TimedFrame> frames);
     /// The three runs and the look at their result: why there is no GIF, or none.
-    std::optional<QString> encodeGIF(std::span<const frame_timing::TimedFrame> frames);
+    std::optional<QString> runClassicEncoder(std::span<const frame_timing::TimedFrame> frames);
     /// Likewise for the WebP.
     std::optional<QString> encodeWebP(std::span<const frame_timing::TimedFrame> frames);
     /// Scales the frames, each once, into files of their own in the export folder.
@@ -375,6 +391,7 @@ private:
     void connectRecordControls();
     void connectTrimControls();
     void connectExportControls();
+    void connectGIFQuality();
 
     /// Ends the process as the user wishes it, by closing the window or from the menu. Returns when
     /// something has to be answered first.

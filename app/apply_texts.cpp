@@ -84,6 +84,9 @@ void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
     ui.labelFPS->setText(texts.s_IDD_FPS());
     ui.comboGIFFPS->setAccessibleName(texts.s_IDD_FPS());
     ui.labelNote->setText(texts.s_IDD_NOTE());
+    ui.labelQuality->setText(qtTrId("IDD_QUALITY"));
+    ui.comboGIFQuality->setAccessibleName(qtTrId("IDD_QUALITY"));
+    ui.comboGIFQuality->setToolTip(qtTrId("IDD_QUALITY_TIP"));
     ui.labelSpeed->setText(qtTrId("IDD_SPEED"));
     ui.comboGIFSpeed->setAccessibleName(qtTrId("IDD_SPEED"));
     ui.labelWebPLoops->setText(qtTrId("IDD_WEBP_LOOPS"));

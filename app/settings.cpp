@@ -13,11 +13,20 @@ namespace {
 const QString howToKey = QStringLiteral("MACBrenmoor_Lumsey_b_Show_Select_Region_How_To");
 
 const QString lastSaveFolderKey = QStringLiteral("LastSaveFolder");
+const QString qualityKey = QStringLiteral("GIFQuality");
 
 void sync(QSettings &store) {
     store.sync();
     if (store.status() != QSettings::NoError)
         qWarning("the settings file %s cannot be written", qUtf8Printable(store.fileName()));
+}
+
+void write(const QString &key, const QString &text) {
+    QSettings store;
+    if (store.value(key).toString() == text)
+        return;
+    store.setValue(key, text);
+    sync(store);
 }
 
 } // namespace
@@ -38,13 +47,11 @@ void writeShowSelectRegionHowTo(std::int64_t flag) {
 
 QString readLastSaveFolder() { return QSettings().value(lastSaveFolderKey).toString(); }
 
-void writeLastSaveFolder(const QString &folder) {
-    QSettings store;
-    if (store.value(lastSaveFolderKey).toString() == folder)
-        return;
-    store.setValue(lastSaveFolderKey, folder);
-    sync(store);
-}
+void writeLastSaveFolder(const QString &folder) { write(lastSaveFolderKey, folder); }
+
+QString readGIFQuality() { return QSettings().value(qualityKey).toString(); }
+
+void writeGIFQuality(const QString &word) { write(qualityKey, word); }
 
 void flush() {
     QSettings store;

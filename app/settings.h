@@ -23,6 +23,11 @@ void writeShowSelectRegionHowTo(std::int64_t flag);
 QString readLastSaveFolder();
 void writeLastSaveFolder(const QString &folder);
 
+/// The word of the GIF's quality that was chosen last, as it was stored; empty before the first
+/// choice. What the words are is for the exports to know.
+QString readGIFQuality();
+void writeGIFQuality(const QString &word);
+
 /// Writes what is not on disk yet.
 void flush();
 

@@ -69,6 +69,7 @@ void AppDelegate::connectExportControls() {
 
     connect(ui->checkGIFKeepAspectRatio, &QCheckBox::toggled, this,
             [this] { OnGIFChangeKeepAspectRatio(ui->checkGIFKeepAspectRatio); });
+    connectGIFQuality();
     for (const double speed : frame_timing::speeds)
         ui->comboGIFSpeed->addItem(QLocale().toString(speed) + QChar(u'×'), speed);
     ui->comboGIFSpeed->setCurrentIndex(ui->comboGIFSpeed->findData(1.0));

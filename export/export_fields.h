@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <stop_token>
 
 class Window_Progress;
 
@@ -43,6 +44,9 @@ public:
 
     /// What the watched tool wrote to its error output, or the end of it.
     QByteArray toolErrors;
+
+    /// Ends the program's own encoder while it runs.
+    std::stop_source encoderStop;
 
     /// Whether an export is under way, its save panel and alerts included.
     bool exportRuns() const { return exportRuns_; }

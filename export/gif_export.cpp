@@ -4,20 +4,72 @@
 #include "app/working_folders.h"
 #include "export/encoder_arguments.h"
 #include "export/export_checks.h"
+#include "export/frame_file_source.h"
+#include "export/frame_store_source.h"
+#include "export/gif_file.h"
+#include "export/gif_preset.h"
+#include "export/made_gif.h"
 #include "export/save_request.h"
-#include "export/staging.h"
-#include "export/tool_failure.h"
+#include "platform/text_number.h"
 #include "ui_MainWindow.h"
 
-#include <QFileInfo>
-#include <QImageReader>
+#include <QCoreApplication>
 #include <QLocale>
 
 #include <algorithm>
+#include <cmath>
+#include <thread>
+
+using frame_timing::TimedFrame;
 
 namespace {
 
-const QString encoder = QStringLiteral("ffmpeg");
+constexpr double barSteps = 1000; // that the bar is moved in, at most
+
+/// What there is to say about the finished GIF, beside its place.
+QString noteAbout(const MadeGif &made, std::size_t wanted) {
+    const QLocale locale;
+    if (made.frames < wanted)
+        return qtTrId("IDD_STATUS_GAP")
+            .arg(locale.toString(qulonglong{made.frames}), locale.toString(qulonglong{wanted}));
+    return made.moves ? QString() : qtTrId("IDD_STATUS_STILL");
+}
+
+/// Gives the job the frames of the store, which is whole even where files are missing; else those
+/// of the files.
+void feed(GifFileJob &job, const std::optional<std::vector<Image>> &store, const QString &folder,
+          std::span<const TimedFrame> frames) {
+    const bool stored = store && std::ranges::all_of(frames, [&](const TimedFrame &each) {
+                            return each.source < store->size();
+                        });
+    if (stored) {
+        std::vector<FrameStoreSource::Shown> shown;
+        for (const TimedFrame &each : frames)
+            shown.push_back({(*store)[each.source], static_cast<std::int64_t>(each.delay)});
+        auto source = std::make_unique<FrameStoreSource>(std::move(shown));
+        job.sourceSize = source->size();
+        job.source = std::move(source);
+        return;
+    }
+    std::vector<FrameFileSource::Shown> shown;
+    for (const TimedFrame &each : frames)
+        shown.push_back({working_folders::frameFile(folder, each.source),
+                         static_cast<std::int64_t>(each.delay)});
+    auto source = std::make_unique<FrameFileSource>(std::move(shown));
+    job.sourceSize = source->size();
+    job.source = std::move(source);
+}
+
+std::optional<QString> failureOf(const GifFileResult &result, const GifFileJob &job,
+                                 const QString &frames) {
+    if (result.outOfMemory)
+        return qtTrId("IDD_GIF_NO_MEMORY");
+    if (!result.writeError.isEmpty())
+        return qtTrId("IDD_GIF_NOT_WRITTEN").arg(job.file, result.writeError);
+    if (result.outcome.end == gif::Outcome::End::NoFrames)
+        return qtTrId("IDD_GIF_NO_FRAMES").arg(frames);
+    return std::nullopt;
+}
 
 } // namespace
 
@@ -26,7 +78,12 @@ void AppDelegate::OnGIFExport(QObject *) {
         return;
     const ExportMark mark(exporting);
     finishEditingGIFSize();
-    if (const std::optional<QString> reason = refusal(*this)) {
+    const GifPreset preset = chosenGIFPreset();
+    std::optional<QString> reason = refusal(*this);
+    // The other encoder judges sizes itself.
+    if (!reason && preset != GifPreset::Classic)
+        reason = GIFSizeRefusal();
+    if (reason) {
         RunAlert(QStringLiteral("Error"), *reason);
         return;
     }
@@ -34,57 +91,66 @@ void AppDelegate::OnGIFExport(QObject *) {
         return;
     ShowStatus({});
     RemoveAllContentInFolder(shell.s_Export_Folder());
-    showExportSheet(qtTrId("IDD_PROGRESS_GIF"), qtTrId("IDD_PROGRESS_PALETTE"));
+    showExportSheet(qtTrId("IDD_PROGRESS_GIF"), QStringLiteral("%p%"));
     RemoveAllContentInFolder(shell.s_Pallete_Folder());
     // Somebody may have taken them away since the start.
     working_folders::ensureFolder(shell.s_Export_Folder());
     working_folders::ensureFolder(shell.s_Pallete_Folder());
-    using namespace frame_timing;
-    const std::vector<TimedFrame> frames = timedFrames(timingRequest(), gifTicks);
-    const std::span<const TimedFrame> all(frames);
-    const std::uint64_t staged = stageFrames(shell.s_Output_Folder(), all, shell.s_Export_Folder());
-    stageFrames(shell.s_Output_Folder(),
-                all.first(std::min<std::size_t>(all.size(), encoder_arguments::paletteFrames)),
-                shell.s_Pallete_Folder());
-    if (endedWithoutResult(encodeGIF(all)))
+    const std::vector<TimedFrame> frames =
+        frame_timing::timedFrames(timingRequest(), frame_timing::gifTicks);
+    const MadeGif made = preset == GifPreset::Classic ? makeClassicGIF(frames)
+                                                      : makeGIF(frames, presetTolerance(preset));
+    if (endedWithoutResult(made.failure))
         return;
-    const QString gif = encoder_arguments::gifFile(shell.s_Export_Folder());
-    QString note;
-    if (staged < frames.size()) {
-        // The input ends at the gap, or begins after it: only the file knows what it holds.
-        const QLocale locale;
-        note = qtTrId("IDD_STATUS_GAP")
-                   .arg(locale.toString(QImageReader(gif).imageCount()),
-                        locale.toString(qulonglong{frames.size()}));
-        ShowStatus(note);
-    }
-    saveResult({.file = gif,
+    const QString note = noteAbout(made, frames.size());
+    ShowStatus(note);
+    saveResult({.file = encoder_arguments::gifFile(shell.s_Export_Folder()),
                 .panelTitle = QStringLiteral("Select a folder to save the GIF image"),
                 .successText = texts.s_IDD_GIF_SAVED_OK(),
                 .note = note});
 }
 
-std::optional<QString> AppDelegate::encodeGIF(std::span<const frame_timing::TimedFrame> frames) {
-    using namespace encoder_arguments;
-    const QString &tool = shell.sffmpegPath();
-    const QString &palette = shell.s_Pallete_Folder();
-    for (const QStringList &arguments :
-         {paletteVideoArguments(palette), paletteArguments(palette)}) {
-        const ToolRun run = RunToolReadAllOutput(tool, arguments);
-        if (!run.exit.succeeded())
-            return toolFailureText(encoder, run.exit);
-    }
-    const QString width = ui->textGIFWidth->text();
-    const QString height = ui->textGIFHeigth->text();
-    setProgressText(qtTrId("IDD_PROGRESS_PICTURES"));
-    exporting.setI_Orig_Duration_in_Seconds(
-        frame_timing::beginOfLast(frames, frame_timing::gifTicks));
-    const ToolExit exit = RunToolWithProgress(
-        tool, gifArguments(shell.s_Export_Folder(), palette, frames, width, height));
-    if (!exit.succeeded())
-        return refusedSizeText(encoder, exit, width, height);
-    const QString gif = gifFile(shell.s_Export_Folder());
-    if (QFileInfo(gif).size() == 0)
-        return noResultText(encoder, gif, exit);
-    return std::nullopt;
+MadeGif AppDelegate::makeGIF(std::span<const TimedFrame> frames, float tolerance) {
+    GifFileJob job{.source = {},
+                   .sourceSize = {},
+                   .size = QSize(static_cast<int>(integerValue(ui->textGIFWidth->text())),
+                                 static_cast<int>(integerValue(ui->textGIFHeigth->text()))),
+                   .tolerance = tolerance,
+                   .file = encoder_arguments::gifFile(shell.s_Export_Folder())};
+    feed(job, recording.array_Images, shell.s_Output_Folder(), frames);
+    double shown = 0;
+    const auto total = static_cast<double>(frames.size());
+    job.progress = [this, total, &shown](std::int64_t done) {
+        // The window has more to do than to follow a bar by less than it can show.
+        const double share = std::floor(static_cast<double>(done) * barSteps / total);
+        if (share <= shown)
+            return;
+        shown = share;
+        QMetaObject::invokeMethod(
+            this, [this, share] { setProgressValue(share * 100.0 / barSteps); },
+            Qt::QueuedConnection);
+    };
+    const GifFileResult result = runEncoder(job);
+    return {.failure = failureOf(result, job, shell.s_Output_Folder()),
+            .frames = static_cast<std::uint64_t>(result.outcome.frames),
+            .moves = result.outcome.pictures > 1};
+}
+
+GifFileResult AppDelegate::runEncoder(const GifFileJob &job) {
+    exporting.encoderStop = std::stop_source();
+    // Cancel may have been pressed while the sheet was being shown.
+    if (exporting.exportCancelled())
+        exporting.encoderStop.request_stop();
+    const std::stop_token stop = exporting.encoderStop.get_token();
+    GifFileResult result;
+    bool ended = false;
+    const std::jthread encoder([this, &job, &stop, &result, &ended] {
+        result = writeGifFile(job, stop);
+        // After the last report of progress, and what wakes the loop.
+        QMetaObject::invokeMethod(
+            this, [&ended] { ended = true; }, Qt::QueuedConnection);
+    });
+    while (!ended)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return result;
 }

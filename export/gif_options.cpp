@@ -16,22 +16,6 @@ void write(QLineEdit &field, const QString &text) {
     field.setModified(false);
 }
 
-QString problemText(SizeTextProblem problem) {
-    switch (problem) {
-    case SizeTextProblem::None:
-        break;
-    case SizeTextProblem::Zero:
-        return qtTrId("IDD_SIZE_ZERO");
-    case SizeTextProblem::Negative:
-        return qtTrId("IDD_SIZE_NEGATIVE");
-    case SizeTextProblem::NotPlain:
-        return qtTrId("IDD_SIZE_NOT_PLAIN");
-    case SizeTextProblem::TooLarge:
-        return qtTrId("IDD_SIZE_TOO_LARGE");
-    }
-    return {};
-}
-
 } // namespace
 
 void AppDelegate::resetGIFOptions() {
@@ -44,6 +28,8 @@ void AppDelegate::resetGIFOptions() {
                                  ui->radioGIFOriginalFPS,
                                  ui->radioGIFCustomFPS,
                                  ui->comboGIFFPS,
+                                 ui->labelQuality,
+                                 ui->comboGIFQuality,
                                  ui->labelSpeed,
                                  ui->comboGIFSpeed,
                                  ui->btnGIFExport};
@@ -155,7 +141,7 @@ void AppDelegate::updateGIFDimensionHint() {
                   {ui->textGIFHeigth, texts.s_IDD_HEIGHT()}};
     for (const auto &[field, name] : fields) {
         const QString problem =
-            field->isEnabled() ? problemText(sizeTextProblem(field->text())) : QString();
+            field->isEnabled() ? sizeProblemText(sizeTextProblem(field->text())) : QString();
         field->setAccessibleDescription(problem);
         if (hint.isEmpty() && !problem.isEmpty())
             hint = qtTrId("IDD_SIZE_HINT").arg(name, problem);

@@ -117,6 +117,14 @@ std::optional<QString> targetProblem(const QByteArray &target, const struct stat
     return std::nullopt;
 }
 
+/// What a new file of the user's is open to. The mask can only be read by setting it; what another
+/// thread makes in between is for the user alone.
+mode_t usualMode() {
+    const mode_t mask = umask(077);
+    umask(mask);
+    return 0666 & ~mask;
+}
+
 } // namespace
 
 std::optional<QString> safeMove(const QString &source, const QString &target) {
@@ -129,6 +137,9 @@ std::optional<QString> safeMove(const QString &source, const QString &target) {
         return systemReason();
     if (const std::optional<QString> problem = targetProblem(to, status))
         return problem;
+    // A working file is for the user alone. File systems without modes refuse; nothing is lost.
+    if (fchmod(content.get(), usualMode()) != 0)
+        qWarning("oops: %s: %s", from.constData(), qPrintable(qt_error_string(errno)));
     if (!sync(content.get()))
         return systemReason();
     if (std::rename(from.constData(), to.constData()) == 0) {

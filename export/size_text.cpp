@@ -33,3 +33,19 @@ SizeTextProblem sizeTextProblem(QStringView text) {
         return SizeTextProblem::NotPlain;
     return value > longestSide ? SizeTextProblem::TooLarge : SizeTextProblem::None;
 }
+
+QString sizeProblemText(SizeTextProblem problem) {
+    switch (problem) {
+    case SizeTextProblem::None:
+        break;
+    case SizeTextProblem::Zero:
+        return qtTrId("IDD_SIZE_ZERO");
+    case SizeTextProblem::Negative:
+        return qtTrId("IDD_SIZE_NEGATIVE");
+    case SizeTextProblem::NotPlain:
+        return qtTrId("IDD_SIZE_NOT_PLAIN");
+    case SizeTextProblem::TooLarge:
+        return qtTrId("IDD_SIZE_TOO_LARGE");
+    }
+    return {};
+}

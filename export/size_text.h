@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
 #include <QStringView>
 
 /// What is wrong with the text of a size field. The field takes anything; whether an export starts
@@ -10,10 +11,13 @@
 enum class SizeTextProblem {
     None,
     Zero,     ///< Does not begin with a number other than 0: the export will not start.
-    Negative, ///< The encoder refuses it.
-    NotPlain, ///< Something beside the digits ("320px"): the encoder refuses it.
+    Negative, ///< No encoder takes it.
+    NotPlain, ///< Something beside the digits ("320px"): likewise.
     TooLarge, ///< More pixels a side than the GIF format can hold.
 };
 
 /// The first of these that holds; none for what both will take.
 SizeTextProblem sizeTextProblem(QStringView text);
+
+/// What the user is told about it, as it reads on after the field's name; empty for none.
+QString sizeProblemText(SizeTextProblem problem);

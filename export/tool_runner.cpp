@@ -72,6 +72,7 @@ std::optional<ToolExit> AppDelegate::runWhileEventsTurn(QProcess &tool, const QS
 
 void AppDelegate::cancelExport() {
     exporting.setExportCancelled(true);
+    exporting.encoderStop.request_stop();
     // Nothing that it could still write is wanted.
     if (watchedTool_)
         watchedTool_->kill();

@@ -23,7 +23,7 @@ def main(build, output):
     output = pathlib.Path(output).resolve()
     output.unlink(missing_ok=True)
     print("Starting a virtual display with a window manager and a moving picture", flush=True)
-    with driver.Session(build) as session:
+    with driver.Session(build, quality=None) as session:
         session.counter("--at", "200,160", "--size", "400x240", "--rate", "8")
         print("Starting Tovarel in front of it", flush=True)
         program = driver.Program(session)

@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace gif {
 namespace {
@@ -92,11 +93,11 @@ Scaler::Scaler(int fromWidth, int fromHeight, int width, int height)
     : width_(width), columns_(taps(fromWidth, width)), rows_(taps(fromHeight, height)) {}
 
 void Scaler::scale(const std::uint32_t *from, std::ptrdiff_t stride, const Rect &part,
-                   std::uint32_t *result) const {
+                   std::uint32_t *result, const std::stop_token &stop) const {
     // Bands keep the memory in between small.
     constexpr int bandHeight = 32;
     std::vector<Across> across;
-    for (int y = 0; y < part.height && part.width > 0; y += bandHeight) {
+    for (int y = 0; y < part.height && part.width > 0 && !stop.stop_requested(); y += bandHeight) {
         const Rect band{part.x, part.y + y, part.width, std::min(bandHeight, part.height - y)};
         const Taps &last = rows_[std::size_t(band.y + band.height - 1)];
         const int firstRow = rows_[std::size_t(band.y)].first;
@@ -170,9 +171,9 @@ Rect Scaler::affected(const Rect &changed) const {
 }
 
 ScalingSource::ScalingSource(FrameSource &source, int fromWidth, int fromHeight, int width,
-                             int height)
+                             int height, std::stop_token stop)
     : source_(source), scaler_(fromWidth, fromHeight, width, height), width_(width),
-      height_(height), pixels_(std::size_t(width) * std::size_t(height)) {}
+      height_(height), stop_(std::move(stop)), pixels_(std::size_t(width) * std::size_t(height)) {}
 
 bool ScalingSource::next(Frame &frame) {
     Frame from;
@@ -187,7 +188,7 @@ bool ScalingSource::next(Frame &frame) {
     }
     begun_ = true;
     for (const Rect &rect : changed_)
-        scaler_.scale(from.pixels, from.stride, rect, pixels_.data());
+        scaler_.scale(from.pixels, from.stride, rect, pixels_.data(), stop_);
     frame = {pixels_.data(), width_, from.delay, changed_};
     return true;
 }

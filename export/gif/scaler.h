@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <stop_token>
 #include <vector>
 
 namespace gif {
@@ -23,9 +24,10 @@ public:
     Scaler(int fromWidth, int fromHeight, int width, int height);
 
     /// Scales the part `part` of the result, which lies within it, from the whole picture `from`
-    /// (rows `stride` pixels apart, as of `Frame`) into `result`, rows of the result's width.
+    /// (rows `stride` pixels apart, as of `Frame`) into `result`, rows of the result's width. Ends
+    /// early, with some of it unscaled, when `stop` is asked for.
     void scale(const std::uint32_t *from, std::ptrdiff_t stride, const Rect &part,
-               std::uint32_t *result) const;
+               std::uint32_t *result, const std::stop_token &stop = {}) const;
 
     /// Where the result may change when the picture changes within `changed`.
     Rect affected(const Rect &changed) const;
@@ -61,8 +63,10 @@ private:
 /// The frames of another source in another size. What did not change is not scaled again.
 class ScalingSource : public FrameSource {
 public:
-    /// `source` outlives this; its frames have the first size.
-    ScalingSource(FrameSource &source, int fromWidth, int fromHeight, int width, int height);
+    /// `source` outlives this; its frames have the first size. What is handed out after `stop` was
+    /// asked for is of no use.
+    ScalingSource(FrameSource &source, int fromWidth, int fromHeight, int width, int height,
+                  std::stop_token stop = {});
 
     bool next(Frame &frame) override;
     bool rewind() override;
@@ -72,6 +76,7 @@ private:
     Scaler scaler_;
     int width_;
     int height_;
+    std::stop_token stop_;
     bool begun_ = false;
     std::vector<std::uint32_t> pixels_;
     std::vector<Rect> changed_;

@@ -439,6 +439,28 @@
         <source>The size asked for was %1 × %2.</source>
         <translation>Die verlangte Größe war %1 × %2.</translation>
     </message>
+    <message id="IDD_GIF_TOO_LARGE">
+        <source>A GIF of %1 × %2 pixels needs about %3 of memory. At most %4 may be used, half of what is free. Choose a smaller size.</source>
+        <translation>Ein GIF mit %1 × %2 Pixeln benötigt etwa %3 Arbeitsspeicher. Höchstens %4 dürfen verwendet werden, die Hälfte des freien Speichers. Wählen Sie eine kleinere Größe.</translation>
+    </message>
+    <message id="IDD_GIF_NO_MEMORY">
+        <source>There is not enough memory for the GIF. Choose a smaller size or close other programs.</source>
+        <translation>Der Arbeitsspeicher reicht für das GIF nicht aus. Wählen Sie eine kleinere Größe oder schließen Sie andere Programme.</translation>
+    </message>
+    <message id="IDD_GIF_NOT_WRITTEN">
+        <source>The GIF could not be written to %1.
+%2
+
+The recording is still there.</source>
+        <translation>Das GIF konnte nicht nach %1 geschrieben werden.
+%2
+
+Die Aufnahme ist noch vorhanden.</translation>
+    </message>
+    <message id="IDD_GIF_NO_FRAMES">
+        <source>The frames of the recording could not be read from %1.</source>
+        <translation>Die Bilder der Aufnahme konnten nicht aus %1 gelesen werden.</translation>
+    </message>
     <message id="IDD_MOVE_FAILED">
         <source>The file could not be saved as %1. %2
 
@@ -494,6 +516,34 @@ Sie bleibt unter %3.</translation>
     <message id="IDD_STATUS_WEBP_GAP">
         <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
         <translation>Das WebP enthält %1 von %2 Bildern: Das nächste fehlte.</translation>
+    </message>
+    <message id="IDD_STATUS_STILL">
+        <source>The GIF does not move: all its frames are the same.</source>
+        <translation>Das GIF bewegt sich nicht: Alle Bilder sind gleich.</translation>
+    </message>
+    <message id="IDD_QUALITY">
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message id="IDD_QUALITY_TIP">
+        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <translation>Qualität des GIF: „Beste“ erhält die Farben so genau wie möglich, „Klein“ ergibt die kleinste Datei, „Klassisch“ verwendet ffmpeg</translation>
+    </message>
+    <message id="IDD_QUALITY_BEST">
+        <source>Best</source>
+        <translation>Beste</translation>
+    </message>
+    <message id="IDD_QUALITY_BALANCED">
+        <source>Balanced</source>
+        <translation>Ausgewogen</translation>
+    </message>
+    <message id="IDD_QUALITY_SMALL">
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message id="IDD_QUALITY_CLASSIC">
+        <source>Classic</source>
+        <translation>Klassisch</translation>
     </message>
     <message id="IDD_SPEED">
         <source>Speed</source>

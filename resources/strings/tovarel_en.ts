@@ -439,6 +439,28 @@
         <source>The size asked for was %1 × %2.</source>
         <translation>The size asked for was %1 × %2.</translation>
     </message>
+    <message id="IDD_GIF_TOO_LARGE">
+        <source>A GIF of %1 × %2 pixels needs about %3 of memory. At most %4 may be used, half of what is free. Choose a smaller size.</source>
+        <translation>A GIF of %1 × %2 pixels needs about %3 of memory. At most %4 may be used, half of what is free. Choose a smaller size.</translation>
+    </message>
+    <message id="IDD_GIF_NO_MEMORY">
+        <source>There is not enough memory for the GIF. Choose a smaller size or close other programs.</source>
+        <translation>There is not enough memory for the GIF. Choose a smaller size or close other programs.</translation>
+    </message>
+    <message id="IDD_GIF_NOT_WRITTEN">
+        <source>The GIF could not be written to %1.
+%2
+
+The recording is still there.</source>
+        <translation>The GIF could not be written to %1.
+%2
+
+The recording is still there.</translation>
+    </message>
+    <message id="IDD_GIF_NO_FRAMES">
+        <source>The frames of the recording could not be read from %1.</source>
+        <translation>The frames of the recording could not be read from %1.</translation>
+    </message>
     <message id="IDD_MOVE_FAILED">
         <source>The file could not be saved as %1. %2
 
@@ -494,6 +516,34 @@ It remains at %3.</translation>
     <message id="IDD_STATUS_WEBP_GAP">
         <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
         <translation>The WebP holds %1 of %2 frames: the next one was missing.</translation>
+    </message>
+    <message id="IDD_STATUS_STILL">
+        <source>The GIF does not move: all its frames are the same.</source>
+        <translation>The GIF does not move: all its frames are the same.</translation>
+    </message>
+    <message id="IDD_QUALITY">
+        <source>Quality</source>
+        <translation>Quality</translation>
+    </message>
+    <message id="IDD_QUALITY_TIP">
+        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <translation>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</translation>
+    </message>
+    <message id="IDD_QUALITY_BEST">
+        <source>Best</source>
+        <translation>Best</translation>
+    </message>
+    <message id="IDD_QUALITY_BALANCED">
+        <source>Balanced</source>
+        <translation>Balanced</translation>
+    </message>
+    <message id="IDD_QUALITY_SMALL">
+        <source>Small</source>
+        <translation>Small</translation>
+    </message>
+    <message id="IDD_QUALITY_CLASSIC">
+        <source>Classic</source>
+        <translation>Classic</translation>
     </message>
     <message id="IDD_SPEED">
         <source>Speed</source>

@@ -87,7 +87,7 @@
     </message>
     <message id="IDD_KEEP_ASPECT_RATIO">
         <source>Keep aspect ratio</source>
-        <translation>Mantener la proporción</translation>
+        <translation>Fijar la proporción</translation>
     </message>
     <message id="IDD_FPS_EQUAL">
         <source>Same frame rate as the recording</source>
@@ -439,6 +439,28 @@
         <source>The size asked for was %1 × %2.</source>
         <translation>El tamaño pedido era %1 × %2.</translation>
     </message>
+    <message id="IDD_GIF_TOO_LARGE">
+        <source>A GIF of %1 × %2 pixels needs about %3 of memory. At most %4 may be used, half of what is free. Choose a smaller size.</source>
+        <translation>Un GIF de %1 × %2 píxeles necesita unos %3 de memoria. Se pueden usar %4 como máximo, la mitad de la memoria libre. Elija un tamaño menor.</translation>
+    </message>
+    <message id="IDD_GIF_NO_MEMORY">
+        <source>There is not enough memory for the GIF. Choose a smaller size or close other programs.</source>
+        <translation>No hay memoria suficiente para el GIF. Elija un tamaño menor o cierre otros programas.</translation>
+    </message>
+    <message id="IDD_GIF_NOT_WRITTEN">
+        <source>The GIF could not be written to %1.
+%2
+
+The recording is still there.</source>
+        <translation>No se pudo escribir el GIF en %1.
+%2
+
+La grabación sigue disponible.</translation>
+    </message>
+    <message id="IDD_GIF_NO_FRAMES">
+        <source>The frames of the recording could not be read from %1.</source>
+        <translation>No se pudieron leer los fotogramas de la grabación en %1.</translation>
+    </message>
     <message id="IDD_MOVE_FAILED">
         <source>The file could not be saved as %1. %2
 
@@ -494,6 +516,34 @@ Sigue en %3.</translation>
     <message id="IDD_STATUS_WEBP_GAP">
         <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
         <translation>El WebP contiene %1 de %2 fotogramas: faltaba el siguiente.</translation>
+    </message>
+    <message id="IDD_STATUS_STILL">
+        <source>The GIF does not move: all its frames are the same.</source>
+        <translation>El GIF no se mueve: todos sus fotogramas son iguales.</translation>
+    </message>
+    <message id="IDD_QUALITY">
+        <source>Quality</source>
+        <translation>Calidad</translation>
+    </message>
+    <message id="IDD_QUALITY_TIP">
+        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <translation>Calidad del GIF: «Óptima» conserva los colores con la mayor exactitud posible, «Compacta» da el archivo más pequeño, «Clásica» usa ffmpeg</translation>
+    </message>
+    <message id="IDD_QUALITY_BEST">
+        <source>Best</source>
+        <translation>Óptima</translation>
+    </message>
+    <message id="IDD_QUALITY_BALANCED">
+        <source>Balanced</source>
+        <translation>Equilibrada</translation>
+    </message>
+    <message id="IDD_QUALITY_SMALL">
+        <source>Small</source>
+        <translation>Compacta</translation>
+    </message>
+    <message id="IDD_QUALITY_CLASSIC">
+        <source>Classic</source>
+        <translation>Clásica</translation>
     </message>
     <message id="IDD_SPEED">
         <source>Speed</source>

@@ -75,7 +75,7 @@
     </message>
     <message id="IDD_RESOLUTION_CUSTOM">
         <source>Custom size</source>
-        <translation>Autre taille</translation>
+        <translation>Taille au choix</translation>
     </message>
     <message id="IDD_WIDTH">
         <source>Width</source>
@@ -95,7 +95,7 @@
     </message>
     <message id="IDD_FORCE_FPS">
         <source>Custom frame rate</source>
-        <translation>Autre fréquence</translation>
+        <translation>Fréquence au choix</translation>
     </message>
     <message id="IDD_NOTE">
         <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
@@ -439,6 +439,28 @@
         <source>The size asked for was %1 × %2.</source>
         <translation>La taille demandée était %1 × %2.</translation>
     </message>
+    <message id="IDD_GIF_TOO_LARGE">
+        <source>A GIF of %1 × %2 pixels needs about %3 of memory. At most %4 may be used, half of what is free. Choose a smaller size.</source>
+        <translation>Un GIF de %1 × %2 pixels demande environ %3 de mémoire. On peut en utiliser au plus %4, la moitié de la mémoire libre. Choisissez une taille plus petite.</translation>
+    </message>
+    <message id="IDD_GIF_NO_MEMORY">
+        <source>There is not enough memory for the GIF. Choose a smaller size or close other programs.</source>
+        <translation>La mémoire est insuffisante pour le GIF. Choisissez une taille plus petite ou fermez d’autres programmes.</translation>
+    </message>
+    <message id="IDD_GIF_NOT_WRITTEN">
+        <source>The GIF could not be written to %1.
+%2
+
+The recording is still there.</source>
+        <translation>Impossible d’écrire le GIF dans %1.
+%2
+
+L’enregistrement est toujours disponible.</translation>
+    </message>
+    <message id="IDD_GIF_NO_FRAMES">
+        <source>The frames of the recording could not be read from %1.</source>
+        <translation>Impossible de lire les images de l’enregistrement dans %1.</translation>
+    </message>
     <message id="IDD_MOVE_FAILED">
         <source>The file could not be saved as %1. %2
 
@@ -494,6 +516,34 @@ Il reste à l’emplacement %3.</translation>
     <message id="IDD_STATUS_WEBP_GAP">
         <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
         <translation>Le WebP contient %1 images sur %2 : la suivante manquait.</translation>
+    </message>
+    <message id="IDD_STATUS_STILL">
+        <source>The GIF does not move: all its frames are the same.</source>
+        <translation>Le GIF n’est pas animé&#xa0;: toutes ses images sont identiques.</translation>
+    </message>
+    <message id="IDD_QUALITY">
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message id="IDD_QUALITY_TIP">
+        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <translation>Qualité du GIF&#xa0;: «&#xa0;Optimale&#xa0;» garde les couleurs aussi exactes que possible, «&#xa0;Compacte&#xa0;» donne le plus petit fichier, «&#xa0;Classique&#xa0;» utilise ffmpeg</translation>
+    </message>
+    <message id="IDD_QUALITY_BEST">
+        <source>Best</source>
+        <translation>Optimale</translation>
+    </message>
+    <message id="IDD_QUALITY_BALANCED">
+        <source>Balanced</source>
+        <translation>Équilibrée</translation>
+    </message>
+    <message id="IDD_QUALITY_SMALL">
+        <source>Small</source>
+        <translation>Compacte</translation>
+    </message>
+    <message id="IDD_QUALITY_CLASSIC">
+        <source>Classic</source>
+        <translation>Classique</translation>
     </message>
     <message id="IDD_SPEED">
         <source>Speed</source>

@@ -439,6 +439,28 @@
         <source>The size asked for was %1 × %2.</source>
         <translation>指定されたサイズは %1 × %2 です。</translation>
     </message>
+    <message id="IDD_GIF_TOO_LARGE">
+        <source>A GIF of %1 × %2 pixels needs about %3 of memory. At most %4 may be used, half of what is free. Choose a smaller size.</source>
+        <translation>%1 × %2 ピクセルの GIF には約 %3 のメモリが必要です。使用できるのは空きメモリの半分、%4 までです。より小さいサイズを選択してください。</translation>
+    </message>
+    <message id="IDD_GIF_NO_MEMORY">
+        <source>There is not enough memory for the GIF. Choose a smaller size or close other programs.</source>
+        <translation>GIF を作成するためのメモリが足りません。より小さいサイズを選択するか、他のプログラムを終了してください。</translation>
+    </message>
+    <message id="IDD_GIF_NOT_WRITTEN">
+        <source>The GIF could not be written to %1.
+%2
+
+The recording is still there.</source>
+        <translation>GIF を %1 に書き込めませんでした。
+%2
+
+録画は残っています。</translation>
+    </message>
+    <message id="IDD_GIF_NO_FRAMES">
+        <source>The frames of the recording could not be read from %1.</source>
+        <translation>録画のフレームを %1 から読み込めませんでした。</translation>
+    </message>
     <message id="IDD_MOVE_FAILED">
         <source>The file could not be saved as %1. %2
 
@@ -494,6 +516,34 @@ It remains at %3.</source>
     <message id="IDD_STATUS_WEBP_GAP">
         <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
         <translation>WebP に含まれるのは %2 フレーム中 %1 フレームです。次のフレームが見つかりませんでした。</translation>
+    </message>
+    <message id="IDD_STATUS_STILL">
+        <source>The GIF does not move: all its frames are the same.</source>
+        <translation>すべてのフレームが同じため、GIF は動きません。</translation>
+    </message>
+    <message id="IDD_QUALITY">
+        <source>Quality</source>
+        <translation>画質</translation>
+    </message>
+    <message id="IDD_QUALITY_TIP">
+        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <translation>GIF の画質: 「最高」は色をできるだけ正確に保ち、「小サイズ」はファイルが最小になり、「クラシック」は ffmpeg を使用します</translation>
+    </message>
+    <message id="IDD_QUALITY_BEST">
+        <source>Best</source>
+        <translation>最高</translation>
+    </message>
+    <message id="IDD_QUALITY_BALANCED">
+        <source>Balanced</source>
+        <translation>標準</translation>
+    </message>
+    <message id="IDD_QUALITY_SMALL">
+        <source>Small</source>
+        <translation>小サイズ</translation>
+    </message>
+    <message id="IDD_QUALITY_CLASSIC">
+        <source>Classic</source>
+        <translation>クラシック</translation>
     </message>
     <message id="IDD_SPEED">
         <source>Speed</source>

@@ -439,6 +439,28 @@
         <source>The size asked for was %1 × %2.</source>
         <translation>O tamanho pedido era %1 × %2.</translation>
     </message>
+    <message id="IDD_GIF_TOO_LARGE">
+        <source>A GIF of %1 × %2 pixels needs about %3 of memory. At most %4 may be used, half of what is free. Choose a smaller size.</source>
+        <translation>Um GIF de %1 × %2 pixels precisa de cerca de %3 de memória. Podem ser usados no máximo %4, metade da memória livre. Escolha um tamanho menor.</translation>
+    </message>
+    <message id="IDD_GIF_NO_MEMORY">
+        <source>There is not enough memory for the GIF. Choose a smaller size or close other programs.</source>
+        <translation>Não há memória suficiente para o GIF. Escolha um tamanho menor ou feche outros programas.</translation>
+    </message>
+    <message id="IDD_GIF_NOT_WRITTEN">
+        <source>The GIF could not be written to %1.
+%2
+
+The recording is still there.</source>
+        <translation>Não foi possível salvar o GIF em %1.
+%2
+
+A gravação continua disponível.</translation>
+    </message>
+    <message id="IDD_GIF_NO_FRAMES">
+        <source>The frames of the recording could not be read from %1.</source>
+        <translation>Não foi possível ler os quadros da gravação em %1.</translation>
+    </message>
     <message id="IDD_MOVE_FAILED">
         <source>The file could not be saved as %1. %2
 
@@ -494,6 +516,34 @@ Ele continua em %3.</translation>
     <message id="IDD_STATUS_WEBP_GAP">
         <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
         <translation>O WebP contém %1 de %2 quadros: o seguinte estava faltando.</translation>
+    </message>
+    <message id="IDD_STATUS_STILL">
+        <source>The GIF does not move: all its frames are the same.</source>
+        <translation>O GIF não se move: todos os quadros são iguais.</translation>
+    </message>
+    <message id="IDD_QUALITY">
+        <source>Quality</source>
+        <translation>Qualidade</translation>
+    </message>
+    <message id="IDD_QUALITY_TIP">
+        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <translation>Qualidade do GIF: “Melhor” mantém as cores o mais exatas possível, “Compacta” dá o menor arquivo, “Clássica” usa o ffmpeg</translation>
+    </message>
+    <message id="IDD_QUALITY_BEST">
+        <source>Best</source>
+        <translation>Melhor</translation>
+    </message>
+    <message id="IDD_QUALITY_BALANCED">
+        <source>Balanced</source>
+        <translation>Equilibrada</translation>
+    </message>
+    <message id="IDD_QUALITY_SMALL">
+        <source>Small</source>
+        <translation>Compacta</translation>
+    </message>
+    <message id="IDD_QUALITY_CLASSIC">
+        <source>Classic</source>
+        <translation>Clássica</translation>
     </message>
     <message id="IDD_SPEED">
         <source>Speed</source>

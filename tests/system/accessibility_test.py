@@ -96,8 +96,8 @@ class Accessibility(case.Case):
         self.program.enter("GIF")
         sizes, rates = (("radio button", f"Same {what} as the recording")
                         for what in ("size", "frame rate"))
-        rest = (("combo box", "Speed"), *self.buttons("Generate GIF"), ("text", "WebP loops"),
-                *self.buttons("Generate WebP"))
+        rest = (("combo box", "Quality"), ("combo box", "Speed"), *self.buttons("Generate GIF"),
+                ("text", "WebP loops"), *self.buttons("Generate WebP"))
         self.check_order((BAR, "GIF"), sizes, rates, *rest)
         # One Tab for the whole of a choice, the arrows within it; what it enables comes next.
         for choice in (sizes, rates):

@@ -199,6 +199,12 @@ class Program:
         self.session.xdotool("key", "Return")
         self.wait_for(f"{text} in the list", lambda: box.get_name() == text)
 
+    def choose_quality(self, name):
+        """Chooses the GIF's quality on the GIF tab."""
+        names = ("Best", "Balanced", "Small", "Classic")
+        self.activate()
+        self.choose_in(self.list_of(lambda text: text in names), name, names[0])
+
     def choose_rate(self, rate):
         """Sets the rate of the recordings to come, in the frame-rate dialog."""
         self.press("Frames per Second")

@@ -8,6 +8,7 @@ import os
 import signal
 
 import case
+from accessibility import act, is_enabled
 from case import SAVE_PANEL, STAND_STILL, STILL, in_run
 from driver import Program, wait_for
 
@@ -69,6 +70,21 @@ class Endings(case.Case):
         wait_for("the encoder", lambda: self.session.processes(STILL))
         return program
 
+    def encoding_itself(self, environment=None):
+        """A program whose own encoder is at work, which takes it some seconds in such a size."""
+        program = Program(self.session, environment)
+        program.record(1.5)
+        program.enter("GIF")
+        program.choose_quality("Best")
+        act(program.await_control("radio button", "Custom size"))
+        width = program.await_control("text", "Width")
+        program.wait_for("the field", lambda: is_enabled(width))
+        width.set_text_contents("5000")
+        program.press("Generate GIF")
+        program.await_control("progress bar", "Making the GIF…")
+        wait_for("the encoder", (self.session.documents / "PallomarExport/output.gif").exists)
+        return program
+
     def choosing_a_place(self, environment=None):
         program = self.exporting(environment)
         program.await_control("dialog", SAVE_PANEL)
@@ -122,6 +138,20 @@ class Endings(case.Case):
                 program.process.wait()
                 self.await_none(STILL)
 
+    def test_while_the_program_encodes_itself(self):
+        self.session.counter("--at", "60,80", "--rate", "20")
+        for road in ("SIGTERM", "SIGINT", "closing the window"):
+            with self.subTest(road):
+                self.check_end(self.encoding_itself(), road)
+        # Nothing of it is left for the next start, and its files are whole.
+        program = self.encoding_itself()
+        self.session.xdotool("key", "Escape")
+        program.wait_for("the end", lambda: program.enabled("Generate GIF")
+                         and not program.find("progress bar"))
+        self.assertEqual(list((self.session.documents / "PallomarExport").iterdir()), [])
+        self.assertGreaterEqual(len(self.frame_files()), 3)
+        self.check_end(program, "SIGTERM")
+
     def test_under_an_alert_and_a_save_panel(self):
         program = self.exporting(self.stand_in("exit 1"))
         program.alert()
@@ -135,6 +165,7 @@ class Endings(case.Case):
             "saving": self.saving,
             "playing": self.playing,
             "in the run with progress": lambda display: self.encoding(3, display),
+            "encoding itself": self.encoding_itself,
             "in a run that prepares it": lambda display: self.encoding(2, display),
             "under the save panel": self.choosing_a_place,
         }

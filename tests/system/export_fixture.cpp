@@ -50,6 +50,16 @@ void Answerer::answer() {
     }
 }
 
+ExportTest::ExportTest() : ControllerFixture(QString(), QStringLiteral("100% real %1/Döcuments")) {
+    choose(GifPreset::Classic);
+}
+
+void ExportTest::choose(GifPreset preset) {
+    const int index = ui.comboGIFQuality->findData(QString::fromLatin1(presetWord(preset)));
+    ASSERT_GE(index, 0);
+    ui.comboGIFQuality->setCurrentIndex(index);
+}
+
 QColor ExportTest::colourOf(int frame) { return QColor::fromHsv((frame * 67) % 360, 200, 220); }
 
 void ExportTest::record(int count) {

@@ -5,6 +5,8 @@
 #include "tests/controller_fixture.h"
 #include "tests/files.h"
 
+#include "export/gif_preset.h"
+
 #include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
@@ -40,12 +42,14 @@ private:
 /// The controller on a recording of real frame files, in a folder whose name is full of traps.
 class ExportTest : public ControllerFixture {
 protected:
-    ExportTest() : ControllerFixture(QString(), QStringLiteral("100% real %1/Döcuments")) {}
+    /// The quality is Classic at first: most tests are about the runs of tools.
+    ExportTest();
 
     /// Writes `count` frames of 64 by 48 pixels, each of one colour of its own, chooses all of them
     /// and enters the GIF tab.
     void record(int count);
     static QColor colourOf(int frame);
+    void choose(GifPreset preset);
     /// An executable shell script that stands in for a tool; its last argument is `$last`.
     QString standIn(const QByteArray &script);
     /// Waits until neither a question nor an export is under way.

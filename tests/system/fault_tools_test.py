@@ -10,6 +10,7 @@ import signal
 import subprocess
 
 import case
+import counter
 import disk_test
 from case import REAL, RUNS, STAND_STILL, STILL, in_run
 from driver import Program, wait_for
@@ -121,6 +122,26 @@ class FaultyTools(case.Case):
                 subprocess.run(["umount", folder], check=True)
             self.check_export()
             self.target.unlink()
+        self.assertEqual(self.program.end(), 0)
+
+    def test_no_room_for_what_the_program_encodes_itself(self):
+        self.start(self.stand_in(None))  # which needs no tool
+        self.program.choose_quality("Best")
+        folder = self.session.documents / "PallomarExport"
+        subprocess.run(["mount", "-t", "tmpfs", "-o", "size=8k", "none", folder], check=True)
+        try:
+            self.program.press("Generate GIF")
+            self.check_refusal("output.gif", "space")
+            self.assertEqual(list(folder.iterdir()), [], "room for the next one")
+        finally:
+            subprocess.run(["umount", folder], check=True)
+        # Neither the folders nor the recording's files are needed.
+        for each in (folder, self.session.documents / "PallomarPallete", self.session.frames):
+            shutil.rmtree(each)
+        self.program.press("Generate GIF")
+        self.program.save_panel(self.target)
+        self.program.dismiss_alert("Success")
+        self.assertGreater(len(counter.decode(str(self.target))), 3)
         self.assertEqual(self.program.end(), 0)
 
     def test_folders_that_are_taken_away(self):

@@ -3,6 +3,7 @@
 """From a known changing picture on the screen to the frames and the GIF, which are read back."""
 
 import itertools
+import os
 import time
 
 import case
@@ -93,7 +94,32 @@ class Recording(case.Case):
         # As long as the recording took, the pause left out.
         self.assertAlmostEqual(sum(counter.durations(str(target))), took,
                                delta=max(0.02 * took, 1 / CHOSEN_RATE))
+        self.check_own_encoder(program, numbers, took, place)
+
+    def check_own_encoder(self, program, numbers, took, place):
+        """The same by the program's own encoder, which shows frames that are alike as one picture
+        and needs no files."""
+        for path in self.frame_files()[1:]:
+            path.unlink()
+        target = self.session.home / "own.gif"
+        program.choose_quality("Balanced")
+        program.press("Generate GIF")
+        program.save_panel(target)
+        program.dismiss_alert("Success")
+        pictures = counter.decode(str(target))
+        self.check_pictures(pictures, place)
+        shown = [counter.read(picture, *place) for picture in pictures]
+        self.assertEqual([number for number, _ in itertools.groupby(shown)],
+                         [number for number, _ in itertools.groupby(numbers)])
+        self.assertAlmostEqual(sum(counter.durations(str(target))), took,
+                               delta=max(0.02 * took, 1 / CHOSEN_RATE))
+        self.assertEqual(target.stat().st_mode & 0o777, 0o666 & ~self.mask())
         self.assertEqual(program.end(), 0)
+
+    def mask(self):
+        mask = os.umask(0)
+        os.umask(mask)
+        return mask
 
 
 if __name__ == "__main__":

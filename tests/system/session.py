@@ -33,9 +33,13 @@ class Session:
     """A display, a window manager and a message bus. To be used as a context manager; what was
     started in it is ended with it, whatever happened."""
 
-    def __init__(self, build, width=800, height=600, depth=24):
+    def __init__(self, build, width=800, height=600, depth=24, quality="classic"):
+        """`quality` is what the GIF's quality was the last time: Classic, because most tests count
+        frames, of which the program's own encoder makes one where they are alike, or stand in for
+        the tools. None for a first start."""
         self.build = pathlib.Path(build).resolve()
         self.width, self.height, self.depth = width * SCALE, height * SCALE, depth
+        self.quality = quality
         self.display_options = []
         self.with_window_manager = True
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tovarel-"))
@@ -64,6 +68,10 @@ class Session:
         for folder in (self.home, self.documents, self.outputs):
             folder.mkdir()
         self.runtime.mkdir(mode=0o700)
+        if self.quality:
+            settings = self.home / ".config" / "Tovarel" / "Tovarel.conf"
+            settings.parent.mkdir(parents=True)
+            settings.write_text(f"[General]\nGIFQuality={self.quality}\n")
         self.environment = {
             "HOME": str(self.home),
             "LC_ALL": os.environ.get("TOVAREL_TEST_LOCALE", "C.UTF-8"),

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "export/gif_file.h"
+
+#include "export/gif/scaler.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cmath>
+#include <new>
+
+namespace {
+
+// Bytes for each pixel of a picture of the file: the recorded frame and the canvas, 4 each; a
+// picture of 4 for each thread and one more; what two codings at a time work with, 6 each.
+constexpr std::uint64_t bytesPerPixel = 4 + 4 + 4 * (gifThreads + 1) + 2 * 6;
+
+// The scaler holds its result, and the recording's rows that a band of it is made of, 36 bytes a
+// pixel.
+constexpr std::uint64_t scaledBytesPerPixel = 4;
+constexpr std::uint64_t acrossBytesPerPixel = 36;
+constexpr double bandRows = 32 + 6;
+
+gif::Outcome encode(const GifFileJob &job, const gif::Sink &sink, const std::stop_token &stop) {
+    gif::Options options{.width = job.size.width(), .height = job.size.height()};
+    options.tolerance = job.tolerance;
+    options.threads = gifThreads;
+    options.progress = job.progress;
+    if (job.sourceSize.isEmpty())
+        return {.end = gif::Outcome::End::NoFrames};
+    if (job.size == job.sourceSize)
+        return gif::encode(*job.source, options, sink, stop);
+    gif::ScalingSource scaled(*job.source, job.sourceSize.width(), job.sourceSize.height(),
+                              options.width, options.height, stop);
+    return gif::encode(scaled, options, sink, stop);
+}
+
+} // namespace
+
+GifFileResult writeGifFile(const GifFileJob &job, const std::stop_token &stop) {
+    GifFileResult result;
+    QFile file(job.file);
+    if (!file.open(QIODevice::WriteOnly, QFile::ReadOwner | QFile::WriteOwner)) {
+        result.writeError = file.errorString();
+        return result;
+    }
+    const gif::Sink sink = [&file](std::span<const std::uint8_t> bytes) {
+        // A full disk takes what still fits, and names the reason at the next attempt only.
+        while (!bytes.empty()) {
+            const qint64 written = file.write(reinterpret_cast<const char *>(bytes.data()),
+                                              static_cast<qint64>(bytes.size()));
+            if (written <= 0)
+                return false;
+            bytes = bytes.subspan(static_cast<std::size_t>(written));
+        }
+        return true;
+    };
+    try {
+        result.outcome = encode(job, sink, stop);
+    } catch (const std::bad_alloc &) {
+        result.outOfMemory = true;
+    }
+    // The last bytes leave the buffer only now.
+    const bool written = result.outcome.end != gif::Outcome::End::SinkFailed && file.flush();
+    if (!written)
+        result.writeError = file.errorString();
+    if (!result.isComplete())
+        file.remove();
+    return result;
+}
+
+std::uint64_t gifWorkingMemory(QSize recorded, QSize size) {
+    const auto pixels = [](QSize of) {
+        return static_cast<std::uint64_t>(of.width()) * static_cast<std::uint64_t>(of.height());
+    };
+    // The frame as it was recorded comes with the reader.
+    std::uint64_t bytes = 4 * pixels(recorded) + bytesPerPixel * pixels(size);
+    if (size == recorded)
+        return bytes;
+    const double ratio = std::max(1.0, double(recorded.height()) / std::max(size.height(), 1));
+    const auto rows = static_cast<std::uint64_t>(
+        std::min<double>(recorded.height(), std::ceil(bandRows * ratio)));
+    return bytes + scaledBytesPerPixel * pixels(size) +
+           acrossBytesPerPixel * rows * static_cast<std::uint64_t>(size.width());
+}

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "export/gif/encoder.h"
+
+#include <QSize>
+#include <QString>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <stop_token>
+
+/// Writes a GIF file with the program's own encoder. Knows no window; for any thread.
+
+struct GifFileJob {
+    std::unique_ptr<gif::FrameSource> source;
+    QSize sourceSize; ///< Pixels of the source's frames; empty when it has none.
+    QSize size;       ///< Pixels of the file's pictures, 1 to 65,535 a side.
+    float tolerance = gif::balancedTolerance;
+    QString file; ///< For the user alone (mode 0600); replaced when it is there.
+    /// Called in the thread that writes, with the number of frames that are done.
+    std::function<void(std::int64_t)> progress = {};
+};
+
+struct GifFileResult {
+    gif::Outcome outcome;
+    QString writeError;       ///< The system's words when the file could not be written.
+    bool outOfMemory = false; ///< Memory ran out on the way.
+
+    bool isComplete() const {
+        return !outOfMemory && writeError.isEmpty() && outcome.end == gif::Outcome::End::Complete;
+    }
+};
+
+/// Threads that an encoding takes, the caller's included.
+inline constexpr int gifThreads = 2;
+
+/// Writes the file. Unless it is complete, nothing is left of it. Returns within a tenth of a
+/// second when `stop` is asked for.
+GifFileResult writeGifFile(const GifFileJob &job, const std::stop_token &stop);
+
+/// Memory that this takes beside the recording, in bytes, on the safe side.
+std::uint64_t gifWorkingMemory(QSize recorded, QSize size);

@@ -1,0 +1,303 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "export/frame_timing.h"
+#include "export/gif_preset.h"
+#include "export_fixture.h"
+#include "record/window_progress.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QImageReader>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QSettings>
+#include <QTest>
+
+#include <sys/resource.h>
+
+#include <csignal>
+
+namespace {
+
+using frame_timing::TimedFrame;
+
+/// The GIF by the program's own encoder, through the real exporter.
+class GifQuality : public ExportTest {
+protected:
+    /// A recording in memory: a square that moves over a ground of a few colours. Of its files
+    /// there is the first one, which the tab is opened by.
+    void recordInMemory(int count, QSize size = {200, 120}) {
+        record(count);
+        std::vector<Image> store;
+        for (int frame = 0; frame < count; ++frame) {
+            pictures.push_back(pictureOf(frame, size));
+            store.push_back(Image::fromQImage(pictures.back()));
+            if (frame > 0) {
+                ASSERT_TRUE(QFile::remove(frameFile(frame)));
+            }
+        }
+        ASSERT_TRUE(pictures.front().save(frameFile(0)));
+        controller.recording.array_Images = std::move(store);
+        controller.resetGIFOptions();
+    }
+    static QImage pictureOf(int frame, QSize size) {
+        QImage picture(size, QImage::Format_RGB32);
+        picture.fill(QColor(30, 60, 90));
+        QPainter painter(&picture);
+        painter.fillRect(0, size.height() / 2, size.width(), size.height(), QColor(200, 190, 13));
+        painter.fillRect(3 * frame, 2 * frame, 40, 30, colourOf(frame));
+        return picture;
+    }
+    /// Frames that cost an encoder time.
+    void recordNoise(int count, QSize size) {
+        record(3);
+        std::vector<Image> store;
+        std::uint32_t seed = 1;
+        for (int frame = 0; frame < count; ++frame) {
+            QImage picture(size, QImage::Format_RGB32);
+            for (int y = 0; y < size.height(); ++y)
+                for (int x = 0; x < size.width(); ++x)
+                    picture.setPixel(x, y, (seed = seed * 1664525 + 1013904223) >> 8);
+            store.push_back(Image::fromQImage(picture));
+        }
+        controller.recording.setU_Record_Current_Frame(static_cast<std::uint64_t>(count));
+        controller.trim.setULastFrame(static_cast<std::uint64_t>(count - 1));
+        controller.recording.array_Images = std::move(store);
+        chooseSize(QString::number(size.width()), QString::number(size.height()));
+    }
+    void chooseSize(const QString &width, const QString &height) {
+        ui.radioGIFCustomDimension->click();
+        ui.checkGIFKeepAspectRatio->setChecked(false);
+        ui.textGIFWidth->setText(width);
+        ui.textGIFHeigth->setText(height);
+    }
+    QStringList exported() const {
+        return QDir(controller.shell.s_Export_Folder()).entryList(QDir::Files);
+    }
+    QString output() const {
+        return controller.shell.s_Export_Folder() + QStringLiteral("/output.gif");
+    }
+    std::string status() const { return ui.labelStatus->text().toStdString(); }
+
+    std::vector<QImage> pictures;
+};
+
+TEST_F(GifQuality, ShowsTheVeryFramesForTheVeryTimeInBest) {
+    recordInMemory(9);
+    choose(GifPreset::Best);
+    answers.savePath = place("best.gif");
+    const struct {
+        double recorded;
+        int chosen; // 0 for the recording's own
+        double speed;
+    } cases[] = {{9.83, 0, 1.0}, {9.83, 5, 1.0}, {9.83, 24, 0.5}, {59.3, 0, 4.0}, {0.9, 0, 1.5}};
+    for (const auto &[recorded, chosen, speed] : cases) {
+        SCOPED_TRACE(testing::Message() << recorded << " to " << chosen << ", " << speed);
+        controller.recording.setExactRate(recorded);
+        (chosen > 0 ? ui.radioGIFCustomFPS : ui.radioGIFOriginalFPS)->click();
+        ui.comboGIFFPS->setCurrentIndex(std::max(chosen, 1) - 1);
+        ui.comboGIFSpeed->setCurrentIndex(ui.comboGIFSpeed->findData(speed));
+        std::vector<TimedFrame> wanted; // a frame that is repeated is one picture, shown longer
+        for (const TimedFrame &frame :
+             timedFrames({.count = 9,
+             .recordedRate = recorded,
+             .chosenRate = chosen > 0 ? std::optional(chosen) : std::nullopt,
+             .speed = speed},
+                         frame_timing::gifTicks)) {
+            if (!wanted.empty() && wanted.back().source == frame.source)
+                wanted.back().delay += frame.delay;
+            else
+                wanted.push_back(frame);
+        }
+        QFile::remove(answers.savePath);
+        ui.btnGIFExport->click();
+        QImageReader gif(answers.savePath);
+        ASSERT_EQ(gif.imageCount(), wanted.size());
+        EXPECT_EQ(gif.loopCount(), -1) << "for ever";
+        for (const TimedFrame &frame : wanted) {
+            EXPECT_EQ(gif.read().convertToFormat(QImage::Format_RGB32), pictures[frame.source])
+                << frame.source;
+            EXPECT_EQ(gif.nextImageDelay(), 10 * static_cast<int>(frame.delay));
+        }
+    }
+    EXPECT_TRUE(exported().isEmpty()) << "moved to its place";
+}
+
+TEST_F(GifQuality, LaysOutNothingButTheFileWhichIsTheUsersAlone) {
+    recordInMemory(4);
+    choose(GifPreset::Balanced);
+    ui.btnGIFExport->click(); // the panel is cancelled
+    EXPECT_EQ(exported(), QStringList{QStringLiteral("output.gif")});
+    EXPECT_EQ(QFile::permissions(output()) & ~(QFile::ReadUser | QFile::WriteUser),
+              QFile::ReadOwner | QFile::WriteOwner);
+    EXPECT_TRUE(QDir(controller.shell.s_Pallete_Folder()).isEmpty());
+    EXPECT_TRUE(ui.btnSaveResult->isVisible());
+}
+
+TEST_F(GifQuality, ScalesToTheSizeThatIsTyped) {
+    recordInMemory(4);
+    for (const GifPreset preset : {GifPreset::Best, GifPreset::Small}) {
+        choose(preset);
+        for (const QSize size : {QSize(100, 60), QSize(1, 1), QSize(321, 77)}) {
+            chooseSize(QString::number(size.width()), QString::number(size.height()));
+            answers.savePath = place("scaled.gif");
+            QFile::remove(answers.savePath);
+            ui.btnGIFExport->click();
+            QImageReader gif(answers.savePath);
+            const QImage picture = gif.read();
+            ASSERT_EQ(picture.size(), size);
+            if (size.width() > 1) {
+                const QRgb ground = picture.pixel(size.width() - 2, 2);
+                EXPECT_LE(std::abs(qRed(ground) - 30) + std::abs(qBlue(ground) - 90), 4);
+            }
+        }
+    }
+}
+
+TEST_F(GifQuality, EndsAtAFileThatIsMissingOrBrokenWhereThereIsNoStore) {
+    choose(GifPreset::Best);
+    answers.savePath = place("gap.gif");
+    for (const bool broken : {false, true}) {
+        record(6);
+        const QByteArray whole = contentOf(frameFile(3));
+        if (broken)
+            put(frameFile(3), whole.left(whole.size() / 2));
+        else
+            ASSERT_TRUE(QFile::remove(frameFile(3)));
+        ui.btnGIFExport->click();
+        QImageReader gif(answers.savePath);
+        ASSERT_EQ(gif.imageCount(), 3);
+        for (int frame = 0; frame < 3; ++frame)
+            EXPECT_EQ(gif.read().pixel(5, 5), colourOf(frame).rgb());
+        EXPECT_TRUE(ui.labelStatus->text().contains(
+            qtTrId("IDD_STATUS_GAP").arg(QStringLiteral("3"), QStringLiteral("6"))));
+    }
+    answers.alerts.clear();
+    put(frameFile(0), "no picture");
+    ui.btnGIFExport->click();
+    ASSERT_EQ(answers.alerts.size(), 1u);
+    EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
+    EXPECT_TRUE(answers.alerts[0].text.contains(controller.shell.s_Output_Folder()));
+    EXPECT_TRUE(exported().isEmpty());
+}
+
+TEST_F(GifQuality, SaysWhenNothingMoves) {
+    record(4);
+    const Image still = plainImage({64, 48}, qRgb(1, 2, 3));
+    controller.recording.array_Images = std::vector<Image>(4, still);
+    choose(GifPreset::Balanced);
+    answers.savePath = place("still.gif");
+    ui.btnGIFExport->click();
+    EXPECT_EQ(QImageReader(answers.savePath).imageCount(), 1);
+    EXPECT_TRUE(ui.labelStatus->text().contains(qtTrId("IDD_STATUS_STILL"))) << status();
+}
+
+TEST_F(GifQuality, IsCancelledAtOnceAndLeavesNothing) {
+    recordNoise(30, {300, 200});
+    choose(GifPreset::Small);
+    for (const bool scaled : {false, true}) {
+        if (scaled)
+            chooseSize(QStringLiteral("600"), QStringLiteral("400"));
+        for (const bool byKey : {false, true}) {
+            QElapsedTimer since;
+            QTimer look;
+            QObject::connect(&look, &QTimer::timeout, &look, [&] {
+                Window_Progress *sheet = controller.exporting.windowProgress();
+                if (since.isValid() || !sheet || sheet->doubleValue() <= 0)
+                    return;
+                since.start();
+                if (byKey)
+                    QTest::keyClick(sheet, Qt::Key_Escape);
+                else
+                    sheet->findChild<QPushButton *>(QStringLiteral("btnCancel"))->click();
+            });
+            look.start(5);
+            ui.btnGIFExport->click();
+            ASSERT_TRUE(since.isValid()) << "it was over before it could be cancelled";
+            const qint64 took = since.elapsed();
+            RecordProperty(scaled ? "scaled" : "plain", static_cast<int>(took));
+            EXPECT_LT(took, 1000) << "ms; a tenth of that on a machine that does nothing else";
+            EXPECT_TRUE(answers.alerts.empty() && answers.panels.isEmpty());
+            EXPECT_EQ(ui.labelStatus->text(), qtTrId("IDD_EXPORT_CANCELLED"));
+            EXPECT_EQ(controller.exporting.windowProgress(), nullptr);
+            EXPECT_TRUE(exported().isEmpty());
+            EXPECT_TRUE(QFile::exists(frameFile(0)));
+        }
+    }
+    // The next one is not cancelled.
+    controller.trim.setULastFrame(2);
+    answers.savePath = place("after.gif");
+    ui.btnGIFExport->click();
+    EXPECT_EQ(QImageReader(answers.savePath).imageCount(), 3);
+}
+
+TEST_F(GifQuality, RefusesSizesBeforeItTouchesAnything) {
+    record(3);
+    choose(GifPreset::Balanced);
+    const QString kept = controller.shell.s_Export_Folder() + QStringLiteral("/kept");
+    put(kept, "kept");
+    controller.recording.memory = [] { return MemoryState{8'000'000'000, 40'000'000}; };
+    const struct {
+        const char *width;
+        const char *height;
+        QString words;
+    } cases[] = {{"320px", "48", qtTrId("IDD_SIZE_NOT_PLAIN")},
+                 {"1.5", "48", qtTrId("IDD_SIZE_NOT_PLAIN")},
+                 {"64", "-5", qtTrId("IDD_SIZE_NEGATIVE")},
+                 {"64", "65536", qtTrId("IDD_SIZE_TOO_LARGE")},
+                 {"0", "48", controller.texts.s_IDD_INVALID_DIMENSION()},
+                 {"65535", "65535", QStringLiteral("19.07 MiB")},
+                 {"1000", "700", QStringLiteral("1000 × 700")}};
+    for (const auto &[width, height, words] : cases) {
+        SCOPED_TRACE(testing::Message() << width << 'x' << height);
+        answers.alerts.clear();
+        chooseSize(QString::fromLatin1(width), QString::fromLatin1(height));
+        ui.btnGIFExport->click();
+        ASSERT_EQ(answers.alerts.size(), 1u);
+        EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
+        EXPECT_TRUE(answers.alerts[0].text.contains(words)) << answers.alerts[0].text.toStdString();
+        EXPECT_TRUE(QFile::exists(kept));
+    }
+    EXPECT_TRUE(answers.panels.isEmpty());
+    chooseSize(QStringLiteral("640"), QStringLiteral("480"));
+    answers.savePath = place("fits.gif");
+    ui.btnGIFExport->click();
+    EXPECT_EQ(QImageReader(answers.savePath).size(), QSize(640, 480));
+}
+
+TEST_F(GifQuality, SaysWhyAFileCannotBeWrittenAndLosesNothing) {
+    recordNoise(3, {300, 200});
+    choose(GifPreset::Best);
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    rlimit small = before;
+    small.rlim_cur = 8192; // bytes that a file may have: as good as a disk that is full
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    ui.btnGIFExport->click();
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    ASSERT_EQ(answers.alerts.size(), 1u);
+    EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
+    EXPECT_TRUE(answers.alerts[0].text.contains(output()));
+    EXPECT_TRUE(answers.alerts[0].text.contains(qt_error_string(EFBIG)))
+        << answers.alerts[0].text.toStdString();
+    EXPECT_TRUE(answers.panels.isEmpty());
+    EXPECT_TRUE(exported().isEmpty()) << "room for the next one";
+    answers.savePath = place("later.gif");
+    ui.btnGIFExport->click();
+    EXPECT_EQ(QImageReader(answers.savePath).imageCount(), 3);
+}
+
+TEST_F(GifQuality, BeginsWithBalancedAndIsRemembered) {
+    choose(GifPreset::Small);
+    EXPECT_EQ(TestController().ui().comboGIFQuality->currentText(), qtTrId("IDD_QUALITY_SMALL"));
+    for (const char *stored : {"", "something else"}) {
+        QSettings().setValue(QStringLiteral("GIFQuality"), QString::fromLatin1(stored));
+        EXPECT_EQ(TestController().ui().comboGIFQuality->currentText(),
+                  qtTrId("IDD_QUALITY_BALANCED"));
+    }
+}
+
+} // namespace
