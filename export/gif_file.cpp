@@ -41,7 +41,9 @@ gif::Outcome encode(const GifFileJob &job, const gif::Sink &sink, const std::sto
 GifFileResult writeGifFile(const GifFileJob &job, const std::stop_token &stop) {
     GifFileResult result;
     QFile file(job.file);
-    if (!file.open(QIODevice::WriteOnly, QFile::ReadOwner | QFile::WriteOwner)) {
+    // The encoder hands out whole pictures; a buffer in between would lose the reason of a failure.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered,
+                   QFile::ReadOwner | QFile::WriteOwner)) {
         result.writeError = file.errorString();
         return result;
     }
@@ -61,9 +63,7 @@ GifFileResult writeGifFile(const GifFileJob &job, const std::stop_token &stop) {
     } catch (const std::bad_alloc &) {
         result.outOfMemory = true;
     }
-    // The last bytes leave the buffer only now.
-    const bool written = result.outcome.end != gif::Outcome::End::SinkFailed && file.flush();
-    if (!written)
+    if (result.outcome.end == gif::Outcome::End::SinkFailed)
         result.writeError = file.errorString();
     if (!result.isComplete())
         file.remove();

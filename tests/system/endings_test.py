@@ -72,10 +72,11 @@ class Endings(case.Case):
 
     def encoding_itself(self, environment=None):
         """A program whose own encoder is at work, which takes it some seconds in such a size."""
+        self.session.remember_quality("best")
         program = Program(self.session, environment)
+        self.session.remember_quality("classic")
         program.record(1.5)
         program.enter("GIF")
-        program.choose_quality("Best")
         act(program.await_control("radio button", "Custom size"))
         width = program.await_control("text", "Width")
         program.wait_for("the field", lambda: is_enabled(width))

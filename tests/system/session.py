@@ -69,9 +69,7 @@ class Session:
             folder.mkdir()
         self.runtime.mkdir(mode=0o700)
         if self.quality:
-            settings = self.home / ".config" / "Tovarel" / "Tovarel.conf"
-            settings.parent.mkdir(parents=True)
-            settings.write_text(f"[General]\nGIFQuality={self.quality}\n")
+            self.remember_quality(self.quality)
         self.environment = {
             "HOME": str(self.home),
             "LC_ALL": os.environ.get("TOVAREL_TEST_LOCALE", "C.UTF-8"),
@@ -99,6 +97,15 @@ class Session:
         for name in [name for name in os.environ if name.startswith("XDG_")]:
             del os.environ[name]
         os.environ.update(self.environment)
+
+    def remember_quality(self, quality):
+        """Sets what the next start finds to be the GIF's quality, which every choice changes."""
+        settings = self.home / ".config" / "Tovarel" / "Tovarel.conf"
+        settings.parent.mkdir(parents=True, exist_ok=True)
+        lines = settings.read_text().splitlines() if settings.exists() else ["[General]"]
+        lines = [line for line in lines if not line.startswith("GIFQuality=")]
+        lines.insert(lines.index("[General]") + 1, f"GIFQuality={quality}")
+        settings.write_text("\n".join(lines) + "\n")
 
     def start_display(self, name):
         """Starts a display: its name in DISPLAY. The server looks for a free number itself."""
