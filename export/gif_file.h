@@ -41,5 +41,6 @@ inline constexpr int gifThreads = 2;
 /// second when `stop` is asked for.
 GifFileResult writeGifFile(const GifFileJob &job, const std::stop_token &stop);
 
-/// Memory that this takes beside the recording, in bytes, on the safe side.
+/// Memory that this takes beside the recording, in bytes: enough for photographs, not for pictures
+/// of noise, of which every pixel has a colour of its own.
 std::uint64_t gifWorkingMemory(QSize recorded, QSize size);

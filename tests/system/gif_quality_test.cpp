@@ -237,7 +237,7 @@ TEST_F(GifQuality, RefusesSizesBeforeItTouchesAnything) {
     choose(GifPreset::Balanced);
     const QString kept = controller.shell.s_Export_Folder() + QStringLiteral("/kept");
     put(kept, "kept");
-    controller.recording.memory = [] { return MemoryState{8'000'000'000, 40'000'000}; };
+    controller.recording.memory = [] { return MemoryState{8'000'000'000, 160'000'000}; };
     const struct {
         const char *width;
         const char *height;
@@ -247,8 +247,8 @@ TEST_F(GifQuality, RefusesSizesBeforeItTouchesAnything) {
                  {"64", "-5", qtTrId("IDD_SIZE_NEGATIVE")},
                  {"64", "65536", qtTrId("IDD_SIZE_TOO_LARGE")},
                  {"0", "48", controller.texts.s_IDD_INVALID_DIMENSION()},
-                 {"65535", "65535", QStringLiteral("19.07 MiB")},
-                 {"1000", "700", QStringLiteral("1000 × 700")}};
+                 {"65535", "65535", QStringLiteral("76.29 MiB")},
+                 {"1200", "1000", QStringLiteral("1200 × 1000")}};
     for (const auto &[width, height, words] : cases) {
         SCOPED_TRACE(testing::Message() << width << 'x' << height);
         answers.alerts.clear();
