@@ -44,7 +44,7 @@ def main(build, *starts):
     good = True
     print("kind  rate  custom  speed  parts            recorded  stored  frames  played  ratio"
           "  twice  gaps")
-    with driver.Session(build, *SCREEN) as session:
+    with driver.Session(build, *SCREEN, quality="balanced") as session:
         place = driver.in_picture(session.counter(
             "--at", "40,60", "--size", "270x120", "--rate", str(COUNTS)))
         for start in map(int, starts or range(len(STARTS))):

@@ -21,6 +21,7 @@ class Time(case.Case):
     def test_files_play_as_long_as_was_recorded(self):
         place = driver.in_picture(
             self.session.counter("--at", "40,60", "--size", "270x120", "--rate", str(COUNTS)))
+        self.session.remember_quality("balanced")
         program = Program(self.session)
         for index, take in enumerate(TAKES):
             with self.subTest(take):
