@@ -19,6 +19,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <vector>
 
 namespace {
 
@@ -35,6 +36,21 @@ void detachStandardInput() {
     if (nothing != STDIN_FILENO)
         close(nothing);
 }
+
+/// The command line with a name for our windows in front (the first part of WM_CLASS), by which
+/// panels find the launcher. The second part is the application's name, which screen readers say.
+struct WindowName {
+    WindowName(int count, char **arguments) : argv(arguments, arguments + count) {
+        argv.insert(argv.begin() + (count > 0 ? 1 : 0), {option, id});
+        argc = static_cast<int>(argv.size());
+        argv.push_back(nullptr);
+    }
+
+    char option[6] = "-name";
+    char id[sizeof TOVAREL_APP_ID] = TOVAREL_APP_ID;
+    std::vector<char *> argv;
+    int argc = 0; // The toolkit keeps a reference.
+};
 
 void bringForward(QWidget &window) {
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
@@ -67,11 +83,12 @@ int main(int argc, char **argv) {
                    stderr);
         return EXIT_FAILURE;
     }
-    Application application(argc, argv);
+    WindowName name(argc, argv);
+    Application application(name.argc, name.argv.data());
     Application::setApplicationName(QStringLiteral("Tovarel"));
     Application::setOrganizationName(QStringLiteral("Tovarel"));
     Application::setApplicationVersion(QStringLiteral(TOVAREL_VERSION));
-    Application::setDesktopFileName(QStringLiteral("tovarel"));
+    Application::setDesktopFileName(QStringLiteral(TOVAREL_APP_ID));
 
     SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
     if (!isOrBecomesFirst(instance))

@@ -38,6 +38,21 @@ class Start(case.Case):
         self.assertTrue(kept.exists())
         self.assertEqual(first.end(), 0)
 
+    def test_panels_find_the_launcher_by_the_windows_name(self):
+        folder = self.session.build / "resources" / "desktop"
+        launchers = {path.stem: path.read_text() for path in folder.glob("*.desktop")}
+        program = Program(self.session)
+        said = subprocess.run(
+            ["xprop", "-id", program.window(), "-notype", "WM_CLASS"], check=True, text=True,
+            env=self.session.environment, stdin=subprocess.DEVNULL, capture_output=True,
+            timeout=driver.PATIENCE).stdout
+        name = said.split('"')[1]
+        self.assertRegex(name, r"\A(\w+\.){2,}\w+\Z")
+        self.assertIn(f"\nStartupWMClass={name}\n", launchers[name])
+        # One that was pinned to a panel under the program's first name still works.
+        self.assertIn("tovarel", launchers)
+        self.assertEqual(program.end(), 0)
+
     def in_front(self):
         return self.session.xdotool("getactivewindow", check=False)
 
