@@ -5,8 +5,8 @@
 #include "app/application.h"
 #include "platform/global_shortcuts.h"
 #include "platform/window_server.h"
-#include "record/frame_saver.h"
 #include "record/recording_loader.h"
+#include "record/save/frame_saver.h"
 #include "ui_MainWindow.h"
 
 #include <QTextDocument>

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/interface_strings.h"
-#include "app/shell_fields.h"
 #include "export/export_fields.h"
 #include "export/frame_timing.h"
 #include "record/capture_fields.h"
 #include "record/measured_rate.h"
 #include "record/recording_fields.h"
 #include "region/region_fields.h"
+#include "shell/interface_strings.h"
+#include "shell/shell_fields.h"
 #include "trim/range_rules.h"
 #include "trim/trim_fields.h"
 

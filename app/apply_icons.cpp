@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "app/palette_icon.h"
+#include "shell/palette_icon.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "app/tab_view.h"
 #include "app/tabs.h"
 #include "platform/global_shortcuts.h"
 #include "platform/window_server.h"
+#include "shell/tab_view.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>

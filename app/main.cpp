@@ -3,11 +3,11 @@
 #include "app/app_delegate.h"
 #include "app/application.h"
 #include "app/single_instance.h"
-#include "app/strings_table.h"
-#include "app/termination_notice.h"
 #include "platform/display.h"
 #include "platform/window_activation.h"
 #include "platform/window_server.h"
+#include "shell/strings_table.h"
+#include "shell/termination_notice.h"
 
 #include <QElapsedTimer>
 #include <QMainWindow>

@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "app/accessible_roles.h"
 #include "app/app_delegate.h"
-#include "app/commands.h"
-#include "app/screen_watcher.h"
-#include "app/settings.h"
-#include "app/tab_view.h"
 #include "app/tabs.h"
-#include "app/working_folders.h"
 #include "platform/bundle.h"
 #include "record/left_recording.h"
 #include "record/rate_list.h"
+#include "shell/commands.h"
+#include "shell/screen_watcher.h"
+#include "shell/settings.h"
+#include "shell/tab_view.h"
+#include "shell/working_folders.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>

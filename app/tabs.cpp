@@ -3,7 +3,7 @@
 #include "app/tabs.h"
 
 #include "app/app_delegate.h"
-#include "app/tab_view.h"
+#include "shell/tab_view.h"
 #include "ui_MainWindow.h"
 
 namespace {

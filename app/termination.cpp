@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "app/settings.h"
+#include "shell/settings.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>

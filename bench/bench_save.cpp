@@ -9,7 +9,7 @@
 // pixels of its frame.
 
 #include "platform/tile_store.h"
-#include "record/frame_saver.h"
+#include "record/save/frame_saver.h"
 
 #include <QEventLoop>
 #include <QGuiApplication>

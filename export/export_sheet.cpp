@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "record/window_progress.h"
+#include "shell/window_progress.h"
 
 void AppDelegate::showExportSheet(const QString &caption, const QString &step) {
     showProgressSheet(caption);

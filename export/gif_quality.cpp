@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "app/settings.h"
 #include "export/gif_file.h"
 #include "export/gif_preset.h"
 #include "export/size_text.h"
 #include "platform/text_number.h"
+#include "shell/settings.h"
 #include "ui_MainWindow.h"
 
 #include <QLocale>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "app/working_folders.h"
+#include "shell/working_folders.h"
 
 #include <QImageReader>
 

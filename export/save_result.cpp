@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "app/settings.h"
 #include "export/preset_name.h"
 #include "export/safe_move.h"
 #include "export/save_request.h"
+#include "shell/settings.h"
 
 #include <QDir>
 #include <QFileDialog>

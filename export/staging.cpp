@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/staging.h"
 
-#include "app/working_folders.h"
+#include "shell/working_folders.h"
 
 #include <QFile>
 

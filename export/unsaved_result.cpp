@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "app/question.h"
 #include "export/export_checks.h"
+#include "shell/question.h"
 #include "ui_MainWindow.h"
 
 #include <QFile>

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "app/working_folders.h"
 #include "export/encoder_arguments.h"
 #include "export/export_checks.h"
 #include "export/save_request.h"
@@ -9,6 +8,7 @@
 #include "export/staging.h"
 #include "export/tool_failure.h"
 #include "platform/text_number.h"
+#include "shell/working_folders.h"
 #include "ui_MainWindow.h"
 
 #include <QFile>

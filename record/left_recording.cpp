@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "record/left_recording.h"
 
-#include "app/working_folders.h"
-#include "record/atomic_file.h"
+#include "record/save/atomic_file.h"
+#include "shell/working_folders.h"
 
 #include <QFile>
 #include <QFileInfo>

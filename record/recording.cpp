@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "app/commands.h"
 #include "platform/window_server.h"
 #include "record/measured_rate.h"
 #include "record/window_list.h"
+#include "shell/commands.h"
 #include "ui_MainWindow.h"
 
 namespace {

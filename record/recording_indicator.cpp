@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "record/recording_indicator.h"
 
-#include "app/palette_icon.h"
 #include "record/recording_fields.h"
+#include "shell/palette_icon.h"
 
 #include <QPainter>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "record/recording_loader.h"
 
-#include "app/working_folders.h"
+#include "shell/working_folders.h"
 
 #include <QElapsedTimer>
 #include <QFile>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "app/question.h"
-#include "app/tab_view.h"
 #include "app/tabs.h"
 #include "record/left_recording.h"
 #include "record/recording_loader.h"
+#include "shell/question.h"
+#include "shell/tab_view.h"
 #include "ui_MainWindow.h"
 
 #include <QDateTime>

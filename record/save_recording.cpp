@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "app/commands.h"
-#include "app/tab_view.h"
 #include "app/tabs.h"
-#include "app/working_folders.h"
-#include "record/frame_saver.h"
+#include "record/save/frame_saver.h"
+#include "shell/commands.h"
+#include "shell/tab_view.h"
+#include "shell/working_folders.h"
 #include "ui_MainWindow.h"
 
 #include <QDebug>

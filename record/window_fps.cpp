@@ -3,10 +3,10 @@
 #include "record/window_fps.h"
 
 #include "app/app_delegate.h"
-#include "app/elided_label.h"
-#include "app/mnemonics.h"
 #include "export/frame_timing.h"
 #include "record/rate_list.h"
+#include "shell/elided_label.h"
+#include "shell/mnemonics.h"
 #include "ui_Window_FPS.h"
 
 #include <QMainWindow>

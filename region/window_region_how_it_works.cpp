@@ -3,8 +3,8 @@
 #include "region/window_region_how_it_works.h"
 
 #include "app/app_delegate.h"
-#include "app/mnemonics.h"
-#include "app/settings.h"
+#include "shell/mnemonics.h"
+#include "shell/settings.h"
 #include "ui_Window_Region_How_It_Works.h"
 
 Window_Region_How_It_Works::Window_Region_How_It_Works(QWidget *parent)

@@ -4,9 +4,9 @@
 
 #include "app/app_delegate.h"
 #include "app/application.h"
-#include "app/strings_table.h"
-#include "app/working_folders.h"
 #include "platform/window_server.h"
+#include "shell/strings_table.h"
+#include "shell/working_folders.h"
 #include "ui_MainWindow.h"
 
 #include <QLocale>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "app/commands.h"
+#include "shell/commands.h"
 #include "trim/range_rules.h"
 #include "trim/view_cut_preview.h"
 #include "trim/view_cut_range.h"

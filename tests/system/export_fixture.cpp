@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export_fixture.h"
 
-#include "app/tab_view.h"
+#include "shell/tab_view.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/frame_timing.h"
 #include "export_fixture.h"
-#include "record/window_progress.h"
+#include "shell/window_progress.h"
 
 #include <QDir>
 #include <QImageReader>

@@ -3,7 +3,7 @@
 #include "export/frame_timing.h"
 #include "export/gif_preset.h"
 #include "export_fixture.h"
-#include "record/window_progress.h"
+#include "shell/window_progress.h"
 
 #include <QDir>
 #include <QElapsedTimer>

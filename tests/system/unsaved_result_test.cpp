@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export_fixture.h"
 
-#include "app/settings.h"
+#include "shell/settings.h"
 
 #include <QDir>
 #include <QImageReader>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "platform/tile_store.h"
-#include "record/frame_saver.h"
+#include "record/save/frame_saver.h"
 #include "tests/controller_fixture.h"
 #include "tests/files.h"
 

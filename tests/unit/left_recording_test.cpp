@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "record/left_recording.h"
 
-#include "app/working_folders.h"
+#include "shell/working_folders.h"
 #include "tests/files.h"
 
 #include <QImage>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/mnemonics.h"
+#include "shell/mnemonics.h"
 
 #include "record/window_fps.h"
 #include "region/window_region_how_it_works.h"

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/tab_view.h"
 #include "record/window_fps.h"
-#include "record/window_progress.h"
+#include "shell/tab_view.h"
+#include "shell/window_progress.h"
 #include "tests/controller_fixture.h"
 
 #include <QDir>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/strings_table.h"
+#include "shell/strings_table.h"
 
-#include "app/interface_strings.h"
+#include "shell/interface_strings.h"
 
 #include <QDirIterator>
 #include <QFile>
@@ -95,7 +95,7 @@ TEST(StringsTable, theFirstPreferenceThatCanBeReadWins) {
 /// The keys that stand in quotes in the program's sources: those asked for while it runs.
 QStringList keysInSources() {
     QStringList keys;
-    for (const char *folder : {"app", "record", "region", "trim", "export", "platform"}) {
+    for (const char *folder : {"app", "export", "trim", "record", "region", "shell", "platform"}) {
         QDirIterator files(QStringLiteral(TOVAREL_SOURCE_DIR "/%1").arg(QLatin1String(folder)),
                            {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
                            QDirIterator::Subdirectories);

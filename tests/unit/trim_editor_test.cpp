@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/tab_view.h"
+#include "shell/tab_view.h"
 #include "tests/controller_fixture.h"
 #include "tests/files.h"
 #include "trim/view_cut_preview.h"

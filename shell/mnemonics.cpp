@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/mnemonics.h"
+#include "shell/mnemonics.h"
 
 #include <QAbstractButton>
 #include <QLabel>

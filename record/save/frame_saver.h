@@ -4,7 +4,7 @@
 
 #include "platform/image.h"
 #include "platform/image_reader.h"
-#include "record/png_writer.h"
+#include "record/save/png_writer.h"
 
 #include <QObject>
 #include <QString>

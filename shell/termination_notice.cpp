@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/termination_notice.h"
+#include "shell/termination_notice.h"
 
 #include <QSocketNotifier>
 #include <QtGlobal>

@@ -4,7 +4,7 @@
 
 #include "platform/image.h"
 #include "platform/image_reader.h"
-#include "record/deflate_piece.h"
+#include "record/save/deflate_piece.h"
 
 #include <QImage>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "record/deflate_piece.h"
+#include "record/save/deflate_piece.h"
 
 #include <libdeflate.h>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/elided_label.h"
+#include "shell/elided_label.h"
 
 #include <QPainter>
 #include <QStyle>

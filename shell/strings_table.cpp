@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/strings_table.h"
+#include "shell/strings_table.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "record/atomic_file.h"
+#include "record/save/atomic_file.h"
 
 #include <QFile>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/interface_strings.h"
+#include "shell/interface_strings.h"
 
 #include <QCoreApplication>
 

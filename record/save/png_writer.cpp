@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "record/png_writer.h"
+#include "record/save/png_writer.h"
 
 #include <QPainter>
 #include <QtEndian>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "record/window_progress.h"
+#include "shell/window_progress.h"
 
 #include "platform/close_requests.h"
 #include "ui_Window_Progress.h"

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "record/frame_saver.h"
+#include "record/save/frame_saver.h"
 
-#include "app/working_folders.h"
-#include "record/atomic_file.h"
+#include "record/save/atomic_file.h"
+#include "shell/working_folders.h"
 
 #include <QMetaObject>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/settings.h"
+#include "shell/settings.h"
 
 #include "platform/text_number.h"
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/screen_watcher.h"
+#include "shell/screen_watcher.h"
 
 #include "app/app_delegate.h"
 

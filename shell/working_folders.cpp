@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/working_folders.h"
+#include "shell/working_folders.h"
 
 #include "app/app_delegate.h"
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/palette_icon.h"
+#include "shell/palette_icon.h"
 
 #include <QFile>
 #include <QGuiApplication>

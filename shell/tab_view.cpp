@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/tab_view.h"
+#include "shell/tab_view.h"
 
 #include <QSignalBlocker>
 #include <QStackedWidget>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
-#include "app/mnemonics.h"
-#include "app/question.h"
+#include "shell/mnemonics.h"
+#include "shell/question.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
