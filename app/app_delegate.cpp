@@ -7,9 +7,8 @@
 #include "platform/window_server.h"
 #include "record/recording_loader.h"
 #include "record/save/frame_saver.h"
+#include "shell/working_folders.h"
 #include "ui_MainWindow.h"
-
-#include <QTextDocument>
 
 #include <utility>
 
@@ -19,10 +18,8 @@ AppDelegate::AppDelegate(Environment environment)
 
 AppDelegate::~AppDelegate() = default;
 
-void AppDelegate::ShowStatus(const QString &text) {
-    ui->labelStatus->setText(text);
-    // A path may look like markup, which a tip would follow; the label itself is set to plain text.
-    ui->labelStatus->setToolTip(text.isEmpty() ? text : Qt::convertFromPlainText(text));
+void AppDelegate::RemoveAllContentInFolder(const QString &folder) {
+    working_folders::removeContent(folder);
 }
 
 AppDelegate *appDelegate() {

@@ -8,14 +8,11 @@
 #include "record/measured_rate.h"
 #include "record/recording_fields.h"
 #include "region/region_fields.h"
-#include "shell/interface_strings.h"
-#include "shell/shell_fields.h"
+#include "shell/surroundings.h"
 #include "trim/range_rules.h"
 #include "trim/trim_fields.h"
 
-#include <QMessageBox>
 #include <QObject>
-#include <QPointer>
 #include <QProcess>
 
 #include <cstdint>
@@ -29,9 +26,7 @@ class FrameSaver;
 class GlobalShortcuts;
 class RecordingLoader;
 class WindowServer;
-enum class Answer;
 enum class GifPreset;
-struct Question;
 struct RecordingNote;
 struct SaveRequest;
 struct ToolExit;
@@ -39,6 +34,7 @@ struct ToolRun;
 struct GifFileJob;
 struct GifFileResult;
 struct MadeGif;
+class Window_Progress;
 namespace Ui {
 class MainWindow;
 }
@@ -65,8 +61,9 @@ public:
 
     // State, by concern -----------------------------------------------------------------------
 
-    ShellFields shell;
-    InterfaceStrings texts;
+    Surroundings surroundings;
+    ShellFields &shell = surroundings.shell;
+    InterfaceStrings &texts = surroundings.texts;
     CaptureFields capture;
     RecordingFields recording;
     RegionFields region;
@@ -92,9 +89,7 @@ public:
     /// Ends the process at once with status 0, from wherever it is called: settings are written, a
     /// running tool is ended, nothing else is released or emptied.
     [[noreturn]] void Terminate_App();
-    /// Takes the frame of the main window's screen into `frame_Screen` and `size_Screen`; the zero
-    /// rectangle without a screen. Points, lower left origin.
-    void GetScreenSize();
+    void GetScreenSize() { surroundings.updateScreen(); }
     /// The smallest allowed size is 556 by 425 points; larger sizes pass unchanged.
     static QSizeF windowWillResizeToSize(QSizeF proposed);
     /// The screen configuration changed: an open region overlay whose screen is another now ends,
@@ -103,11 +98,7 @@ public:
 
     // Working folders (app/) ------------------------------------------------------------------
 
-    /// Removes everything inside the folder (hidden files and broken links too) and keeps the
-    /// folder. What cannot be removed is logged as "oops: ..." and skipped.
     void RemoveAllContentInFolder(const QString &folder);
-    /// Whether a recording exists: whether anything stands at the first frame's path.
-    bool firstFrameFileExists() const;
 
     // Tabs and menus (app/) -------------------------------------------------------------------
 
@@ -144,18 +135,6 @@ public:
     /// Ends the process as `Terminate_App` does, once nothing has to be answered first.
     void OnMenuQuit();
 
-    // Telling the user (app/) -----------------------------------------------------------------
-
-    /// An application-modal alert with one button "Close"; returns when it is dismissed. `detail`
-    /// is a text of its own beneath, for a path that somebody may want to copy.
-    void RunAlert(const QString &messageText, const QString &informativeText,
-                  const QString &detail = {});
-    /// Asks over the main window and returns at once; `answered` is called from the event loop when
-    /// the dialog has gone. Escape stands for cancel, or else for accept. Not while `isAsking`.
-    void Ask(const Question &question, std::function<void(Answer)> answered);
-    bool isAsking() const { return !question_.isNull(); }
-    /// Shows `text` in the status line until the next one; an empty text clears it.
-    void ShowStatus(const QString &text);
     /// Lets the main window's title and icon tell of a recording, for whoever sees only a task bar.
     void showStateInTaskBar();
 
@@ -232,20 +211,7 @@ public:
     /// Where an image is drawn in an area, see `bestFitFrame` in record/fitting.h.
     QRectF return_Best_Fit_Frame(double imageWidth, double imageHeight, double areaWidth,
                                  double areaHeight);
-    /// Attaches a fresh progress sheet with this caption to the main window, in place of any
-    /// earlier one; its bar runs from 0 to 100.
-    void showProgressSheet(const QString &caption);
-    void setProgressRange(double minimum, double maximum);
-    /// Moves the bar; values beyond its range show as empty or full, one that is not finite moves
-    /// nothing. Without a sheet nothing happens.
-    void setProgressValue(double value);
-    /// What stands in the bar; "%p" in it is the percentage, which stands there alone at first.
-    void setProgressText(const QString &format);
-    /// Turns events other than the user's until the sheet is on screen, then paints it: for work
-    /// that is about to block the main thread.
-    void paintProgressSheet();
-    /// Takes the sheet down, if one is up; it deletes itself later.
-    void closeProgressSheet();
+    Window_Progress *windowProgress() const { return surroundings.progress.windowProgress(); }
 
     // Region (region/) ------------------------------------------------------------------------
 
@@ -420,7 +386,6 @@ private:
     QString documentsFolder_;
     std::unique_ptr<FrameSaver> frameSaver_;
     std::unique_ptr<RecordingLoader> loader_;
-    QPointer<QMessageBox> question_; // while it waits for its answer
     std::unique_ptr<GlobalShortcuts> desktopKeys_;
     QProcess *watchedTool_ = nullptr; // while `RunToolWithProgress` waits for it
 };

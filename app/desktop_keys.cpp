@@ -72,5 +72,5 @@ void AppDelegate::listenToDesktopKeys() {
         sentences << qtTrId("IDD_KEYS_GRANTED").arg(modifiers(), granted.join(between));
     if (!taken.isEmpty())
         sentences << qtTrId("IDD_KEYS_TAKEN").arg(modifiers(), taken.join(between));
-    ShowStatus(sentences.join(QStringLiteral(" – ")));
+    surroundings.showStatus(sentences.join(QStringLiteral(" – ")));
 }

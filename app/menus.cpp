@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
+#include "app/about.h"
 #include "app/app_delegate.h"
 #include "platform/bundle.h"
 
@@ -32,13 +33,15 @@ bool openHelpPage(const QString &page) {
 void AppDelegate::OnMenuHelp() {
     // Who asks for help must not be left without a word; it leads to the other pages, too.
     if (!openHelpPage(firstPage))
-        RunAlert(QStringLiteral("Error"), qtTrId("IDD_HELP_NOT_OPENED"),
-                 bundle::pathForHelp(firstPage));
+        surroundings.alerts.run(AlertKind::Error, qtTrId("IDD_HELP_NOT_OPENED"),
+                                bundle::pathForHelp(firstPage));
 }
 
 void AppDelegate::OnMenuHelpAppHomePage() { openHelpPage(firstPage); }
 void AppDelegate::OnMenuHelpCompanyHomePage() { openHelpPage(QStringLiteral("maker.html")); }
 void AppDelegate::OnMenuHelpPrivacyPolicy() { openHelpPage(QStringLiteral("privacy.html")); }
 void AppDelegate::OnMenuHelpSubmitTicket() { openHelpPage(QStringLiteral("ticket.html")); }
+
+void AppDelegate::OnMenuAbout() { showAbout(surroundings); }
 
 void AppDelegate::OnMenuQuit() { endForTheUser(); }

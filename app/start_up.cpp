@@ -15,7 +15,7 @@
 
 #include <QApplication>
 #include <QMainWindow>
-#include <QScreen>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -50,6 +50,17 @@ void AppDelegate::awakeFromNib() {
 }
 
 void AppDelegate::connectShellControls() {
+    surroundings.progress.hangFrom(*ui->tabBar);
+    connect(&surroundings.progress, &ProgressSheet::parentCloseRequested, this,
+            &AppDelegate::windowWillClose);
+    connect(&surroundings.progress, &ProgressSheet::cancelled, this, &AppDelegate::cancelExport);
+    connect(&surroundings, &Surroundings::statusChanged, ui->labelStatus,
+            [label = ui->labelStatus](const QString &text) {
+                label->setText(text);
+                // A path may look like markup, which a tip would follow; the label itself is set
+                // to plain text.
+                label->setToolTip(text.isEmpty() ? text : Qt::convertFromPlainText(text));
+            });
     const auto on = [this](QAction *item, void (AppDelegate::*action)()) {
         connect(item, &QAction::triggered, this, action);
     };
@@ -79,7 +90,7 @@ bool AppDelegate::applicationDidFinishLaunching() {
         RemoveAllContentInFolder(shell.s_Output_Folder());
     RemoveAllContentInFolder(shell.s_Export_Folder());
     RemoveAllContentInFolder(shell.s_Pallete_Folder());
-    GetScreenSize();
+    surroundings.updateScreen();
     region.setRect_Screen_Region(shell.frame_Screen());
     capture.arrayController.clear();
     capture.arrayWindowsMinusHarrowlens.clear();
@@ -130,16 +141,10 @@ bool AppDelegate::createWorkingFolders() {
     for (const auto &folder : folders) {
         if (working_folders::ensureFolder(folder.path))
             continue;
-        RunAlert(QStringLiteral("Error"), QString::fromLatin1(folder.failure));
+        surroundings.alerts.run(AlertKind::Error, QString::fromLatin1(folder.failure));
         return false;
     }
     return true;
-}
-
-void AppDelegate::GetScreenSize() {
-    const QRectF frame = lowerLeftFrame(shell.window()->screen());
-    shell.setFrame_Screen(frame);
-    shell.setSize_Screen(frame.size());
 }
 
 QSizeF AppDelegate::windowWillResizeToSize(QSizeF proposed) {

@@ -32,7 +32,7 @@ void AppDelegate::tabViewDidSelectTabViewItem(const QString &identifier) {
         stopRecordTimers();
     }
     if (identifier == cutTab) {
-        const bool exists = firstFrameFileExists();
+        const bool exists = surroundings.firstFrameFileExists();
         enablePlayback(exists, false, false);
         // The exports read the range, and nothing may ever be painted (a minimised window).
         if (exists)

@@ -25,7 +25,7 @@ bool AppDelegate::eventFilter(QObject *watched, QEvent *event) {
 void AppDelegate::windowWillClose() {
     // A click on the close button must not cost the recording that is being saved.
     if (isSavingRecording()) {
-        ShowStatus(qtTrId("IDD_CLOSE_WAITS"));
+        surroundings.showStatus(qtTrId("IDD_CLOSE_WAITS"));
         return;
     }
     endForTheUser();

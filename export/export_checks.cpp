@@ -17,7 +17,7 @@ bool hasTooFewFrames(const std::optional<range_rules::Kept> &kept) {
 }
 
 bool mayExport(const AppDelegate &controller) {
-    return !controller.exporting.exportRuns() && !controller.exporting.windowProgress();
+    return !controller.exporting.exportRuns() && !controller.surroundings.progress.windowProgress();
 }
 
 std::optional<QString> refusal(const AppDelegate &controller) {

@@ -10,21 +10,15 @@
 #include <optional>
 #include <stop_token>
 
-class Window_Progress;
-
 /// The kind of run that the progress sheet follows: the GIF's last one, one that only prepares an
 /// export, the WebP's.
 inline constexpr std::uint64_t PROGRESS_TYPE_GIF = 0;
 inline constexpr std::uint64_t PROGRESS_TYPE_PREPARATION = 1;
 inline constexpr std::uint64_t PROGRESS_TYPE_WEBP = 2;
 
-/// State of the exports and of the progress sheet. `export/` owns the behaviour.
+/// State of the exports. `export/` owns the behaviour.
 class ExportFields {
 public:
-    /// The progress sheet while one is shown; null otherwise. The main window owns the widget.
-    Window_Progress *windowProgress() const { return windowProgress_; }
-    void setWindowProgress(Window_Progress *sheet) { windowProgress_ = sheet; }
-
     /// Set when the watched tool has ended.
     bool terminated() const { return terminated_; }
     void setTerminated(bool ended) { terminated_ = ended; }
@@ -56,7 +50,6 @@ public:
     std::optional<SaveRequest> unsaved;
 
 private:
-    Window_Progress *windowProgress_ = nullptr;
     bool terminated_ = false;
     std::uint64_t u_Type_Progress_ = PROGRESS_TYPE_GIF;
     double i_Orig_Duration_in_Seconds_ = 0.0;

@@ -19,7 +19,7 @@ const QString encoder = QStringLiteral("ffmpeg");
 } // namespace
 
 MadeGif AppDelegate::makeClassicGIF(std::span<const frame_timing::TimedFrame> frames) {
-    setProgressText(qtTrId("IDD_PROGRESS_PALETTE"));
+    surroundings.progress.setText(qtTrId("IDD_PROGRESS_PALETTE"));
     const std::uint64_t staged =
         stageFrames(shell.s_Output_Folder(), frames, shell.s_Export_Folder());
     stageFrames(
@@ -48,7 +48,7 @@ AppDelegate::runClassicEncoder(std::span<const frame_timing::TimedFrame> frames)
     }
     const QString width = ui->textGIFWidth->text();
     const QString height = ui->textGIFHeigth->text();
-    setProgressText(qtTrId("IDD_PROGRESS_PICTURES"));
+    surroundings.progress.setText(qtTrId("IDD_PROGRESS_PICTURES"));
     exporting.setI_Orig_Duration_in_Seconds(
         frame_timing::beginOfLast(frames, frame_timing::gifTicks));
     const ToolExit exit = RunToolWithProgress(

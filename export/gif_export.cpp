@@ -84,12 +84,12 @@ void AppDelegate::OnGIFExport(QObject *) {
     if (!reason && preset != GifPreset::Classic)
         reason = GIFSizeRefusal();
     if (reason) {
-        RunAlert(QStringLiteral("Error"), *reason);
+        surroundings.alerts.run(AlertKind::Error, *reason);
         return;
     }
     if (mustAskFirst([this] { OnGIFExport(nullptr); }))
         return;
-    ShowStatus({});
+    surroundings.showStatus({});
     RemoveAllContentInFolder(shell.s_Export_Folder());
     showExportSheet(qtTrId("IDD_PROGRESS_GIF"), QStringLiteral("%p%"));
     RemoveAllContentInFolder(shell.s_Pallete_Folder());
@@ -103,7 +103,7 @@ void AppDelegate::OnGIFExport(QObject *) {
     if (endedWithoutResult(made.failure))
         return;
     const QString note = noteAbout(made, frames.size());
-    ShowStatus(note);
+    surroundings.showStatus(note);
     saveResult({.file = encoder_arguments::gifFile(shell.s_Export_Folder()),
                 .panelTitle = QStringLiteral("Select a folder to save the GIF image"),
                 .successText = texts.s_IDD_GIF_SAVED_OK(),
@@ -127,7 +127,7 @@ MadeGif AppDelegate::makeGIF(std::span<const TimedFrame> frames, float tolerance
             return;
         shown = share;
         QMetaObject::invokeMethod(
-            this, [this, share] { setProgressValue(share * 100.0 / barSteps); },
+            this, [this, share] { surroundings.progress.setValue(share * 100.0 / barSteps); },
             Qt::QueuedConnection);
     };
     const GifFileResult result = runEncoder(job);

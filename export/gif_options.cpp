@@ -19,7 +19,7 @@ void write(QLineEdit &field, const QString &text) {
 } // namespace
 
 void AppDelegate::resetGIFOptions() {
-    const bool exists = firstFrameFileExists();
+    const bool exists = surroundings.firstFrameFileExists();
     QWidget *const controls[] = {ui->radioGIFOriginalDimension,
                                  ui->radioGIFCustomDimension,
                                  ui->textGIFWidth,

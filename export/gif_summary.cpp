@@ -45,7 +45,7 @@ Request AppDelegate::timingRequest() const {
 void AppDelegate::updateGIFSummary() {
     ui->labelGIFThinned->clear();
     ui->labelGIFSummary->clear();
-    if (!firstFrameFileExists() || ui->comboGIFFPS->currentIndex() < 0)
+    if (!surroundings.firstFrameFileExists() || ui->comboGIFFPS->currentIndex() < 0)
         return;
     if (hasTooFewFrames(keptRange())) {
         ui->labelGIFSummary->setText(texts.s_IDD_LOW_FRAME_NUMBER());

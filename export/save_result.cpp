@@ -75,8 +75,8 @@ void AppDelegate::chooseResultsPlace() {
                                                ? qtTrId("IDD_MOVE_WORKING_FOLDER")
                                                : safeMove(request.file, path);
     if (failure) {
-        RunAlert(QStringLiteral("Error"),
-                 qtTrId("IDD_MOVE_FAILED").arg(path, *failure, request.file));
+        surroundings.alerts.run(AlertKind::Error,
+                                qtTrId("IDD_MOVE_FAILED").arg(path, *failure, request.file));
         showUnsavedResult();
         return;
     }
@@ -87,6 +87,6 @@ void AppDelegate::chooseResultsPlace() {
     QString status = qtTrId("IDD_STATUS_SAVED").arg(path, size);
     if (!request.note.isEmpty())
         status += QLatin1Char(' ') + request.note;
-    ShowStatus(status);
-    RunAlert(QStringLiteral("Success"), request.successText, status);
+    surroundings.showStatus(status);
+    surroundings.alerts.run(AlertKind::Success, request.successText, status);
 }

@@ -32,7 +32,7 @@ ToolRun AppDelegate::RunToolReadAllOutput(const QString &toolPath, const QString
 
 ToolExit AppDelegate::RunToolWithProgress(const QString &toolPath, const QStringList &arguments,
                                           std::uint64_t type) {
-    setProgressValue(0.0);
+    surroundings.progress.setValue(0.0);
     exporting.setU_Type_Progress(type);
     exporting.toolErrors.clear();
     QProcess tool;
@@ -93,7 +93,8 @@ void AppDelegate::errData(const QByteArray &data) {
                                               ? secondsOfAddedFrame(data)
                                               : secondsInChunk(data);
     if (seconds)
-        setProgressValue(progressPercentage(*seconds, exporting.i_Orig_Duration_in_Seconds()));
+        surroundings.progress.setValue(
+            progressPercentage(*seconds, exporting.i_Orig_Duration_in_Seconds()));
 }
 
 void AppDelegate::terminated(int, QProcess::ExitStatus) {
@@ -102,7 +103,7 @@ void AppDelegate::terminated(int, QProcess::ExitStatus) {
     watchedTool_ = nullptr;
     exporting.setTerminated(true);
     if (exporting.u_Type_Progress() != PROGRESS_TYPE_PREPARATION)
-        closeProgressSheet();
+        surroundings.progress.close();
 }
 
 std::uint64_t AppDelegate::Return_Seconds_From_VOB_Duration_Str(const QString &stamp) {

@@ -29,11 +29,11 @@ void AppDelegate::showUnsavedResult() {
     QString status = qtTrId("IDD_STATUS_UNSAVED").arg(kindOf(*exporting.unsaved));
     if (!exporting.unsaved->note.isEmpty())
         status += QLatin1Char(' ') + exporting.unsaved->note;
-    ShowStatus(status);
+    surroundings.showStatus(status);
 }
 
 void AppDelegate::saveUnsavedResult() {
-    if (isAsking() || !mayExport(*this))
+    if (surroundings.alerts.isAsking() || !mayExport(*this))
         return;
     // Neither a second panel nor an export beneath the first one.
     const ExportMark mark(exporting);
@@ -50,7 +50,7 @@ void AppDelegate::forgetResult() {
 
 bool AppDelegate::mustAskFirst(std::function<void()> goOn) {
     // Assistive technology reaches what a dialog blocks.
-    if (isAsking() || isOpeningRecording())
+    if (surroundings.alerts.isAsking() || isOpeningRecording())
         return true;
     if (!hasUnsavedResult()) {
         // Somebody may have taken it away: what is made next under its name is another one.
@@ -58,23 +58,23 @@ bool AppDelegate::mustAskFirst(std::function<void()> goOn) {
         return false;
     }
     const QString kind = kindOf(*exporting.unsaved);
-    Ask({.message = qtTrId("IDD_UNSAVED_QUESTION").arg(kind),
-         .detail = qtTrId("IDD_UNSAVED_DETAIL"),
-         .accept = qtTrId("IDD_SAVE_RESULT"),
-         .destroy = qtTrId("IDD_DISCARD"),
-         .cancel = qtTrId("IDD_CANCEL")},
-        [this, goOn = std::move(goOn)](Answer answer) {
-            if (answer == Answer::Cancel)
-                return;
-            if (answer == Answer::Accept) {
-                saveUnsavedResult();
-            } else if (exporting.unsaved) {
-                QFile::remove(exporting.unsaved->file);
-                forgetResult();
-                ShowStatus({});
-            }
-            if (!hasUnsavedResult())
-                goOn();
-        });
+    surroundings.alerts.ask({.message = qtTrId("IDD_UNSAVED_QUESTION").arg(kind),
+                             .detail = qtTrId("IDD_UNSAVED_DETAIL"),
+                             .accept = qtTrId("IDD_SAVE_RESULT"),
+                             .destroy = qtTrId("IDD_DISCARD"),
+                             .cancel = qtTrId("IDD_CANCEL")},
+                            [this, goOn = std::move(goOn)](Answer answer) {
+                                if (answer == Answer::Cancel)
+                                    return;
+                                if (answer == Answer::Accept) {
+                                    saveUnsavedResult();
+                                } else if (exporting.unsaved) {
+                                    QFile::remove(exporting.unsaved->file);
+                                    forgetResult();
+                                    surroundings.showStatus({});
+                                }
+                                if (!hasUnsavedResult())
+                                    goOn();
+                            });
     return true;
 }

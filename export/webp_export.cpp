@@ -59,12 +59,12 @@ void AppDelegate::Generate_WebP(QObject *) {
     const ExportMark mark(exporting);
     finishEditingGIFSize();
     if (const std::optional<QString> reason = refusal(*this)) {
-        RunAlert(QStringLiteral("Error"), *reason);
+        surroundings.alerts.run(AlertKind::Error, *reason);
         return;
     }
     if (mustAskFirst([this] { Generate_WebP(nullptr); }))
         return;
-    ShowStatus({});
+    surroundings.showStatus({});
     RemoveAllContentInFolder(shell.s_Export_Folder());
     working_folders::ensureFolder(shell.s_Export_Folder());
     showExportSheet(qtTrId("IDD_PROGRESS_WEBP"), QStringLiteral("%p%"));
@@ -79,7 +79,7 @@ void AppDelegate::Generate_WebP(QObject *) {
         note = qtTrId("IDD_STATUS_WEBP_GAP")
                    .arg(locale.toString(qulonglong{frames.size()}),
                         locale.toString(qulonglong{wanted.size()}));
-        ShowStatus(note);
+        surroundings.showStatus(note);
     }
     saveResult({.file = encoder_arguments::webpFile(shell.s_Export_Folder()),
                 .panelTitle = QStringLiteral("Select a folder to save the WebP image"),
@@ -125,7 +125,7 @@ std::optional<QString> AppDelegate::encodeWebP(std::span<const TimedFrame> frame
 std::optional<QString> AppDelegate::scaleForWebP(std::span<const TimedFrame> frames) {
     const std::vector<TimedFrame> each = withoutRepeats(frames);
     stageFrames(shell.s_Output_Folder(), each, shell.s_Export_Folder());
-    setProgressText(qtTrId("IDD_PROGRESS_SCALING"));
+    surroundings.progress.setText(qtTrId("IDD_PROGRESS_SCALING"));
     const QString width = ui->textGIFWidth->text();
     const QString height = ui->textGIFHeigth->text();
     // One a second, see `scalingArguments`; this encoder's stamps tell where a picture ends.
@@ -134,7 +134,7 @@ std::optional<QString> AppDelegate::scaleForWebP(std::span<const TimedFrame> fra
         shell.sffmpegPath(),
         encoder_arguments::scalingArguments(shell.s_Export_Folder(), width, height),
         PROGRESS_TYPE_PREPARATION);
-    setProgressText(qtTrId("IDD_PROGRESS_PICTURES"));
+    surroundings.progress.setText(qtTrId("IDD_PROGRESS_PICTURES"));
     if (!exit.succeeded())
         return refusedSizeText(scaler, exit, width, height);
     return std::nullopt;

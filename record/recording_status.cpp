@@ -53,7 +53,7 @@ void AppDelegate::showRecordingState() {
             (left && *left < longest
                  ? qtTrId("IDD_RECORDING_MEMORY_LASTS").arg(held, minutesAndSeconds(*left))
                  : qtTrId("IDD_RECORDING_MEMORY").arg(held));
-    ShowStatus(text);
+    surroundings.showStatus(text);
 }
 
 void AppDelegate::watchMemory() {
@@ -68,8 +68,9 @@ void AppDelegate::watchMemory() {
         return;
     }
     OnRecordPause(nullptr);
-    ShowStatus(qtTrId("IDD_PAUSED_FOR_MEMORY")
-                   .arg(QLocale().formattedDataSize(static_cast<qint64>(memory->available), 1)));
+    surroundings.showStatus(
+        qtTrId("IDD_PAUSED_FOR_MEMORY")
+            .arg(QLocale().formattedDataSize(static_cast<qint64>(memory->available), 1)));
 }
 
 void AppDelegate::showCaptureMode() {

@@ -46,41 +46,42 @@ void AppDelegate::offerRecording(const RecordingNote &note) {
     const QLocale locale;
     const QDateTime saved =
         QFileInfo(left_recording::noteFile(shell.s_Output_Folder())).lastModified();
-    Ask({.message = qtTrId("IDD_RECOVER_QUESTION"),
-         .detail = qtTrId("IDD_RECOVER_DETAIL")
-                       .arg(locale.toString(saved, QLocale::ShortFormat),
-                            locale.toString(qulonglong{note.frames}),
-                            locale.toString(note.seconds, 'f', 1)),
-         .accept = qtTrId("IDD_RECOVER_OPEN"),
-         .destroy = qtTrId("IDD_RECOVER_DELETE"),
-         .cancel = {}},
-        [this, note](Answer answer) {
-            if (answer == Answer::Accept)
-                openRecording(note);
-            else
-                RemoveAllContentInFolder(shell.s_Output_Folder());
-        });
+    surroundings.alerts.ask({.message = qtTrId("IDD_RECOVER_QUESTION"),
+                             .detail = qtTrId("IDD_RECOVER_DETAIL")
+                                           .arg(locale.toString(saved, QLocale::ShortFormat),
+                                                locale.toString(qulonglong{note.frames}),
+                                                locale.toString(note.seconds, 'f', 1)),
+                             .accept = qtTrId("IDD_RECOVER_OPEN"),
+                             .destroy = qtTrId("IDD_RECOVER_DELETE"),
+                             .cancel = {}},
+                            [this, note](Answer answer) {
+                                if (answer == Answer::Accept)
+                                    openRecording(note);
+                                else
+                                    RemoveAllContentInFolder(shell.s_Output_Folder());
+                            });
 }
 
 void AppDelegate::openRecording(const RecordingNote &note) {
-    showProgressSheet(qtTrId("IDD_RECOVER_LOADING"));
-    setProgressRange(0.0, static_cast<double>(note.frames));
-    setProgressValue(0.0);
+    surroundings.progress.show(qtTrId("IDD_RECOVER_LOADING"));
+    surroundings.progress.setRange(0.0, static_cast<double>(note.frames));
+    surroundings.progress.setValue(0.0);
     loader_ = std::make_unique<RecordingLoader>(shell.s_Output_Folder(), note, recording.store,
                                                 [this](std::uint64_t done) { frameLoaded(done); });
 }
 
 void AppDelegate::frameLoaded(std::uint64_t done) {
-    setProgressValue(static_cast<double>(done));
+    surroundings.progress.setValue(static_cast<double>(done));
     if (!loader_->hasEnded())
         return;
     // Its own report is on the stack.
     RecordingLoader *loader = loader_.release();
     loader->deleteLater();
-    closeProgressSheet();
+    surroundings.progress.close();
     recording.store.rest();
     if (loader->hasFailed()) {
-        RunAlert(QStringLiteral("Error"), qtTrId("IDD_RECOVER_FAILED").arg(loader->failedFile()));
+        surroundings.alerts.run(AlertKind::Error,
+                                qtTrId("IDD_RECOVER_FAILED").arg(loader->failedFile()));
         return;
     }
     takeRecording(loader->takeFrames(), loader->note());
@@ -94,6 +95,6 @@ void AppDelegate::takeRecording(std::vector<Image> frames, const RecordingNote &
     recording.setI_Actual_FPS_while_Recording(0);
     recording.setU_number_of_seconds(0);
     recording.clock = clockThatCounted(note.seconds);
-    ShowStatus(
+    surroundings.showStatus(
         qtTrId("IDD_RECORDING_SAVED").arg(note.frames).arg(recording.u_Record_Current_FPS()));
 }

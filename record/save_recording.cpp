@@ -15,13 +15,13 @@ bool AppDelegate::isSavingRecording() const { return frameSaver_ != nullptr; }
 
 void AppDelegate::saveRecording() {
     const std::size_t frames = recording.array_Images ? recording.array_Images->size() : 0;
-    showProgressSheet(qtTrId("IDD_SAVING_RECORDING"));
-    setProgressRange(0.0, static_cast<double>(frames));
-    setProgressValue(0.0);
+    surroundings.progress.show(qtTrId("IDD_SAVING_RECORDING"));
+    surroundings.progress.setRange(0.0, static_cast<double>(frames));
+    surroundings.progress.setValue(0.0);
     if (frames == 0) {
-        closeProgressSheet();
+        surroundings.progress.close();
         recordingSaved();
-        ShowStatus(qtTrId("IDD_NOTHING_RECORDED"));
+        surroundings.showStatus(qtTrId("IDD_NOTHING_RECORDED"));
         return;
     }
     // Somebody may have taken it away since the start.
@@ -46,13 +46,13 @@ void AppDelegate::OnSaveAgain(QObject *) {
 }
 
 void AppDelegate::frameReported(std::uint64_t done) {
-    setProgressValue(static_cast<double>(done));
+    surroundings.progress.setValue(static_cast<double>(done));
     if (done < frameSaver_->count())
         return;
     // Its own report is on the stack.
     FrameSaver *saver = frameSaver_.release();
     saver->deleteLater();
-    closeProgressSheet();
+    surroundings.progress.close();
     recordingSaved();
     showSaveResult(*saver);
     if (shell.tabviewMain()->selectedIndex() == tabs::cut)
@@ -71,7 +71,7 @@ void AppDelegate::showSaveResult(const FrameSaver &saver) {
                        .arg(saver.count())
                        .arg(recording.u_FPS())
                        .arg(recording.u_Record_Current_FPS());
-        ShowStatus(text);
+        surroundings.showStatus(text);
         return;
     }
     const QString text =
@@ -79,6 +79,6 @@ void AppDelegate::showSaveResult(const FrameSaver &saver) {
             .arg(QString::number(saver.missing()), QString::number(saver.count()),
                  QDir::toNativeSeparators(shell.s_Output_Folder()), saver.reason());
     qWarning().noquote() << text;
-    ShowStatus(text);
+    surroundings.showStatus(text);
     ui->btnSaveAgain->show();
 }

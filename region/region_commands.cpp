@@ -3,6 +3,7 @@
 #include "app/app_delegate.h"
 #include "region/window_region_how_it_works.h"
 #include "region/window_transparent_region.h"
+#include "shell/screen_watcher.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -28,7 +29,7 @@ void AppDelegate::OnRecordRegion(QObject *) {
     const QRectF rectangleBefore = region.rect_Screen_Region();
     const std::optional<grab_units::Screen> screenBefore = region.screenOfRegion();
     region.setI_Type_Screen_Capture(CAPTURE_REGION);
-    GetScreenSize();
+    surroundings.updateScreen();
     region.setSize_Region(startingSize);
     int code = Window_Transparent_Region::cancelled;
     if (QScreen *screen = shell.window()->screen()) {
@@ -52,4 +53,18 @@ void AppDelegate::endRegionOverlay() {
     region.pFullScreen()->stopModalWithCode(Window_Transparent_Region::screenChanged);
     region.pFullScreen()->hide();
     region.setPFullScreen(nullptr);
+}
+
+void AppDelegate::screenParametersDidChange() {
+    if (!region.pFullScreen())
+        return;
+    const QRectF frame = lowerLeftFrame(shell.window()->screen());
+    const QRectF known = shell.frame_Screen();
+    // QRectF's own comparison is fuzzy; here every difference counts.
+    const bool same = frame.x() == known.x() && frame.y() == known.y() &&
+                      frame.width() == known.width() && frame.height() == known.height();
+    if (same)
+        return;
+    endRegionOverlay();
+    region.setI_Type_Screen_Capture(CAPTURE_FULL_SCREEN);
 }

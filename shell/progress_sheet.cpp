@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
+#include "shell/progress_sheet.h"
+
 #include "shell/window_progress.h"
-#include "ui_MainWindow.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -17,34 +17,36 @@ constexpr qint64 exposureLimit = 250;
 
 } // namespace
 
-void AppDelegate::showProgressSheet(const QString &caption) {
-    closeProgressSheet();
+void ProgressSheet::show(const QString &caption) {
+    close();
     // Owned by the main window; a sheet whose job has ended deletes itself, see below.
-    auto *sheet = new Window_Progress(*ui->tabBar, caption);
-    connect(sheet, &Window_Progress::parentCloseRequested, this, &AppDelegate::windowWillClose);
-    exporting.setWindowProgress(sheet);
+    auto *sheet = new Window_Progress(*anchor_, caption);
+    connect(sheet, &Window_Progress::parentCloseRequested, this,
+            &ProgressSheet::parentCloseRequested);
+    connect(sheet, &Window_Progress::cancelled, this, &ProgressSheet::cancelled);
+    windowProgress_ = sheet;
     sheet->open();
 }
 
-void AppDelegate::setProgressRange(double minimum, double maximum) {
-    if (Window_Progress *sheet = exporting.windowProgress()) {
-        sheet->setMinValue(minimum);
-        sheet->setMaxValue(maximum);
+void ProgressSheet::setRange(double minimum, double maximum) {
+    if (windowProgress_) {
+        windowProgress_->setMinValue(minimum);
+        windowProgress_->setMaxValue(maximum);
     }
 }
 
-void AppDelegate::setProgressValue(double value) {
-    if (Window_Progress *sheet = exporting.windowProgress())
-        sheet->setDoubleValue(value);
+void ProgressSheet::setValue(double value) {
+    if (windowProgress_)
+        windowProgress_->setDoubleValue(value);
 }
 
-void AppDelegate::setProgressText(const QString &format) {
-    if (Window_Progress *sheet = exporting.windowProgress())
-        sheet->progressBar()->setFormat(format);
+void ProgressSheet::setText(const QString &format) {
+    if (windowProgress_)
+        windowProgress_->progressBar()->setFormat(format);
 }
 
-void AppDelegate::paintProgressSheet() {
-    Window_Progress *sheet = exporting.windowProgress();
+void ProgressSheet::paint() {
+    Window_Progress *sheet = windowProgress_;
     if (!sheet)
         return;
     const auto exposed = [sheet] {
@@ -59,11 +61,16 @@ void AppDelegate::paintProgressSheet() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-void AppDelegate::closeProgressSheet() {
-    Window_Progress *sheet = exporting.windowProgress();
+void ProgressSheet::offerCancel() {
+    if (windowProgress_)
+        windowProgress_->offerCancel();
+}
+
+void ProgressSheet::close() {
+    Window_Progress *sheet = windowProgress_;
     if (!sheet)
         return;
-    exporting.setWindowProgress(nullptr);
+    windowProgress_ = nullptr;
     sheet->hide();
     // Later, since the caller may be called from the sheet's own events.
     sheet->deleteLater();

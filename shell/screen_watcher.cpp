@@ -2,10 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/screen_watcher.h"
 
-#include "app/app_delegate.h"
-
 #include <QGuiApplication>
-#include <QMainWindow>
 #include <QScreen>
 
 QRectF lowerLeftFrame(const QScreen *screen) {
@@ -31,18 +28,4 @@ ScreenWatcher::ScreenWatcher(QObject *parent) : QObject(parent) {
 
 void ScreenWatcher::watch(QScreen *screen) {
     connect(screen, &QScreen::geometryChanged, this, &ScreenWatcher::changed);
-}
-
-void AppDelegate::screenParametersDidChange() {
-    if (!region.pFullScreen())
-        return;
-    const QRectF frame = lowerLeftFrame(shell.window()->screen());
-    const QRectF known = shell.frame_Screen();
-    // QRectF's own comparison is fuzzy; here every difference counts.
-    const bool same = frame.x() == known.x() && frame.y() == known.y() &&
-                      frame.width() == known.width() && frame.height() == known.height();
-    if (same)
-        return;
-    endRegionOverlay();
-    region.setI_Type_Screen_Capture(CAPTURE_FULL_SCREEN);
 }

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/working_folders.h"
 
-#include "app/app_delegate.h"
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -99,12 +97,8 @@ void removeContent(const fs::path &folder) {
     }
 }
 
+void removeContent(const QString &folder) {
+    removeContent(fs::path(QFile::encodeName(folder).toStdString()));
+}
+
 } // namespace working_folders
-
-void AppDelegate::RemoveAllContentInFolder(const QString &folder) {
-    working_folders::removeContent(QFile::encodeName(folder).toStdString());
-}
-
-bool AppDelegate::firstFrameFileExists() const {
-    return QFileInfo::exists(working_folders::frameFile(shell.s_Output_Folder(), 0));
-}

@@ -32,5 +32,6 @@ bool ensureFolder(const QString &folder);
 /// and keeps the folder itself. What cannot be removed is logged as "oops: ..." and keeps none of
 /// its neighbours.
 void removeContent(const std::filesystem::path &folder);
+void removeContent(const QString &folder);
 
 } // namespace working_folders

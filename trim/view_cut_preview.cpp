@@ -27,7 +27,7 @@ void View_Cut_Preview::paintEvent(QPaintEvent *event) {
     AppDelegate *delegate = appDelegate();
     if (!delegate)
         return;
-    const bool exists = delegate->firstFrameFileExists();
+    const bool exists = delegate->surroundings.firstFrameFileExists();
     if (exists)
         delegate->updateTrimmedRange();
     delegate->showTrimmedRange(exists);

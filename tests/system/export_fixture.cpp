@@ -80,8 +80,8 @@ void ExportTest::record(int count) {
 bool ExportTest::finish() {
     return QTest::qWaitFor(
         [this] {
-            return !controller.isAsking() && !controller.exporting.exportRuns() &&
-                   !controller.exporting.windowProgress();
+            return !controller.surroundings.alerts.isAsking() &&
+                   !controller.exporting.exportRuns() && !controller.windowProgress();
         },
         30'000);
 }

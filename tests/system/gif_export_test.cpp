@@ -103,7 +103,7 @@ public:
 
 private:
     void look() {
-        Window_Progress *sheet = controller_.exporting.windowProgress();
+        Window_Progress *sheet = controller_.windowProgress();
         if (done || !sheet || !QFile::exists(sign_))
             return;
         done = true;
@@ -151,7 +151,7 @@ TEST_F(GifExport, AndTheWebPLeaveNothingWhenTheyAreCancelledInAnyRun) {
         EXPECT_TRUE(answers.alerts.empty());
         EXPECT_TRUE(answers.panels.isEmpty());
         EXPECT_EQ(ui.labelStatus->text(), qtTrId("IDD_EXPORT_CANCELLED"));
-        EXPECT_EQ(controller.exporting.windowProgress(), nullptr);
+        EXPECT_EQ(controller.windowProgress(), nullptr);
         EXPECT_TRUE(filesIn(controller.shell.s_Export_Folder()).isEmpty());
         EXPECT_TRUE(filesIn(controller.shell.s_Pallete_Folder()).isEmpty());
         EXPECT_EQ(filesIn(controller.shell.s_Output_Folder()).size(), 4);
@@ -177,7 +177,7 @@ TEST_F(GifExport, FillsTheBarAtAnyRateAndSpeed) {
     } watch;
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, &look, [&] {
-        if (Window_Progress *sheet = controller.exporting.windowProgress())
+        if (Window_Progress *sheet = controller.windowProgress())
             sheet->installEventFilter(&watch);
     });
     look.start(1);

@@ -203,7 +203,7 @@ TEST_F(GifQuality, IsCancelledAtOnceAndLeavesNothing) {
             QElapsedTimer since;
             QTimer look;
             QObject::connect(&look, &QTimer::timeout, &look, [&] {
-                Window_Progress *sheet = controller.exporting.windowProgress();
+                Window_Progress *sheet = controller.windowProgress();
                 if (since.isValid() || !sheet || sheet->doubleValue() <= 0)
                     return;
                 since.start();
@@ -220,7 +220,7 @@ TEST_F(GifQuality, IsCancelledAtOnceAndLeavesNothing) {
             EXPECT_LT(took, 1000) << "ms; a tenth of that on a machine that does nothing else";
             EXPECT_TRUE(answers.alerts.empty() && answers.panels.isEmpty());
             EXPECT_EQ(ui.labelStatus->text(), qtTrId("IDD_EXPORT_CANCELLED"));
-            EXPECT_EQ(controller.exporting.windowProgress(), nullptr);
+            EXPECT_EQ(controller.windowProgress(), nullptr);
             EXPECT_TRUE(exported().isEmpty());
             EXPECT_TRUE(QFile::exists(frameFile(0)));
         }

@@ -25,17 +25,17 @@ TEST_F(ToolRunner, MovesTheBarByWhatArrivesInOneChunk) {
                                  "printf '3.00 split\\r \\377 time=00:00:03.00\\r' >&2; next 3\n"
                                  "printf 'time=00:00:05.00 x\\r' >&2; next 4");
     controller.exporting.setI_Orig_Duration_in_Seconds(3);
-    controller.showProgressSheet(QStringLiteral("a test"));
+    controller.surroundings.progress.show(QStringLiteral("a test"));
     std::vector<double> seen;
     int step = 0;
     QByteArray read;
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, &look, [&] {
         // A chunk that moves nothing is known by its bytes.
-        if (!controller.exporting.windowProgress() || controller.exporting.toolErrors == read)
+        if (!controller.windowProgress() || controller.exporting.toolErrors == read)
             return;
         read = controller.exporting.toolErrors;
-        seen.push_back(controller.exporting.windowProgress()->doubleValue());
+        seen.push_back(controller.windowProgress()->doubleValue());
         put(tool + u'.' + QString::number(++step), {});
     });
     look.start(5);
@@ -47,11 +47,11 @@ TEST_F(ToolRunner, MovesTheBarByWhatArrivesInOneChunk) {
 }
 
 TEST_F(ToolRunner, IsDeafAfterTheEnd) {
-    controller.showProgressSheet(QStringLiteral("a test"));
+    controller.surroundings.progress.show(QStringLiteral("a test"));
     EXPECT_TRUE(controller.RunToolWithProgress(standIn("exit 0"), {}).succeeded());
     controller.errData("time=00:00:01");
     controller.terminated(0, QProcess::NormalExit);
-    EXPECT_EQ(controller.exporting.windowProgress(), nullptr);
+    EXPECT_EQ(controller.windowProgress(), nullptr);
 }
 
 } // namespace

@@ -26,9 +26,9 @@ protected:
         const int asked = answers.questions;
         answers.choice = choice;
         begin();
-        EXPECT_TRUE(controller.isAsking());
+        EXPECT_TRUE(controller.surroundings.alerts.isAsking());
         begin(); // no second question above the first
-        EXPECT_TRUE(QTest::qWaitFor([this] { return !controller.isAsking(); }));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !controller.surroundings.alerts.isAsking(); }));
         settle();
         EXPECT_TRUE(finish());
         return answers.questions == asked + 1;

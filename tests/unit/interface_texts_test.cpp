@@ -114,7 +114,7 @@ TEST_F(InterfaceTexts, allComeFromTheTable) {
 
 TEST_F(InterfaceTexts, ofDialogsComeFromTheTable) {
     checkDialog([this] { delegate->OnMenuAbout(); });
-    checkDialog([this] { delegate->RunAlert(QStringLiteral("Error"), {}); });
+    checkDialog([this] { delegate->surroundings.alerts.run(AlertKind::Error, {}); });
     checkAll(Window_Region_How_It_Works(window()));
     checkAll(Window_FPS(window()));
 }

@@ -65,14 +65,14 @@ TEST_F(Recording, enablesItsControlsByTheStateAndSavesWhatWasStored) {
     // Record stays off until the last frame is on disk.
     EXPECT_EQ(enabled(), "110001");
     EXPECT_TRUE(delegate->isSavingRecording());
-    ASSERT_NE(delegate->exporting.windowProgress(), nullptr);
-    EXPECT_EQ(delegate->exporting.windowProgress()->maxValue(), 4.0);
+    ASSERT_NE(delegate->windowProgress(), nullptr);
+    EXPECT_EQ(delegate->windowProgress()->maxValue(), 4.0);
     delegate->OnRecordRecord(nullptr);
     EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_STOP);
     ASSERT_TRUE(waitForSave());
     EXPECT_EQ(enabled(), "111001");
     EXPECT_FALSE(ui().recordingIndicator->isVisible());
-    EXPECT_EQ(delegate->exporting.windowProgress(), nullptr);
+    EXPECT_EQ(delegate->windowProgress(), nullptr);
     EXPECT_EQ(delegate->shell.tabviewMain()->selectedIndex(), 1);
     EXPECT_EQ(delegate->recording.array_Images->size(), 4u);
     EXPECT_TRUE(QFile::exists(frameFile(3)));
@@ -144,7 +144,7 @@ TEST_F(Recording, withoutAFrameSaysSoAndStays) {
     EXPECT_EQ(frames(), 0u);
     delegate->OnRecordStop(nullptr);
     EXPECT_FALSE(delegate->isSavingRecording());
-    EXPECT_EQ(delegate->exporting.windowProgress(), nullptr);
+    EXPECT_EQ(delegate->windowProgress(), nullptr);
     EXPECT_EQ(delegate->shell.tabviewMain()->selectedIndex(), 0);
     EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_NOTHING_RECORDED"));
     EXPECT_EQ(enabled(), "111001");
@@ -225,38 +225,38 @@ TEST_F(Recording, theCaptureTimerRunsAtTheRateChosenInTheDialogAndOnlyAfterOK) {
 }
 
 TEST_F(Recording, theSheetShowsFractionsAndIgnoresWhatWouldDismissIt) {
-    delegate->setProgressValue(50.0); // Without a sheet nothing happens.
-    delegate->showProgressSheet(QStringLiteral("Busy"));
-    Window_Progress *sheet = delegate->exporting.windowProgress();
+    delegate->surroundings.progress.setValue(50.0); // Without a sheet nothing happens.
+    delegate->surroundings.progress.show(QStringLiteral("Busy"));
+    Window_Progress *sheet = delegate->windowProgress();
     EXPECT_EQ(sheet->labelDescription()->text(), QStringLiteral("Busy"));
     const auto share = [sheet] {
         return sheet->progressBar()->value() / static_cast<double>(sheet->progressBar()->maximum());
     };
     EXPECT_EQ(share(), 0.0);
-    delegate->setProgressValue(12.5);
+    delegate->surroundings.progress.setValue(12.5);
     EXPECT_EQ(share(), 0.125);
     for (const double notFinite : {std::nan(""), HUGE_VAL, -HUGE_VAL}) {
-        delegate->setProgressValue(notFinite);
+        delegate->surroundings.progress.setValue(notFinite);
         EXPECT_EQ(share(), 0.125);
     }
-    delegate->setProgressValue(130.0);
+    delegate->surroundings.progress.setValue(130.0);
     EXPECT_EQ(share(), 1.0);
-    delegate->setProgressValue(-1.0);
+    delegate->surroundings.progress.setValue(-1.0);
     EXPECT_EQ(share(), 0.0);
-    delegate->setProgressRange(0.0, 40.0);
-    delegate->setProgressValue(10.0);
+    delegate->surroundings.progress.setRange(0.0, 40.0);
+    delegate->surroundings.progress.setValue(10.0);
     EXPECT_EQ(share(), 0.25);
-    delegate->paintProgressSheet();
+    delegate->surroundings.progress.paint();
     sheet->close();
     sheet->reject();
     QTest::keyClick(sheet, Qt::Key_Escape);
     EXPECT_TRUE(sheet->isVisible());
-    delegate->closeProgressSheet();
-    EXPECT_EQ(delegate->exporting.windowProgress(), nullptr);
+    delegate->surroundings.progress.close();
+    EXPECT_EQ(delegate->windowProgress(), nullptr);
     EXPECT_FALSE(sheet->isVisible());
     // Nothing of the first sheet carries over.
-    delegate->showProgressSheet(QStringLiteral("Again"));
-    EXPECT_EQ(delegate->exporting.windowProgress()->maxValue(), 100.0);
-    EXPECT_EQ(delegate->exporting.windowProgress()->doubleValue(), 0.0);
-    delegate->closeProgressSheet();
+    delegate->surroundings.progress.show(QStringLiteral("Again"));
+    EXPECT_EQ(delegate->windowProgress()->maxValue(), 100.0);
+    EXPECT_EQ(delegate->windowProgress()->doubleValue(), 0.0);
+    delegate->surroundings.progress.close();
 }
