@@ -10,6 +10,7 @@
 #include "shell/termination_notice.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QStandardPaths>
 #include <QThread>
@@ -51,6 +52,14 @@ struct WindowName {
     std::vector<char *> argv;
     int argc = 0; // The toolkit keeps a reference.
 };
+
+/// Where the working folders are made: in the sandbox's own data folder where the program runs as a
+/// Flatpak, which cannot see the documents of others.
+QString parentOfWorkingFolders() {
+    const bool isFlatpak = QFileInfo::exists(QStringLiteral("/.flatpak-info"));
+    return QStandardPaths::writableLocation(isFlatpak ? QStandardPaths::GenericDataLocation
+                                                      : QStandardPaths::DocumentsLocation);
+}
 
 void bringForward(QWidget &window) {
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
@@ -96,8 +105,7 @@ int main(int argc, char **argv) {
 
     strings_table::install();
     AppDelegate delegate(
-        {.windowServer = makeWindowServer(),
-         .documentsFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)});
+        {.windowServer = makeWindowServer(), .documentsFolder = parentOfWorkingFolders()});
     application.setDelegate(&delegate);
     application.installEventFilter(&delegate);
     const TerminationNotice notice([&delegate] { delegate.applicationWillTerminate(); });
