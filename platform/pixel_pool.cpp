@@ -53,7 +53,7 @@ QImage PixelPool::take(QSize size) {
         // Where the system admits it, fewer and larger pages to touch.
         madvise(memory, bytes, MADV_HUGEPAGE);
     }
-    auto buffer = std::make_unique<Buffer>(shared_from_this(), memory, bytes);
+    auto buffer = std::unique_ptr<Buffer>(new Buffer{shared_from_this(), memory, bytes});
     return QImage(static_cast<uchar *>(memory), size.width(), size.height(),
                   static_cast<qsizetype>(stride), QImage::Format_RGB32, Buffer::release,
                   buffer.release());

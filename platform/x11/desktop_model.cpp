@@ -253,10 +253,11 @@ void DesktopModel::onProperty(const xcb_property_notify_event_t &event) {
 std::vector<const StackedWindow *> DesktopModel::shownFrontToBack() {
     pictures_.settle();
     std::vector<const StackedWindow *> shown;
-    for (const auto &window : stack_.bottomToTop() | std::views::reverse)
+    for (const auto &window : stack_.bottomToTop())
         if (window.mapped && pictures_.isShowable(window.number) &&
             window.outer.intersects(desktop_))
             shown.push_back(&window);
+    std::ranges::reverse(shown);
     return shown;
 }
 

@@ -79,8 +79,8 @@ TEST(DeflatePieces, ofEveryKindFollowOneAnotherInOneStream) {
     std::vector<std::uint8_t> whole;
     // Nothing, blocks that are stored, with the fixed codes, and with codes of every length; one
     // block and many.
-    for (const std::size_t length : {0, 1, 60, 300, 5'000, 200'000})
-        for (const unsigned values : {1, 2, 9, 40, 250, 256}) {
+    for (const std::size_t length : {0u, 1u, 60u, 300u, 5'000u, 200'000u})
+        for (const unsigned values : {1u, 2u, 9u, 40u, 250u, 256u}) {
             const std::vector<std::uint8_t> data = piece(length, values);
             pieces.append(data, stream);
             whole.insert(whole.end(), data.begin(), data.end());
