@@ -76,7 +76,8 @@ float percentFor(std::uint64_t frame, std::uint64_t frames) {
 
 Stretch playhead(std::uint64_t current, std::uint64_t first, std::uint64_t last,
                  double stripWidth) {
-    const std::uint64_t percent = last == first ? 0 : (current - first) * 100 / (last - first);
+    const bool atBegin = current <= first || last <= first;
+    const std::uint64_t percent = atBegin ? 0 : (current - first) * 100 / (last - first);
     return {placeOf(static_cast<double>(percent), stripWidth), handleWidth};
 }
 

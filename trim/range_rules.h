@@ -60,8 +60,8 @@ std::uint64_t frameAt(float percent, std::uint64_t frames);
 /// neighbours: halfway between two frames, since frame numbers are ceilings of rounded numbers.
 float percentFor(std::uint64_t frame, std::uint64_t frames);
 
-/// The playhead at `current` in the range from `first` to `last`. An empty range has it at the left
-/// end.
+/// The playhead at `current` in the range from `first` to `last`. It is at the left end in an empty
+/// range, and while `current` is still before the range, as in a pause before anything was played.
 Stretch playhead(std::uint64_t current, std::uint64_t first, std::uint64_t last, double stripWidth);
 
 /// The frame that is shown for the number `frame`: the last one of the recording where there is no

@@ -82,6 +82,7 @@ TEST(RangeRules, thePlayheadStandsAtAWholePercentageAndAtTheLeftOfAnEmptyRange) 
     EXPECT_EQ(playhead(5, 0, 10, 640).x, 320.0);
     EXPECT_EQ(playhead(1, 0, 3, 600).x, 198.0); // 33 percent, the third is cut off
     EXPECT_EQ(playhead(7, 7, 7, 600).x, 0.0);
+    EXPECT_EQ(playhead(2, 7, 9, 600).x, 0.0);
 }
 
 TEST(RangeRules, whatIsShownAndExportedExists) {
