@@ -2,27 +2,149 @@
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
 
-#include "app/application.h"
-#include "platform/global_shortcuts.h"
+#include "app/about.h"
+#include "app/controls.h"
+#include "app/desktop_keys.h"
+#include "app/help.h"
+#include "app/start_up.h"
+#include "app/tabs.h"
+#include "export/progress_parser.h"
+#include "export/tool_run.h"
 #include "platform/window_server.h"
-#include "record/recording_loader.h"
-#include "record/save/frame_saver.h"
+#include "shell/settings.h"
+#include "shell/tab_view.h"
 #include "shell/working_folders.h"
 #include "ui_MainWindow.h"
 
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QMainWindow>
+
+#include <algorithm>
+#include <cstdlib>
 #include <utility>
 
+namespace {
+
+constexpr double smallestWidth = 556;  // points
+constexpr double smallestHeight = 425; // points
+
+} // namespace
+
 AppDelegate::AppDelegate(Environment environment)
-    : ui(std::make_unique<Ui::MainWindow>()), windowServer_(std::move(environment.windowServer)),
-      documentsFolder_(std::move(environment.documentsFolder)) {}
+    : ui(std::make_unique<Ui::MainWindow>()),
+      recorder(surroundings, regionChooser, std::move(environment.windowServer)),
+      documentsFolder_(std::move(environment.documentsFolder)) {
+    recorder.setGate(
+        [this](std::function<void()> goOn) { return exporter.mustAskFirst(std::move(goOn)); });
+}
 
 AppDelegate::~AppDelegate() = default;
+
+// Start and end -----------------------------------------------------------------------------------
+
+void AppDelegate::awakeFromNib() {
+    start_up::makeMainWindow(*this);
+    shell.window()->installEventFilter(this);
+    exportOptions = std::make_unique<ExportOptions>(exportControls(*ui), exporter, nullptr);
+    exporter.setChoices([this] { return exportOptions->choices(); });
+    controls_ = std::make_unique<Controls>(*this);
+}
+
+bool AppDelegate::applicationDidFinishLaunching() {
+    return start_up::run(*this, *controls_, documentsFolder_);
+}
+
+QSizeF AppDelegate::windowWillResizeToSize(QSizeF proposed) {
+    return {std::max(proposed.width(), smallestWidth), std::max(proposed.height(), smallestHeight)};
+}
 
 void AppDelegate::RemoveAllContentInFolder(const QString &folder) {
     working_folders::removeContent(folder);
 }
 
-AppDelegate *appDelegate() {
-    const auto *application = qobject_cast<Application *>(QCoreApplication::instance());
-    return application ? application->delegate() : nullptr;
+bool AppDelegate::eventFilter(QObject *watched, QEvent *event) {
+    const bool closing = watched == shell.window() && event->type() == QEvent::Close;
+    // The application object asks to quit when the desktop session or the window system ends us.
+    const bool quitting = watched == QCoreApplication::instance() && event->type() == QEvent::Quit;
+    if (quitting)
+        applicationWillTerminate();
+    if (!closing)
+        return QObject::eventFilter(watched, event);
+    windowWillClose();
+    event->ignore();
+    return true;
+}
+
+void AppDelegate::windowWillClose() {
+    // A click on the close button must not cost the recording that is being saved.
+    if (recorder.isSavingRecording()) {
+        surroundings.showStatus(qtTrId("IDD_CLOSE_WAITS"));
+        return;
+    }
+    endForTheUser();
+}
+
+void AppDelegate::endForTheUser() {
+    // What is being read is still whole on disk, and is offered again.
+    if (recorder.isOpeningRecording())
+        Terminate_App();
+    if (exporter.mustAskFirst([this] { endForTheUser(); }))
+        return;
+    recorder.forgetRecording();
+    Terminate_App();
+}
+
+void AppDelegate::Terminate_App() {
+    disconnect(shell.localeChangeObserver());
+    settings::flush();
+    // No destructors: save threads may be at work beside them, and nested event loops stand on the
+    // stack. A running tool is ended by the kernel, which was told so when it was started.
+    std::_Exit(EXIT_SUCCESS);
+}
+
+// Tabs and menus ----------------------------------------------------------------------------------
+
+bool AppDelegate::tabViewShouldSelectTabViewItem(const QString &identifier) const {
+    return tabs::mayEnter(identifier, recording.m_RecordStatus(), trim.m_PlayStatus());
+}
+
+void AppDelegate::tabViewDidSelectTabViewItem(const QString &identifier) {
+    tabs::entered(identifier, *this);
+}
+
+void AppDelegate::OnMenuTabRecord() { shell.tabviewMain()->selectTabViewItemAtIndex(tabs::record); }
+void AppDelegate::OnMenuTabCut() { shell.tabviewMain()->selectTabViewItemAtIndex(tabs::cut); }
+void AppDelegate::OnMenuTabGIF() { shell.tabviewMain()->selectTabViewItemAtIndex(tabs::gif); }
+void AppDelegate::OnMenuHelp() { help::openFirstPage(surroundings.alerts); }
+void AppDelegate::OnMenuHelpAppHomePage() { help::open(help::firstPage); }
+void AppDelegate::OnMenuHelpCompanyHomePage() { help::open("maker.html"); }
+void AppDelegate::OnMenuHelpPrivacyPolicy() { help::open("privacy.html"); }
+void AppDelegate::OnMenuHelpSubmitTicket() { help::open("ticket.html"); }
+void AppDelegate::OnMenuAbout() { showAbout(surroundings); }
+
+void AppDelegate::listenToDesktopKeys() {
+    if (recorder.windowServer().reason().isEmpty())
+        desktopKeys_ = std::make_unique<DesktopKeys>(*ui, surroundings, regionChooser);
+}
+
+// Forwards that need more than a name -------------------------------------------------------------
+
+QRectF AppDelegate::return_Best_Fit_Frame(double imageWidth, double imageHeight, double areaWidth,
+                                          double areaHeight) {
+    const FittingFrame frame = bestFitFrame(imageWidth, imageHeight, areaWidth, areaHeight);
+    return {frame.x, frame.y, frame.width, frame.height};
+}
+
+ToolRun AppDelegate::RunToolReadAllOutput(const QString &toolPath, const QStringList &arguments) {
+    return exporter.RunToolReadAllOutput(toolPath, arguments);
+}
+
+ToolExit AppDelegate::RunToolWithProgress(const QString &toolPath, const QStringList &arguments,
+                                          ProgressType type) {
+    return exporter.RunToolWithProgress(toolPath, arguments, type);
+}
+
+std::uint64_t AppDelegate::Return_Seconds_From_VOB_Duration_Str(const QString &stamp) {
+    return secondsFromStamp(stamp);
 }

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
+#include "app/desktop_keys.h"
+
 #include "app/tabs.h"
 #include "platform/global_shortcuts.h"
-#include "platform/window_server.h"
+#include "region/region_chooser.h"
+#include "shell/surroundings.h"
 #include "shell/tab_view.h"
 #include "ui_MainWindow.h"
 
@@ -25,18 +27,20 @@ QString nameOf(char letter) { return QString(QChar::fromLatin1(letter).toUpper()
 
 } // namespace
 
-void AppDelegate::listenToDesktopKeys() {
-    if (!windowServer().reason().isEmpty())
-        return;
+DesktopKeys::~DesktopKeys() = default;
+
+DesktopKeys::DesktopKeys(const Ui::MainWindow &ui, Surroundings &surroundings,
+                         const RegionChooser &chooser) {
+    const InterfaceStrings &texts = surroundings.texts;
     // No letter twice: the server grants a client what it has already.
     const struct {
         std::string letters;
         QAction *item;
         const QString &name;
     } keys[] = {
-        {"recd", ui->menuitemActionRecordRecord, texts.s_IDD_RECORD()},
-        {"pauw", ui->menuitemActionRecordPause, texts.s_IDD_PAUSE()},
-        {"stox", ui->menuitemActionRecordStop, texts.s_IDD_STOP()},
+        {"recd", ui.menuitemActionRecordRecord, texts.s_IDD_RECORD()},
+        {"pauw", ui.menuitemActionRecordPause, texts.s_IDD_PAUSE()},
+        {"stox", ui.menuitemActionRecordStop, texts.s_IDD_STOP()},
     };
     std::vector<std::string> letters;
     std::vector<QAction *> items;
@@ -44,11 +48,12 @@ void AppDelegate::listenToDesktopKeys() {
         letters.push_back(key.letters);
         items.push_back(key.item);
     }
-    desktopKeys_ = std::make_unique<GlobalShortcuts>(letters, [this, items](std::size_t place) {
+    shortcuts_ = std::make_unique<GlobalShortcuts>(letters, [&surroundings, &chooser,
+                                                             items](std::size_t place) {
         // What the user could press now in the window, and no more: not beneath a dialog, and no
         // new recording while the last one is being cut.
-        const bool reachable = shell.tabviewMain()->selectedIndex() == tabs::record &&
-                               !QApplication::activeModalWidget() && !region.pFullScreen();
+        const bool reachable = surroundings.shell.tabviewMain()->selectedIndex() == tabs::record &&
+                               !QApplication::activeModalWidget() && !chooser.region.pFullScreen();
         if (reachable)
             items[place]->trigger();
     });
@@ -56,7 +61,7 @@ void AppDelegate::listenToDesktopKeys() {
     QStringList granted;
     QStringList taken;
     for (std::size_t place = 0; place < std::size(keys); ++place) {
-        const std::optional<char> letter = desktopKeys_->granted(place);
+        const std::optional<char> letter = shortcuts_->granted(place);
         const QString wanted = nameOf(keys[place].letters.front());
         if (letter)
             granted << QStringLiteral("%1 %2").arg(nameOf(*letter), keys[place].name);

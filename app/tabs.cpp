@@ -6,17 +6,19 @@
 #include "shell/tab_view.h"
 #include "ui_MainWindow.h"
 
+namespace tabs {
+
 namespace {
 
-const QString recordTab = TabView::identifierOf(tabs::record);
-const QString cutTab = TabView::identifierOf(tabs::cut);
-const QString gifTab = TabView::identifierOf(tabs::gif);
+const QString recordTab = TabView::identifierOf(record);
+const QString cutTab = TabView::identifierOf(cut);
+const QString gifTab = TabView::identifierOf(gif);
 
 } // namespace
 
-bool AppDelegate::tabViewShouldSelectTabViewItem(const QString &identifier) const {
-    const bool recordStopped = recording.m_RecordStatus() == RECORD_STATUS_STOP;
-    const bool playStopped = trim.m_PlayStatus() == PLAY_STATUS_STOP;
+bool mayEnter(const QString &identifier, RecordStatus recording, PlayStatus playing) {
+    const bool recordStopped = recording == RECORD_STATUS_STOP;
+    const bool playStopped = playing == PLAY_STATUS_STOP;
     if (identifier == recordTab)
         return playStopped;
     if (identifier == cutTab)
@@ -24,27 +26,21 @@ bool AppDelegate::tabViewShouldSelectTabViewItem(const QString &identifier) cons
     return recordStopped && playStopped;
 }
 
-void AppDelegate::tabViewDidSelectTabViewItem(const QString &identifier) {
+void entered(const QString &identifier, AppDelegate &controller) {
     if (identifier == recordTab) {
-        restartOneSecondTimer();
-        restartCaptureTimer();
+        controller.recorder.restartOneSecondTimer();
+        controller.recorder.restartCaptureTimer();
     } else {
-        stopRecordTimers();
+        controller.recorder.stopRecordTimers();
     }
-    if (identifier == cutTab) {
-        const bool exists = surroundings.firstFrameFileExists();
-        enablePlayback(exists, false, false);
-        // The exports read the range, and nothing may ever be painted (a minimised window).
-        if (exists)
-            updateTrimmedRange();
-    }
+    if (identifier == cutTab)
+        controller.trimEditor.enter();
     if (identifier == gifTab)
-        resetGIFOptions();
-    ui->submenuitemRecord->setEnabled(identifier == recordTab);
-    ui->submenuitemCut->setEnabled(identifier == cutTab);
-    ui->submenuitemGIF->setEnabled(identifier == gifTab);
+        controller.exportOptions->resetGIFOptions();
+    const Ui::MainWindow &ui = *controller.ui;
+    ui.submenuitemRecord->setEnabled(identifier == recordTab);
+    ui.submenuitemCut->setEnabled(identifier == cutTab);
+    ui.submenuitemGIF->setEnabled(identifier == gifTab);
 }
 
-void AppDelegate::OnMenuTabRecord() { shell.tabviewMain()->selectTabViewItemAtIndex(tabs::record); }
-void AppDelegate::OnMenuTabCut() { shell.tabviewMain()->selectTabViewItemAtIndex(tabs::cut); }
-void AppDelegate::OnMenuTabGIF() { shell.tabviewMain()->selectTabViewItemAtIndex(tabs::gif); }
+} // namespace tabs

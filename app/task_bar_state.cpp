@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
+#include "app/task_bar_state.h"
+
+#include "shell/shell_fields.h"
 
 #include <QApplication>
 #include <QMainWindow>
 
-void AppDelegate::showStateInTaskBar() {
+void showStateInTaskBar(const ShellFields &shell, RecordStatus status) {
     const struct {
-        std::uint64_t state;
+        RecordStatus state;
         QString words;
         QIcon icon;
     } states[] = {
@@ -19,7 +21,7 @@ void AppDelegate::showStateInTaskBar() {
     QString title = shell.s_App_Name();
     QIcon icon = QApplication::windowIcon();
     for (const auto &each : states)
-        if (each.state == recording.m_RecordStatus()) {
+        if (each.state == status) {
             // The word first, where a narrow task bar does not cut it off. No sign before it: one
             // window manager (marco) draws no title that begins with a character like "●".
             title = QStringLiteral("%1 – %2").arg(each.words, title);

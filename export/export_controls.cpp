@@ -1,10 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
-#include "ui_MainWindow.h"
+#include "export/export_options.h"
+#include "export/exporter.h"
+#include "shell/settings.h"
 
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QLocale>
+#include <QRadioButton>
 
 namespace {
 
@@ -30,27 +36,31 @@ private:
 
 } // namespace
 
-void AppDelegate::connectExportControls() {
-    using Action = void (AppDelegate::*)(QObject *);
+ExportOptions::ExportOptions(const ExportControls &controls, Exporter &exporter, QObject *parent)
+    : QObject(parent), ui_(controls), exporter_(exporter) {
+    listen();
+}
+
+void ExportOptions::listen() {
+    using Action = void (ExportOptions::*)();
     // Not `clicked`: assistive technology switches without a click.
     const auto radio = [this](QRadioButton *button, Action action) {
-        connect(button, &QRadioButton::toggled, this, [this, button, action](bool on) {
+        connect(button, &QRadioButton::toggled, this, [this, action](bool on) {
             if (on)
-                (this->*action)(button);
+                (this->*action)();
         });
     };
-    radio(ui->radioGIFOriginalDimension, &AppDelegate::OnGIFOriginalResolution);
-    radio(ui->radioGIFCustomDimension, &AppDelegate::OnGIFCustomResolution);
-    radio(ui->radioGIFOriginalFPS, &AppDelegate::OnGIFOriginalFPS);
-    radio(ui->radioGIFCustomFPS, &AppDelegate::OnGIFCustomFPS);
+    radio(ui_.radioGIFOriginalDimension, &ExportOptions::OnGIFOriginalResolution);
+    radio(ui_.radioGIFCustomDimension, &ExportOptions::OnGIFCustomResolution);
+    radio(ui_.radioGIFOriginalFPS, &ExportOptions::OnGIFOriginalFPS);
+    radio(ui_.radioGIFCustomFPS, &ExportOptions::OnGIFCustomFPS);
 
     const auto field = [this](QLineEdit *edit, Action action) {
-        connect(edit, &QLineEdit::returnPressed, this,
-                [this, edit, action] { (this->*action)(edit); });
+        connect(edit, &QLineEdit::returnPressed, this, [this, action] { (this->*action)(); });
         // Also told after Return, and when an untouched field loses the focus.
         connect(edit, &QLineEdit::editingFinished, this, [this, edit, action] {
             if (edit->isModified())
-                (this->*action)(edit);
+                (this->*action)();
         });
         connect(edit, &QLineEdit::textChanged, this, [this, edit] {
             // Assistive technology sets a text without typing: it is an edit as well. Those of our
@@ -59,30 +69,30 @@ void AppDelegate::connectExportControls() {
             updateGIFDimensionHint();
         });
     };
-    field(ui->textGIFWidth, &AppDelegate::OnGIFChangeWidth);
-    field(ui->textGIFHeigth, &AppDelegate::OnGIFChangeHeigth);
-    connect(ui->txtWebPLoops, &QLineEdit::textChanged, this, &AppDelegate::updateWebPLoopsHint);
+    field(ui_.textGIFWidth, &ExportOptions::OnGIFChangeWidth);
+    field(ui_.textGIFHeigth, &ExportOptions::OnGIFChangeHeigth);
+    connect(ui_.txtWebPLoops, &QLineEdit::textChanged, this, &ExportOptions::updateWebPLoopsHint);
 
-    auto *passage = new ShortcutPassage(*ui->menuitemActionGIFExport, this);
-    for (QLineEdit *edit : {ui->textGIFWidth, ui->textGIFHeigth, ui->txtWebPLoops})
+    auto *passage = new ShortcutPassage(*ui_.menuitemActionGIFExport, this);
+    for (QLineEdit *edit : {ui_.textGIFWidth, ui_.textGIFHeigth, ui_.txtWebPLoops})
         edit->installEventFilter(passage);
 
-    connect(ui->checkGIFKeepAspectRatio, &QCheckBox::toggled, this,
-            [this] { OnGIFChangeKeepAspectRatio(ui->checkGIFKeepAspectRatio); });
-    connectGIFQuality();
+    connect(ui_.checkGIFKeepAspectRatio, &QCheckBox::toggled, this,
+            &ExportOptions::OnGIFChangeKeepAspectRatio);
+    fillQualities();
     for (const double speed : frame_timing::speeds)
-        ui->comboGIFSpeed->addItem(QLocale().toString(speed) + QChar(u'×'), speed);
-    ui->comboGIFSpeed->setCurrentIndex(ui->comboGIFSpeed->findData(1.0));
-    for (const QComboBox *list : {ui->comboGIFFPS, ui->comboGIFSpeed})
-        connect(list, &QComboBox::currentIndexChanged, this, &AppDelegate::updateGIFSummary);
-    connect(ui->btnGIFExport, &QPushButton::clicked, this,
-            [this] { OnGIFExport(ui->btnGIFExport); });
-    connect(ui->menuitemActionGIFExport, &QAction::triggered, this,
-            &AppDelegate::OnMenuActionGIFExport);
-    connect(ui->btnWebPGenerate, &QPushButton::clicked, this,
-            [this] { Generate_WebP(ui->btnWebPGenerate); });
-    // From the event loop: assistive technology waits for the answer to its press, and would wait
-    // until the panel ends.
-    connect(ui->btnSaveResult, &QPushButton::clicked, this, &AppDelegate::saveUnsavedResult,
-            Qt::QueuedConnection);
+        ui_.comboGIFSpeed->addItem(QLocale().toString(speed) + QChar(u'×'), speed);
+    ui_.comboGIFSpeed->setCurrentIndex(ui_.comboGIFSpeed->findData(1.0));
+    for (const QComboBox *list : {ui_.comboGIFFPS, ui_.comboGIFSpeed})
+        connect(list, &QComboBox::currentIndexChanged, this, &ExportOptions::updateGIFSummary);
+}
+
+void ExportOptions::fillQualities() {
+    QComboBox &list = *ui_.comboGIFQuality;
+    for (const GifPreset preset : gifPresets)
+        list.addItem(qtTrId(presetKey(preset)), QString::fromLatin1(presetWord(preset)));
+    const GifPreset remembered = presetOfWord(settings::readGIFQuality());
+    list.setCurrentIndex(list.findData(QString::fromLatin1(presetWord(remembered))));
+    connect(&list, &QComboBox::currentIndexChanged, this,
+            [&list] { settings::writeGIFQuality(list.currentData().toString()); });
 }

@@ -12,9 +12,11 @@
 
 /// The kind of run that the progress sheet follows: the GIF's last one, one that only prepares an
 /// export, the WebP's.
-inline constexpr std::uint64_t PROGRESS_TYPE_GIF = 0;
-inline constexpr std::uint64_t PROGRESS_TYPE_PREPARATION = 1;
-inline constexpr std::uint64_t PROGRESS_TYPE_WEBP = 2;
+enum ProgressType : std::uint64_t {
+    PROGRESS_TYPE_GIF = 0,
+    PROGRESS_TYPE_PREPARATION = 1,
+    PROGRESS_TYPE_WEBP = 2,
+};
 
 /// State of the exports. `export/` owns the behaviour.
 class ExportFields {
@@ -24,8 +26,8 @@ public:
     void setTerminated(bool ended) { terminated_ = ended; }
 
     /// Which job the progress sheet follows.
-    std::uint64_t u_Type_Progress() const { return u_Type_Progress_; }
-    void setU_Type_Progress(std::uint64_t type) { u_Type_Progress_ = type; }
+    ProgressType u_Type_Progress() const { return u_Type_Progress_; }
+    void setU_Type_Progress(ProgressType type) { u_Type_Progress_ = type; }
 
     /// The last time stamp that the watched run is going to report, in seconds of what it writes:
     /// there the bar is full.
@@ -51,7 +53,7 @@ public:
 
 private:
     bool terminated_ = false;
-    std::uint64_t u_Type_Progress_ = PROGRESS_TYPE_GIF;
+    ProgressType u_Type_Progress_ = PROGRESS_TYPE_GIF;
     double i_Orig_Duration_in_Seconds_ = 0.0;
     bool exportCancelled_ = false;
     bool exportRuns_ = false;

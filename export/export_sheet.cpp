@@ -1,24 +1,30 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
+#include "export/exporter.h"
+#include "shell/surroundings.h"
+#include "shell/working_folders.h"
 
-void AppDelegate::showExportSheet(const QString &caption, const QString &step) {
-    surroundings.progress.show(caption);
-    surroundings.progress.setText(step);
-    surroundings.progress.offerCancel();
+void Exporter::beginExport(const QString &caption) {
+    surroundings_.showStatus({});
+    working_folders::removeContent(surroundings_.shell.s_Export_Folder());
+    surroundings_.progress.show(caption);
+    surroundings_.progress.setText(QStringLiteral("%p%"));
+    surroundings_.progress.offerCancel();
     // Laying the frames out, which comes next, lets nothing be painted.
-    surroundings.progress.paint();
+    surroundings_.progress.paint();
+    // Somebody may have taken it away since the start.
+    working_folders::ensureFolder(surroundings_.shell.s_Export_Folder());
 }
 
-bool AppDelegate::endedWithoutResult(const std::optional<QString> &failure) {
-    surroundings.progress.close();
+bool Exporter::endedWithoutResult(const std::optional<QString> &failure) {
+    surroundings_.progress.close();
     if (exporting.exportCancelled()) {
-        RemoveAllContentInFolder(shell.s_Export_Folder());
-        RemoveAllContentInFolder(shell.s_Pallete_Folder());
-        surroundings.showStatus(qtTrId("IDD_EXPORT_CANCELLED"));
+        working_folders::removeContent(surroundings_.shell.s_Export_Folder());
+        working_folders::removeContent(surroundings_.shell.s_Pallete_Folder());
+        surroundings_.showStatus(qtTrId("IDD_EXPORT_CANCELLED"));
         return true;
     }
     if (failure)
-        surroundings.alerts.run(AlertKind::Error, *failure);
+        surroundings_.alerts.run(AlertKind::Error, *failure);
     return failure.has_value();
 }

@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "export/frame_timing.h"
 
+#include "record/measured_rate.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace frame_timing {
+
+static_assert(highestGifRate == highestRate(gifTicks));
 
 namespace {
 

@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
 #include "export/encoder_arguments.h"
-#include "export/export_checks.h"
+#include "export/export_mark.h"
+#include "export/exporter.h"
 #include "export/frame_file_source.h"
 #include "export/frame_store_source.h"
 #include "export/gif_file.h"
-#include "export/gif_preset.h"
 #include "export/made_gif.h"
 #include "export/save_request.h"
 #include "platform/text_number.h"
+#include "record/recorder.h"
+#include "shell/surroundings.h"
 #include "shell/working_folders.h"
-#include "ui_MainWindow.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -73,51 +73,46 @@ std::optional<QString> failureOf(const GifFileResult &result, const GifFileJob &
 
 } // namespace
 
-void AppDelegate::OnGIFExport(QObject *) {
-    if (!mayExport(*this))
+void Exporter::OnGIFExport() {
+    if (!mayExport())
         return;
     const ExportMark mark(exporting);
-    finishEditingGIFSize();
-    const GifPreset preset = chosenGIFPreset();
-    std::optional<QString> reason = refusal(*this);
+    const ExportChoices wanted = choices();
+    std::optional<QString> reason = refusal(wanted);
     // The other encoder judges sizes itself.
-    if (!reason && preset != GifPreset::Classic)
-        reason = GIFSizeRefusal();
+    if (!reason && wanted.preset != GifPreset::Classic)
+        reason = GIFSizeRefusal(wanted);
     if (reason) {
-        surroundings.alerts.run(AlertKind::Error, *reason);
+        surroundings_.alerts.run(AlertKind::Error, *reason);
         return;
     }
-    if (mustAskFirst([this] { OnGIFExport(nullptr); }))
+    if (mustAskFirst([this] { OnGIFExport(); }))
         return;
-    surroundings.showStatus({});
-    RemoveAllContentInFolder(shell.s_Export_Folder());
-    showExportSheet(qtTrId("IDD_PROGRESS_GIF"), QStringLiteral("%p%"));
-    RemoveAllContentInFolder(shell.s_Pallete_Folder());
-    // Somebody may have taken them away since the start.
-    working_folders::ensureFolder(shell.s_Export_Folder());
-    working_folders::ensureFolder(shell.s_Pallete_Folder());
+    beginExport(qtTrId("IDD_PROGRESS_GIF"));
+    working_folders::removeContent(surroundings_.shell.s_Pallete_Folder());
+    working_folders::ensureFolder(surroundings_.shell.s_Pallete_Folder());
     const std::vector<TimedFrame> frames =
-        frame_timing::timedFrames(timingRequest(), frame_timing::gifTicks);
-    const MadeGif made = preset == GifPreset::Classic ? makeClassicGIF(frames)
-                                                      : makeGIF(frames, presetTolerance(preset));
+        frame_timing::timedFrames(timingRequest(wanted), frame_timing::gifTicks);
+    const MadeGif made = wanted.preset == GifPreset::Classic ? makeClassicGIF(frames, wanted)
+                                                             : makeGIF(frames, wanted);
     if (endedWithoutResult(made.failure))
         return;
     const QString note = noteAbout(made, frames.size());
-    surroundings.showStatus(note);
-    saveResult({.file = encoder_arguments::gifFile(shell.s_Export_Folder()),
+    surroundings_.showStatus(note);
+    saveResult({.file = encoder_arguments::gifFile(surroundings_.shell.s_Export_Folder()),
                 .panelTitle = QStringLiteral("Select a folder to save the GIF image"),
-                .successText = texts.s_IDD_GIF_SAVED_OK(),
+                .successText = surroundings_.texts.s_IDD_GIF_SAVED_OK(),
                 .note = note});
 }
 
-MadeGif AppDelegate::makeGIF(std::span<const TimedFrame> frames, float tolerance) {
+MadeGif Exporter::makeGIF(Frames frames, const ExportChoices &choices) {
     GifFileJob job{.source = {},
                    .sourceSize = {},
-                   .size = QSize(static_cast<int>(integerValue(ui->textGIFWidth->text())),
-                                 static_cast<int>(integerValue(ui->textGIFHeigth->text()))),
-                   .tolerance = tolerance,
-                   .file = encoder_arguments::gifFile(shell.s_Export_Folder())};
-    feed(job, recording.array_Images, shell.s_Output_Folder(), frames);
+                   .size = QSize(static_cast<int>(integerValue(choices.width)),
+                                 static_cast<int>(integerValue(choices.height))),
+                   .tolerance = presetTolerance(choices.preset),
+                   .file = encoder_arguments::gifFile(surroundings_.shell.s_Export_Folder())};
+    feed(job, recorder_.recording.array_Images, surroundings_.shell.s_Output_Folder(), frames);
     double shown = 0;
     const auto total = static_cast<double>(frames.size());
     job.progress = [this, total, &shown](std::int64_t done) {
@@ -127,16 +122,16 @@ MadeGif AppDelegate::makeGIF(std::span<const TimedFrame> frames, float tolerance
             return;
         shown = share;
         QMetaObject::invokeMethod(
-            this, [this, share] { surroundings.progress.setValue(share * 100.0 / barSteps); },
+            this, [this, share] { surroundings_.progress.setValue(share * 100.0 / barSteps); },
             Qt::QueuedConnection);
     };
     const GifFileResult result = runEncoder(job);
-    return {.failure = failureOf(result, job, shell.s_Output_Folder()),
+    return {.failure = failureOf(result, job, surroundings_.shell.s_Output_Folder()),
             .frames = static_cast<std::uint64_t>(result.outcome.frames),
             .moves = result.outcome.pictures > 1};
 }
 
-GifFileResult AppDelegate::runEncoder(const GifFileJob &job) {
+GifFileResult Exporter::runEncoder(const GifFileJob &job) {
     exporting.encoderStop = std::stop_source();
     // Cancel may have been pressed while the sheet was being shown.
     if (exporting.exportCancelled())

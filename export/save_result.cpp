@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
+#include "export/exporter.h"
 #include "export/preset_name.h"
 #include "export/safe_move.h"
 #include "export/save_request.h"
 #include "shell/settings.h"
+#include "shell/surroundings.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -59,24 +60,24 @@ QString runSavePanel(QWidget *parent, const SaveRequest &request, const QString 
 
 } // namespace
 
-void AppDelegate::saveResult(const SaveRequest &request) {
+void Exporter::saveResult(const SaveRequest &request) {
     exporting.unsaved = request;
     chooseResultsPlace();
 }
 
-void AppDelegate::chooseResultsPlace() {
+void Exporter::chooseResultsPlace() {
     const SaveRequest request = *exporting.unsaved;
-    const QString path = runSavePanel(shell.window(), request, startFolder());
+    const QString path = runSavePanel(surroundings_.shell.window(), request, startFolder());
     if (path.isEmpty()) {
         showUnsavedResult();
         return;
     }
-    const std::optional<QString> failure = liesInWorkingFolder(path, shell)
+    const std::optional<QString> failure = liesInWorkingFolder(path, surroundings_.shell)
                                                ? qtTrId("IDD_MOVE_WORKING_FOLDER")
                                                : safeMove(request.file, path);
     if (failure) {
-        surroundings.alerts.run(AlertKind::Error,
-                                qtTrId("IDD_MOVE_FAILED").arg(path, *failure, request.file));
+        surroundings_.alerts.run(AlertKind::Error,
+                                 qtTrId("IDD_MOVE_FAILED").arg(path, *failure, request.file));
         showUnsavedResult();
         return;
     }
@@ -87,6 +88,6 @@ void AppDelegate::chooseResultsPlace() {
     QString status = qtTrId("IDD_STATUS_SAVED").arg(path, size);
     if (!request.note.isEmpty())
         status += QLatin1Char(' ') + request.note;
-    surroundings.showStatus(status);
-    surroundings.alerts.run(AlertKind::Success, request.successText, status);
+    surroundings_.showStatus(status);
+    surroundings_.alerts.run(AlertKind::Success, request.successText, status);
 }

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
+#include "export/exporter.h"
 #include "export/progress_parser.h"
 #include "export/tool_process.h"
 #include "export/tool_run.h"
+#include "shell/surroundings.h"
 
 #include <QCoreApplication>
 
@@ -15,7 +16,7 @@ constexpr qsizetype errorTail = 64 * 1024;
 
 } // namespace
 
-ToolRun AppDelegate::RunToolReadAllOutput(const QString &toolPath, const QStringList &arguments) {
+ToolRun Exporter::RunToolReadAllOutput(const QString &toolPath, const QStringList &arguments) {
     exporting.setU_Type_Progress(PROGRESS_TYPE_PREPARATION);
     QProcess tool;
     tool.setProcessChannelMode(QProcess::MergedChannels);
@@ -30,9 +31,9 @@ ToolRun AppDelegate::RunToolReadAllOutput(const QString &toolPath, const QString
             .exit = tool_process::exitOf(tool, output)};
 }
 
-ToolExit AppDelegate::RunToolWithProgress(const QString &toolPath, const QStringList &arguments,
-                                          std::uint64_t type) {
-    surroundings.progress.setValue(0.0);
+ToolExit Exporter::RunToolWithProgress(const QString &toolPath, const QStringList &arguments,
+                                       ProgressType type) {
+    surroundings_.progress.setValue(0.0);
     exporting.setU_Type_Progress(type);
     exporting.toolErrors.clear();
     QProcess tool;
@@ -47,8 +48,8 @@ ToolExit AppDelegate::RunToolWithProgress(const QString &toolPath, const QString
     return tool_process::exitOf(tool, exporting.toolErrors);
 }
 
-std::optional<ToolExit> AppDelegate::runWhileEventsTurn(QProcess &tool, const QString &toolPath,
-                                                        const QStringList &arguments) {
+std::optional<ToolExit> Exporter::runWhileEventsTurn(QProcess &tool, const QString &toolPath,
+                                                     const QStringList &arguments) {
     exporting.setTerminated(false);
     if (toolPath.isEmpty() || exporting.exportCancelled()) {
         terminated(0, QProcess::NormalExit);
@@ -70,7 +71,7 @@ std::optional<ToolExit> AppDelegate::runWhileEventsTurn(QProcess &tool, const QS
     return std::nullopt;
 }
 
-void AppDelegate::cancelExport() {
+void Exporter::cancelExport() {
     exporting.setExportCancelled(true);
     exporting.encoderStop.request_stop();
     // Nothing that it could still write is wanted.
@@ -78,12 +79,12 @@ void AppDelegate::cancelExport() {
         watchedTool_->kill();
 }
 
-void AppDelegate::outData(QProcess &tool) {
+void Exporter::outData(QProcess &tool) {
     // A full pipe would stop the tool; its content says nothing.
     tool.readAllStandardOutput();
 }
 
-void AppDelegate::errData(const QByteArray &data) {
+void Exporter::errData(const QByteArray &data) {
     exporting.toolErrors =
         (exporting.toolErrors + data)
             .last(std::min(exporting.toolErrors.size() + data.size(), errorTail));
@@ -93,19 +94,15 @@ void AppDelegate::errData(const QByteArray &data) {
                                               ? secondsOfAddedFrame(data)
                                               : secondsInChunk(data);
     if (seconds)
-        surroundings.progress.setValue(
+        surroundings_.progress.setValue(
             progressPercentage(*seconds, exporting.i_Orig_Duration_in_Seconds()));
 }
 
-void AppDelegate::terminated(int, QProcess::ExitStatus) {
+void Exporter::terminated(int, QProcess::ExitStatus) {
     if (watchedTool_)
         watchedTool_->disconnect(this);
     watchedTool_ = nullptr;
     exporting.setTerminated(true);
     if (exporting.u_Type_Progress() != PROGRESS_TYPE_PREPARATION)
-        surroundings.progress.close();
-}
-
-std::uint64_t AppDelegate::Return_Seconds_From_VOB_Duration_Str(const QString &stamp) {
-    return secondsFromStamp(stamp);
+        surroundings_.progress.close();
 }

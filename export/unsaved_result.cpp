@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
-#include "export/export_checks.h"
-#include "shell/question.h"
-#include "ui_MainWindow.h"
+#include "export/export_mark.h"
+#include "export/exporter.h"
+#include "record/recorder.h"
+#include "shell/surroundings.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -18,22 +18,22 @@ QString kindOf(const SaveRequest &request) {
 
 } // namespace
 
-bool AppDelegate::hasUnsavedResult() const {
+bool Exporter::hasUnsavedResult() const {
     return exporting.unsaved && QFileInfo::exists(exporting.unsaved->file);
 }
 
-void AppDelegate::showUnsavedResult() {
-    ui->btnSaveResult->setVisible(hasUnsavedResult());
+void Exporter::showUnsavedResult() {
+    Q_EMIT unsavedResultChanged();
     if (!hasUnsavedResult())
         return;
     QString status = qtTrId("IDD_STATUS_UNSAVED").arg(kindOf(*exporting.unsaved));
     if (!exporting.unsaved->note.isEmpty())
         status += QLatin1Char(' ') + exporting.unsaved->note;
-    surroundings.showStatus(status);
+    surroundings_.showStatus(status);
 }
 
-void AppDelegate::saveUnsavedResult() {
-    if (surroundings.alerts.isAsking() || !mayExport(*this))
+void Exporter::saveUnsavedResult() {
+    if (surroundings_.alerts.isAsking() || !mayExport())
         return;
     // Neither a second panel nor an export beneath the first one.
     const ExportMark mark(exporting);
@@ -43,14 +43,14 @@ void AppDelegate::saveUnsavedResult() {
         forgetResult();
 }
 
-void AppDelegate::forgetResult() {
+void Exporter::forgetResult() {
     exporting.unsaved.reset();
-    ui->btnSaveResult->hide();
+    Q_EMIT unsavedResultChanged();
 }
 
-bool AppDelegate::mustAskFirst(std::function<void()> goOn) {
+bool Exporter::mustAskFirst(std::function<void()> goOn) {
     // Assistive technology reaches what a dialog blocks.
-    if (surroundings.alerts.isAsking() || isOpeningRecording())
+    if (surroundings_.alerts.isAsking() || recorder_.isOpeningRecording())
         return true;
     if (!hasUnsavedResult()) {
         // Somebody may have taken it away: what is made next under its name is another one.
@@ -58,23 +58,23 @@ bool AppDelegate::mustAskFirst(std::function<void()> goOn) {
         return false;
     }
     const QString kind = kindOf(*exporting.unsaved);
-    surroundings.alerts.ask({.message = qtTrId("IDD_UNSAVED_QUESTION").arg(kind),
-                             .detail = qtTrId("IDD_UNSAVED_DETAIL"),
-                             .accept = qtTrId("IDD_SAVE_RESULT"),
-                             .destroy = qtTrId("IDD_DISCARD"),
-                             .cancel = qtTrId("IDD_CANCEL")},
-                            [this, goOn = std::move(goOn)](Answer answer) {
-                                if (answer == Answer::Cancel)
-                                    return;
-                                if (answer == Answer::Accept) {
-                                    saveUnsavedResult();
-                                } else if (exporting.unsaved) {
-                                    QFile::remove(exporting.unsaved->file);
-                                    forgetResult();
-                                    surroundings.showStatus({});
-                                }
-                                if (!hasUnsavedResult())
-                                    goOn();
-                            });
+    surroundings_.alerts.ask({.message = qtTrId("IDD_UNSAVED_QUESTION").arg(kind),
+                              .detail = qtTrId("IDD_UNSAVED_DETAIL"),
+                              .accept = qtTrId("IDD_SAVE_RESULT"),
+                              .destroy = qtTrId("IDD_DISCARD"),
+                              .cancel = qtTrId("IDD_CANCEL")},
+                             [this, goOn = std::move(goOn)](Answer answer) {
+                                 if (answer == Answer::Cancel)
+                                     return;
+                                 if (answer == Answer::Accept) {
+                                     saveUnsavedResult();
+                                 } else if (exporting.unsaved) {
+                                     QFile::remove(exporting.unsaved->file);
+                                     forgetResult();
+                                     surroundings_.showStatus({});
+                                 }
+                                 if (!hasUnsavedResult())
+                                     goOn();
+                             });
     return true;
 }

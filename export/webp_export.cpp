@@ -1,15 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
 #include "export/encoder_arguments.h"
-#include "export/export_checks.h"
+#include "export/export_mark.h"
+#include "export/exporter.h"
 #include "export/save_request.h"
 #include "export/size_text.h"
 #include "export/staging.h"
 #include "export/tool_failure.h"
+#include "export/tool_run.h"
 #include "platform/text_number.h"
+#include "shell/surroundings.h"
 #include "shell/working_folders.h"
-#include "ui_MainWindow.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -53,25 +54,23 @@ bool asksForAnotherSize(const QString &picture, const QString &width, const QStr
 
 } // namespace
 
-void AppDelegate::Generate_WebP(QObject *) {
-    if (!mayExport(*this))
+void Exporter::Generate_WebP() {
+    if (!mayExport())
         return;
     const ExportMark mark(exporting);
-    finishEditingGIFSize();
-    if (const std::optional<QString> reason = refusal(*this)) {
-        surroundings.alerts.run(AlertKind::Error, *reason);
+    const ExportChoices asked = choices();
+    if (const std::optional<QString> reason = refusal(asked)) {
+        surroundings_.alerts.run(AlertKind::Error, *reason);
         return;
     }
-    if (mustAskFirst([this] { Generate_WebP(nullptr); }))
+    if (mustAskFirst([this] { Generate_WebP(); }))
         return;
-    surroundings.showStatus({});
-    RemoveAllContentInFolder(shell.s_Export_Folder());
-    working_folders::ensureFolder(shell.s_Export_Folder());
-    showExportSheet(qtTrId("IDD_PROGRESS_WEBP"), QStringLiteral("%p%"));
+    beginExport(qtTrId("IDD_PROGRESS_WEBP"));
     const std::vector<TimedFrame> wanted =
-        frame_timing::timedFrames(timingRequest(), frame_timing::webpTicks);
-    const std::span<const TimedFrame> frames = framesUpToGap(shell.s_Output_Folder(), wanted);
-    if (endedWithoutResult(encodeWebP(frames)))
+        frame_timing::timedFrames(timingRequest(asked), frame_timing::webpTicks);
+    const std::span<const TimedFrame> frames =
+        framesUpToGap(surroundings_.shell.s_Output_Folder(), wanted);
+    if (endedWithoutResult(encodeWebP(frames, asked)))
         return;
     QString note;
     if (frames.size() < wanted.size()) {
@@ -79,21 +78,22 @@ void AppDelegate::Generate_WebP(QObject *) {
         note = qtTrId("IDD_STATUS_WEBP_GAP")
                    .arg(locale.toString(qulonglong{frames.size()}),
                         locale.toString(qulonglong{wanted.size()}));
-        surroundings.showStatus(note);
+        surroundings_.showStatus(note);
     }
-    saveResult({.file = encoder_arguments::webpFile(shell.s_Export_Folder()),
+    saveResult({.file = encoder_arguments::webpFile(surroundings_.shell.s_Export_Folder()),
                 .panelTitle = QStringLiteral("Select a folder to save the WebP image"),
                 .successText = QStringLiteral("Success"),
                 .note = note});
 }
 
-std::optional<QString> AppDelegate::encodeWebP(std::span<const TimedFrame> frames) {
+std::optional<QString> Exporter::encodeWebP(Frames frames, const ExportChoices &choices) {
     const bool scaled =
-        !frames.empty() && asksForAnotherSize(working_folders::frameFile(shell.s_Output_Folder(),
-                                                                         frames.front().source),
-                                              ui->textGIFWidth->text(), ui->textGIFHeigth->text());
+        !frames.empty() &&
+        asksForAnotherSize(working_folders::frameFile(surroundings_.shell.s_Output_Folder(),
+                                                      frames.front().source),
+                           choices.width, choices.height);
     if (scaled) {
-        if (const std::optional<QString> failure = scaleForWebP(frames))
+        if (const std::optional<QString> failure = scaleForWebP(frames, choices))
             return failure;
     }
     std::vector<encoder_arguments::WebPFrame> pictures;
@@ -103,18 +103,18 @@ std::optional<QString> AppDelegate::encodeWebP(std::span<const TimedFrame> frame
         if (at > 0 && frames[at].source != frames[at - 1].source)
             ++number;
         pictures.push_back(
-            {.file = scaled
-                         ? encoder_arguments::scaledFile(shell.s_Export_Folder(), number)
-                         : working_folders::frameFile(shell.s_Output_Folder(), frames[at].source),
+            {.file = scaled ? encoder_arguments::scaledFile(surroundings_.shell.s_Export_Folder(),
+                                                            number)
+                            : working_folders::frameFile(surroundings_.shell.s_Output_Folder(),
+                                                         frames[at].source),
              .milliseconds = frames[at].delay});
     }
-    const QString output = encoder_arguments::webpFile(shell.s_Export_Folder());
+    const QString output = encoder_arguments::webpFile(surroundings_.shell.s_Export_Folder());
     exporting.setI_Orig_Duration_in_Seconds(
         frame_timing::beginOfLast(frames, frame_timing::webpTicks));
     const ToolExit exit = RunToolWithProgress(
-        shell.simg2webpPath(),
-        encoder_arguments::webpArguments(ui->txtWebPLoops->text(), pictures, output),
-        PROGRESS_TYPE_WEBP);
+        surroundings_.shell.simg2webpPath(),
+        encoder_arguments::webpArguments(choices.loops, pictures, output), PROGRESS_TYPE_WEBP);
     if (!exit.succeeded())
         return toolFailureText(encoder, exit);
     if (QFileInfo(output).size() == 0)
@@ -122,20 +122,19 @@ std::optional<QString> AppDelegate::encodeWebP(std::span<const TimedFrame> frame
     return std::nullopt;
 }
 
-std::optional<QString> AppDelegate::scaleForWebP(std::span<const TimedFrame> frames) {
+std::optional<QString> Exporter::scaleForWebP(Frames frames, const ExportChoices &choices) {
     const std::vector<TimedFrame> each = withoutRepeats(frames);
-    stageFrames(shell.s_Output_Folder(), each, shell.s_Export_Folder());
-    surroundings.progress.setText(qtTrId("IDD_PROGRESS_SCALING"));
-    const QString width = ui->textGIFWidth->text();
-    const QString height = ui->textGIFHeigth->text();
+    stageFrames(surroundings_.shell.s_Output_Folder(), each, surroundings_.shell.s_Export_Folder());
+    surroundings_.progress.setText(qtTrId("IDD_PROGRESS_SCALING"));
     // One a second, see `scalingArguments`; this encoder's stamps tell where a picture ends.
     exporting.setI_Orig_Duration_in_Seconds(static_cast<double>(each.size()));
     const ToolExit exit = RunToolWithProgress(
-        shell.sffmpegPath(),
-        encoder_arguments::scalingArguments(shell.s_Export_Folder(), width, height),
+        surroundings_.shell.sffmpegPath(),
+        encoder_arguments::scalingArguments(surroundings_.shell.s_Export_Folder(), choices.width,
+                                            choices.height),
         PROGRESS_TYPE_PREPARATION);
-    surroundings.progress.setText(qtTrId("IDD_PROGRESS_PICTURES"));
+    surroundings_.progress.setText(qtTrId("IDD_PROGRESS_PICTURES"));
     if (!exit.succeeded())
-        return refusedSizeText(scaler, exit, width, height);
+        return refusedSizeText(scaler, exit, choices.width, choices.height);
     return std::nullopt;
 }

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
+#include "record/recorder.h"
+
 #include "platform/window_server.h"
 #include "record/grab_geometry.h"
 #include "record/window_list.h"
-#include "region/region_in_grab.h"
+#include "region/region_chooser.h"
 
 #include <QPainter>
 
@@ -21,7 +22,7 @@ std::int32_t stackingOrder(const WindowEntry *entry) {
 
 } // namespace
 
-void AppDelegate::updateWindowList() {
+void Recorder::updateWindowList() {
     WindowListApplierData walk;
     walk.initWindowListData({});
     capture.windowsOnScreen = windowServer().listWindows();
@@ -32,7 +33,7 @@ void AppDelegate::updateWindowList() {
 }
 
 std::vector<std::uint32_t>
-AppDelegate::newWindowListFromSelection(std::span<const WindowEntry> selection) {
+Recorder::newWindowListFromSelection(std::span<const WindowEntry> selection) {
     std::vector<const WindowEntry *> entries;
     entries.reserve(selection.size());
     for (const WindowEntry &entry : selection)
@@ -45,21 +46,22 @@ AppDelegate::newWindowListFromSelection(std::span<const WindowEntry> selection) 
     return numbers;
 }
 
-void AppDelegate::createMultiWindowShot(std::span<const WindowEntry> selection) {
-    const std::optional<QRect> part = partOfGrabInUse(*this);
+void Recorder::createMultiWindowShot(std::span<const WindowEntry> selection) {
+    const std::optional<QRect> part = chooser_.place().partInUse;
     const auto grab = windowServer().composite(newWindowListFromSelection(selection), part);
     if (grab)
         capture.setGrabbedPart(part);
     setOutputImage(grab);
 }
 
-void AppDelegate::setOutputImage(const std::optional<Image> &grab) {
+void Recorder::setOutputImage(const std::optional<Image> &grab) {
     if (!grab)
         return;
-    const std::optional<QPoint> halvedFrom = originOfHalving(*this);
+    const std::optional<QPoint> halvedFrom = chooser_.place().halvedFrom;
     if (!halvedFrom) {
         capture.setGrabBeforeHalving({});
         capture.setImgScreenCapture(*grab);
+        grabPlaceChanged();
         return;
     }
     // A desktop on which nothing changed yields the same picture: so must its half, for what is
@@ -72,9 +74,17 @@ void AppDelegate::setOutputImage(const std::optional<Image> &grab) {
         QRect(QPoint(), grab->size()).adjusted(halvedFrom->x(), halvedFrom->y(), 0, 0);
     capture.setImgScreenCapture(
         Scale_Image_By_Percentage(halvedFrom->isNull() ? *grab : grab->cut(halved, {}), halfSize));
+    grabPlaceChanged();
 }
 
-Image AppDelegate::Scale_Image_By_Percentage(const Image &image, float percentage) {
+void Recorder::grabPlaceChanged() {
+    if (capture.grabBeforeHalving().isEmpty())
+        chooser_.setGrab({capture.imgScreenCapture().size()});
+    else
+        chooser_.setGrab({capture.grabBeforeHalving().size(), capture.halvedFrom()});
+}
+
+Image Recorder::Scale_Image_By_Percentage(const Image &image, float percentage) {
     if (image.isEmpty())
         return image;
     const ScaledSize size = scaledByPercentage(image.width(), image.height(), percentage);

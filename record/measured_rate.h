@@ -10,6 +10,10 @@
 inline constexpr std::uint64_t lowestRate = 1;
 inline constexpr std::uint64_t highestRate = 60;
 
+/// The highest rate at which every frame of a recording gets into a GIF, whose delays are at least
+/// 2/100 s (`frame_timing::gifTicks` in export/frame_timing.h).
+inline constexpr std::uint64_t highestGifRate = 50;
+
 /// What a recording has counted: its frames, and the seconds spent recording, pauses left out.
 struct RecordingCounts {
     std::uint64_t storedFrames = 0;

@@ -18,9 +18,11 @@
 #include <vector>
 
 /// States of a recording.
-inline constexpr std::uint64_t RECORD_STATUS_STOP = 0;
-inline constexpr std::uint64_t RECORD_STATUS_RECORD = 1;
-inline constexpr std::uint64_t RECORD_STATUS_PAUSE = 2;
+enum RecordStatus : std::uint64_t {
+    RECORD_STATUS_STOP = 0,
+    RECORD_STATUS_RECORD = 1,
+    RECORD_STATUS_PAUSE = 2,
+};
 
 /// The capture rate that the program starts with, in frames per second.
 inline constexpr std::uint64_t defaultFramesPerSecond = 5;
@@ -28,9 +30,8 @@ inline constexpr std::uint64_t defaultFramesPerSecond = 5;
 /// State of the recording and its frame store. `record/` owns the behaviour.
 class RecordingFields {
 public:
-    /// Recording state, one of the three above.
-    std::uint64_t m_RecordStatus() const { return m_RecordStatus_; }
-    void setM_RecordStatus(std::uint64_t status) { m_RecordStatus_ = status; }
+    RecordStatus m_RecordStatus() const { return m_RecordStatus_; }
+    void setM_RecordStatus(RecordStatus status) { m_RecordStatus_ = status; }
 
     /// Capture rate in frames per second, 1 to 60, as the user chose it; sets the capture timer's
     /// interval.
@@ -95,7 +96,7 @@ public:
     std::unique_ptr<RepeatingTimer> timerdebug1Second;
 
 private:
-    std::uint64_t m_RecordStatus_ = RECORD_STATUS_STOP;
+    RecordStatus m_RecordStatus_ = RECORD_STATUS_STOP;
     std::uint64_t u_FPS_ = 0;
     std::uint64_t u_Record_Current_FPS_ = 0;
     double exactRate_ = static_cast<double>(lowestRate);

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "record/recording_indicator.h"
 
-#include "record/recording_fields.h"
 #include "shell/palette_icon.h"
 
 #include <QPainter>
@@ -26,7 +25,7 @@ RecordingIndicator::RecordingIndicator(QWidget *parent)
     hide();
 }
 
-void RecordingIndicator::setState(std::uint64_t state) {
+void RecordingIndicator::setState(RecordStatus state) {
     if (state_ == state)
         return;
     state_ = state;

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLabel>
+#include "record/recording_fields.h"
 
-#include <cstdint>
+#include <QLabel>
 
 /// Says beside the status line that a recording is under way (a red disc) or paused (two bars), in
 /// shape and words as well as in colour. While there is none it takes no room.
@@ -14,12 +14,11 @@ class RecordingIndicator : public QLabel {
 public:
     explicit RecordingIndicator(QWidget *parent = nullptr);
 
-    /// One of the states of a recording, `RECORD_STATUS_STOP` and the others.
-    void setState(std::uint64_t state);
+    void setState(RecordStatus state);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    std::uint64_t state_;
+    RecordStatus state_;
 };

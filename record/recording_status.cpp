@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
-#include "record/measured_rate.h"
-#include "record/recording_indicator.h"
-#include "region/region_in_grab.h"
-#include "ui_MainWindow.h"
+#include "record/recorder.h"
+#include "region/region_chooser.h"
+#include "shell/surroundings.h"
 
 #include <QLocale>
 
@@ -31,9 +29,8 @@ QString minutesAndSeconds(double passed) {
 
 } // namespace
 
-void AppDelegate::showRecordingState() {
-    ui->recordingIndicator->setState(recording.m_RecordStatus());
-    showStateInTaskBar();
+void Recorder::showRecordingState() {
+    Q_EMIT stateChanged();
     if (recording.m_RecordStatus() == RECORD_STATUS_STOP)
         return;
     const RecordingCounts counts = recordingCounts();
@@ -53,10 +50,10 @@ void AppDelegate::showRecordingState() {
             (left && *left < longest
                  ? qtTrId("IDD_RECORDING_MEMORY_LASTS").arg(held, minutesAndSeconds(*left))
                  : qtTrId("IDD_RECORDING_MEMORY").arg(held));
-    surroundings.showStatus(text);
+    surroundings_.showStatus(text);
 }
 
-void AppDelegate::watchMemory() {
+void Recorder::watchMemory() {
     const std::size_t held = recording.store.bytesHeld();
     const double grown = static_cast<double>(held) - static_cast<double>(recording.heldBefore);
     // Compressing gives back what was taken, a little later: the figure must not jump with it.
@@ -67,26 +64,19 @@ void AppDelegate::watchMemory() {
         showRecordingState();
         return;
     }
-    OnRecordPause(nullptr);
-    surroundings.showStatus(
+    OnRecordPause();
+    surroundings_.showStatus(
         qtTrId("IDD_PAUSED_FOR_MEMORY")
             .arg(QLocale().formattedDataSize(static_cast<qint64>(memory->available), 1)));
 }
 
-void AppDelegate::showCaptureMode() {
-    QString text = qtTrId("IDD_MODE_FULL_SCREEN");
-    if (region.i_Type_Screen_Capture() == CAPTURE_REGION) {
-        // What a frame will hold: its size, and its place counted from the upper left corner.
-        const QRect area = regionInGrab(*this);
-        text = qtTrId("IDD_MODE_REGION")
-                   .arg(area.width())
-                   .arg(area.height())
-                   .arg(area.x())
-                   .arg(area.y());
-    }
-    if (ui->labelCaptureMode->text() != text)
-        ui->labelCaptureMode->setText(text);
-    const QString rate = qtTrId("IDD_CAPTURE_RATE").arg(recording.u_FPS());
-    if (ui->labelCaptureRate->text() != rate)
-        ui->labelCaptureRate->setText(rate);
+void Recorder::updateCaptureMode() {
+    const bool region = chooser_.isRegionRecorded();
+    const CaptureMode mode{.region = region,
+                           .area = region ? chooser_.place().inGrab : QRect(),
+                           .rate = recording.u_FPS()};
+    if (mode == mode_)
+        return;
+    mode_ = mode;
+    Q_EMIT captureModeChanged(mode_);
 }

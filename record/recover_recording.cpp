@@ -1,12 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "app/app_delegate.h"
-#include "app/tabs.h"
 #include "record/left_recording.h"
+#include "record/recorder.h"
 #include "record/recording_loader.h"
-#include "shell/question.h"
-#include "shell/tab_view.h"
-#include "ui_MainWindow.h"
+#include "shell/surroundings.h"
+#include "shell/working_folders.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -28,73 +26,75 @@ RecordingClock clockThatCounted(double seconds) {
 
 } // namespace
 
-bool AppDelegate::isOpeningRecording() const { return loader_ != nullptr; }
-
-void AppDelegate::noteRecording() {
+void Recorder::noteRecording() {
     const RecordingCounts counts = recordingCounts();
     const RecordingNote note{.frames = recording.array_Images->size(),
                              .size = recording.array_Images->front().size(),
                              .seconds = counts.passedSeconds,
                              .rate = recording.exactRate()};
-    if (!left_recording::writeNote(shell.s_Output_Folder(), note))
+    if (!left_recording::writeNote(surroundings_.shell.s_Output_Folder(), note))
         qWarning("the recording could not be noted: a later start will not offer it");
 }
 
-void AppDelegate::forgetRecording() { left_recording::removeNote(shell.s_Output_Folder()); }
-
-void AppDelegate::offerRecording(const RecordingNote &note) {
-    const QLocale locale;
-    const QDateTime saved =
-        QFileInfo(left_recording::noteFile(shell.s_Output_Folder())).lastModified();
-    surroundings.alerts.ask({.message = qtTrId("IDD_RECOVER_QUESTION"),
-                             .detail = qtTrId("IDD_RECOVER_DETAIL")
-                                           .arg(locale.toString(saved, QLocale::ShortFormat),
-                                                locale.toString(qulonglong{note.frames}),
-                                                locale.toString(note.seconds, 'f', 1)),
-                             .accept = qtTrId("IDD_RECOVER_OPEN"),
-                             .destroy = qtTrId("IDD_RECOVER_DELETE"),
-                             .cancel = {}},
-                            [this, note](Answer answer) {
-                                if (answer == Answer::Accept)
-                                    openRecording(note);
-                                else
-                                    RemoveAllContentInFolder(shell.s_Output_Folder());
-                            });
+void Recorder::forgetRecording() {
+    left_recording::removeNote(surroundings_.shell.s_Output_Folder());
 }
 
-void AppDelegate::openRecording(const RecordingNote &note) {
-    surroundings.progress.show(qtTrId("IDD_RECOVER_LOADING"));
-    surroundings.progress.setRange(0.0, static_cast<double>(note.frames));
-    surroundings.progress.setValue(0.0);
-    loader_ = std::make_unique<RecordingLoader>(shell.s_Output_Folder(), note, recording.store,
+void Recorder::offerRecording(const RecordingNote &note) {
+    const QLocale locale;
+    const QDateTime saved =
+        QFileInfo(left_recording::noteFile(surroundings_.shell.s_Output_Folder())).lastModified();
+    surroundings_.alerts.ask({.message = qtTrId("IDD_RECOVER_QUESTION"),
+                              .detail = qtTrId("IDD_RECOVER_DETAIL")
+                                            .arg(locale.toString(saved, QLocale::ShortFormat),
+                                                 locale.toString(qulonglong{note.frames}),
+                                                 locale.toString(note.seconds, 'f', 1)),
+                              .accept = qtTrId("IDD_RECOVER_OPEN"),
+                              .destroy = qtTrId("IDD_RECOVER_DELETE"),
+                              .cancel = {}},
+                             [this, note](Answer answer) {
+                                 if (answer == Answer::Accept)
+                                     openRecording(note);
+                                 else
+                                     working_folders::removeContent(
+                                         surroundings_.shell.s_Output_Folder());
+                             });
+}
+
+void Recorder::openRecording(const RecordingNote &note) {
+    surroundings_.progress.show(qtTrId("IDD_RECOVER_LOADING"));
+    surroundings_.progress.setRange(0.0, static_cast<double>(note.frames));
+    surroundings_.progress.setValue(0.0);
+    loader_ = std::make_unique<RecordingLoader>(surroundings_.shell.s_Output_Folder(), note,
+                                                recording.store,
                                                 [this](std::uint64_t done) { frameLoaded(done); });
 }
 
-void AppDelegate::frameLoaded(std::uint64_t done) {
-    surroundings.progress.setValue(static_cast<double>(done));
+void Recorder::frameLoaded(std::uint64_t done) {
+    surroundings_.progress.setValue(static_cast<double>(done));
     if (!loader_->hasEnded())
         return;
     // Its own report is on the stack.
     RecordingLoader *loader = loader_.release();
     loader->deleteLater();
-    surroundings.progress.close();
+    surroundings_.progress.close();
     recording.store.rest();
     if (loader->hasFailed()) {
-        surroundings.alerts.run(AlertKind::Error,
-                                qtTrId("IDD_RECOVER_FAILED").arg(loader->failedFile()));
+        surroundings_.alerts.run(AlertKind::Error,
+                                 qtTrId("IDD_RECOVER_FAILED").arg(loader->failedFile()));
         return;
     }
     takeRecording(loader->takeFrames(), loader->note());
-    shell.tabviewMain()->selectTabViewItemAtIndex(tabs::cut);
+    Q_EMIT recordingReady();
 }
 
-void AppDelegate::takeRecording(std::vector<Image> frames, const RecordingNote &note) {
+void Recorder::takeRecording(std::vector<Image> frames, const RecordingNote &note) {
     recording.setU_Record_Current_Frame(frames.size());
     recording.array_Images = std::move(frames);
     recording.setExactRate(note.rate);
     recording.setI_Actual_FPS_while_Recording(0);
     recording.setU_number_of_seconds(0);
     recording.clock = clockThatCounted(note.seconds);
-    surroundings.showStatus(
+    surroundings_.showStatus(
         qtTrId("IDD_RECORDING_SAVED").arg(note.frames).arg(recording.u_Record_Current_FPS()));
 }

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "record/view_record_preview.h"
 
-#include "app/app_delegate.h"
 #include "record/grab_geometry.h"
+#include "record/recorder.h"
 #include "record/window_list.h"
-#include "region/region_in_grab.h"
+#include "region/region_chooser.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -45,31 +45,31 @@ View_Record_Preview::View_Record_Preview(QWidget *parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+void View_Record_Preview::setRecorder(Recorder &recorder) {
+    recorder_ = &recorder;
+    connect(recorder_, &Recorder::ticked, this, &View_Record_Preview::drawFrame);
+}
+
 void View_Record_Preview::drawFrame() {
     redisplayPending_ = false;
-    AppDelegate *delegate = appDelegate();
-    if (!delegate)
+    if (!recorder_)
         return;
-    const std::int64_t type = delegate->region.i_Type_Screen_Capture();
+    const RegionChooser &chooser = recorder_->chooser();
     const FittingFrame before = frame_;
     const Image previous = shown_;
-    if (type == CAPTURE_REGION || type == CAPTURE_FULL_SCREEN) {
-        refreshGrab(*delegate);
-        const Image &grab = delegate->capture.imgScreenCapture();
-        shown_ = type == CAPTURE_REGION ? cutRegion(grab) : grab;
-        delegate->capture.setImageScreenCaptureFinal(shown_);
-        const QRectF fit =
-            delegate->return_Best_Fit_Frame(shown_.width(), shown_.height(), width(), height());
-        frame_ = {fit.x(), fit.y(), fit.width(), fit.height()};
-    }
-    delegate->showCaptureMode();
-    delegate->storeFrame();
+    refreshGrab();
+    const Image &grab = recorder_->capture.imgScreenCapture();
+    shown_ = chooser.isRegionRecorded() ? cutRegion(grab, chooser.place().inGrab) : grab;
+    recorder_->capture.setImageScreenCaptureFinal(shown_);
+    frame_ = bestFitFrame(shown_.width(), shown_.height(), width(), height());
+    recorder_->updateCaptureMode();
+    recorder_->storeFrame();
     const auto changes = shown_.changesSince(previous);
     const bool whole = staleBehindOthers_ || !changes || !sameFrame(frame_, before);
     if (!whole && changes->isEmpty())
         return;
     // Behind other windows nobody sees it: it is painted once it comes into sight.
-    staleBehindOthers_ = isCovered(delegate->capture.windowsOnScreen, placeOnDesktop());
+    staleBehindOthers_ = isCovered(recorder_->capture.windowsOnScreen, placeOnDesktop());
     if (staleBehindOthers_)
         return;
     if (whole)
@@ -79,15 +79,14 @@ void View_Record_Preview::drawFrame() {
 }
 
 /// The region may have moved since the grab, or the whole screen been chosen.
-void View_Record_Preview::refreshGrab(AppDelegate &delegate) {
-    const std::optional<QRect> grabbed = delegate.capture.grabbedPart();
-    const std::optional<QRect> needed = partOfGrabInUse(delegate);
+void View_Record_Preview::refreshGrab() {
+    const std::optional<QRect> grabbed = recorder_->capture.grabbedPart();
+    const std::optional<QRect> needed = recorder_->chooser().place().partInUse;
     if (grabbed && (!needed || !grabbed->contains(*needed)))
-        delegate.createMultiWindowShot(delegate.capture.arrayWindowsMinusHarrowlens);
+        recorder_->createMultiWindowShot(recorder_->capture.arrayWindowsMinusHarrowlens);
 }
 
-Image View_Record_Preview::cutRegion(const Image &grab) {
-    const QRect region = regionInGrab(*appDelegate());
+Image View_Record_Preview::cutRegion(const Image &grab, const QRect &region) {
     const QRectF rectangle(region.x(), grab.height() - region.y() - region.height(), region.width(),
                            region.height());
     // The same part of the same picture stays the same picture: it is then written only once.
@@ -231,10 +230,4 @@ void View_Record_Preview::showReason(const QString &reason) {
         place->setContentsMargins(reasonMargin, reasonMargin, reasonMargin, reasonMargin);
     }
     layout()->addWidget(reason_);
-}
-
-QRectF AppDelegate::return_Best_Fit_Frame(double imageWidth, double imageHeight, double areaWidth,
-                                          double areaHeight) {
-    const FittingFrame frame = bestFitFrame(imageWidth, imageHeight, areaWidth, areaHeight);
-    return {frame.x, frame.y, frame.width, frame.height};
 }

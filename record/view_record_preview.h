@@ -11,9 +11,9 @@
 #include <QRectF>
 #include <QWidget>
 
-class AppDelegate;
 class QLabel;
 class QWindow;
+class Recorder;
 
 /// The live preview on the Record tab, and the place where a frame comes into being: its draw step
 /// settles which picture is shown, and a recording stores that one.
@@ -28,6 +28,9 @@ class View_Record_Preview : public QWidget {
 
 public:
     explicit View_Record_Preview(QWidget *parent = nullptr);
+
+    /// The desk, borrowed, whose grabs it shows; without one it stays black.
+    void setRecorder(Recorder &recorder);
 
     /// The draw step: cuts the region out of the latest grab, fits it into the view, sets
     /// `imageScreenCaptureFinal`, stores the frame while recording, and asks to be painted.
@@ -53,12 +56,14 @@ protected:
 private:
     void redisplay();
     bool windowIsExposed() const;
-    Image cutRegion(const Image &grab);
-    void refreshGrab(AppDelegate &delegate);
+    Image cutRegion(const Image &grab, const QRect &region);
+    void refreshGrab();
     QPointF corner() const;
     QSize pixelsShown() const;
     QRect placeOnDesktop() const;
     QRegion shownPlaceOf(const QRegion &changed) const;
+
+    Recorder *recorder_ = nullptr;
 
     // What the last draw step settled.
     Image shown_;

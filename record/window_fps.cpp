@@ -2,16 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "record/window_fps.h"
 
-#include "app/app_delegate.h"
-#include "export/frame_timing.h"
 #include "record/rate_list.h"
+#include "record/recorder.h"
 #include "shell/elided_label.h"
 #include "shell/mnemonics.h"
+#include "shell/surroundings.h"
 #include "ui_Window_FPS.h"
 
 #include <QMainWindow>
 
-Window_FPS::Window_FPS(QWidget *parent) : QDialog(parent), ui_(std::make_unique<Ui::Window_FPS>()) {
+Window_FPS::Window_FPS(QWidget *parent, Recorder &recorder)
+    : QDialog(parent), ui_(std::make_unique<Ui::Window_FPS>()), recorder_(recorder) {
     ui_->setupUi(this);
     windowDidLoad();
 }
@@ -23,8 +24,8 @@ QLabel *Window_FPS::labelFPS() const { return ui_->labelFPS; }
 QLabel *Window_FPS::labelNote() const { return ui_->labelNote; }
 
 void Window_FPS::windowDidLoad() {
-    fillRates(*ui_->comboScreenFPS, appDelegate()->recording.u_FPS());
-    const InterfaceStrings &texts = appDelegate()->texts;
+    fillRates(*ui_->comboScreenFPS, recorder_.recording.u_FPS());
+    const InterfaceStrings &texts = recorder_.surroundings().texts;
     ui_->labelFPS->setText(texts.s_IDD_FPS());
     ui_->labelNote->setText(texts.s_IDD_NOTE());
     setWindowTitle(texts.s_IDD_FPS());
@@ -33,8 +34,7 @@ void Window_FPS::windowDidLoad() {
     ui_->btnCancel->setText(qtTrId("IDD_CANCEL"));
     mnemonics::mark(*this);
     const auto sayWhatAGifGets = [this](int index) {
-        const bool thinned = static_cast<std::uint64_t>(index) + lowestRate >
-                             frame_timing::highestRate(frame_timing::gifTicks);
+        const bool thinned = static_cast<std::uint64_t>(index) + lowestRate > highestGifRate;
         ui_->labelThinned->setText(thinned ? qtTrId("IDD_GIF_THINNED") : QString());
     };
     connect(ui_->comboScreenFPS, &QComboBox::currentIndexChanged, this, sayWhatAGifGets);
@@ -50,7 +50,7 @@ void Window_FPS::OnOK(QObject *sender) {
         return;
     }
     bOK_ = true;
-    appDelegate()->recording.setU_FPS(static_cast<std::uint64_t>(index) + lowestRate);
+    recorder_.recording.setU_FPS(static_cast<std::uint64_t>(index) + lowestRate);
     done(Accepted);
 }
 
@@ -61,13 +61,13 @@ void Window_FPS::OnCancel(QObject *) {
 
 void Window_FPS::windowWillClose() { OnCancel(this); }
 
-void AppDelegate::OnRecordFPS(QObject *) {
-    Window_FPS dialog(shell.window());
+void Recorder::OnRecordFPS() {
+    Window_FPS dialog(surroundings_.shell.window(), *this);
     dialog.setWindowModality(Qt::ApplicationModal);
     dialog.exec();
     if (!dialog.bOK())
         return;
     restartCaptureTimer();
     // Not only with the next tick, which a low rate keeps waiting.
-    showCaptureMode();
+    updateCaptureMode();
 }

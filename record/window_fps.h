@@ -8,17 +8,18 @@
 
 class QComboBox;
 class QLabel;
+class Recorder;
 namespace Ui {
 class Window_FPS;
 }
 
-/// The dialog in which the capture rate is chosen. It reads and writes the controller's `u_FPS`;
+/// The dialog in which the capture rate is chosen. It reads and writes the desk's `u_FPS`;
 /// what follows from a new rate is the command's business.
 class Window_FPS : public QDialog {
     Q_OBJECT
 
 public:
-    explicit Window_FPS(QWidget *parent);
+    Window_FPS(QWidget *parent, Recorder &recorder);
     ~Window_FPS() override;
 
     /// True when the dialog was closed with OK.
@@ -42,5 +43,6 @@ private:
     void windowDidLoad();
 
     std::unique_ptr<Ui::Window_FPS> ui_;
+    Recorder &recorder_;
     bool bOK_ = false;
 };

@@ -20,6 +20,8 @@ struct Screen {
     double height = 0;
     /// Pixels per point; any positive number.
     double ratio = 1;
+
+    bool operator==(const Screen &) const = default;
 };
 
 /// A rectangle in points from the screen's lower left corner, y upwards; (x, y) is its lower left
@@ -29,6 +31,8 @@ struct Points {
     double y = 0;
     double width = 0;
     double height = 0;
+
+    bool operator==(const Points &) const = default;
 };
 
 /// A rectangle in whole units of the grab from the grab's upper left corner, y downwards; (x, y) is

@@ -15,16 +15,17 @@
 class Window_Transparent_Region;
 
 /// What is recorded: the whole screen, or the region.
-inline constexpr std::int64_t CAPTURE_FULL_SCREEN = 0;
-inline constexpr std::int64_t CAPTURE_REGION = 1;
+enum CaptureType : std::int64_t {
+    CAPTURE_FULL_SCREEN = 0,
+    CAPTURE_REGION = 1,
+};
 
 /// State of the region selection, in points from the lower left corner of the main window's screen,
 /// y upwards. `region/` owns the behaviour.
 class RegionFields {
 public:
-    /// Capture mode, one of the two above.
-    std::int64_t i_Type_Screen_Capture() const { return i_Type_Screen_Capture_; }
-    void setI_Type_Screen_Capture(std::int64_t type) { i_Type_Screen_Capture_ = type; }
+    CaptureType i_Type_Screen_Capture() const { return i_Type_Screen_Capture_; }
+    void setI_Type_Screen_Capture(CaptureType type) { i_Type_Screen_Capture_ = type; }
 
     /// Whether the how-to dialog precedes region selection: at 1, and at no other value.
     std::int64_t b_Show_Select_Region_How_To() const { return b_Show_Select_Region_How_To_; }
@@ -55,7 +56,7 @@ public:
     void setPFullScreen(Window_Transparent_Region *overlay) { pFullScreen_ = overlay; }
 
 private:
-    std::int64_t i_Type_Screen_Capture_ = CAPTURE_FULL_SCREEN;
+    CaptureType i_Type_Screen_Capture_ = CAPTURE_FULL_SCREEN;
     std::int64_t b_Show_Select_Region_How_To_ = 0;
     QSizeF size_Region_;
     QRectF rect_Screen_Region_;

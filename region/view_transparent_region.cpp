@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "region/view_transparent_region.h"
 
-#include "app/app_delegate.h"
 #include "region/controller_squares.h"
+#include "region/region_chooser.h"
 
 #include <QPainter>
 
@@ -90,15 +90,9 @@ region_drawing::Pieces region_drawing::pieces(const Squares &squares, const Regi
     return result;
 }
 
-void View_Transparent_Region::storeRegion() {
-    RegionFields &fields = appDelegate()->region;
-    const Region region = region_geometry::boundingRegion(controller_squares::read(fields));
-    fields.setRect_Screen_Region(QRectF(region.x, region.y, region.width, region.height));
-}
-
 void View_Transparent_Region::paintEvent(QPaintEvent *) {
-    storeRegion();
-    const RegionFields &fields = appDelegate()->region;
+    chooser_.storeRegion();
+    const RegionFields &fields = chooser_.region;
     const QRect stored = fields.rect_Screen_Region().toRect();
     const Region region{stored.x(), stored.y(), stored.width(), stored.height()};
     const Squares squares = controller_squares::read(fields);

@@ -10,6 +10,7 @@
 #include <array>
 
 class QPainter;
+class RegionChooser;
 
 /// How the region selection looks: the outline, four corner squares, the middle square with its
 /// cross, and nothing else. Pure drawing, shared by the overlay and the picture that explains it.
@@ -36,7 +37,7 @@ Pieces pieces(const region_geometry::Squares &squares, const region_geometry::Re
 
 } // namespace region_drawing
 
-/// The overlay's view. It fills the overlay's window, draws the controller's squares, and stores
+/// The overlay's view. It fills the overlay's window, draws the desk's squares, and stores
 /// the region that they stand for with every drawing, so that what is accepted is what was seen
 /// last. Pointer events go to the window.
 class View_Transparent_Region : public QWidget {
@@ -44,11 +45,9 @@ class View_Transparent_Region : public QWidget {
 
 public:
     /// Draws the part of `screen` (its frame in points, upper left origin) that the window covers.
-    View_Transparent_Region(QWidget *parent, const QRect &screen)
-        : QWidget(parent), screen_(screen) {}
-
-    /// Works out the region from the squares and stores it in the controller.
-    static void storeRegion();
+    /// `chooser` is borrowed and outlives it.
+    View_Transparent_Region(QWidget *parent, const QRect &screen, RegionChooser &chooser)
+        : QWidget(parent), chooser_(chooser), screen_(screen) {}
 
     /// For a desktop that does not blend windows, where the window is shaped to the drawing.
     void setShaped(bool shaped) { shaped_ = shaped; }
@@ -66,6 +65,7 @@ private:
     /// The screen's upper left corner, in points from the window's.
     QPoint screenInWindow() const;
 
+    RegionChooser &chooser_;
     QRect screen_;
     bool shaped_ = false;
 };

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "region/window_region_how_it_works.h"
 
-#include "app/app_delegate.h"
+#include "region/region_fields.h"
 #include "shell/mnemonics.h"
 #include "shell/settings.h"
 #include "ui_Window_Region_How_It_Works.h"
 
-Window_Region_How_It_Works::Window_Region_How_It_Works(QWidget *parent)
-    : QDialog(parent), ui_(std::make_unique<Ui::Window_Region_How_It_Works>()) {
+Window_Region_How_It_Works::Window_Region_How_It_Works(QWidget *parent, RegionFields &region)
+    : QDialog(parent), ui_(std::make_unique<Ui::Window_Region_How_It_Works>()), region_(region) {
     ui_->setupUi(this);
     windowDidLoad();
 }
@@ -34,8 +34,8 @@ void Window_Region_How_It_Works::windowDidLoad() {
 
 void Window_Region_How_It_Works::OnOK() {
     if (checkDontShowAgain()->isChecked()) {
-        appDelegate()->region.setB_Show_Select_Region_How_To(0);
-        settings::writeShowSelectRegionHowTo(appDelegate()->region.b_Show_Select_Region_How_To());
+        region_.setB_Show_Select_Region_How_To(0);
+        settings::writeShowSelectRegionHowTo(region_.b_Show_Select_Region_How_To());
     }
     accept();
 }

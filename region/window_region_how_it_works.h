@@ -7,6 +7,7 @@
 #include <memory>
 
 class QCheckBox;
+class RegionFields;
 namespace Ui {
 class Window_Region_How_It_Works;
 }
@@ -17,13 +18,14 @@ class Window_Region_How_It_Works : public QDialog {
     Q_OBJECT
 
 public:
-    explicit Window_Region_How_It_Works(QWidget *parent);
+    /// `region` is borrowed: its how-to flag is what the user decides about.
+    Window_Region_How_It_Works(QWidget *parent, RegionFields &region);
     ~Window_Region_How_It_Works() override;
 
     /// The box by which the user asks not to see the dialog again; owned by the dialog.
     QCheckBox *checkDontShowAgain() const;
 
-    /// The OK button: with the box ticked, clears the controller's how-to flag and stores it.
+    /// The OK button: with the box ticked, clears the how-to flag and stores it.
     void OnOK();
 
     /// The window is closing without OK (its close button, Escape): the flag stays as it was,
@@ -36,4 +38,5 @@ private:
     void windowDidLoad();
 
     std::unique_ptr<Ui::Window_Region_How_It_Works> ui_;
+    RegionFields &region_;
 };

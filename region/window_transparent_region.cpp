@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "region/window_transparent_region.h"
 
-#include "app/app_delegate.h"
 #include "platform/compositing.h"
 #include "region/controller_squares.h"
-#include "region/region_in_grab.h"
+#include "region/region_chooser.h"
 #include "region/region_tip.h"
 #include "region/view_transparent_region.h"
+#include "shell/surroundings.h"
 
 #include <QCloseEvent>
 #include <QEventLoop>
@@ -38,8 +38,6 @@ constexpr int smallestSide = 2; // pixels of a frame
 /// Often enough for the eye; one question to the server each time.
 constexpr int desktopWatchInterval = 200; // milliseconds
 
-Squares squares() { return controller_squares::read(appDelegate()->region); }
-
 QString cornerName(const Place &place) {
     if (place.lower)
         return place.left ? qtTrId("IDD_REGION_LOWER_LEFT") : qtTrId("IDD_REGION_LOWER_RIGHT");
@@ -48,11 +46,11 @@ QString cornerName(const Place &place) {
 
 } // namespace
 
-Window_Transparent_Region::Window_Transparent_Region(QScreen &screen)
-    : QWidget(appDelegate()->shell.window(),
+Window_Transparent_Region::Window_Transparent_Region(QScreen &screen, RegionChooser &chooser)
+    : QWidget(chooser.surroundings().shell.window(),
               Qt::Tool | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint),
-      screenFrame_(screen.geometry()),
-      viewTransparentRegion_(new View_Transparent_Region(this, screenFrame_)),
+      chooser_(chooser), screenFrame_(screen.geometry()),
+      viewTransparentRegion_(new View_Transparent_Region(this, screenFrame_, chooser)),
       tip_(new RegionTip(this)) {
     setObjectName(QStringLiteral("Window_Transparent_Region"));
     viewTransparentRegion_->setObjectName(QStringLiteral("viewTransparentRegion"));
@@ -68,6 +66,14 @@ Window_Transparent_Region::Window_Transparent_Region(QScreen &screen)
 
 Window_Transparent_Region::~Window_Transparent_Region() = default;
 
+Squares Window_Transparent_Region::squares() const {
+    return controller_squares::read(chooser_.region);
+}
+
+void Window_Transparent_Region::setSquares(const Squares &squares) {
+    controller_squares::write(chooser_.region, squares);
+}
+
 void Window_Transparent_Region::awakeFromNib(QScreen &screen) {
     // Past the window manager: it would keep the window clear of the desktop's panels or, for a
     // window that asks for the full screen, take the panels away from what is to be framed.
@@ -80,7 +86,7 @@ void Window_Transparent_Region::awakeFromNib(QScreen &screen) {
 void Window_Transparent_Region::windowDidLoad() {
     setB_Mouse_Down(false);
     setI_button_index(-1);
-    RegionFields &fields = appDelegate()->region;
+    RegionFields &fields = chooser_.region;
     const QSizeF size = fields.size_Region();
     Region start = region_geometry::boundingRegion(region_geometry::initialSquares(
         size.width(), size.height(), screenFrame_.width(), screenFrame_.height()));
@@ -91,7 +97,7 @@ void Window_Transparent_Region::windowDidLoad() {
     }
     controller_squares::write(fields,
                               region_drag::squaresOf(region_drag::within(start, screenInPoints())));
-    fields.setScreenOfRegion(screenOnDesktop(*screen()));
+    fields.setScreenOfRegion(region_place::screenOnDesktop(*screen()));
 }
 
 int Window_Transparent_Region::runModal() {
@@ -122,14 +128,14 @@ void Window_Transparent_Region::stopModalWithCode(int code) {
 
 void Window_Transparent_Region::accept() {
     // The last change may not have been drawn yet.
-    View_Transparent_Region::storeRegion();
+    chooser_.storeRegion();
     if (isTooSmall())
         return showTip(); // It says why.
     stopModalWithCode(accepted);
 }
 
 bool Window_Transparent_Region::isTooSmall() const {
-    const QRect recorded = regionInFrames(*appDelegate());
+    const QRect recorded = chooser_.place().inFrames;
     const Region region = region_geometry::boundingRegion(squares());
     return region.width == 0 || region.height == 0 || recorded.width() < smallestSide ||
            recorded.height() < smallestSide;
@@ -156,7 +162,7 @@ void Window_Transparent_Region::mouseDragged(Point pointer) {
     const Squares moved = region_drag::dragged(grip_, pointer, screenInPoints());
     if (grip_.held == Held::NewRegion && grip_.drawing)
         cornerInHand_ = grip_.corner;
-    controller_squares::write(appDelegate()->region, moved);
+    setSquares(moved);
     squaresChanged();
 }
 
@@ -251,7 +257,7 @@ void Window_Transparent_Region::moveCorner(double dx, double dy) {
     region_geometry::drag(
         moved, cornerInHand_,
         {to.x - region_geometry::squareInset, to.y - region_geometry::squareInset});
-    controller_squares::write(appDelegate()->region, moved);
+    setSquares(moved);
     squaresChanged();
 }
 
@@ -275,8 +281,8 @@ void Window_Transparent_Region::squaresChanged() {
 }
 
 void Window_Transparent_Region::showTip() {
-    View_Transparent_Region::storeRegion();
-    const QRect recorded = regionInFrames(*appDelegate());
+    chooser_.storeRegion();
+    const QRect recorded = chooser_.place().inFrames;
     const Squares now = squares();
     const Point &corner = now[static_cast<std::size_t>(cornerInHand_)];
     const QPointF marked(corner.x + region_geometry::squareInset,

@@ -11,12 +11,13 @@
 #include <cstdint>
 
 class QEventLoop;
+class RegionChooser;
 class RegionTip;
 class View_Transparent_Region;
 
 /// The region selection's overlay: a see-through window over the whole screen of the main window,
 /// on which the region is dragged, by its corners, as a whole, or as a new one. It turns pointer
-/// and keys into changes of the controller's squares; it neither draws (see its view) nor decides
+/// and keys into changes of the desk's squares; it neither draws (see its view) nor decides
 /// what the result means (see the region command).
 ///
 /// Where the desktop blends windows, the window is transparent; where it does not, the window is
@@ -31,10 +32,10 @@ public:
     static constexpr int accepted = 1;
     static constexpr int screenChanged = 2;
 
-    /// Covers `screen` and lays out the squares for the controller's region if one was chosen
+    /// Covers `screen` and lays out the squares for the desk's region if one was chosen
     /// before, else for its `size_Region`, which must be set before, centred. The region is
-    /// measured on `screen` from then on. Not shown yet.
-    explicit Window_Transparent_Region(QScreen &screen);
+    /// measured on `screen` from then on. Not shown yet. `chooser` is borrowed and outlives it.
+    Window_Transparent_Region(QScreen &screen, RegionChooser &chooser);
     ~Window_Transparent_Region() override;
 
     /// Shows the overlay and turns events until it is accepted, cancelled or ended from outside;
@@ -93,6 +94,10 @@ private:
     /// they are needed and were not to be had before.
     void adaptToDesktop();
 
+    region_geometry::Squares squares() const;
+    void setSquares(const region_geometry::Squares &squares);
+
+    RegionChooser &chooser_;
     bool b_Mouse_Down_ = false;
     std::int32_t i_button_index_ = -1;
     region_drag::Grip grip_; // while the button is held

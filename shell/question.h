@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// What a question to the user says and what its buttons are called; see `AppDelegate::Ask`.
+/// What a question to the user says and what its buttons are called; see `Alerts::ask`.
 struct Question {
     QString message;
     QString detail;

@@ -11,7 +11,7 @@ class QMainWindow;
 class TabView;
 
 /// What the application as a whole knows: its window, its working folders and tools, its screen.
-/// Only state; what is done with it stands in `app/`. Windows and views are borrowed.
+/// Only state. Windows and views are borrowed.
 class ShellFields {
 public:
     /// The single main window.

@@ -59,7 +59,7 @@ public:
         application().setDelegate(delegate.get());
         delegate->awakeFromNib();
         EXPECT_TRUE(delegate->applicationDidFinishLaunching());
-        delegate->stopRecordTimers();
+        delegate->recorder.stopRecordTimers();
         settle();
     }
     ~TestController() {

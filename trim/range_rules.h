@@ -73,6 +73,8 @@ struct Kept {
     std::uint64_t first = 0;
     std::uint64_t last = 0;
     std::uint64_t count() const { return last - first + 1; }
+
+    bool operator==(const Kept &) const = default;
 };
 
 /// None when no frame of the range exists.

@@ -8,9 +8,11 @@
 #include <memory>
 
 /// States of the playback.
-inline constexpr std::uint64_t PLAY_STATUS_STOP = 0;
-inline constexpr std::uint64_t PLAY_STATUS_PLAY = 1;
-inline constexpr std::uint64_t PLAY_STATUS_PAUSE = 2;
+enum PlayStatus : std::uint64_t {
+    PLAY_STATUS_STOP = 0,
+    PLAY_STATUS_PLAY = 1,
+    PLAY_STATUS_PAUSE = 2,
+};
 
 /// An end of the kept range.
 enum class RangeEnd { First, Last };
@@ -18,9 +20,8 @@ enum class RangeEnd { First, Last };
 /// State of the trim editor. `trim/` owns the behaviour.
 class TrimFields {
 public:
-    /// Playback state, one of the three above.
-    std::uint64_t m_PlayStatus() const { return m_PlayStatus_; }
-    void setM_PlayStatus(std::uint64_t status) { m_PlayStatus_ = status; }
+    PlayStatus m_PlayStatus() const { return m_PlayStatus_; }
+    void setM_PlayStatus(PlayStatus status) { m_PlayStatus_ = status; }
 
     /// Lower handle of the range, in percent of the recording.
     float f_Cut_Percent_Menor() const { return f_Cut_Percent_Menor_; }
@@ -31,12 +32,12 @@ public:
     void setF_Cut_Percent_Maior(float percent) { f_Cut_Percent_Maior_ = percent; }
 
     /// First frame number of the trimmed range; follows from the lower handle, see
-    /// `AppDelegate::updateTrimmedRange`.
+    /// `TrimEditor::updateTrimmedRange`.
     std::uint64_t uFirstFrame() const { return uFirstFrame_; }
     void setUFirstFrame(std::uint64_t frame) { uFirstFrame_ = frame; }
 
     /// Frame number that the upper handle maps to, likewise; it may be one past the recording's
-    /// last frame. What is kept of the range is `AppDelegate::keptRange`.
+    /// last frame. What is kept of the range is `TrimEditor::keptRange`.
     std::uint64_t uLastFrame() const { return uLastFrame_; }
     void setULastFrame(std::uint64_t frame) { uLastFrame_ = frame; }
 
@@ -52,7 +53,7 @@ public:
     std::unique_ptr<RepeatingTimer> timerPlayRefresh;
 
 private:
-    std::uint64_t m_PlayStatus_ = PLAY_STATUS_STOP;
+    PlayStatus m_PlayStatus_ = PLAY_STATUS_STOP;
     float f_Cut_Percent_Menor_ = 0.0f;
     float f_Cut_Percent_Maior_ = 0.0f;
     std::uint64_t uFirstFrame_ = 0;

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "trim/view_cut_preview.h"
 
-#include "app/app_delegate.h"
-#include "trim/range_rules.h"
+#include "record/fitting.h"
+#include "record/recorder.h"
+#include "shell/surroundings.h"
+#include "trim/trim_editor.h"
 
 #include <QFontMetricsF>
 #include <QKeyEvent>
@@ -21,16 +23,20 @@ View_Cut_Preview::View_Cut_Preview(QWidget *parent) : QWidget(parent) {
     setFocusPolicy(Qt::ClickFocus);
 }
 
+void View_Cut_Preview::setEditor(TrimEditor &editor) {
+    editor_ = &editor;
+    connect(editor_, &TrimEditor::viewsChanged, this, qOverload<>(&QWidget::update));
+}
+
 void View_Cut_Preview::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), Qt::black);
-    AppDelegate *delegate = appDelegate();
-    if (!delegate)
+    if (!editor_)
         return;
-    const bool exists = delegate->surroundings.firstFrameFileExists();
+    const bool exists = editor_->surroundings().firstFrameFileExists();
     if (exists)
-        delegate->updateTrimmedRange();
-    delegate->showTrimmedRange(exists);
+        editor_->updateTrimmedRange();
+    editor_->showTrimmedRange(exists);
     if (exists)
         drawFrame(painter);
     else
@@ -52,33 +58,31 @@ void View_Cut_Preview::drawNoVideo(QPainter &painter) const {
 }
 
 void View_Cut_Preview::drawFrame(QPainter &painter) {
-    AppDelegate &delegate = *appDelegate();
-    const auto &frames = delegate.recording.array_Images;
-    const bool stopped = delegate.trim.m_PlayStatus() == PLAY_STATUS_STOP;
-    const std::uint64_t atHandle = delegate.trim.previewedEnd() == RangeEnd::Last
-                                       ? delegate.trim.uLastFrame()
-                                       : delegate.trim.uFirstFrame();
-    const auto number = range_rules::existingFrame(
-        stopped ? atHandle : delegate.trim.uCurrentFrame(), frames ? frames->size() : 0);
+    const TrimFields &trim = editor_->trim;
+    const auto &frames = editor_->recorder().recording.array_Images;
+    const bool stopped = trim.m_PlayStatus() == PLAY_STATUS_STOP;
+    const std::uint64_t atHandle =
+        trim.previewedEnd() == RangeEnd::Last ? trim.uLastFrame() : trim.uFirstFrame();
+    const auto number = range_rules::existingFrame(stopped ? atHandle : trim.uCurrentFrame(),
+                                                   frames ? frames->size() : 0);
     if (!number)
         return;
     const Image &frame = (*frames)[*number];
-    const QRectF fit =
-        delegate.return_Best_Fit_Frame(frame.width(), frame.height(), width(), height());
+    const FittingFrame fit = bestFitFrame(frame.width(), frame.height(), width(), height());
     const double ratio = devicePixelRatioF();
-    const QSize pixels = (fit.size() * ratio).toSize();
+    const QSize pixels = (QSizeF(fit.width, fit.height) * ratio).toSize();
     if (pixels.isEmpty())
         return;
     // The fitting rectangle counts from the lower left corner, painting from the upper one.
-    const QPointF corner = ImageScaler::onGrid({fit.x(), height() - fit.y() - fit.height()}, ratio);
-    const bool moving = delegate.trim.m_PlayStatus() == PLAY_STATUS_PLAY;
+    const QPointF corner = ImageScaler::onGrid({fit.x, height() - fit.y - fit.height}, ratio);
+    const bool moving = trim.m_PlayStatus() == PLAY_STATUS_PLAY;
     painter.drawImage(corner,
                       scaler_.scaled(frame, pixels, ratio,
                                      moving ? ImageScaler::Care::Quick : ImageScaler::Care::Fine));
 }
 
 void View_Cut_Preview::keyPressEvent(QKeyEvent *event) {
-    if (event->key() == Qt::Key_Space && appDelegate())
-        return appDelegate()->togglePlayback();
+    if (event->key() == Qt::Key_Space && editor_)
+        return editor_->togglePlayback();
     QWidget::keyPressEvent(event);
 }

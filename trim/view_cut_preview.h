@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+class TrimEditor;
+
 /// The preview on the Cut tab: one frame of the recording, fitted over black. Each drawing also
 /// works out the trimmed range from the handles' percentages, which the exports read. Without a
 /// recording it says so.
@@ -15,6 +17,9 @@ class View_Cut_Preview : public QWidget {
 public:
     explicit View_Cut_Preview(QWidget *parent = nullptr);
 
+    /// The desk, borrowed, whose frames it shows; without one it stays black.
+    void setEditor(TrimEditor &editor);
+
 protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -23,5 +28,6 @@ private:
     void drawNoVideo(QPainter &painter) const;
     void drawFrame(QPainter &painter);
 
+    TrimEditor *editor_ = nullptr;
     ImageScaler scaler_;
 };

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "trim/view_cut_range.h"
 
-#include "app/app_delegate.h"
+#include "record/recorder.h"
 #include "trim/cut_handle.h"
 #include "trim/focus_ring.h"
+#include "trim/trim_editor.h"
 #include "trim/view_cut_preview.h"
-#include "ui_MainWindow.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -26,13 +26,11 @@ const QColor handleColour(255, 0, 0);
 const QColor bandColour(0, 255, 0);
 const QColor playheadColour(0, 0, 255);
 
-Handles handlesOf(const AppDelegate &delegate) {
-    return {delegate.trim.f_Cut_Percent_Menor(), delegate.trim.f_Cut_Percent_Maior()};
+Handles handlesOf(const TrimEditor &editor) {
+    return {editor.trim.f_Cut_Percent_Menor(), editor.trim.f_Cut_Percent_Maior()};
 }
 
-bool stopped(const AppDelegate &delegate) {
-    return delegate.trim.m_PlayStatus() == PLAY_STATUS_STOP;
-}
+bool stopped(const TrimEditor &editor) { return editor.trim.m_PlayStatus() == PLAY_STATUS_STOP; }
 
 Handle other(Handle handle) { return handle == Handle::Menor ? Handle::Maior : Handle::Menor; }
 
@@ -48,19 +46,25 @@ View_Cut_Range::View_Cut_Range(QWidget *parent) : QWidget(parent) {
     new FocusRing(*this);
 }
 
+void View_Cut_Range::setEditor(TrimEditor &editor, View_Cut_Preview &preview) {
+    editor_ = &editor;
+    preview_ = &preview;
+    connect(editor_, &TrimEditor::viewsChanged, this, qOverload<>(&QWidget::update));
+    connect(editor_, &TrimEditor::stateChanged, this, qOverload<>(&QWidget::update));
+}
+
 QSize View_Cut_Range::sizeHint() const { return {smallestWidth, stripHeight}; }
 QSize View_Cut_Range::minimumSizeHint() const { return sizeHint(); }
 
 void View_Cut_Range::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.fillRect(rect(), background);
-    const AppDelegate *delegate = appDelegate();
-    if (!delegate)
+    if (!editor_)
         return;
-    if (stopped(*delegate))
-        drawHandles(painter, handlesOf(*delegate));
+    if (stopped(*editor_))
+        drawHandles(painter, handlesOf(*editor_));
     else
-        drawPlayhead(painter, delegate->trim);
+        drawPlayhead(painter, editor_->trim);
     // Play, Pause and Stop change what can be dragged under a pointer that rests.
     if (underMouse() && !b_Mouse_Down_)
         showWhatCanBeDragged(mapFromGlobal(QCursor::pos()).x());
@@ -111,17 +115,16 @@ void View_Cut_Range::mousePressEvent(QMouseEvent *event) {
 }
 
 void View_Cut_Range::mouseMoveEvent(QMouseEvent *event) {
-    const AppDelegate *delegate = appDelegate();
-    if (!delegate)
+    if (!editor_)
         return;
     if (!b_Mouse_Down_)
         showWhatCanBeDragged(event->position().x());
-    if (!stopped(*delegate) || !b_Mouse_Down_ || !(b_Dragging_Menor_ || b_Dragging_Maior_))
+    if (!stopped(*editor_) || !b_Mouse_Down_ || !(b_Dragging_Menor_ || b_Dragging_Maior_))
         return;
     const Handle handle = b_Dragging_Menor_ ? Handle::Menor : Handle::Maior;
-    const double width = delegate->ui->viewCutPreview->width();
+    const double width = preview_->width();
     const double x = event->position().x();
-    const auto moved = range_rules::dragged(handlesOf(*delegate), handle, x, width);
+    const auto moved = range_rules::dragged(handlesOf(*editor_), handle, x, width);
     if (!moved)
         return;
     preview(range_rules::inHand(*moved, handle, range_rules::percentAt(x, width)));
@@ -138,58 +141,52 @@ void View_Cut_Range::mouseReleaseEvent(QMouseEvent *event) {
 }
 
 void View_Cut_Range::showWhatCanBeDragged(double x) {
-    const AppDelegate *delegate = appDelegate();
-    const bool over = delegate && stopped(*delegate) &&
+    const bool over = editor_ && stopped(*editor_) &&
                       (range_rules::contains({rectMenor_.x(), rectMenor_.width()}, x) ||
                        range_rules::contains({rectMaior_.x(), rectMaior_.width()}, x));
     setCursor(over ? Qt::SizeHorCursor : Qt::ArrowCursor);
 }
 
 void View_Cut_Range::preview(Handle handle) {
-    AppDelegate *delegate = appDelegate();
-    if (!delegate)
+    if (!editor_)
         return;
-    delegate->trim.setPreviewedEnd(handle == Handle::Menor ? RangeEnd::First : RangeEnd::Last);
-    delegate->ui->viewCutPreview->update();
+    editor_->trim.setPreviewedEnd(handle == Handle::Menor ? RangeEnd::First : RangeEnd::Last);
+    preview_->update();
 }
 
 void View_Cut_Range::store(Handles handles) {
-    AppDelegate &delegate = *appDelegate();
-    delegate.trim.setF_Cut_Percent_Menor(handles.menor);
-    delegate.trim.setF_Cut_Percent_Maior(handles.maior);
+    editor_->trim.setF_Cut_Percent_Menor(handles.menor);
+    editor_->trim.setF_Cut_Percent_Maior(handles.maior);
     for (CutHandle *handle : handles_)
         handle->announceValue();
     update();
-    delegate.ui->viewCutPreview->update();
+    preview_->update();
 }
 
 std::uint64_t View_Cut_Range::frameCount() const {
-    const AppDelegate *delegate = appDelegate();
-    return delegate ? delegate->recording.u_Record_Current_Frame() : 0;
+    return editor_ ? editor_->recorder().recording.u_Record_Current_Frame() : 0;
 }
 
 std::uint64_t View_Cut_Range::frameOf(Handle handle) const {
-    const AppDelegate *delegate = appDelegate();
-    if (!delegate)
+    if (!editor_)
         return 0;
-    const Handles handles = handlesOf(*delegate);
+    const Handles handles = handlesOf(*editor_);
     return range_rules::frameAt(handle == Handle::Menor ? handles.menor : handles.maior,
                                 frameCount());
 }
 
 void View_Cut_Range::moveToFrame(Handle handle, std::uint64_t frame) {
-    const AppDelegate *delegate = appDelegate();
     const std::uint64_t frames = frameCount();
-    if (!delegate || !stopped(*delegate) || frames == 0)
+    if (!editor_ || !stopped(*editor_) || frames == 0)
         return;
-    const Handles before = handlesOf(*delegate);
+    const Handles before = handlesOf(*editor_);
     const float percent = range_rules::percentFor(std::min(frame, frames), frames);
     const bool passes = handle == Handle::Menor ? percent > before.maior : percent < before.menor;
     preview(passes ? other(handle) : handle);
     store(range_rules::with(before, handle, percent));
     // A drag is seen, so that the preview's drawing follows; whoever sets a value through assistive
     // technology may have the window covered.
-    appDelegate()->updateTrimmedRange();
+    editor_->updateTrimmedRange();
     if (passes && chosen_ == handle)
         choose(other(handle));
 }
@@ -216,7 +213,9 @@ void View_Cut_Range::keyPressEvent(QKeyEvent *event) {
     case Qt::Key_End:
         return forth(frames);
     case Qt::Key_Space:
-        return appDelegate()->togglePlayback();
+        if (editor_)
+            editor_->togglePlayback();
+        return;
     default:
         return QWidget::keyPressEvent(event);
     }

@@ -10,12 +10,13 @@
 
 #include <cstdint>
 
-class AppDelegate;
 class CutHandle;
+class TrimEditor;
 class TrimFields;
+class View_Cut_Preview;
 
-/// The strip with two handles on which a part of the recording is chosen. The handles' places live
-/// in the controller as percentages; the strip draws them, moves them, and asks the preview to
+/// The strip with two handles on which a part of the recording is chosen. The handles' places are
+/// kept by the desk as percentages; the strip draws them, moves them, and asks the preview to
 /// follow. It never works out frame numbers for others and never starts playback. While the preview
 /// plays or is paused it shows a playhead instead, and nothing can be moved.
 ///
@@ -29,6 +30,10 @@ class View_Cut_Range : public QWidget {
 
 public:
     explicit View_Cut_Range(QWidget *parent = nullptr);
+
+    /// The desk whose handles it moves, and the preview that follows and that drags are measured
+    /// against; both borrowed. Without them it shows nothing.
+    void setEditor(TrimEditor &editor, View_Cut_Preview &preview);
 
     /// The pointer's button went down on the strip and has not been released.
     bool b_Mouse_Down() const { return b_Mouse_Down_; }
@@ -96,6 +101,8 @@ private:
     QRectF rectMenor_;
     QRectF rectMaior_;
 
+    TrimEditor *editor_ = nullptr;
+    View_Cut_Preview *preview_ = nullptr;
     range_rules::Handle chosen_ = range_rules::Handle::Menor;
     CutHandle *handles_[2];
 };

@@ -19,7 +19,7 @@ protected:
         record(30);
         ASSERT_TRUE(QImage(size, QImage::Format_RGB32).save(frameFile(0)));
         controller.recording.setU_Record_Current_FPS(12);
-        controller.resetGIFOptions();
+        controller.exportOptions->resetGIFOptions();
     }
     void chooseCustomSize(bool tied) {
         ui.radioGIFCustomDimension->click();
@@ -62,7 +62,7 @@ TEST_F(GifOptions, BeginWithTheRecordingsOwnSizeAndRate) {
     controller.capture.setImgScreenCapture(Image::fromQImage({1440, 900, QImage::Format_RGB32}));
     controller.region.setRect_Screen_Region({0, 0, 320, 240});
     controller.recording.setU_Record_Current_FPS(61);
-    controller.resetGIFOptions();
+    controller.exportOptions->resetGIFOptions();
     EXPECT_EQ(size(), "641x480");
     ui.radioGIFCustomDimension->click();
     type(ui.textGIFWidth, QStringLiteral("1282"));
@@ -114,7 +114,7 @@ TEST_F(GifOptions, TellFramesSecondsAndRateThatTheFileWillReallyHave) {
               "GIF: " + figures(83, 1.7, "49.7") + " · WebP: " + figures(100, 1.7, "60"));
     // The list shows the rate in whole numbers; what counts is the true one.
     controller.recording.setExactRate(12.4);
-    controller.resetGIFOptions();
+    controller.exportOptions->resetGIFOptions();
     EXPECT_EQ(ui.comboGIFFPS->currentText(), QStringLiteral("12"));
     EXPECT_EQ(ui.comboGIFSpeed->currentText(), QStringLiteral("1×"));
     EXPECT_TRUE(ui.labelGIFThinned->text().isEmpty());

@@ -39,7 +39,7 @@ protected:
         }
         ASSERT_TRUE(pictures.front().save(frameFile(0)));
         controller.recording.array_Images = std::move(store);
-        controller.resetGIFOptions();
+        controller.exportOptions->resetGIFOptions();
     }
     static QImage pictureOf(int frame, QSize size) {
         QImage picture(size, QImage::Format_RGB32);

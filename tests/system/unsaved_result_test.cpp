@@ -17,7 +17,7 @@ protected:
     void exportAndCancel() {
         record(3);
         ui.btnGIFExport->click();
-        ASSERT_TRUE(controller.hasUnsavedResult());
+        ASSERT_TRUE(controller.exporter.hasUnsavedResult());
         ASSERT_TRUE(finish());
         before = contentOf(gif);
     }
@@ -55,7 +55,7 @@ TEST_F(UnsavedResult, StaysAfterACancelledPanelAndCanBeSavedLater) {
     EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Success"));
     EXPECT_EQ(contentOf(answers.savePath), before);
     EXPECT_FALSE(ui.btnSaveResult->isVisible());
-    EXPECT_FALSE(controller.hasUnsavedResult());
+    EXPECT_FALSE(controller.exporter.hasUnsavedResult());
     controller.OnRecordRecord(nullptr);
     EXPECT_EQ(controller.recording.m_RecordStatus(), RECORD_STATUS_RECORD) << "nothing to ask";
 }

@@ -115,8 +115,8 @@ TEST_F(InterfaceTexts, allComeFromTheTable) {
 TEST_F(InterfaceTexts, ofDialogsComeFromTheTable) {
     checkDialog([this] { delegate->OnMenuAbout(); });
     checkDialog([this] { delegate->surroundings.alerts.run(AlertKind::Error, {}); });
-    checkAll(Window_Region_How_It_Works(window()));
-    checkAll(Window_FPS(window()));
+    checkAll(Window_Region_How_It_Works(window(), delegate->region));
+    checkAll(Window_FPS(window(), delegate->recorder));
 }
 
 TEST(InterfaceTextsRule, whatIsNotFromTheTableIsFound) {

@@ -99,8 +99,9 @@ TEST(Mnemonics, differWithinEveryGroupInEveryLanguage) {
                 EXPECT_GE(letters.count(), 18);
             }
         }
-        Letters(where).addControls(Window_FPS(controller.window()));
-        Letters(where).addControls(Window_Region_How_It_Works(controller.window()));
+        Letters(where).addControls(Window_FPS(controller.window(), controller.delegate->recorder));
+        Letters(where).addControls(
+            Window_Region_How_It_Works(controller.window(), controller.delegate->region));
         QCoreApplication::removeTranslator(&table);
     }
 }

@@ -41,7 +41,7 @@ protected:
     }
 
     bool waitForSave() {
-        return QTest::qWaitFor([this] { return !delegate->isSavingRecording(); }, 10'000);
+        return QTest::qWaitFor([this] { return !delegate->recorder.isSavingRecording(); }, 10'000);
     }
 };
 
@@ -64,7 +64,7 @@ TEST_F(Recording, enablesItsControlsByTheStateAndSavesWhatWasStored) {
     ui().btnRecordStop->click();
     // Record stays off until the last frame is on disk.
     EXPECT_EQ(enabled(), "110001");
-    EXPECT_TRUE(delegate->isSavingRecording());
+    EXPECT_TRUE(delegate->recorder.isSavingRecording());
     ASSERT_NE(delegate->windowProgress(), nullptr);
     EXPECT_EQ(delegate->windowProgress()->maxValue(), 4.0);
     delegate->OnRecordRecord(nullptr);
@@ -123,7 +123,7 @@ TEST_F(Recording, hasTheRateThatItsOwnClockMeasuresAndLeavesTheChosenOneAlone) {
         EXPECT_TRUE(waitForSave());
         EXPECT_EQ(delegate->recording.u_FPS(), 60u);
         delegate->OnMenuTabRecord();
-        delegate->stopRecordTimers();
+        delegate->recorder.stopRecordTimers();
     };
     record(86, std::chrono::seconds(2));
     EXPECT_EQ(delegate->recording.u_Record_Current_FPS(), 43u);
@@ -143,7 +143,7 @@ TEST_F(Recording, withoutAFrameSaysSoAndStays) {
     tick(3);
     EXPECT_EQ(frames(), 0u);
     delegate->OnRecordStop(nullptr);
-    EXPECT_FALSE(delegate->isSavingRecording());
+    EXPECT_FALSE(delegate->recorder.isSavingRecording());
     EXPECT_EQ(delegate->windowProgress(), nullptr);
     EXPECT_EQ(delegate->shell.tabviewMain()->selectedIndex(), 0);
     EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_NOTHING_RECORDED"));
@@ -188,7 +188,7 @@ TEST_F(WithoutAScreen, theReasonStandsInThePreviewsPlaceAndRecordIsOff) {
 }
 
 TEST_F(Recording, theCaptureTimerRunsAtTheRateChosenInTheDialogAndOnlyAfterOK) {
-    delegate->restartCaptureTimer();
+    delegate->recorder.restartCaptureTimer();
     EXPECT_EQ(delegate->recording.timerVideoRefresh->interval(), 0.20000000298023224);
     const RepeatingTimer *timer = delegate->recording.timerVideoRefresh.get();
     const auto during = [this](auto action) {

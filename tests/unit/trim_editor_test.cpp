@@ -16,7 +16,7 @@ using range_rules::Handle;
 namespace {
 
 /// The Cut tab, with a recording of single-coloured frames in the store.
-class TrimEditor : public ControllerFixture {
+class CutTab : public ControllerFixture {
 protected:
     void haveRecording(int frames, std::uint64_t rate) {
         delegate->recording.array_Images.emplace();
@@ -57,7 +57,7 @@ std::uint64_t distance(std::uint64_t a, std::uint64_t b) { return a < b ? b - a 
 
 } // namespace
 
-TEST_F(TrimEditor, stripAndPreviewAreEquallyWideAtEverySize) {
+TEST_F(CutTab, stripAndPreviewAreEquallyWideAtEverySize) {
     haveRecording(10, 5);
     for (const QSize size : {QSize(556, 425), QSize(803, 611), QSize(1920, 1080)}) {
         window()->resize(size);
@@ -67,7 +67,7 @@ TEST_F(TrimEditor, stripAndPreviewAreEquallyWideAtEverySize) {
     }
 }
 
-TEST_F(TrimEditor, withoutARecordingItSaysSoInWhiteOnBlack) {
+TEST_F(CutTab, withoutARecordingItSaysSoInWhiteOnBlack) {
     delegate->shell.tabviewMain()->selectTabViewItemAtIndex(1);
     const QImage shown = preview->grab().toImage();
     bool white = false;
@@ -75,11 +75,11 @@ TEST_F(TrimEditor, withoutARecordingItSaysSoInWhiteOnBlack) {
         white |= shown.pixelColor(x, shown.height() / 2) == QColor(Qt::white);
     EXPECT_TRUE(white);
     EXPECT_EQ(shown.pixelColor(2, 2), QColor(Qt::black));
-    delegate->togglePlayback();
+    delegate->trimEditor.togglePlayback();
     EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_STOP);
 }
 
-TEST_F(TrimEditor, stripShowsHandlesAndBandInTheirColoursAndAPlayheadWhilePlaying) {
+TEST_F(CutTab, stripShowsHandlesAndBandInTheirColoursAndAPlayheadWhilePlaying) {
     haveRecording(10, 5);
     const double W = strip->width();
     const auto colourAt = [&](double x) {
@@ -102,7 +102,7 @@ TEST_F(TrimEditor, stripShowsHandlesAndBandInTheirColoursAndAPlayheadWhilePlayin
     EXPECT_EQ(delegate->trim.f_Cut_Percent_Menor(), before);
 }
 
-TEST_F(TrimEditor, playbackLoopsOverTheRangePausesResumesAndStartsAfreshAfterStop) {
+TEST_F(CutTab, playbackLoopsOverTheRangePausesResumesAndStartsAfreshAfterStop) {
     haveRecording(10, 60);
     strip->moveToFrame(Handle::Menor, 3);
     strip->moveToFrame(Handle::Maior, 6);
@@ -129,7 +129,7 @@ TEST_F(TrimEditor, playbackLoopsOverTheRangePausesResumesAndStartsAfreshAfterSto
     EXPECT_EQ(shownFrame(), 3);
 }
 
-TEST_F(TrimEditor, thePreviewShowsTheFrameAtTheHandleInHandAndTheFirstAfterStop) {
+TEST_F(CutTab, thePreviewShowsTheFrameAtTheHandleInHandAndTheFirstAfterStop) {
     haveRecording(10, 5);
     const double W = strip->width();
     strip->grab(); // A handle can be hit where it was drawn.
@@ -154,11 +154,11 @@ TEST_F(TrimEditor, thePreviewShowsTheFrameAtTheHandleInHandAndTheFirstAfterStop)
     EXPECT_EQ(delegate->trim.f_Cut_Percent_Maior(), 100.0f);
     EXPECT_EQ(shownFrame(), 9);
 
-    delegate->keepWholeRecording();
+    delegate->trimEditor.keepWholeRecording();
     EXPECT_EQ(shownFrame(), 0);
 }
 
-TEST_F(TrimEditor, aRangeAtTheVeryEndShowsTheLastFrameInPlaybackToo) {
+TEST_F(CutTab, aRangeAtTheVeryEndShowsTheLastFrameInPlaybackToo) {
     haveRecording(10, 5);
     strip->moveToFrame(Handle::Menor, 10);
     EXPECT_EQ(shownFrame(), 9);
@@ -169,7 +169,7 @@ TEST_F(TrimEditor, aRangeAtTheVeryEndShowsTheLastFrameInPlaybackToo) {
     strip->grab();
 }
 
-TEST_F(TrimEditor, whateverIsPressedTheHandlesStayInOrderAndAKeyMovesOneFrame) {
+TEST_F(CutTab, whateverIsPressedTheHandlesStayInOrderAndAKeyMovesOneFrame) {
     const unsigned seed = std::random_device{}();
     RecordProperty("seed", std::to_string(seed));
     SCOPED_TRACE(seed);

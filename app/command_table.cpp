@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/app_delegate.h"
+#include "app/controls.h"
+#include "shell/palette_icon.h"
+#include "ui_MainWindow.h"
+
+namespace {
+
+/// The commands that make and change a recording.
+std::vector<Command> recordCommands(AppDelegate &controller) {
+    const Ui::MainWindow &ui = *controller.ui;
+    const InterfaceStrings &texts = controller.texts;
+    const Recorder &recorder = controller.recorder;
+    const auto status = [&recorder] { return recorder.recording.m_RecordStatus(); };
+    const auto stopped = [status] { return status() == RECORD_STATUS_STOP; };
+    return {
+        {.item = ui.menuitemActionRecordFullScreen,
+         .button = ui.btnRecordFullScreen,
+         .text = texts.s_IDD_FULL_SCREEN(),
+         .icon = "full-screen",
+         .shortcut = "Ctrl+Shift+F",
+         .action = [&controller] { controller.OnMenuActionRecordFullScreen(); },
+         .enabled = stopped},
+        {.item = ui.menuitemActionRecordRegion,
+         .button = ui.btnRecordRegion,
+         .text = texts.s_IDD_REGION(),
+         .icon = "region",
+         .shortcut = "Ctrl+Shift+R",
+         .action = [&controller] { controller.OnMenuActionRecordRegion(); },
+         .enabled = stopped,
+         .opensDialog = true},
+        {.item = ui.menuitemActionRecordFPS,
+         .button = ui.btnRecordFPS,
+         .text = texts.s_IDD_FPS(),
+         .icon = "fps",
+         .shortcut = "Ctrl+F",
+         .action = [&controller] { controller.OnMenuActionRecordFPS(); },
+         .enabled = stopped,
+         .opensDialog = true},
+        {.item = ui.menuitemActionRecordRecord,
+         .button = ui.btnRecordRecord,
+         .text = texts.s_IDD_RECORD(),
+         .icon = "record",
+         .accent = recordRed,
+         .shortcut = "Ctrl+R",
+         .action = [&controller] { controller.OnMenuActionRecordRecord(); },
+         .enabled =
+             [status, &recorder] {
+                 return status() != RECORD_STATUS_RECORD && recorder.mayRecord();
+             }},
+        {.item = ui.menuitemActionRecordPause,
+         .button = ui.btnRecordPause,
+         .text = texts.s_IDD_PAUSE(),
+         .icon = "pause",
+         .shortcut = "Ctrl+P",
+         .action = [&controller] { controller.OnMenuActionRecordPause(); },
+         .enabled = [status] { return status() == RECORD_STATUS_RECORD; }},
+        {.item = ui.menuitemActionRecordStop,
+         .button = ui.btnRecordStop,
+         .text = texts.s_IDD_STOP(),
+         .icon = "stop",
+         .shortcut = "Ctrl+.",
+         .action = [&controller] { controller.OnMenuActionRecordStop(); },
+         .enabled = [stopped] { return !stopped(); }},
+        {.button = ui.btnSaveAgain,
+         .text = qtTrId("IDD_SAVE_AGAIN"),
+         .action =
+             [&controller] {
+                 // A sheet covers it while a tool reads the recording's files, which keeps nobody
+                 // from pressing it by assistive technology.
+                 if (!controller.exporter.isRunningTool())
+                     controller.recorder.OnSaveAgain();
+             }},
+    };
+}
+
+std::vector<Command> cutCommands(AppDelegate &controller) {
+    const Ui::MainWindow &ui = *controller.ui;
+    const InterfaceStrings &texts = controller.texts;
+    const TrimEditor &editor = controller.trimEditor;
+    return {
+        {.item = ui.menuitemActionCutPlay,
+         .button = ui.btnCutPlay,
+         .text = texts.s_IDD_PLAY(),
+         .icon = "play",
+         .shortcut = "Ctrl+L",
+         .action = [&controller] { controller.OnMenuActionCutPlay(); },
+         .enabled = [&editor] { return editor.mayPlay(); }},
+        {.item = ui.menuitemActionCutPause,
+         .button = ui.btnCutPause,
+         .text = texts.s_IDD_PAUSE(),
+         .icon = "pause",
+         .shortcut = "Ctrl+P",
+         .action = [&controller] { controller.OnMenuActionCutPause(); },
+         .enabled = [&editor] { return editor.mayPause(); }},
+        {.item = ui.menuitemActionCutStop,
+         .button = ui.btnCutStop,
+         .text = texts.s_IDD_STOP(),
+         .icon = "stop",
+         .shortcut = "Ctrl+.",
+         .action = [&controller] { controller.OnMenuActionCutStop(); },
+         .enabled = [&editor] { return editor.mayStop(); }},
+    };
+}
+
+std::vector<Command> exportCommands(AppDelegate &controller) {
+    const Ui::MainWindow &ui = *controller.ui;
+    const auto usable = [&controller] { return controller.exportOptions->isUsable(); };
+    return {
+        {.item = ui.menuitemActionGIFExport,
+         .button = ui.btnGIFExport,
+         .text = controller.texts.s_IDD_GENERATE_GIF(),
+         .shortcut = "Ctrl+E",
+         .action = [&controller] { controller.OnMenuActionGIFExport(); },
+         .enabled = usable},
+        {.button = ui.btnWebPGenerate,
+         .text = qtTrId("IDD_GENERATE_WEBP"),
+         .tip = qtTrId("IDD_GENERATE_WEBP_TIP"),
+         .action = [&controller] { controller.Generate_WebP(&controller); },
+         .enabled = usable},
+        {.button = ui.btnSaveResult,
+         .text = qtTrId("IDD_SAVE_RESULT"),
+         .action = [&controller] { controller.exporter.saveUnsavedResult(); },
+         .opensDialog = true},
+    };
+}
+
+/// The commands of the program itself.
+std::vector<Command> programCommands(AppDelegate &controller) {
+    const Ui::MainWindow &ui = *controller.ui;
+    const InterfaceStrings &texts = controller.texts;
+    const QString name = controller.shell.s_App_Name();
+    const QString blank = QStringLiteral(" ");
+    return {
+        {.item = ui.menuitemAbout,
+         .text = texts.s_IDD_ABOUT() + blank + name,
+         .action = [&controller] { controller.OnMenuAbout(); }},
+        {.item = ui.menuitemQuit,
+         .text = texts.s_IDD_QUIT() + blank + name,
+         .shortcut = "Ctrl+Q",
+         .action = [&controller] { controller.OnMenuQuit(); }},
+        {.item = ui.menuitemTabRecord,
+         .text = texts.s_IDD_RECORD(),
+         .shortcut = "Ctrl+1",
+         .action = [&controller] { controller.OnMenuTabRecord(); }},
+        {.item = ui.menuitemTabCut,
+         .text = texts.s_IDD_CUT(),
+         .shortcut = "Ctrl+2",
+         .action = [&controller] { controller.OnMenuTabCut(); }},
+        {.item = ui.menuitemTabGIF,
+         .text = texts.s_IDD_SAVE(),
+         .shortcut = "Ctrl+3",
+         .action = [&controller] { controller.OnMenuTabGIF(); }},
+        {.item = ui.menuitemHelp,
+         .text = name + blank + texts.s_IDD_HELP(),
+         .shortcut = "F1",
+         .action = [&controller] { controller.OnMenuHelp(); }},
+        {.item = ui.menuitemAppHomePage,
+         .text = texts.s_IDD_APP_HOME_PAGE(),
+         .action = [&controller] { controller.OnMenuHelpAppHomePage(); }},
+        {.item = ui.menuitemCompanyHomePage,
+         .text = texts.s_IDD_COMPANY_PAGE(),
+         .action = [&controller] { controller.OnMenuHelpCompanyHomePage(); }},
+        {.item = ui.menuitemPrivacyPolicy,
+         .text = texts.s_IDD_PRIVACY_POLICY(),
+         .action = [&controller] { controller.OnMenuHelpPrivacyPolicy(); }},
+        {.item = ui.menuitemSubmitTicket,
+         .text = texts.s_IDD_SUBMIT_TICKET(),
+         .action = [&controller] { controller.OnMenuHelpSubmitTicket(); }},
+    };
+}
+
+} // namespace
+
+std::vector<Command> commandTable(AppDelegate &controller) {
+    std::vector<Command> all;
+    for (const auto &part : {recordCommands(controller), cutCommands(controller),
+                             exportCommands(controller), programCommands(controller)})
+        all.insert(all.end(), part.begin(), part.end());
+    return all;
+}

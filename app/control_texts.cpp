@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/control_texts.h"
+
+#include "shell/interface_strings.h"
+#include "ui_MainWindow.h"
+
+namespace {
+
+void nameMenus(const Ui::MainWindow &ui, const InterfaceStrings &texts, const QString &name) {
+    ui.menuApplication->setTitle(name);
+    ui.menuTab->setTitle(qtTrId("IDD_MENU_TAB"));
+    // The text of IDD_HELP follows a name and need not be usable alone in every language.
+    ui.menuHelp->setTitle(qtTrId("IDD_MENU_HELP"));
+    ui.menuAction->setTitle(qtTrId("IDD_MENU_ACTION"));
+    ui.submenuitemRecord->setTitle(texts.s_IDD_RECORD());
+    ui.submenuitemCut->setTitle(texts.s_IDD_CUT());
+    ui.submenuitemGIF->setTitle(texts.s_IDD_SAVE());
+}
+
+void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
+    ui.viewRecordPreview->setAccessibleName(qtTrId("IDD_RECORD_PREVIEW"));
+    ui.viewCutPreview->setAccessibleName(qtTrId("IDD_CUT_PREVIEW"));
+    ui.viewCutRange->setAccessibleName(qtTrId("IDD_CUT_RANGE"));
+    ui.labelInstructions->setText(texts.s_IDD_INSTRUCTIONS());
+    ui.groupDimension->setTitle(qtTrId("IDD_GROUP_SIZE"));
+    ui.radioGIFOriginalDimension->setText(texts.s_IDD_RESOLUTION_EQUAL());
+    ui.radioGIFCustomDimension->setText(texts.s_IDD_RESOLUTION_CUSTOM());
+    ui.labelWidth->setText(texts.s_IDD_WIDTH());
+    ui.labelHeight->setText(texts.s_IDD_HEIGHT());
+    ui.textGIFWidth->setAccessibleName(texts.s_IDD_WIDTH());
+    ui.textGIFHeigth->setAccessibleName(texts.s_IDD_HEIGHT());
+    ui.checkGIFKeepAspectRatio->setText(texts.s_IDD_KEEP_ASPECT_RATIO());
+    ui.groupFPS->setTitle(qtTrId("IDD_GROUP_RATE"));
+    ui.radioGIFOriginalFPS->setText(texts.s_IDD_FPS_EQUAL());
+    ui.radioGIFCustomFPS->setText(texts.s_IDD_FORCE_FPS());
+    ui.labelFPS->setText(texts.s_IDD_FPS());
+    ui.comboGIFFPS->setAccessibleName(texts.s_IDD_FPS());
+    ui.labelNote->setText(texts.s_IDD_NOTE());
+    ui.labelQuality->setText(qtTrId("IDD_QUALITY"));
+    ui.comboGIFQuality->setAccessibleName(qtTrId("IDD_QUALITY"));
+    ui.comboGIFQuality->setToolTip(qtTrId("IDD_QUALITY_TIP"));
+    ui.labelSpeed->setText(qtTrId("IDD_SPEED"));
+    ui.comboGIFSpeed->setAccessibleName(qtTrId("IDD_SPEED"));
+    ui.labelWebPLoops->setText(qtTrId("IDD_WEBP_LOOPS"));
+    ui.labelWebPLoopsHint->setText(qtTrId("IDD_WEBP_LOOPS_HINT"));
+    ui.txtWebPLoops->setAccessibleName(qtTrId("IDD_WEBP_LOOPS"));
+}
+
+} // namespace
+
+void nameControls(const Ui::MainWindow &ui, const InterfaceStrings &texts, const QString &name) {
+    nameMenus(ui, texts, name);
+    nameFields(ui, texts);
+}

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "app/controls.h"
+
+#include "app/app_delegate.h"
+#include "app/control_texts.h"
+#include "app/tabs.h"
+#include "app/task_bar_state.h"
+#include "platform/window_server.h"
+#include "shell/mnemonics.h"
+#include "shell/tab_view.h"
+#include "ui_MainWindow.h"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QTextDocument>
+
+Controls::Controls(AppDelegate &controller) : controller_(controller), ui_(*controller.ui) {
+    ui_.viewRecordPreview->setRecorder(controller.recorder);
+    ui_.viewCutPreview->setEditor(controller.trimEditor);
+    ui_.viewCutRange->setEditor(controller.trimEditor, *ui_.viewCutPreview);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tovarel.svg")));
+    listenToShell();
+    listenToRecorder();
+    listenToOthers();
+}
+
+void Controls::setUp() {
+    commands_ = commandTable(controller_);
+    ::setUp(commands_, this);
+    const InterfaceStrings &texts = controller_.texts;
+    nameControls(ui_, texts, controller_.shell.s_App_Name());
+    ui_.viewRecordPreview->showReason(controller_.recorder.windowServer().reason());
+    for (const QString &label : {texts.s_IDD_RECORD(), texts.s_IDD_CUT(), texts.s_IDD_SAVE()})
+        controller_.shell.tabviewMain()->addTab(label);
+    // Chosen last: a letter depends on the texts around it.
+    const QString taken = mnemonics::mark(*ui_.menubar, *ui_.tabBar, *ui_.tabStack,
+                                          {ui_.btnSaveResult, ui_.btnSaveAgain});
+    for (const QWidget *page : {ui_.pageRecord, ui_.pageCut, ui_.pageGIF})
+        mnemonics::mark(*page, taken);
+}
+
+void Controls::refresh() { ::refresh(commands_); }
+
+void Controls::listenToShell() {
+    Surroundings &surroundings = controller_.surroundings;
+    connect(&surroundings, &Surroundings::statusChanged, this, [this](const QString &text) {
+        ui_.labelStatus->setText(text);
+        // A path may look like markup, which a tip would follow; the label itself is set to plain
+        // text.
+        ui_.labelStatus->setToolTip(text.isEmpty() ? text : Qt::convertFromPlainText(text));
+    });
+    surroundings.progress.hangFrom(*ui_.tabBar);
+    connect(&surroundings.progress, &ProgressSheet::parentCloseRequested, &controller_,
+            &AppDelegate::windowWillClose);
+    connect(&surroundings.progress, &ProgressSheet::cancelled, &controller_.exporter,
+            &Exporter::cancelExport);
+}
+
+void Controls::listenToRecorder() {
+    const Recorder &recorder = controller_.recorder;
+    connect(&recorder, &Recorder::stateChanged, this, &Controls::showState);
+    connect(&recorder, &Recorder::captureModeChanged, this, &Controls::showCaptureMode);
+    connect(&recorder, &Recorder::recordingReady, this, &Controls::showRecording);
+}
+
+void Controls::listenToOthers() {
+    connect(&controller_.trimEditor, &TrimEditor::stateChanged, this, &Controls::refresh);
+    connect(&controller_.trimEditor, &TrimEditor::rangeTextChanged, ui_.labelCutRange,
+            &QLabel::setText);
+    connect(controller_.exportOptions.get(), &ExportOptions::entered, this, &Controls::refresh);
+    connect(&controller_.exporter, &Exporter::unsavedResultChanged, this,
+            [this] { ui_.btnSaveResult->setVisible(controller_.exporter.hasUnsavedResult()); });
+}
+
+void Controls::showState() {
+    const RecordStatus status = controller_.recording.m_RecordStatus();
+    ui_.recordingIndicator->setState(status);
+    showStateInTaskBar(controller_.shell, status);
+    ui_.btnSaveAgain->setVisible(controller_.recorder.hasMissingFrames());
+    refresh();
+}
+
+void Controls::showCaptureMode(const CaptureMode &mode) {
+    const QRect &area = mode.area;
+    ui_.labelCaptureMode->setText(mode.region ? qtTrId("IDD_MODE_REGION")
+                                                    .arg(area.width())
+                                                    .arg(area.height())
+                                                    .arg(area.x())
+                                                    .arg(area.y())
+                                              : qtTrId("IDD_MODE_FULL_SCREEN"));
+    ui_.labelCaptureRate->setText(qtTrId("IDD_CAPTURE_RATE").arg(mode.rate));
+}
+
+void Controls::showRecording() {
+    TabView &tabs = *controller_.shell.tabviewMain();
+    if (tabs.selectedIndex() == tabs::cut)
+        controller_.tabViewDidSelectTabViewItem(TabView::identifierOf(tabs::cut));
+    else
+        tabs.selectTabViewItemAtIndex(tabs::cut);
+}
+
+ExportControls exportControls(const Ui::MainWindow &ui) {
+    return {.radioGIFOriginalDimension = ui.radioGIFOriginalDimension,
+            .radioGIFCustomDimension = ui.radioGIFCustomDimension,
+            .textGIFWidth = ui.textGIFWidth,
+            .textGIFHeigth = ui.textGIFHeigth,
+            .checkGIFKeepAspectRatio = ui.checkGIFKeepAspectRatio,
+            .labelDimensionHint = ui.labelDimensionHint,
+            .radioGIFOriginalFPS = ui.radioGIFOriginalFPS,
+            .radioGIFCustomFPS = ui.radioGIFCustomFPS,
+            .comboGIFFPS = ui.comboGIFFPS,
+            .labelSpeed = ui.labelSpeed,
+            .comboGIFSpeed = ui.comboGIFSpeed,
+            .labelQuality = ui.labelQuality,
+            .comboGIFQuality = ui.comboGIFQuality,
+            .labelGIFSummary = ui.labelGIFSummary,
+            .labelGIFThinned = ui.labelGIFThinned,
+            .txtWebPLoops = ui.txtWebPLoops,
+            .labelWebPLoopsHint = ui.labelWebPLoopsHint,
+            .menuitemActionGIFExport = ui.menuitemActionGIFExport};
+}

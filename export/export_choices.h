@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "export/gif_preset.h"
+
+#include <QString>
+
+#include <optional>
+
+/// What the user has chosen for the file, as it stands in the controls. The texts are as they were
+/// typed: some of them are for an encoder to judge.
+struct ExportChoices {
+    QString width;  ///< pixels
+    QString height; ///< pixels
+    QString loops;  ///< Of the WebP.
+    GifPreset preset = GifPreset::Balanced;
+    /// Frames per second; none for the recording's own rate.
+    std::optional<double> rate = {};
+    /// How many times as fast as it was recorded, above 0.
+    double speed = 1.0;
+};

@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "export/export_options.h"
+
+#include "export/aspect_ratio.h"
+#include "export/exporter.h"
+#include "export/size_text.h"
+#include "platform/text_number.h"
+#include "record/recorder.h"
+#include "shell/surroundings.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include <algorithm>
+
+namespace {
+
+/// Gives the field a text of ours: it is not an edit that still waits for its action.
+void write(QLineEdit &field, const QString &text) {
+    field.setText(text);
+    field.setModified(false);
+}
+
+} // namespace
+
+void ExportOptions::resetGIFOptions() {
+    isUsable_ = exporter_.surroundings().firstFrameFileExists();
+    Q_EMIT entered();
+    QWidget *const controls[] = {ui_.radioGIFOriginalDimension,
+                                 ui_.radioGIFCustomDimension,
+                                 ui_.textGIFWidth,
+                                 ui_.textGIFHeigth,
+                                 ui_.checkGIFKeepAspectRatio,
+                                 ui_.radioGIFOriginalFPS,
+                                 ui_.radioGIFCustomFPS,
+                                 ui_.comboGIFFPS,
+                                 ui_.labelQuality,
+                                 ui_.comboGIFQuality,
+                                 ui_.labelSpeed,
+                                 ui_.comboGIFSpeed};
+    for (QWidget *control : controls)
+        control->setEnabled(isUsable_);
+    ui_.txtWebPLoops->setEnabled(isUsable_);
+    if (isUsable_) {
+        ui_.radioGIFOriginalDimension->setChecked(true);
+        OnGIFOriginalResolution();
+        ui_.radioGIFOriginalFPS->setChecked(true);
+        OnGIFOriginalFPS();
+        ui_.comboGIFSpeed->setCurrentIndex(ui_.comboGIFSpeed->findData(1.0));
+    }
+    updateGIFSummary();
+}
+
+void ExportOptions::OnGIFOriginalResolution() {
+    if (!ui_.radioGIFOriginalDimension->isChecked())
+        return;
+    ui_.radioGIFCustomDimension->setChecked(false);
+    ui_.textGIFWidth->setEnabled(false);
+    ui_.textGIFHeigth->setEnabled(false);
+    ui_.checkGIFKeepAspectRatio->setEnabled(false);
+    if (const std::optional<QSize> size = exporter_.originalSize()) {
+        write(*ui_.textGIFWidth, QString::number(size->width()));
+        write(*ui_.textGIFHeigth, QString::number(size->height()));
+    }
+    updateGIFDimensionHint();
+}
+
+void ExportOptions::OnGIFCustomResolution() {
+    if (!ui_.radioGIFCustomDimension->isChecked())
+        return;
+    ui_.radioGIFOriginalDimension->setChecked(false);
+    ui_.textGIFWidth->setEnabled(true);
+    ui_.textGIFHeigth->setEnabled(true);
+    ui_.checkGIFKeepAspectRatio->setEnabled(true);
+    updateGIFDimensionHint();
+}
+
+void ExportOptions::OnGIFOriginalFPS() {
+    if (!ui_.radioGIFOriginalFPS->isChecked())
+        return;
+    ui_.radioGIFCustomFPS->setChecked(false);
+    ui_.comboGIFFPS->setEnabled(false);
+    // The list is never without a selection, whatever rate was measured.
+    const auto entries = static_cast<std::uint64_t>(ui_.comboGIFFPS->count());
+    const std::uint64_t rate =
+        std::clamp<std::uint64_t>(exporter_.recorder().recording.u_Record_Current_FPS(), 1,
+                                  std::max<std::uint64_t>(entries, 1));
+    ui_.comboGIFFPS->setCurrentIndex(static_cast<int>(rate) - 1);
+    updateGIFSummary();
+}
+
+void ExportOptions::OnGIFCustomFPS() {
+    if (!ui_.radioGIFCustomFPS->isChecked())
+        return;
+    ui_.radioGIFOriginalFPS->setChecked(false);
+    ui_.comboGIFFPS->setEnabled(true);
+    updateGIFSummary();
+}
+
+std::optional<float> ExportOptions::tiedAspectRatio() const {
+    const std::optional<QSize> size = exporter_.originalSize();
+    if (!ui_.checkGIFKeepAspectRatio->isChecked() || !size)
+        return std::nullopt;
+    const float ratio = aspect_ratio::ratio(size->width(), size->height());
+    // Without a picture there is no ratio either.
+    return std::isfinite(ratio) && ratio > 0.0f ? std::optional(ratio) : std::nullopt;
+}
+
+void ExportOptions::OnGIFChangeWidth() {
+    ui_.textGIFWidth->setModified(false);
+    const std::optional<float> ratio = tiedAspectRatio();
+    const float width = floatValue(ui_.textGIFWidth->text());
+    if (!ratio || width == 0.0f)
+        return;
+    write(*ui_.textGIFWidth, QString::number(aspect_ratio::cut(width)));
+    write(*ui_.textGIFHeigth, QString::number(aspect_ratio::heightForWidth(width, *ratio)));
+}
+
+void ExportOptions::OnGIFChangeHeigth() {
+    ui_.textGIFHeigth->setModified(false);
+    const std::optional<float> ratio = tiedAspectRatio();
+    const float height = floatValue(ui_.textGIFHeigth->text());
+    if (!ratio || height == 0.0f)
+        return;
+    write(*ui_.textGIFWidth, QString::number(aspect_ratio::widthForHeight(height, *ratio)));
+    write(*ui_.textGIFHeigth, QString::number(aspect_ratio::cut(height)));
+}
+
+void ExportOptions::OnGIFChangeKeepAspectRatio() { OnGIFChangeWidth(); }
+
+void ExportOptions::finishEditingGIFSize() {
+    // The menu's shortcut leaves the focus in the field: its edit must not miss its action.
+    if (ui_.textGIFWidth->isModified())
+        OnGIFChangeWidth();
+    if (ui_.textGIFHeigth->isModified())
+        OnGIFChangeHeigth();
+}
+
+void ExportOptions::updateGIFDimensionHint() {
+    QString hint;
+    const struct {
+        QLineEdit *field;
+        const QString &name;
+    } fields[] = {{ui_.textGIFWidth, exporter_.surroundings().texts.s_IDD_WIDTH()},
+                  {ui_.textGIFHeigth, exporter_.surroundings().texts.s_IDD_HEIGHT()}};
+    for (const auto &[field, name] : fields) {
+        const QString problem =
+            field->isEnabled() ? sizeProblemText(sizeTextProblem(field->text())) : QString();
+        field->setAccessibleDescription(problem);
+        if (hint.isEmpty() && !problem.isEmpty())
+            hint = qtTrId("IDD_SIZE_HINT").arg(name, problem);
+    }
+    ui_.labelDimensionHint->setText(hint);
+    ui_.labelDimensionHint->setToolTip(hint);
+    ui_.labelDimensionHint->setVisible(!hint.isEmpty());
+}
+
+ExportChoices ExportOptions::choices() {
+    finishEditingGIFSize();
+    return chosen();
+}
+
+ExportChoices ExportOptions::chosen() const {
+    ExportChoices chosen{.width = ui_.textGIFWidth->text(),
+                         .height = ui_.textGIFHeigth->text(),
+                         .loops = ui_.txtWebPLoops->text(),
+                         .preset = presetOfWord(ui_.comboGIFQuality->currentData().toString()),
+                         .speed = ui_.comboGIFSpeed->currentData().toDouble()};
+    if (ui_.radioGIFCustomFPS->isChecked())
+        chosen.rate = ui_.comboGIFFPS->currentIndex() + static_cast<int>(lowestRate);
+    return chosen;
+}

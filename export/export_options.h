@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "export/export_choices.h"
+
+#include <QObject>
+#include <QString>
+
+#include <optional>
+
+class Exporter;
+class QAbstractButton;
+class QAction;
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QRadioButton;
+
+/// The controls in which an export is chosen, by their established names; borrowed.
+struct ExportControls {
+    QRadioButton *radioGIFOriginalDimension;
+    QRadioButton *radioGIFCustomDimension;
+    QLineEdit *textGIFWidth;
+    QLineEdit *textGIFHeigth;
+    QCheckBox *checkGIFKeepAspectRatio;
+    QLabel *labelDimensionHint;
+    QRadioButton *radioGIFOriginalFPS;
+    QRadioButton *radioGIFCustomFPS;
+    QComboBox *comboGIFFPS;
+    QLabel *labelSpeed;
+    QComboBox *comboGIFSpeed;
+    QLabel *labelQuality;
+    QComboBox *comboGIFQuality;
+    QLabel *labelGIFSummary;
+    QLabel *labelGIFThinned;
+    QLineEdit *txtWebPLoops;
+    QLabel *labelWebPLoopsHint;
+    const QAction *menuitemActionGIFExport; ///< Its shortcut works while a field has the focus.
+};
+
+/// Works the controls of the GIF tab: fills them in, ties width and height, says what is wrong with
+/// what is typed and what the file will hold. It makes no file.
+class ExportOptions : public QObject {
+    Q_OBJECT
+
+public:
+    /// Fills the lists and listens to the controls. `exporter` is borrowed and outlives it.
+    ExportOptions(const ExportControls &controls, Exporter &exporter, QObject *parent);
+
+    /// Whether the GIF tab was last entered with a recording: what it offers can be used.
+    bool isUsable() const { return isUsable_; }
+
+    /// What is chosen; edits that have not been acted upon yet are finished first.
+    ExportChoices choices();
+
+    /// Resets the options to the original size and rate, or disables them without a recording.
+    void resetGIFOptions();
+    // Each of these acts when its radio button is the one that is switched on: the recording's own
+    // size or rate is written into the fields, or the fields are set free.
+    void OnGIFOriginalResolution();
+    void OnGIFCustomResolution();
+    void OnGIFOriginalFPS();
+    void OnGIFCustomFPS();
+    /// A size field was edited: while the ratio is tied, the other side follows. A text that does
+    /// not begin with a number other than 0 changes nothing.
+    void OnGIFChangeWidth();
+    void OnGIFChangeHeigth();
+    /// The height follows the width when the ratio is tied.
+    void OnGIFChangeKeepAspectRatio();
+
+Q_SIGNALS:
+    /// The tab was entered: whether its commands can be used may have changed.
+    void entered();
+
+private:
+    void listen();
+    void fillQualities();
+    ExportChoices chosen() const;
+    /// Sends the actions of the size fields whose edits have not been acted upon yet.
+    void finishEditingGIFSize();
+    /// Says beside the size fields what is wrong with what is typed there, if anything.
+    void updateGIFDimensionHint();
+    /// Says beside the loop field what is wrong with what is typed there, or else what 0 means.
+    void updateWebPLoopsHint();
+    /// Says what the file will hold: frames, seconds, and the rate that comes of it.
+    void updateGIFSummary();
+    /// Ratio that the typed size is tied to; none when it is free.
+    std::optional<float> tiedAspectRatio() const;
+
+    const ExportControls ui_;
+    Exporter &exporter_;
+    bool isUsable_ = false;
+};

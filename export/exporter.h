@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "export/export_choices.h"
+#include "export/export_fields.h"
+#include "export/frame_timing.h"
+
+#include <QObject>
+#include <QProcess>
+#include <QSize>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+
+class Recorder;
+class Surroundings;
+class TrimEditor;
+struct GifFileJob;
+struct GifFileResult;
+struct MadeGif;
+struct ToolExit;
+struct ToolRun;
+
+/// The desk of the exports: makes the GIF and the WebP of what is kept of the recording, runs and
+/// watches the encoders, and sees to it that a finished file gets its place. What the user chose
+/// comes to it as a value; it knows neither tabs nor controls.
+class Exporter : public QObject {
+    Q_OBJECT
+
+public:
+    /// What the user has chosen, as of now.
+    using Choices = std::function<ExportChoices()>;
+
+    /// The references are borrowed and outlive it.
+    Exporter(Surroundings &surroundings, Recorder &recorder, TrimEditor &editor)
+        : surroundings_(surroundings), recorder_(recorder), editor_(editor) {}
+
+    ExportFields exporting;
+
+    /// Where an export learns what it is to make; without it, the defaults.
+    void setChoices(Choices choices) { choices_ = std::move(choices); }
+
+    Surroundings &surroundings() const { return surroundings_; }
+    const Recorder &recorder() const { return recorder_; }
+
+    /// Whether an export may begin now: none is under way, and no sheet is up. Assistive technology
+    /// reaches a control whose window is blocked by a dialog; an export within an export would
+    /// empty the folders that the first one works in.
+    bool mayExport() const;
+    /// Whether a tool runs that reads the recording's files.
+    bool isRunningTool() const { return watchedTool_ != nullptr; }
+
+    /// Makes the GIF of the trimmed range and lets the user choose its place; an alert says why
+    /// where that cannot be done. Does nothing while an export is under way.
+    void OnGIFExport();
+    /// Likewise the WebP.
+    void Generate_WebP();
+    /// Ends the export that is under way: tool and encoder at once, the export itself when they
+    /// have ended. Its files are removed, the recording stays.
+    void cancelExport();
+
+    // What an export would be -------------------------------------------------------------------
+
+    /// Size of the recording's frames in pixels; none without a recording.
+    std::optional<QSize> originalSize() const;
+    /// Whether fewer than three frames are kept: too few for a moving picture.
+    bool hasTooFewFrames() const;
+    /// What is asked of a file, of what is kept of the recording.
+    frame_timing::Request timingRequest(const ExportChoices &choices) const;
+    /// Why no export of this range or with these sizes begins, in the user's words: fewer than
+    /// three frames, or a size field that does not begin with a number other than 0. None when one
+    /// may.
+    std::optional<QString> refusal(const ExportChoices &choices) const;
+    /// Why the program's own encoder makes no GIF of the size that is typed, in the user's words:
+    /// no plain number from 1 to 65,535, or more memory than half of what is free. None when it
+    /// does.
+    std::optional<QString> GIFSizeRefusal(const ExportChoices &choices) const;
+
+    // A finished file without a place -----------------------------------------------------------
+
+    /// Whether a finished export has no place of the user's yet, since the panel was cancelled or
+    /// the place could not be used. It lies in the export folder.
+    bool hasUnsavedResult() const;
+    /// Lets the user choose a place for it once more.
+    void saveUnsavedResult();
+    /// To be asked before a new recording, a new export and the end of the program, all of which
+    /// lose an unsaved export. False when nothing is in the way. True when something is: the caller
+    /// does nothing, and `goOn` is called later if the user saves or discards the export.
+    bool mustAskFirst(std::function<void()> goOn);
+
+    // Running the tools -------------------------------------------------------------------------
+
+    /// Runs a tool to its end while events are processed and returns all that it wrote. A progress
+    /// sheet stays up, its bar where it is.
+    ToolRun RunToolReadAllOutput(const QString &toolPath, const QStringList &arguments);
+    /// Runs an encoder while events are processed and its error output moves the bar of the
+    /// progress sheet. The sheet is closed when it returns, however the run ended, unless the run
+    /// only prepares the next one.
+    ToolExit RunToolWithProgress(const QString &toolPath, const QStringList &arguments,
+                                 ProgressType type = PROGRESS_TYPE_GIF);
+    /// The watched tool has written to its output: takes it and forgets it.
+    void outData(QProcess &tool);
+    /// A chunk of the watched tool's error output; empty at its end.
+    void errData(const QByteArray &data);
+    /// The watched tool has ended, or could not be started; nothing of it is handled afterwards.
+    void terminated(int exitCode, QProcess::ExitStatus status);
+
+Q_SIGNALS:
+    /// There is a finished file without a place now, or there is none any more.
+    void unsavedResultChanged();
+
+private:
+    using Frames = std::span<const frame_timing::TimedFrame>;
+
+    /// Makes the GIF with the program's own encoder, in threads of its own, while events are
+    /// processed.
+    MadeGif makeGIF(Frames frames, const ExportChoices &choices);
+    GifFileResult runEncoder(const GifFileJob &job);
+    /// Stages the frames and makes the GIF by three runs of `ffmpeg`.
+    MadeGif makeClassicGIF(Frames frames, const ExportChoices &choices);
+    /// The three runs and the look at their result: why there is no GIF, or none.
+    std::optional<QString> runClassicEncoder(Frames frames, const ExportChoices &choices);
+    /// Likewise for the WebP.
+    std::optional<QString> encodeWebP(Frames frames, const ExportChoices &choices);
+    /// Scales the frames, each once, into files of their own in the export folder.
+    std::optional<QString> scaleForWebP(Frames frames, const ExportChoices &choices);
+    /// Starts the tool and waits for its end while events are processed; why it was not started, or
+    /// none.
+    std::optional<ToolExit> runWhileEventsTurn(QProcess &tool, const QString &toolPath,
+                                               const QStringList &arguments);
+    /// Empties the export folder and shows the sheet of an export, which can be cancelled, on the
+    /// screen.
+    void beginExport(const QString &caption);
+    /// Takes the sheet down and shows the alert or removes what a cancelled export has left. True
+    /// when the export has ended with that.
+    bool endedWithoutResult(const std::optional<QString> &failure);
+    /// Lets the user choose a place for a finished file and puts it there.
+    void saveResult(const SaveRequest &request);
+    void chooseResultsPlace();
+    void showUnsavedResult();
+    void forgetResult();
+    ExportChoices choices() const { return choices_ ? choices_() : ExportChoices(); }
+
+    Surroundings &surroundings_;
+    Recorder &recorder_;
+    TrimEditor &editor_;
+    Choices choices_;
+    QProcess *watchedTool_ = nullptr; // while a run is waited for
+};

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRect>
+
+#include <cstdint>
+
+/// What is recorded and how often, as the labels beside the capture buttons say it.
+struct CaptureMode {
+    bool region = false; ///< Not the whole screen.
+    /// Of a region, what a frame will hold: its size and its place, in units of the grab from its
+    /// upper left corner.
+    QRect area;
+    std::uint64_t rate = 0; ///< frames per second
+
+    bool operator==(const CaptureMode &) const = default;
+};

@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "record/recorder.h"
+
+#include "platform/window_server.h"
+#include "record/recording_loader.h"
+#include "record/save/frame_saver.h"
+#include "record/window_list.h"
+#include "region/region_chooser.h"
+#include "shell/surroundings.h"
+#include "shell/working_folders.h"
+
+#include <utility>
+
+namespace {
+
+constexpr double oneSecond = 1.0;
+
+RecordingClock::TimePoint now() { return std::chrono::steady_clock::now(); }
+
+} // namespace
+
+Recorder::Recorder(Surroundings &surroundings, RegionChooser &chooser,
+                   std::unique_ptr<WindowServer> windowServer)
+    : surroundings_(surroundings), chooser_(chooser), windowServer_(std::move(windowServer)) {}
+
+Recorder::~Recorder() = default;
+
+void Recorder::start() {
+    capture.setListOptions(1);
+    capture.setImageOptions(0);
+    capture.setImageBounds(std::nullopt);
+    capture.arrayController.clear();
+    capture.arrayWindowsMinusHarrowlens.clear();
+    capture.setImgScreenCapture({});
+    capture.setImageScreenCaptureFinal({});
+    recording.setU_FPS(defaultFramesPerSecond);
+    recording.setM_RecordStatus(RECORD_STATUS_STOP);
+    recording.setI_debug_number_of_view_refresh(0);
+    updateCaptureMode();
+    showRecordingState();
+}
+
+bool Recorder::mayRecord() const {
+    return windowServer().reason().isEmpty() && !saveDue_ && !isSavingRecording();
+}
+
+void Recorder::OnRecordRecord() {
+    if (recording.m_RecordStatus() == RECORD_STATUS_RECORD || !mayRecord())
+        return;
+    const bool goesOn = recording.m_RecordStatus() == RECORD_STATUS_PAUSE;
+    if (!goesOn) {
+        if (gate_ && gate_([this] { OnRecordRecord(); }))
+            return;
+        working_folders::removeContent(surroundings_.shell.s_Output_Folder());
+        hasMissingFrames_ = false;
+        recording.setU_Record_Current_Frame(0);
+        Q_EMIT began();
+        recording.setI_Actual_FPS_while_Recording(0);
+        recording.setU_number_of_seconds(0);
+        recording.setI_debug_number_of_view_refresh(0);
+        recording.clock = {};
+        recording.array_Images.emplace();
+        recording.budget = {};
+        recording.growth = 0;
+        recording.heldBefore = recording.store.bytesHeld();
+    }
+    recording.setM_RecordStatus(RECORD_STATUS_RECORD);
+    recording.clock.run(now());
+    if (goesOn && recording.timerdebug1Second)
+        recording.timerdebug1Second->goOn();
+    else
+        restartOneSecondTimer();
+    showRecordingState();
+}
+
+void Recorder::OnRecordPause() {
+    recording.setM_RecordStatus(RECORD_STATUS_PAUSE);
+    recording.clock.hold(now());
+    if (recording.timerdebug1Second)
+        recording.timerdebug1Second->hold();
+    showRecordingState();
+}
+
+void Recorder::OnRecordStop() {
+    // The store that is being written stays as it is until the last frame has been reported.
+    if (isSavingRecording())
+        return;
+    recording.clock.hold(now());
+    recording.setM_RecordStatus(RECORD_STATUS_STOP);
+    recording.setExactRate(measuredRate(recordingCounts(), recording.u_FPS()));
+    recording.store.rest();
+    // A new recording, which empties store and folder, has to wait for the save.
+    saveDue_ = true;
+    showRecordingState();
+    saveRecording();
+}
+
+RecordingCounts Recorder::recordingCounts() const {
+    return {.storedFrames = recording.u_Record_Current_Frame(),
+            .passedSeconds = recording.clock.seconds(now())};
+}
+
+void Recorder::TimerRefreshVideoRoutine() {
+    updateWindowList();
+    capture.arrayWindowsMinusHarrowlens.clear();
+    for (const WindowEntry &entry : capture.arrayController)
+        if (!isOwnWindow(entry))
+            capture.arrayWindowsMinusHarrowlens.push_back(entry);
+    createMultiWindowShot(capture.arrayWindowsMinusHarrowlens);
+    // Whoever draws does it at once, not when the window happens to be painted: a recording goes on
+    // while nobody sees the window.
+    Q_EMIT ticked();
+}
+
+void Recorder::TimerDebug1SecondRoutine() {
+    if (recording.m_RecordStatus() != RECORD_STATUS_RECORD)
+        return;
+    recording.setI_Actual_FPS_while_Recording(
+        recording.i_Actual_FPS_while_Recording() +
+        static_cast<std::int64_t>(recording.i_debug_number_of_view_refresh()));
+    recording.setU_number_of_seconds(recording.u_number_of_seconds() + 1);
+    recording.setI_debug_number_of_view_refresh(0);
+    watchMemory();
+}
+
+void Recorder::restartCaptureTimer() {
+    recording.timerVideoRefresh.reset();
+    recording.timerVideoRefresh = std::make_unique<RepeatingTimer>(
+        captureInterval(recording.u_FPS()), [this] { TimerRefreshVideoRoutine(); });
+}
+
+void Recorder::restartOneSecondTimer() {
+    recording.timerdebug1Second.reset();
+    recording.timerdebug1Second =
+        std::make_unique<RepeatingTimer>(oneSecond, [this] { TimerDebug1SecondRoutine(); });
+}
+
+void Recorder::stopRecordTimers() {
+    recording.timerdebug1Second.reset();
+    recording.timerVideoRefresh.reset();
+}
+
+void Recorder::storeFrame() {
+    if (recording.m_RecordStatus() != RECORD_STATUS_RECORD)
+        return;
+    // Before the first grab there is nothing to keep: a file without pixels does not exist.
+    if (capture.imageScreenCaptureFinal().isEmpty())
+        return;
+    if (!recording.array_Images)
+        recording.array_Images.emplace();
+    auto &frames = *recording.array_Images;
+    const Image previous = frames.empty() ? Image() : frames.back();
+    frames.push_back(recording.store.keep(capture.imageScreenCaptureFinal(), previous));
+    recording.setU_Record_Current_Frame(recording.u_Record_Current_Frame() + 1);
+    recording.setI_debug_number_of_view_refresh(recording.i_debug_number_of_view_refresh() + 1);
+}

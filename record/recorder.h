@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "record/capture_fields.h"
+#include "record/capture_mode.h"
+#include "record/measured_rate.h"
+#include "record/recording_fields.h"
+
+#include <QObject>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+class FrameSaver;
+class RecordingLoader;
+class RegionChooser;
+class Surroundings;
+class WindowServer;
+struct RecordingNote;
+
+/// The desk of the recording: grabs the desktop at every tick, keeps the frames, saves them when
+/// the recording stops, and reads those back that an earlier start has left. It knows neither tabs
+/// nor controls: it says by signals what has changed. Everything runs on the main thread.
+class Recorder : public QObject {
+    Q_OBJECT
+
+public:
+    /// To be asked before the frames of the last recording are lost. True when something has to be
+    /// answered first: the caller does nothing, and `goOn` is called later unless the user cancels.
+    using Gate = std::function<bool(std::function<void()> goOn)>;
+
+    /// The references are borrowed and outlive it.
+    Recorder(Surroundings &surroundings, RegionChooser &chooser,
+             std::unique_ptr<WindowServer> windowServer);
+    ~Recorder() override;
+
+    CaptureFields capture;
+    RecordingFields recording;
+
+    /// Without one nothing is asked.
+    void setGate(Gate gate) { gate_ = std::move(gate); }
+
+    Surroundings &surroundings() const { return surroundings_; }
+    RegionChooser &chooser() const { return chooser_; }
+    /// Ours as long as the process lives.
+    WindowServer &windowServer() const { return *windowServer_; }
+
+    // Window-list capture -----------------------------------------------------------------------
+
+    /// Takes the window server's list into `arrayController`, front to back.
+    void updateWindowList();
+    /// The numbers of these windows, by their place in the stack and not in `selection`.
+    static std::vector<std::uint32_t>
+    newWindowListFromSelection(std::span<const WindowEntry> selection);
+    /// Grabs these windows, or the part of them that the next frame needs, into `imgScreenCapture`.
+    void createMultiWindowShot(std::span<const WindowEntry> selection);
+    /// Stores a grab in `imgScreenCapture`, halved on a double-density screen; none keeps the
+    /// previous one.
+    void setOutputImage(const std::optional<Image> &grab);
+    /// The image scaled smoothly to whole pixels, at least one each way; its ratio is kept in
+    /// single precision. The empty image stays so.
+    static Image Scale_Image_By_Percentage(const Image &image, float percentage);
+
+    // Recording ---------------------------------------------------------------------------------
+
+    /// The values of the start: stopped, the default rate, no grab.
+    void start();
+
+    /// Whether a recording can begin or go on: not where nothing can be recorded, nor while the
+    /// last one is being saved.
+    bool mayRecord() const;
+    /// Whether the last recording can be saved once more, since frames of it are missing on disk.
+    bool hasMissingFrames() const { return hasMissingFrames_; }
+
+    /// Starts a recording, for which store and folder are emptied, or goes on with a paused one.
+    /// Does nothing while one runs or is being saved, or where nothing can be recorded.
+    void OnRecordRecord();
+    void OnRecordPause();
+    /// Measures the rate and starts the save. A recording without frames ends here.
+    void OnRecordStop();
+    /// Lets the user choose the capture rate; returns when the dialog is closed.
+    void OnRecordFPS();
+    /// Saves the last recording once more from memory: for when frames were missing and there is
+    /// room again. Does nothing without a recording, or during a recording or a save.
+    void OnSaveAgain();
+
+    /// The capture tick: list, leave out our own windows, grab; then `ticked`.
+    void TimerRefreshVideoRoutine();
+    /// The one-second tick: counts the frames of a second that fell into a recording.
+    void TimerDebug1SecondRoutine();
+    /// Starts the capture timer again with the interval 1 / `u_FPS`, in single precision.
+    void restartCaptureTimer();
+    void restartOneSecondTimer();
+    /// Ends both timers: off the Record tab nothing is grabbed.
+    void stopRecordTimers();
+
+    /// The frame-store step: while recording, appends `imageScreenCaptureFinal` to the store.
+    void storeFrame();
+    /// What the recording has counted so far.
+    RecordingCounts recordingCounts() const;
+
+    /// Whether the frames of a stopped recording are still being written.
+    bool isSavingRecording() const { return frameSaver_ != nullptr; }
+    /// Keeps beside the saved frames what a later start needs to open them again.
+    void noteRecording();
+    /// The user has ended the program: the next start has nothing to offer.
+    void forgetRecording();
+    /// Asks whether to open the recording that an earlier start left in the recording folder, or to
+    /// delete it.
+    void offerRecording(const RecordingNote &note);
+    /// Whether its frames are being read.
+    bool isOpeningRecording() const { return loader_ != nullptr; }
+
+    /// What is recorded and how often.
+    const CaptureMode &captureMode() const { return mode_; }
+    /// Brings it up to date; `captureModeChanged` when it is another now.
+    void updateCaptureMode();
+    /// Says the recording's figures in the status line, while there is one; with `stateChanged`.
+    void showRecordingState();
+    /// Pauses the recording when the machine runs out of memory, and says so; else brings the
+    /// figures up to date.
+    void watchMemory();
+
+Q_SIGNALS:
+    /// Controls, indicators and the task bar may have something else to show now.
+    void stateChanged();
+    void captureModeChanged(const CaptureMode &mode);
+    /// A grab has been taken: whoever shows it draws now, which is also what stores a frame.
+    void ticked();
+    /// A new recording begins: what was chosen of the last one is gone.
+    void began();
+    /// The last recording is about to be written again: nobody may read its files meanwhile.
+    void aboutToSaveAgain();
+    /// A recording stands in the store and, as far as that was possible, in the recording folder.
+    void recordingReady();
+
+private:
+    void grabPlaceChanged();
+    // The save of a stopped recording: begun, reported frame by frame, ended.
+    void saveRecording();
+    void frameReported(std::uint64_t done);
+    void showSaveResult(const FrameSaver &saver);
+    // A recording that was left by an earlier start: read frame by frame, taken over.
+    void openRecording(const RecordingNote &note);
+    void frameLoaded(std::uint64_t done);
+    void takeRecording(std::vector<Image> frames, const RecordingNote &note);
+
+    Surroundings &surroundings_;
+    RegionChooser &chooser_;
+    std::unique_ptr<WindowServer> windowServer_;
+    Gate gate_;
+    CaptureMode mode_;
+    bool saveDue_ = false; ///< A save is about to begin.
+    bool hasMissingFrames_ = false;
+    std::unique_ptr<FrameSaver> frameSaver_;
+    std::unique_ptr<RecordingLoader> loader_;
+};

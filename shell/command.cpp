@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "shell/command.h"
+
+#include "shell/palette_icon.h"
+
+#include <QAbstractButton>
+#include <QAction>
+
+namespace {
+
+void setUpButton(const Command &command, QObject *context, Qt::ConnectionType type) {
+    QAbstractButton &button = *command.button;
+    if (command.icon) {
+        const QString drawing = QStringLiteral(":/icons/%1.svg");
+        button.setIcon(paletteIcon(drawing.arg(QLatin1String(command.icon)), command.accent));
+        button.setAccessibleName(command.text);
+    } else {
+        button.setText(command.text);
+    }
+    button.setToolTip(command.tip.isEmpty() ? command.text : command.tip);
+    QObject::connect(
+        &button, &QAbstractButton::clicked, context, [action = command.action] { action(); }, type);
+}
+
+void setUpItem(const Command &command, QObject *context, Qt::ConnectionType type) {
+    command.item->setText(command.text);
+    if (command.shortcut)
+        command.item->setShortcut(QKeySequence(QLatin1String(command.shortcut)));
+    QObject::connect(
+        command.item, &QAction::triggered, context, [action = command.action] { action(); }, type);
+}
+
+} // namespace
+
+void setUp(const std::vector<Command> &commands, QObject *context) {
+    for (const Command &command : commands) {
+        const auto type = command.opensDialog ? Qt::QueuedConnection : Qt::AutoConnection;
+        if (command.button)
+            setUpButton(command, context, type);
+        if (command.item)
+            setUpItem(command, context, type);
+    }
+}
+
+void refresh(const std::vector<Command> &commands) {
+    for (const Command &command : commands) {
+        if (!command.enabled)
+            continue;
+        const bool enabled = command.enabled();
+        if (command.button)
+            command.button->setEnabled(enabled);
+        if (command.item)
+            command.item->setEnabled(enabled);
+    }
+}
