@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/frame_timing.h"
 
-#include "record/measured_rate.h"
+#include "record/rates.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "export/safe_move.h"
 
+#include "shell/file_calls.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
@@ -11,7 +13,9 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -42,29 +46,19 @@ bool sync(int descriptor) {
     return fsync(descriptor) == 0 || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
 }
 
-bool writeAll(int to, const char *data, std::size_t size) {
-    while (size > 0) {
-        const ssize_t written = write(to, data, size);
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written < 0)
-            return false;
-        data += written;
-        size -= static_cast<std::size_t>(written);
-    }
-    return true;
-}
-
 bool copyContent(int from, int to) {
-    std::vector<char> block(blockSize);
+    std::vector<std::uint8_t> block(blockSize);
     for (;;) {
         const ssize_t size = read(from, block.data(), block.size());
         if (size < 0 && errno == EINTR)
             continue;
         if (size <= 0)
             return size == 0;
-        if (!writeAll(to, block.data(), static_cast<std::size_t>(size)))
+        const std::span<const std::uint8_t> part(block.data(), static_cast<std::size_t>(size));
+        if (const int error = writeAll(to, {&part, 1}); error != 0) {
+            errno = error;
             return false;
+        }
     }
 }
 

@@ -2,16 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "export/staging.h"
 
+#include "shell/file_calls.h"
 #include "shell/working_folders.h"
 
 #include <QFile>
 
-#include <unistd.h>
-
 namespace {
 
 bool stage(const QString &source, const QString &target) {
-    if (link(QFile::encodeName(source).constData(), QFile::encodeName(target).constData()) == 0)
+    if (linkFile(source, target) == 0)
         return true;
     // Another file system, one without links, or more links than a file may have.
     return QFile::copy(source, target);

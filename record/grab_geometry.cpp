@@ -24,7 +24,7 @@ ScaledSize scaledByPercentage(double width, double height, float percentage) {
     return {newHeight / (h / w), newHeight};
 }
 
-PixelRectangle pixelsOfRegion(double x, double y, double width, double height, int grabHeight) {
+PixelRectangle pixelsToCut(double x, double y, double width, double height, int grabHeight) {
     const bool sound = isOnSomeDesktop(x) && isOnSomeDesktop(y) && width >= 1.0 && height >= 1.0 &&
                        isOnSomeDesktop(width) && isOnSomeDesktop(height);
     if (!sound)

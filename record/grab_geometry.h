@@ -26,4 +26,4 @@ struct PixelRectangle {
 /// grab's units, (x, y) from its lower left corner. The size is cut to whole pixels, as the size
 /// that the user reads, and the place rounded to the nearest one. 0 by 0 for a region below one
 /// pixel, or with numbers that no screen has.
-PixelRectangle pixelsOfRegion(double x, double y, double width, double height, int grabHeight);
+PixelRectangle pixelsToCut(double x, double y, double width, double height, int grabHeight);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "record/measured_rate.h"
+#include "record/rates.h"
 
 #include <QComboBox>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "record/measured_rate.h"
+#include "record/rates.h"
 
 #include <algorithm>
 #include <cmath>

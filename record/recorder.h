@@ -4,7 +4,7 @@
 
 #include "record/capture_fields.h"
 #include "record/capture_mode.h"
-#include "record/measured_rate.h"
+#include "record/rates.h"
 #include "record/recording_fields.h"
 
 #include <QObject>

@@ -5,8 +5,8 @@
 #include "platform/image.h"
 #include "platform/repeating_timer.h"
 #include "platform/tile_store.h"
-#include "record/measured_rate.h"
 #include "record/memory_budget.h"
+#include "record/rates.h"
 #include "record/recording_clock.h"
 
 #include <algorithm>

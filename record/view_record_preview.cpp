@@ -6,6 +6,7 @@
 #include "record/recorder.h"
 #include "record/window_list.h"
 #include "region/region_chooser.h"
+#include "shell/coordinates.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -87,8 +88,9 @@ void View_Record_Preview::refreshGrab() {
 }
 
 Image View_Record_Preview::cutRegion(const Image &grab, const QRect &region) {
-    const QRectF rectangle(region.x(), grab.height() - region.y() - region.height(), region.width(),
-                           region.height());
+    const QRectF rectangle(region.x(),
+                           coordinates::flipped(region.y(), region.height(), grab.height()),
+                           region.width(), region.height());
     // The same part of the same picture stays the same picture: it is then written only once.
     const auto changes =
         cutRectangle_ == rectangle ? grab.changesSince(cutFrom_) : std::optional<QRegion>();
@@ -107,8 +109,8 @@ Image View_Record_Preview::partOfImage(const Image &image, const QRectF &rectang
                                        Image::Change change) {
     if (image.isEmpty())
         return {};
-    const PixelRectangle part = pixelsOfRegion(rectangle.x(), rectangle.y(), rectangle.width(),
-                                               rectangle.height(), image.height());
+    const PixelRectangle part = pixelsToCut(rectangle.x(), rectangle.y(), rectangle.width(),
+                                            rectangle.height(), image.height());
     if (part.width == 0)
         return {};
     const QRect pixels(part.left, part.top, part.width, part.height);
@@ -132,22 +134,17 @@ void View_Record_Preview::paintEvent(QPaintEvent *event) {
                                                ImageScaler::Care::Quick));
 }
 
-/// In pixels, a little more rather than less. The toolkit keeps the screens' own origins.
 QRect View_Record_Preview::placeOnDesktop() const {
-    const QPointF origin = screen()->geometry().topLeft();
-    const QPointF corner = origin + (mapToGlobal(QPointF()) - origin) * devicePixelRatioF();
-    return QRectF(corner, QSizeF(size()) * devicePixelRatioF())
-        .toAlignedRect()
-        .adjusted(-1, -1, 1, 1);
+    return coordinates::onDesktop(QRectF(mapToGlobal(QPointF()), QSizeF(size())),
+                                  screen()->geometry().topLeft(), devicePixelRatioF());
 }
 
 QSize View_Record_Preview::pixelsShown() const {
     return (QSizeF(frame_.width, frame_.height) * devicePixelRatioF()).toSize().expandedTo({1, 1});
 }
 
-/// The fitting frame counts from the lower left corner of the view, painting from the upper one.
 QPointF View_Record_Preview::corner() const {
-    return ImageScaler::onGrid({frame_.x, height() - frame_.y - frame_.height},
+    return ImageScaler::onGrid({frame_.x, coordinates::flipped(frame_.y, frame_.height, height())},
                                devicePixelRatioF());
 }
 

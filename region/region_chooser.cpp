@@ -5,7 +5,7 @@
 #include "region/controller_squares.h"
 #include "region/window_region_how_it_works.h"
 #include "region/window_transparent_region.h"
-#include "shell/screen_watcher.h"
+#include "shell/coordinates.h"
 #include "shell/settings.h"
 #include "shell/surroundings.h"
 
@@ -37,7 +37,7 @@ void RegionChooser::OnRecordRegion() {
         return;
     const CaptureType typeBefore = region.i_Type_Screen_Capture();
     const QRectF rectangleBefore = region.rect_Screen_Region();
-    const std::optional<grab_units::Screen> screenBefore = region.screenOfRegion();
+    const std::optional<coordinates::Screen> screenBefore = region.screenOfRegion();
     region.setI_Type_Screen_Capture(CAPTURE_REGION);
     surroundings_.updateScreen();
     region.setSize_Region(startingSize);
@@ -68,7 +68,7 @@ void RegionChooser::endRegionOverlay() {
 void RegionChooser::screenParametersDidChange() {
     if (!region.pFullScreen())
         return;
-    const QRectF frame = lowerLeftFrame(surroundings_.shell.window()->screen());
+    const QRectF frame = coordinates::lowerLeftFrame(surroundings_.shell.window()->screen());
     const QRectF known = surroundings_.shell.frame_Screen();
     // QRectF's own comparison is fuzzy; here every difference counts.
     const bool same = frame.x() == known.x() && frame.y() == known.y() &&
@@ -94,7 +94,7 @@ const region_place::Place &RegionChooser::place() const {
         .region = {chosen.x(), chosen.y(), chosen.width(), chosen.height()},
         .screenOfRegion = region.screenOfRegion(),
         .screenOfWindow =
-            screen ? std::optional(region_place::screenOnDesktop(*screen)) : std::nullopt,
+            screen ? std::optional(coordinates::screenOnDesktop(*screen)) : std::nullopt,
         .grab = grab_};
     if (placedFor_ != inputs) {
         place_ = region_place::placeOf(inputs);

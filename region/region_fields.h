@@ -3,7 +3,7 @@
 #pragma once
 
 #include "region/frame_dimension.h"
-#include "region/grab_units.h"
+#include "shell/coordinates.h"
 
 #include <QRectF>
 #include <QSizeF>
@@ -45,8 +45,8 @@ public:
     /// The screen that the region is measured on: that of the main window when the overlay opened.
     /// None until a region has been chosen; the region then counts from the lower left corner of
     /// the grab, in its units.
-    const std::optional<grab_units::Screen> &screenOfRegion() const { return screenOfRegion_; }
-    void setScreenOfRegion(const std::optional<grab_units::Screen> &screen) {
+    const std::optional<coordinates::Screen> &screenOfRegion() const { return screenOfRegion_; }
+    void setScreenOfRegion(const std::optional<coordinates::Screen> &screen) {
         screenOfRegion_ = screen;
     }
 
@@ -60,6 +60,6 @@ private:
     std::int64_t b_Show_Select_Region_How_To_ = 0;
     QSizeF size_Region_;
     QRectF rect_Screen_Region_;
-    std::optional<grab_units::Screen> screenOfRegion_;
+    std::optional<coordinates::Screen> screenOfRegion_;
     Window_Transparent_Region *pFullScreen_ = nullptr;
 };

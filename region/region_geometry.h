@@ -2,17 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/saturated.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <optional>
 
 /// The rules of the region selection: where the five squares lie, which one a press hits, what a
 /// drag does, which region they stand for. Not for drawing, and not for the grab's own units (see
-/// grab_units.h).
+/// shell/coordinates.h).
 ///
 /// Everything is in points from the lower left corner of the screen, y upwards. A square is given
 /// by its lower left corner; it marks the point 5 points to the right of and above that corner.
@@ -52,11 +53,7 @@ inline constexpr int squareSide = 10;
 inline constexpr int squareInset = 5;
 
 /// The number without its fraction; beyond the range, the nearest end of it.
-inline std::int32_t truncated(double value) {
-    constexpr double lowest = std::numeric_limits<std::int32_t>::min();
-    constexpr double highest = std::numeric_limits<std::int32_t>::max();
-    return std::isnan(value) ? 0 : static_cast<std::int32_t>(std::clamp(value, lowest, highest));
-}
+inline std::int32_t truncated(double value) { return saturated<std::int32_t>(value); }
 
 /// Halfway from one whole number to another, the half of the distance cut off towards zero.
 inline std::int32_t halfway(std::int32_t from, std::int32_t to) {

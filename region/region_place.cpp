@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "region/region_place.h"
 
-#include <QScreen>
-
 namespace region_place {
 
 namespace {
 
 QRect regionIn(const Grab &grab, const Inputs &inputs) {
-    grab_units::Screen screen{.height = static_cast<double>(grab.pixels.height())};
+    coordinates::Screen screen{.height = static_cast<double>(grab.pixels.height())};
     if (inputs.screenOfRegion)
         screen = *inputs.screenOfRegion;
     double unitsPerPixel = 1;
@@ -20,14 +18,14 @@ QRect regionIn(const Grab &grab, const Inputs &inputs) {
         screen.originY -= grab.halvedFrom->y();
         size /= 2;
     }
-    const grab_units::Units units =
-        grab_units::fromPoints(inputs.region, screen, unitsPerPixel, size.width(), size.height());
+    const coordinates::Units units =
+        coordinates::fromPoints(inputs.region, screen, unitsPerPixel, size.width(), size.height());
     return {units.x, units.y, units.width, units.height};
 }
 
 std::optional<QPoint> originOfHalving(const Inputs &inputs) {
     const auto &recorded = inputs.regionIsRecorded ? inputs.screenOfRegion : inputs.screenOfWindow;
-    if (!recorded || !grab_units::isHalved(recorded->ratio))
+    if (!recorded || !coordinates::isHalved(recorded->ratio))
         return {};
     return QPoint(static_cast<int>(recorded->originX) & 1, static_cast<int>(recorded->originY) & 1);
 }
@@ -52,15 +50,6 @@ Place placeOf(const Inputs &inputs) {
     place.inFrames = regionIn({inputs.grab.pixels, place.halvedFrom}, inputs);
     place.partInUse = partInUse(inputs, place);
     return place;
-}
-
-grab_units::Screen screenOnDesktop(const QScreen &screen) {
-    const QRect frame = screen.geometry();
-    // The toolkit leaves a screen's origin in pixels and scales only what lies on the screen.
-    return {.originX = static_cast<double>(frame.x()),
-            .originY = static_cast<double>(frame.y()),
-            .height = static_cast<double>(frame.height()),
-            .ratio = screen.devicePixelRatio()};
 }
 
 } // namespace region_place

@@ -2,15 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "region/grab_units.h"
+#include "shell/coordinates.h"
 
 #include <QPoint>
 #include <QRect>
 #include <QSize>
 
 #include <optional>
-
-class QScreen;
 
 /// Where the region lies in what is grabbed. A value that follows from other values: nothing is
 /// stored here and no window is asked.
@@ -29,11 +27,11 @@ struct Grab {
 /// Everything that decides it.
 struct Inputs {
     bool regionIsRecorded = false; ///< Not the whole screen.
-    grab_units::Points region;
+    coordinates::Points region;
     /// The screen on which the region was chosen; none before the first was.
-    std::optional<grab_units::Screen> screenOfRegion = {};
+    std::optional<coordinates::Screen> screenOfRegion = {};
     /// The screen of the main window.
-    std::optional<grab_units::Screen> screenOfWindow = {};
+    std::optional<coordinates::Screen> screenOfWindow = {};
     Grab grab;
 
     bool operator==(const Inputs &) const = default;
@@ -55,8 +53,5 @@ struct Place {
 };
 
 Place placeOf(const Inputs &inputs);
-
-/// A screen as the conversion into the grab's units sees it.
-grab_units::Screen screenOnDesktop(const QScreen &screen);
 
 } // namespace region_place

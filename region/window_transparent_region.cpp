@@ -7,6 +7,7 @@
 #include "region/region_chooser.h"
 #include "region/region_tip.h"
 #include "region/view_transparent_region.h"
+#include "shell/coordinates.h"
 #include "shell/surroundings.h"
 
 #include <QCloseEvent>
@@ -97,7 +98,7 @@ void Window_Transparent_Region::windowDidLoad() {
     }
     controller_squares::write(fields,
                               region_drag::squaresOf(region_drag::within(start, screenInPoints())));
-    fields.setScreenOfRegion(region_place::screenOnDesktop(*screen()));
+    fields.setScreenOfRegion(coordinates::screenOnDesktop(*screen()));
 }
 
 int Window_Transparent_Region::runModal() {
@@ -177,7 +178,7 @@ void Window_Transparent_Region::mouseUp() { setB_Mouse_Down(false); }
 Point Window_Transparent_Region::fromScreenCorner(QPointF inWindow) const {
     // The toolkit's position in the widget and on the desktop both lose their fractions.
     const QPointF inScreen = inWindow + geometry().topLeft() - screenFrame_.topLeft();
-    return {inScreen.x(), screenFrame_.height() - inScreen.y()};
+    return {inScreen.x(), coordinates::flipped(inScreen.y(), 0, screenFrame_.height())};
 }
 
 void Window_Transparent_Region::mousePressEvent(QMouseEvent *event) {
@@ -285,8 +286,9 @@ void Window_Transparent_Region::showTip() {
     const QRect recorded = chooser_.place().inFrames;
     const Squares now = squares();
     const Point &corner = now[static_cast<std::size_t>(cornerInHand_)];
-    const QPointF marked(corner.x + region_geometry::squareInset,
-                         screenFrame_.height() - corner.y - region_geometry::squareInset);
+    const QPointF marked(
+        corner.x + region_geometry::squareInset,
+        coordinates::flipped(corner.y + region_geometry::squareInset, 0, screenFrame_.height()));
     QString text = qtTrId("IDD_REGION_TIP")
                        .arg(cornerName(region_geometry::placeOf(now, cornerInHand_)))
                        .arg(recorded.width())

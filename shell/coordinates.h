@@ -2,14 +2,36 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QPointF>
+#include <QRect>
+#include <QRectF>
+
 #include <algorithm>
 #include <cmath>
 
-/// Brings a region from the screen on which it was chosen into the grab, which covers the whole
-/// desktop: the one conversion between the two. The toolkit keeps the displays' own origins but
-/// scales what lies on them, so with several displays or a fraction as scale no single factor leads
-/// from one to the other.
-namespace grab_units {
+class QScreen;
+
+/// Every coordinate space of the program, and the conversions between them; docs/coordinates.md
+/// shows them side by side.
+///
+/// - Points from the lower left: y grows upwards. The region counts from the lower left corner of
+///   the screen on which it was chosen, `frame_Screen` from that of the primary screen, handles and
+///   fitted pictures from that of their view. The established fields and rules use these.
+/// - View: the toolkit's own points, from a widget's upper left corner, y downwards. Painting and
+///   pointer events use these.
+/// - Desktop pixels: the window server's, from the desktop's upper left corner, y downwards.
+/// Windows
+///   and grabs are measured in these.
+/// - A screen's own: the toolkit's global points. It leaves a screen's origin in desktop pixels and
+///   scales only what is on the screen, so with several screens, or a fraction as scale, no single
+///   factor leads from here to desktop pixels.
+/// - Units of the grab: whole numbers from the grab's upper left corner, y downwards. One unit is a
+///   desktop pixel, or two of them each way where the grab was halved.
+namespace coordinates {
+
+/// A length or a point counted from the other end: between lower left and upper left. `extent` is
+/// the height of what is placed, 0 for a point, and `height` that of what it is placed in.
+constexpr double flipped(double y, double extent, double height) { return height - y - extent; }
 
 /// The screen on which a region was chosen.
 struct Screen {
@@ -65,7 +87,7 @@ inline Units fromPoints(const Points &region, const Screen &screen, double units
         return unit((screen.originX + x * screen.ratio) * unitsPerPixel, grabWidth);
     };
     const auto vertical = [&](double y) {
-        const double fromTop = screen.height - y;
+        const double fromTop = flipped(y, 0, screen.height);
         return unit((screen.originY + fromTop * screen.ratio) * unitsPerPixel, grabHeight);
     };
     const double left = horizontal(region.x);
@@ -76,4 +98,15 @@ inline Units fromPoints(const Points &region, const Screen &screen, double units
             std::max(1, static_cast<int>(height))};
 }
 
-} // namespace grab_units
+/// A screen as the conversion into units of the grab sees it.
+Screen screenOnDesktop(const QScreen &screen);
+
+/// The screen's frame in points from the primary screen's lower left corner; the zero rectangle
+/// without a screen. `y()` is the lower edge.
+QRectF lowerLeftFrame(const QScreen *screen);
+
+/// An area of a screen in desktop pixels, a little more rather than less. `area` is in the screen's
+/// own points, `screenOrigin` is the screen's upper left corner and `ratio` its pixels per point.
+QRect onDesktop(const QRectF &area, QPointF screenOrigin, double ratio);
+
+} // namespace coordinates

@@ -5,16 +5,6 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-QRectF lowerLeftFrame(const QScreen *screen) {
-    if (!screen)
-        return {};
-    const QRectF frame = screen->geometry();
-    const QScreen *primary = QGuiApplication::primaryScreen();
-    const QRectF origin = primary ? primary->geometry() : frame;
-    return {frame.x() - origin.x(), origin.bottom() - frame.bottom(), frame.width(),
-            frame.height()};
-}
-
 ScreenWatcher::ScreenWatcher(QObject *parent) : QObject(parent) {
     for (QScreen *screen : QGuiApplication::screens())
         watch(screen);

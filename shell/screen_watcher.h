@@ -3,13 +3,8 @@
 #pragma once
 
 #include <QObject>
-#include <QRectF>
 
 class QScreen;
-
-/// The screen's frame in points, with y growing upwards and the origin at the primary screen's
-/// lower left corner; the zero rectangle without a screen.
-QRectF lowerLeftFrame(const QScreen *screen);
 
 /// Tells of every change of the screen configuration with one signal: screens added and removed,
 /// moved, resized, and another one made primary.

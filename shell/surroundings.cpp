@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "shell/surroundings.h"
 
-#include "shell/screen_watcher.h"
+#include "shell/coordinates.h"
 #include "shell/working_folders.h"
 
 #include <QFileInfo>
 #include <QMainWindow>
 
 void Surroundings::updateScreen() {
-    const QRectF frame = lowerLeftFrame(shell.window()->screen());
+    const QRectF frame = coordinates::lowerLeftFrame(shell.window()->screen());
     shell.setFrame_Screen(frame);
     shell.setSize_Screen(frame.size());
 }

@@ -4,6 +4,7 @@
 
 #include "record/fitting.h"
 #include "record/recorder.h"
+#include "shell/coordinates.h"
 #include "shell/surroundings.h"
 #include "trim/trim_editor.h"
 
@@ -73,8 +74,8 @@ void View_Cut_Preview::drawFrame(QPainter &painter) {
     const QSize pixels = (QSizeF(fit.width, fit.height) * ratio).toSize();
     if (pixels.isEmpty())
         return;
-    // The fitting rectangle counts from the lower left corner, painting from the upper one.
-    const QPointF corner = ImageScaler::onGrid({fit.x, height() - fit.y - fit.height}, ratio);
+    const QPointF corner =
+        ImageScaler::onGrid({fit.x, coordinates::flipped(fit.y, fit.height, height())}, ratio);
     const bool moving = trim.m_PlayStatus() == PLAY_STATUS_PLAY;
     painter.drawImage(corner,
                       scaler_.scaled(frame, pixels, ratio,

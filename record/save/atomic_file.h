@@ -17,7 +17,3 @@
 /// `mode` is the new file's, less what the umask takes.
 int writeFileAtomically(const QString &path, std::span<const std::span<const std::uint8_t>> parts,
                         mode_t mode = 0666);
-
-/// Gives `existing` the second name `path`. 0, or the system's error number: a file system without
-/// links, too many links, or a name that is taken.
-int linkFile(const QString &existing, const QString &path);

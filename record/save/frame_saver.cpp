@@ -3,6 +3,7 @@
 #include "record/save/frame_saver.h"
 
 #include "record/save/atomic_file.h"
+#include "shell/file_calls.h"
 #include "shell/working_folders.h"
 
 #include <QMetaObject>

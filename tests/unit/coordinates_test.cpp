@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "region/grab_units.h"
 #include "region/tip_place.h"
+#include "shell/coordinates.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
-using grab_units::Points;
-using grab_units::Screen;
-using grab_units::Units;
+using coordinates::Points;
+using coordinates::Screen;
+using coordinates::Units;
 
 TEST(GrabUnits, aRegionLiesWhereTheUserFramedItOnAnyScreenAtAnyScale) {
     const Screen plain{0, 0, 900, 1};
@@ -38,7 +38,8 @@ TEST(GrabUnits, aRegionLiesWhereTheUserFramedItOnAnyScreenAtAnyScale) {
         {"nothing becomes one unit", plain, 1, {5, 5, 0, 0}, {5, 895, 1, 1}},
     };
     for (const auto &[name, screen, unitsPerPixel, region, expected] : cases) {
-        const Units units = grab_units::fromPoints(region, screen, unitsPerPixel, 1 << 15, 1 << 15);
+        const Units units =
+            coordinates::fromPoints(region, screen, unitsPerPixel, 1 << 15, 1 << 15);
         EXPECT_EQ(units, expected) << name << ": " << units.x << ", " << units.y << " "
                                    << units.width << " by " << units.height;
     }
@@ -47,10 +48,10 @@ TEST(GrabUnits, aRegionLiesWhereTheUserFramedItOnAnyScreenAtAnyScale) {
 TEST(GrabUnits, aRegionOnTheEdgeEndsWithTheScreenWhereItsSizeInPointsIsRounded) {
     // 700 by 901 pixels are 466.7 by 600.7 points, which the toolkit makes 467 by 601.
     const Screen fraction{0, 0, 601, 1.5};
-    const Units whole = grab_units::fromPoints({0, 0, 467, 601}, fraction, 1, 700, 901);
+    const Units whole = coordinates::fromPoints({0, 0, 467, 601}, fraction, 1, 700, 901);
     EXPECT_EQ(whole, (Units{0, 0, 700, 901}));
     // A desktop that became smaller changes no frame's size.
-    const Units beyond = grab_units::fromPoints({0, 0, 467, 601}, fraction, 1, 600, 700);
+    const Units beyond = coordinates::fromPoints({0, 0, 467, 601}, fraction, 1, 600, 700);
     EXPECT_EQ(beyond, (Units{0, 0, 701, 902}));
 }
 
@@ -60,8 +61,8 @@ TEST(GrabUnits, neighbouringRegionsNeitherOverlapNorLeaveAGap) {
         for (int x = -5; x < 60; ++x) {
             const Points left{static_cast<double>(x), 100, 13, 13};
             const Points right{x + 13.0, 87, 29, 13};
-            const Units a = grab_units::fromPoints(left, screen, 1, 1 << 15, 1 << 15);
-            const Units b = grab_units::fromPoints(right, screen, 1, 1 << 15, 1 << 15);
+            const Units a = coordinates::fromPoints(left, screen, 1, 1 << 15, 1 << 15);
+            const Units b = coordinates::fromPoints(right, screen, 1, 1 << 15, 1 << 15);
             ASSERT_EQ(a.x + a.width, b.x) << ratio;
             ASSERT_EQ(a.y + a.height, b.y) << ratio;
         }

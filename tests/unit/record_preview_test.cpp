@@ -129,7 +129,7 @@ TEST_F(RecordPreview, cutsTheRegionFromTheLowerLeftAndLeavesTheOutsideTransparen
     server->picture = Image::fromQImage(pixels);
     delegate->region.setI_Type_Screen_Capture(CAPTURE_REGION);
     delegate->region.setRect_Screen_Region({0, 0, 20, 16});
-    delegate->region.setScreenOfRegion(grab_units::Screen{.height = 48});
+    delegate->region.setScreenOfRegion(coordinates::Screen{.height = 48});
     delegate->TimerRefreshVideoRoutine();
     const Image inside = delegate->capture.imageScreenCaptureFinal();
     EXPECT_EQ(inside.size(), QSize(20, 16));

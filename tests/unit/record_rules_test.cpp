@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "record/fitting.h"
 #include "record/grab_geometry.h"
-#include "record/measured_rate.h"
+#include "record/rates.h"
 #include "record/recording_clock.h"
 
 #include <gtest/gtest.h>
@@ -130,12 +130,12 @@ TEST(GrabGeometry, scalesTheLargerSideAndLetsTheOtherFollow) {
 }
 
 TEST(GrabGeometry, countsARegionsPixelsFromTheUpperLeft) {
-    const PixelRectangle cut = pixelsOfRegion(10.4, 20, 641.6, 480.9, 600);
+    const PixelRectangle cut = pixelsToCut(10.4, 20, 641.6, 480.9, 600);
     EXPECT_EQ(cut.left, 10);
     EXPECT_EQ(cut.top, 99);
     EXPECT_EQ(cut.width, 641);
     EXPECT_EQ(cut.height, 480);
-    EXPECT_EQ(pixelsOfRegion(-5, 550, 20, 100, 600).top, -50);
+    EXPECT_EQ(pixelsToCut(-5, 550, 20, 100, 600).top, -50);
     for (const double odd : {0.0, -3.0, 1e12, infinite, undefined})
-        EXPECT_EQ(pixelsOfRegion(0, 0, odd, 10, 600).width, 0);
+        EXPECT_EQ(pixelsToCut(0, 0, odd, 10, 600).width, 0);
 }

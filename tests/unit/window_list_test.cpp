@@ -65,7 +65,7 @@ TEST_F(WindowList, grabsAllWindowsButOursFrontToBack) {
 TEST_F(WindowList, halvesTheGrabOfADoubleDensityScreenAndKeepsTheLastOneWhenThereIsNone) {
     delegate->region.setI_Type_Screen_Capture(CAPTURE_REGION);
     delegate->region.setRect_Screen_Region({0, 0, 32, 24});
-    delegate->region.setScreenOfRegion(grab_units::Screen{.height = 24, .ratio = 2});
+    delegate->region.setScreenOfRegion(coordinates::Screen{.height = 24, .ratio = 2});
     delegate->TimerRefreshVideoRoutine();
     const Image half = delegate->capture.imgScreenCapture();
     EXPECT_EQ(half.size(), QSize(32, 24));
@@ -78,7 +78,7 @@ TEST_F(WindowList, halvesTheGrabOfADoubleDensityScreenAndKeepsTheLastOneWhenTher
     delegate->TimerRefreshVideoRoutine();
     EXPECT_TRUE(delegate->capture.imgScreenCapture().sameAs(half));
 
-    delegate->region.setScreenOfRegion(grab_units::Screen{.height = 48, .ratio = 1});
+    delegate->region.setScreenOfRegion(coordinates::Screen{.height = 48, .ratio = 1});
     server->picture = plainImage({64, 48}, qRgb(1, 2, 3));
     delegate->TimerRefreshVideoRoutine();
     EXPECT_TRUE(delegate->capture.imgScreenCapture().sameAs(*server->picture));

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <span>
+
+/// What the system does with files and the toolkit does not offer, without its pitfalls.
+
+/// Writes `parts`, one after another, whatever interrupts it. 0, or the system's error number: then
+/// some of it may have been written.
+int writeAll(int descriptor, std::span<const std::span<const std::uint8_t>> parts);
+
+/// Gives `existing` the second name `path`. 0, or the system's error number: a file system without
+/// links, too many links, or a name that is taken.
+int linkFile(const QString &existing, const QString &path);
