@@ -10,20 +10,23 @@
 
 namespace x11 {
 
-/// Draws layers into a picture by the render extension, each visible piece once: opaque layers are
-/// copied where they are seen, blended ones laid over what is below them. The result is opaque.
+/// Draws single layers into a picture by the render extension. The result is opaque. Requests are
+/// sent with the next wait; errors come as events.
 class Composer {
 public:
     Composer(Connection &connection, DesktopModel &model)
         : connection_(connection), model_(model) {}
 
-    /// Draws what is seen of `layers` within `changed`, and black where nothing is. The requests
-    /// are sent with the next wait; errors come as events.
-    void paint(xcb_render_picture_t target, const LayerStack &layers, const QRegion &changed);
+    /// Draws what a window's picture shows within `where`, which is part of the layer: over what is
+    /// there for a blended layer. Nothing happens when the window has no picture.
+    void paintWindow(xcb_render_picture_t target, const Layer &layer, const QRegion &where);
+
+    /// Draws the background that was left on the root window, black where there is none.
+    void paintBackground(xcb_render_picture_t target, const QRegion &where);
 
 private:
-    void fill(xcb_render_picture_t target, const QRegion &where, std::uint8_t operation);
-    void paintLayer(xcb_render_picture_t target, const Layer &layer, const QRegion &where);
+    void paint(xcb_render_picture_t target, const Layer &layer, xcb_render_picture_t source,
+               const QRegion &where);
 
     Connection &connection_;
     DesktopModel &model_;

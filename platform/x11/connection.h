@@ -42,12 +42,20 @@ struct Extensions {
 struct Atoms {
     xcb_atom_t clientList = 0;
     xcb_atom_t clientListStacking = 0;
+    xcb_atom_t currentDesktop = 0;
     xcb_atom_t compositingManager = 0; ///< the selection that a compositing manager owns
+    xcb_atom_t frameExtents = 0;
+    xcb_atom_t gtkFrameExtents = 0; ///< the shadow in a client's own window, by custom of GTK
+    xcb_atom_t iconGeometry = 0;
+    xcb_atom_t netWmDesktop = 0;
     xcb_atom_t netWmPid = 0;
     xcb_atom_t netWmState = 0;
     xcb_atom_t netWmStateAbove = 0;
+    xcb_atom_t netWmStateHidden = 0;
+    xcb_atom_t netWmStateShaded = 0;
     xcb_atom_t rootPixmap = 0;
-    xcb_atom_t sharing = 0; ///< ours, see X11WindowServer
+    xcb_atom_t sharing = 0;       ///< ours, see X11WindowServer
+    xcb_atom_t windowOpacity = 0; ///< by custom of compositing managers
     xcb_atom_t windowType = 0;
     xcb_atom_t windowTypeDesktop = 0;
     xcb_atom_t windowTypeDock = 0;

@@ -4,11 +4,9 @@
 
 #include "platform/regions.h"
 
-#include <xcb/composite.h>
 #include <xcb/xfixes.h>
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 namespace x11 {
@@ -29,11 +27,11 @@ template <class T> const T &as(const xcb_generic_event_t &event) {
 
 } // namespace
 
-// The order matters: first what tells of changes, then the redirection, then the one look at the
-// tree. What happens in between is told twice rather than never.
+// The order matters: first what tells of changes, then the one look at the tree. What happens in
+// between is told twice rather than never.
 DesktopModel::DesktopModel(Connection &connection)
     : connection_(connection), formats_(connection), pictures_(connection, formats_),
-      owners_(connection), background_(connection, formats_) {
+      owners_(connection), background_(connection, formats_), screen_(connection, formats_) {
     const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY |
                                XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_connection_t *c = connection_.get();
@@ -42,9 +40,9 @@ DesktopModel::DesktopModel(Connection &connection)
                                       XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
                                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
                                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
-    xcb_composite_redirect_subwindows(c, connection_.root(), XCB_COMPOSITE_REDIRECT_AUTOMATIC);
     readTree();
     readCompositingManager();
+    readWorkspace();
 }
 
 void DesktopModel::readTree() {
@@ -56,11 +54,11 @@ void DesktopModel::readTree() {
     const auto tree = connection_.reply<xcb_query_tree_reply>(treeCookie);
     if (!tree)
         return;
-    // Told before the tree was read: the tree has it already, and in its final order.
-    Event later;
-    do {
-        later = connection_.nextEvent();
-    } while (later && later->full_sequence < treeCookie.sequence);
+    // Told before the tree was read: the tree has it already, and in its final order. Only drawing
+    // is not in there.
+    Event later = connection_.nextEvent();
+    for (; later && later->full_sequence < treeCookie.sequence; later = connection_.nextEvent())
+        handleExtension(*later);
 
     const std::span children(xcb_query_tree_children(tree.get()), tree->children_len);
     std::vector<std::pair<xcb_get_geometry_cookie_t, xcb_get_window_attributes_cookie_t>> cookies;
@@ -81,7 +79,7 @@ void DesktopModel::readTree() {
         // Also one that is gone by now: until its end is told of, others may be placed above it.
         stack_.add(window);
         if (attributes && attributes->map_state != XCB_MAP_STATE_UNMAPPED)
-            onMapped(children[i], true);
+            onMapped(children[i], true, treeCookie.sequence);
     }
     if (later)
         handle(*later);
@@ -102,16 +100,26 @@ bool DesktopModel::takeFailures() { return std::exchange(failures_, false); }
 
 bool DesktopModel::takeChanged() { return std::exchange(changed_, false); }
 
+void DesktopModel::readWorkspace() {
+    const auto property = connection_.reply<xcb_get_property_reply>(
+        xcb_get_property(connection_.get(), 0, connection_.root(),
+                         connection_.atoms().currentDesktop, XCB_ATOM_CARDINAL, 0, 1));
+    workspace_.reset();
+    if (property && property->format == 32 && property->value_len == 1)
+        workspace_ = *static_cast<std::uint32_t *>(xcb_get_property_value(property.get()));
+}
+
 void DesktopModel::stackChanged() {
     changed_ = true;
     listChanged_ = true;
+    layersChanged_ = true;
 }
 
 void DesktopModel::handle(const xcb_generic_event_t &event) {
     if (event.response_type == 0) {
         const auto &error = as<xcb_generic_error_t>(event);
         if (pictures_.onError(error))
-            failures_ = changed_ = true;
+            failures_ = true, stackChanged();
         return;
     }
     // Clients send copies of structure events to the root window, by convention or by mistake;
@@ -132,13 +140,13 @@ bool DesktopModel::handleStructure(const xcb_generic_event_t &event) {
         remove(as<xcb_destroy_notify_event_t>(event).window);
         return true;
     case XCB_MAP_NOTIFY:
-        onMapped(as<xcb_map_notify_event_t>(event).window, true);
+        onMapped(as<xcb_map_notify_event_t>(event).window, true, event.full_sequence);
         return true;
     case XCB_UNMAP_NOTIFY:
-        onMapped(as<xcb_unmap_notify_event_t>(event).window, false);
+        onMapped(as<xcb_unmap_notify_event_t>(event).window, false, event.full_sequence);
         return true;
     case XCB_CONFIGURE_NOTIFY:
-        onConfigure(as<xcb_configure_notify_event_t>(event));
+        onConfigure(as<xcb_configure_notify_event_t>(event), event.full_sequence);
         return true;
     case XCB_REPARENT_NOTIFY:
         onReparent(as<xcb_reparent_notify_event_t>(event));
@@ -146,7 +154,7 @@ bool DesktopModel::handleStructure(const xcb_generic_event_t &event) {
     case XCB_CIRCULATE_NOTIFY: {
         const auto &circulate = as<xcb_circulate_notify_event_t>(event);
         if (stack_.circulate(circulate.window, circulate.place == XCB_PLACE_ON_TOP))
-            stackChanged();
+            distrustBeneath(circulate.window, event.full_sequence);
         return true;
     }
     case XCB_PROPERTY_NOTIFY:
@@ -160,7 +168,9 @@ bool DesktopModel::handleStructure(const xcb_generic_event_t &event) {
 void DesktopModel::handleExtension(const xcb_generic_event_t &event) {
     const Extensions &extensions = connection_.extensions();
     if (event.response_type == extensions.damageEvent + XCB_DAMAGE_NOTIFY) {
-        changed_ = pictures_.onDamage(as<xcb_damage_notify_event_t>(event)) || changed_;
+        const auto &damage = as<xcb_damage_notify_event_t>(event);
+        changed_ =
+            screen_.onDamage(damage) || pictures_.onDamage(damage, event.full_sequence) || changed_;
     } else if (event.response_type == extensions.shapeEvent + XCB_SHAPE_NOTIFY) {
         if (pictures_.onShape(as<xcb_shape_notify_event_t>(event)))
             stackChanged();
@@ -182,42 +192,66 @@ void DesktopModel::remove(xcb_window_t window) {
     if (!stack_.remove(window))
         return;
     pictures_.forget(window);
+    guards_.erase(window);
     owners_.forget(window);
     stackChanged();
 }
 
 // What is on top of everything by the server's own hand (a compositing manager's overlay) shows
 // windows that we have already.
-void DesktopModel::onMapped(xcb_window_t window, bool mapped) {
+void DesktopModel::onMapped(xcb_window_t window, bool mapped, std::uint32_t sequence) {
     if (connection_.clientBits(window) == 0 || !stack_.setMapped(window, mapped))
         return;
     if (mapped) {
         pictures_.watch(window);
-        pictures_.renew(window);
+        pictures_.renew(window, {}, {});
     } else {
-        pictures_.drop(window);
+        pictures_.giveBack(window);
     }
-    stackChanged();
+    distrustBeneath(window, sequence);
 }
 
-void DesktopModel::onConfigure(const xcb_configure_notify_event_t &event) {
+// A window that lies there may have lain there already when those beneath it were redirected.
+void DesktopModel::distrustBeneath(xcb_window_t window, std::uint32_t sequence) {
+    stackChanged();
+    const auto *above = stack_.find(window);
+    if (!above || !above->mapped || compositingManager_)
+        return;
+    for (const auto &below : stack_.bottomToTop()) {
+        if (below.number == window)
+            return;
+        if (pictures_.isRedirected(below.number) && below.outer.intersects(above->outer))
+            pictures_.distrust(below.number, above->outer, innerCorner(below), sequence);
+    }
+}
+
+void DesktopModel::onConfigure(const xcb_configure_notify_event_t &event, std::uint32_t sequence) {
     if (event.window == connection_.root()) {
         desktop_ = QRect(0, 0, event.width, event.height);
         stackChanged();
+        return;
+    }
+    if (event.event != connection_.root()) {
+        if (owners_.onClientResize(event.window))
+            stackChanged();
         return;
     }
     const auto *held = stack_.find(event.window);
     if (!held)
         return;
     const QRect outer = outerRect(event.x, event.y, event.width, event.height, event.border_width);
-    if (held->outer.size() != outer.size() || held->border != event.border_width)
-        pictures_.renew(event.window);
+    const bool resized = held->outer.size() != outer.size() || held->border != event.border_width;
     stack_.configure({.number = event.window,
                       .outer = outer,
                       .border = event.border_width,
                       .overrideRedirect = event.override_redirect != 0},
                      event.above_sibling);
-    stackChanged();
+    if (resized) {
+        held = stack_.find(event.window); // another place in the stack
+        pictures_.renew(event.window, coveredPart(*held), innerCorner(*held));
+        owners_.onResize(event.window);
+    }
+    distrustBeneath(event.window, sequence);
 }
 
 void DesktopModel::onReparent(const xcb_reparent_notify_event_t &event) {
@@ -244,31 +278,22 @@ void DesktopModel::onReparent(const xcb_reparent_notify_event_t &event) {
 void DesktopModel::onProperty(const xcb_property_notify_event_t &event) {
     if (event.window == connection_.root() && event.atom == connection_.atoms().rootPixmap) {
         background_.invalidate();
-        changed_ = true;
+        stackChanged();
         return;
     }
-    listChanged_ = owners_.onProperty(event) || listChanged_;
-}
-
-std::vector<const StackedWindow *> DesktopModel::shownFrontToBack() {
-    pictures_.settle();
-    std::vector<const StackedWindow *> shown;
-    for (const auto &window : stack_.bottomToTop())
-        if (window.mapped && pictures_.isShowable(window.number) &&
-            window.outer.intersects(desktop_))
-            shown.push_back(&window);
-    std::ranges::reverse(shown);
-    return shown;
+    if (event.window == connection_.root() && event.atom == connection_.atoms().currentDesktop) {
+        readWorkspace();
+        stackChanged();
+        return;
+    }
+    if (owners_.onProperty(event))
+        stackChanged();
 }
 
 const std::vector<WindowDescription> &DesktopModel::windows() {
     if (!std::exchange(listChanged_, false))
         return windows_;
     const auto shown = shownFrontToBack();
-    std::vector<std::uint32_t> numbers;
-    for (const auto *window : shown)
-        numbers.push_back(window->number);
-    owners_.settle(numbers);
     windows_.clear();
     for (const auto *window : shown)
         windows_.push_back(describe(*window));
@@ -294,60 +319,6 @@ WindowDescription DesktopModel::describe(const StackedWindow &window) const {
     if (window.overrideRedirect && !owners_.isManaged(window.number))
         description.layer = popupLayer;
     return description;
-}
-
-std::vector<Layer> DesktopModel::layers(std::span<const std::uint32_t> numbers) {
-    pictures_.settle();
-    std::vector<Layer> layers;
-    layers.reserve(numbers.size());
-    for (const auto number : numbers) {
-        if (std::ranges::find(layers, number, &Layer::window) != layers.end())
-            continue;
-        if (number == connection_.root()) {
-            layers.push_back({.window = number,
-                              .region = desktop_,
-                              .origin = {},
-                              .generation = background_.generation()});
-            continue;
-        }
-        const auto *window = stack_.find(number);
-        if (!window || !window->mapped || !pictures_.isShowable(number) ||
-            !window->outer.intersects(desktop_))
-            continue;
-        const bool hasAlpha = pictures_.hasAlpha(number);
-        layers.push_back({.window = number,
-                          .region = pictures_.region(number, window->outer, window->border),
-                          .origin = window->outer.topLeft(),
-                          .blended = compositingManager_ && hasAlpha,
-                          .raw = !compositingManager_ && hasAlpha,
-                          .generation = pictures_.generation(number)});
-    }
-    return layers;
-}
-
-// Damage that nobody can see stays untaken: the server does not repeat itself about it, so that a
-// film running beneath another window is silent until it comes into sight.
-QRegion DesktopModel::takeDamage(const LayerStack &layers) {
-    QRegion damage;
-    for (std::size_t i = 0; i < layers.layers().size(); ++i) {
-        const Layer &layer = layers.layers()[i];
-        const QRect pending = pictures_.pendingDamage(layer.window);
-        const auto *window = stack_.find(layer.window);
-        if (pending.isEmpty() || !window)
-            continue;
-        const QPoint inner = layer.origin + QPoint(window->border, window->border);
-        const QRegion seen = layers.visible(i).intersected(pending.translated(inner));
-        if (seen.isEmpty())
-            continue;
-        damage = united(damage, seen);
-        pictures_.takeDamage(layer.window);
-    }
-    return damage;
-}
-
-xcb_render_picture_t DesktopModel::picture(const Layer &layer) {
-    return layer.window == connection_.root() ? background_.picture()
-                                              : pictures_.picture(layer.window);
 }
 
 } // namespace x11

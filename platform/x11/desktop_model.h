@@ -7,19 +7,21 @@
 #include "platform/x11/connection.h"
 #include "platform/x11/layers.h"
 #include "platform/x11/picture_formats.h"
+#include "platform/x11/shown_screen.h"
 #include "platform/x11/window_owners.h"
 #include "platform/x11/window_pictures.h"
 #include "platform/x11/window_stack.h"
 
-#include <span>
+#include <optional>
+#include <unordered_map>
 #include <vector>
 
 namespace x11 {
 
-/// The desktop as the server's events tell it: which windows are on it, in which order, whose they
-/// are, and what was drawn in them. Made once; from then on `drain` keeps it true, and a desktop on
-/// which nothing happens costs no request. It redirects the root window's children into memory of
-/// their own for as long as it lives.
+/// The desktop as the server's events tell it: which windows are shown on it, in which order, whose
+/// they are, and what was drawn. Made once; from then on `drain` keeps it true, and a desktop on
+/// which nothing happens costs no request. Windows that are on the display without being shown
+/// (minimised, of another workspace, kept beneath a window manager's guard window) are not here.
 class DesktopModel {
 public:
     explicit DesktopModel(Connection &connection);
@@ -40,14 +42,38 @@ public:
     /// The windows on screen as `WindowServer::listWindows` describes them.
     const std::vector<WindowDescription> &windows();
 
-    /// The layers of these windows, front to back; unknown numbers are left out.
-    std::vector<Layer> layers(std::span<const std::uint32_t> numbers);
+    /// The layers of all windows that are shown, front to back, the background last. Valid until
+    /// the next `drain`.
+    const std::vector<Layer> &layers();
+    /// Whether they may have changed since they were last asked for.
+    bool layersChanged() const { return layersChanged_; }
 
-    /// What was drawn in visible parts of these layers and not yet taken; takes it.
-    QRegion takeDamage(const LayerStack &layers);
+    ShownScreen &screen() { return screen_; }
+    Background &background() { return background_; }
 
-    /// The picture of a layer, its upper left pixel at the layer's origin; 0 for black.
+    /// Whether somebody composes the screen from the windows' pictures, with effects of their own.
+    bool isComposited() const { return compositingManager_; }
+
+    /// Lets the server keep a window's pixels apart from the screen's, so that they can be had
+    /// where it is covered; and gives them back.
+    void redirect(std::uint32_t window);
+    void giveBack(std::uint32_t window) { pictures_.giveBack(window); }
+    bool isRedirected(std::uint32_t window) const { return pictures_.isRedirected(window); }
+
+    /// What was drawn in a redirected window and not yet taken, in desktop coordinates.
+    QRegion damage(const Layer &layer) const;
+    void takeDamage(const Layer &layer) { pictures_.takeDamage(layer.window); }
+    /// Where the picture of a redirected window may show what lay in front of it; likewise.
+    QRegion untrusted(const Layer &layer) const;
+
+    /// The picture of a layer, its upper left pixel at the layer's origin; 0 for black, and for a
+    /// window that is not redirected.
     xcb_render_picture_t picture(const Layer &layer);
+
+    /// The place to which a desktop lets the window fly when it is minimised; empty when unknown.
+    QRect iconPlace(std::uint32_t window) const;
+    /// Which of the windows on the display are ours or may not be shared; known after `layers`.
+    bool isPrivate(std::uint32_t window) const;
 
     const PictureFormats &formats() const { return formats_; }
 
@@ -58,13 +84,22 @@ private:
     bool handleStructure(const xcb_generic_event_t &event);
     void handleExtension(const xcb_generic_event_t &event);
     void onCreate(const xcb_create_notify_event_t &event);
-    void onConfigure(const xcb_configure_notify_event_t &event);
-    void onMapped(xcb_window_t window, bool mapped);
+    void onConfigure(const xcb_configure_notify_event_t &event, std::uint32_t sequence);
+    void onMapped(xcb_window_t window, bool mapped, std::uint32_t sequence);
+    void distrustBeneath(xcb_window_t window, std::uint32_t sequence);
     void onReparent(const xcb_reparent_notify_event_t &event);
     void onProperty(const xcb_property_notify_event_t &event);
     void remove(xcb_window_t window);
     void stackChanged();
     void readCompositingManager();
+    void readWorkspace();
+    bool isGuard(const StackedWindow &window);
+    bool isHidden(const StackedWindow &window) const;
+    QPoint innerCorner(const StackedWindow &window) const;
+    /// What of a window lies beneath others. Without its border, which the server draws by itself.
+    QRegion coveredPart(const StackedWindow &window) const;
+    QRegion cutToFrame(const StackedWindow &window, QRegion region) const;
+    Layer layerOf(const StackedWindow &window) const;
     std::vector<const StackedWindow *> shownFrontToBack();
     WindowDescription describe(const StackedWindow &window) const;
 
@@ -74,12 +109,17 @@ private:
     WindowPictures pictures_;
     WindowOwners owners_;
     Background background_;
+    ShownScreen screen_;
     QRect desktop_;
+    std::optional<std::uint32_t> workspace_;
+    std::unordered_map<xcb_window_t, bool> guards_; // input-only windows, and whether one is it
     bool compositingManager_ = false;
     bool changed_ = true;
     bool failures_ = false;
     bool listChanged_ = true;
+    bool layersChanged_ = true;
     std::vector<WindowDescription> windows_;
+    std::vector<Layer> layers_;
 };
 
 } // namespace x11

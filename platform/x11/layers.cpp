@@ -23,7 +23,8 @@ LayerStack::LayerStack(std::vector<Layer> frontToBack, const QRect &desktop)
 namespace {
 
 bool looksTheSame(const Layer &a, const Layer &b) {
-    return a.blended == b.blended && a.generation == b.generation && a.origin == b.origin;
+    return a.blended == b.blended && a.generation == b.generation && a.origin == b.origin &&
+           a.opacity == b.opacity;
 }
 
 // Among opaque layers an exchange of places changes what is visible of them. A blended one hides

@@ -25,6 +25,10 @@ struct Layer {
     bool raw = false;
     /// Another number whenever the window shows through another picture (mapped anew, resized).
     std::uint64_t generation = 0;
+    /// How opaque it is shown as a whole, 0xffff: fully. Less than that only where it is blended.
+    std::uint16_t opacity = 0xffff;
+    /// What of `region` is a shadow that the window draws itself.
+    QRegion shadow{};
 
     bool operator==(const Layer &) const = default;
 };

@@ -75,9 +75,59 @@ std::int32_t layerOf(const Atoms &atoms, std::span<const std::uint32_t> types,
     return onTop ? aboveLayer : 0;
 }
 
+/// Left, right, top, bottom, as these properties have it.
+std::optional<QMargins> marginsFrom(std::span<const std::uint32_t> values) {
+    constexpr std::uint32_t widest = 4096; // what goes beyond is nonsense
+    if (values.size() < 4 || std::ranges::any_of(values, [](auto v) { return v > widest; }))
+        return {};
+    const auto pixels = [values](std::size_t at) { return static_cast<int>(values[at]); };
+    return QMargins(pixels(0), pixels(2), pixels(1), pixels(3));
+}
+
+QRect rectFrom(std::span<const std::uint32_t> values) {
+    if (values.size() < 4)
+        return {};
+    const auto pixels = [values](std::size_t at) {
+        return static_cast<int>(static_cast<std::int16_t>(values[at]));
+    };
+    return {pixels(0), pixels(1), pixels(2), pixels(3)};
+}
+
+/// A window that is rolled up to its title bar counts as hidden for some window managers.
+bool isMinimised(const Atoms &atoms, std::span<const std::uint32_t> wmState,
+                 std::span<const std::uint32_t> states) {
+    constexpr std::uint32_t iconic = 3; // ICCCM 4.1.3.1
+    if (std::ranges::find(states, atoms.netWmStateShaded) != states.end())
+        return false;
+    return (!wmState.empty() && wmState.front() == iconic) ||
+           std::ranges::find(states, atoms.netWmStateHidden) != states.end();
+}
+
+void awaitAppearance(Connection &connection, const OwnerQuestion &question,
+                     std::span<const std::uint32_t> states, WindowOwner &owner) {
+    constexpr std::uint32_t allWorkspaces = 0xffffffff;
+    const auto wmState = words(await(connection, question.wmState));
+    const auto desktop = words(await(connection, question.desktop));
+    const auto opacity = words(await(connection, question.opacity));
+    owner.minimised = isMinimised(connection.atoms(), wmState, states);
+    if (!desktop.empty() && desktop.front() != allWorkspaces)
+        owner.workspace = desktop.front();
+    if (!opacity.empty())
+        owner.opacity = static_cast<std::uint16_t>(opacity.front() >> 16);
+    owner.frame = marginsFrom(words(await(connection, question.frame)));
+    owner.shadow = marginsFrom(words(await(connection, question.shadow))).value_or(QMargins());
+    owner.icon = rectFrom(words(await(connection, question.icon)));
+    if (!question.place)
+        return;
+    const auto size = connection.reply<xcb_get_geometry_reply>(question.place->size);
+    const auto corner = connection.reply<xcb_translate_coordinates_reply>(question.place->corner);
+    if (size && corner)
+        owner.client = QRect(corner->dst_x, corner->dst_y, size->width, size->height);
+}
+
 } // namespace
 
-OwnerQuestion askOwner(Connection &connection, xcb_window_t client) {
+OwnerQuestion askOwner(Connection &connection, xcb_window_t top, xcb_window_t client) {
     const Atoms &atoms = connection.atoms();
     OwnerQuestion question{};
     question.windowClass = ask(connection, client, XCB_ATOM_WM_CLASS, XCB_GET_PROPERTY_TYPE_ANY);
@@ -85,7 +135,16 @@ OwnerQuestion askOwner(Connection &connection, xcb_window_t client) {
     question.type = ask(connection, client, atoms.windowType, XCB_ATOM_ATOM);
     question.state = ask(connection, client, atoms.netWmState, XCB_ATOM_ATOM);
     question.sharing = ask(connection, client, atoms.sharing, XCB_ATOM_CARDINAL);
+    question.wmState = ask(connection, client, atoms.wmState, XCB_GET_PROPERTY_TYPE_ANY);
+    question.desktop = ask(connection, client, atoms.netWmDesktop, XCB_ATOM_CARDINAL);
+    question.opacity = ask(connection, client, atoms.windowOpacity, XCB_ATOM_CARDINAL);
+    question.frame = ask(connection, client, atoms.frameExtents, XCB_ATOM_CARDINAL);
+    question.shadow = ask(connection, client, atoms.gtkFrameExtents, XCB_ATOM_CARDINAL);
+    question.icon = ask(connection, client, atoms.iconGeometry, XCB_ATOM_CARDINAL);
     question.process = askProcess(connection, client);
+    if (client != top)
+        question.place = {.size = xcb_get_geometry(connection.get(), client),
+                          .corner = xcb_translate_coordinates(connection.get(), client, top, 0, 0)};
     return question;
 }
 
@@ -102,6 +161,7 @@ WindowOwner awaitOwner(Connection &connection, const OwnerQuestion &question, st
         owner.pid != 0
             ? owner.pid == ownPid
             : !claimedPid.empty() && claimedPid.front() == static_cast<std::uint32_t>(getpid());
+    owner.isOurs = isOurs;
     if (isOurs)
         owner.name = QStringLiteral("Tovarel");
     if (owner.pid == 0 && !claimedPid.empty())
@@ -109,13 +169,23 @@ WindowOwner awaitOwner(Connection &connection, const OwnerQuestion &question, st
     if (!sharing.empty() && sharing.front() == 0)
         owner.sharingState = 0;
     owner.layer = layerOf(connection.atoms(), types, states);
+    awaitAppearance(connection, question, states, owner);
     return owner;
 }
 
 bool tellsOfOwner(const Connection &connection, xcb_atom_t property) {
     const Atoms &atoms = connection.atoms();
-    const std::array relevant{xcb_atom_t{XCB_ATOM_WM_CLASS}, atoms.netWmPid, atoms.windowType,
-                              atoms.netWmState, atoms.sharing};
+    const std::array relevant{xcb_atom_t{XCB_ATOM_WM_CLASS},
+                              atoms.netWmPid,
+                              atoms.windowType,
+                              atoms.netWmState,
+                              atoms.sharing,
+                              atoms.wmState,
+                              atoms.netWmDesktop,
+                              atoms.windowOpacity,
+                              atoms.frameExtents,
+                              atoms.gtkFrameExtents,
+                              atoms.iconGeometry};
     return std::ranges::find(relevant, property) != relevant.end();
 }
 

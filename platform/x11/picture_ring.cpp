@@ -37,6 +37,7 @@ PictureRing::PictureRing(Connection &connection, const PictureFormats &formats, 
 void PictureRing::clear() {
     shared_.clear();
     reserve_ = {};
+    latest_ = nullptr;
 }
 
 void PictureRing::resize(QSize size) {
@@ -46,7 +47,14 @@ void PictureRing::resize(QSize size) {
     size_ = size;
 }
 
+void PictureRing::latestIsAs(const Turn &turn, const QRegion &where) {
+    if (latest_ && latest_ != &turn)
+        latest_->stale = latest_->stale.subtracted(where.subtracted(turn.stale));
+}
+
 void PictureRing::invalidate(const QRegion &changed) {
+    if (changed.isEmpty())
+        return;
     const auto add = [&changed](Turn &turn) {
         turn.stale = united(turn.stale, changed);
         if (turn.stale.rectCount() > mostRectangles)
@@ -70,7 +78,8 @@ PictureRing::Turn *PictureRing::next() {
         const auto free =
             std::ranges::find_if(shared_, [](const auto &turn) { return !turn.picture->isHeld(); });
         if (free != shared_.end()) {
-            reserve_ = {};
+            if (latest_ != &reserve_)
+                reserve_ = {};
             return &*free;
         }
         if (shared_.size() < mostShared)
@@ -89,6 +98,7 @@ std::optional<Image> PictureRing::handOut(Turn &turn, const QRect &part, Image::
     QImage pixels = &turn == &reserve_ ? copyOf(*turn.picture, part, *pool_) : turn.picture->view();
     if (pixels.isNull())
         return {};
+    latest_ = &turn;
     return Image::fromQImage(std::move(pixels), std::move(change));
 }
 

@@ -39,6 +39,13 @@ public:
 
     /// Gives up pictures of another size; new ones are stale everywhere.
     void resize(QSize size);
+    /// Whether the picture that was handed out last is out of date within `part`; true without one.
+    bool isStale(const QRect &part) const { return !latest_ || isStale(*latest_, part); }
+    static bool isStale(const Turn &turn, const QRect &part) {
+        return !turn.stale.intersected(part).isEmpty();
+    }
+    /// The one that was handed out last turns out to be like this one within `where`.
+    void latestIsAs(const Turn &turn, const QRegion &where);
     /// The desktop changed there.
     void invalidate(const QRegion &changed);
     /// Forgets what all pictures show.
@@ -50,6 +57,9 @@ public:
     /// A handle on what the picture shows within `part`; none when memory has run out. `change` is
     /// how it came out of what was handed out before.
     std::optional<Image> handOut(Turn &turn, const QRect &part, Image::Change change);
+
+    /// The picture that was handed out last, as it is since; null when it is gone.
+    Turn *latest() { return latest_; }
 
     /// How pixels come over; none before the first picture.
     std::optional<PixelRoad> road() const { return road_; }
@@ -64,6 +74,7 @@ private:
     QSize size_;
     std::vector<Turn> shared_;
     Turn reserve_;
+    Turn *latest_ = nullptr;
     std::shared_ptr<PixelPool> pool_ = PixelPool::create();
 };
 

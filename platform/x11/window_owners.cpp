@@ -65,6 +65,20 @@ void WindowOwners::forget(xcb_window_t window) {
     });
 }
 
+void WindowOwners::onResize(xcb_window_t window) {
+    if (const auto entry = entries_.find(window);
+        entry != entries_.end() && entry->second.client != window)
+        entry->second.known = false;
+}
+
+bool WindowOwners::onClientResize(xcb_window_t client) {
+    const auto top = topOfClient_.find(client);
+    if (top == topOfClient_.end() || top->second == client)
+        return false;
+    onResize(top->second);
+    return true;
+}
+
 void WindowOwners::settle(std::span<const std::uint32_t> windows) {
     std::vector<xcb_window_t> unknown;
     std::ranges::copy_if(windows, std::back_inserter(unknown),
@@ -135,13 +149,16 @@ std::vector<WindowOwners::Node> WindowOwners::searchLevel(const std::vector<Node
 }
 
 void WindowOwners::askOwners(const std::vector<xcb_window_t> &tops) {
-    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
     std::vector<OwnerQuestion> questions;
     questions.reserve(tops.size());
     for (const auto top : tops) {
         const auto client = entries_[top].client;
+        // What becomes of a child of the root is told by the root.
+        std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+        if (client != top)
+            mask |= XCB_EVENT_MASK_STRUCTURE_NOTIFY;
         xcb_change_window_attributes(connection_.get(), client, XCB_CW_EVENT_MASK, &mask);
-        questions.push_back(askOwner(connection_, client));
+        questions.push_back(askOwner(connection_, top, client));
     }
     for (std::size_t i = 0; i < tops.size(); ++i) {
         const auto found = entries_.find(tops[i]);

@@ -26,6 +26,10 @@ public:
     void onReparent(xcb_window_t window, xcb_window_t parent);
     /// True when an owner has to be asked for again.
     bool onProperty(const xcb_property_notify_event_t &event);
+    /// The window on the root has another size: its client has another place in it.
+    void onResize(xcb_window_t window);
+    /// A client has another size or place in its frame. True when an owner has to be asked again.
+    bool onClientResize(xcb_window_t client);
     /// The window is gone.
     void forget(xcb_window_t window);
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/window_pictures.h"
 
+#include "platform/regions.h"
+
 #include <xcb/composite.h>
 
 #include <algorithm>
@@ -9,6 +11,12 @@
 #include <utility>
 
 namespace x11 {
+
+namespace {
+
+constexpr int mostPieces = 64;
+
+} // namespace
 
 WindowPictures::WindowPictures(Connection &connection, const PictureFormats &formats)
     : connection_(connection), formats_(formats) {}
@@ -29,10 +37,6 @@ void WindowPictures::watch(xcb_window_t window) {
         return;
     Entry &entry = place->second;
     entry.generation = ++generations_;
-    entry.damage = connection_.newId();
-    // Boxes, not every rectangle: what a window reports while nobody asks stays bounded.
-    xcb_damage_create(connection_.get(), entry.damage, window,
-                      XCB_DAMAGE_REPORT_LEVEL_BOUNDING_BOX);
     xcb_shape_select_input(connection_.get(), window, 1);
     ask(window, true);
 }
@@ -66,6 +70,7 @@ void WindowPictures::answer(const Question &question) {
     if (attributes) {
         entry->known = true;
         entry->format = formats_.of(attributes->visual);
+        entry->inputOnly = attributes->_class == XCB_WINDOW_CLASS_INPUT_ONLY;
         entry->showable =
             attributes->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT && entry->format.id != 0;
     }
@@ -94,25 +99,65 @@ void WindowPictures::release(Entry &entry) {
 }
 
 void WindowPictures::forget(xcb_window_t window) {
-    if (Entry *entry = find(window)) {
-        release(*entry);
-        // A window that was only taken elsewhere keeps its damage object unless we end it.
-        xcb_damage_destroy(connection_.get(), entry->damage);
-        entries_.erase(window);
-    }
+    // A window that was only taken elsewhere stays redirected unless we end it.
+    giveBack(window);
+    entries_.erase(window);
 }
 
-void WindowPictures::renew(xcb_window_t window) {
-    if (Entry *entry = find(window)) {
-        release(*entry);
-        entry->failed = false;
-        entry->generation = ++generations_;
-    }
+void WindowPictures::renew(xcb_window_t window, const QRegion &covered, const QPoint &inner) {
+    Entry *entry = find(window);
+    if (!entry)
+        return;
+    release(*entry);
+    entry->failed = false;
+    entry->generation = ++generations_;
+    // What was drawn last may have been drawn into the new pixels, and is not told of again.
+    if (entry->redirected)
+        entry->untrusted = covered.translated(-inner).subtracted(entry->pending);
 }
 
-void WindowPictures::drop(xcb_window_t window) {
-    if (Entry *entry = find(window))
-        release(*entry);
+void WindowPictures::redirect(xcb_window_t window, const QRegion &covered, const QPoint &inner) {
+    Entry *entry = find(window);
+    if (!entry || entry->redirected)
+        return;
+    xcb_connection_t *c = connection_.get();
+    entry->redirected = true;
+    entry->untrusted = covered.translated(-inner);
+    entry->pending = QRegion();
+    entry->damage = connection_.newId();
+    xcb_damage_create(c, entry->damage, window, XCB_DAMAGE_REPORT_LEVEL_DELTA_RECTANGLES);
+    xcb_composite_redirect_window(c, window, XCB_COMPOSITE_REDIRECT_AUTOMATIC);
+    // The server itself draws while it redirects: that is not the client's content.
+    entry->since = xcb_damage_subtract(c, entry->damage, XCB_NONE, XCB_NONE).sequence;
+}
+
+bool WindowPictures::isRedirected(xcb_window_t window) const {
+    const Entry *entry = find(window);
+    return entry && entry->redirected;
+}
+
+void WindowPictures::giveBack(xcb_window_t window) {
+    Entry *entry = find(window);
+    if (!entry)
+        return;
+    release(*entry);
+    if (!std::exchange(entry->redirected, false))
+        return;
+    xcb_composite_unredirect_window(connection_.get(), window, XCB_COMPOSITE_REDIRECT_AUTOMATIC);
+    xcb_damage_destroy(connection_.get(), entry->damage);
+    entry->pending = entry->untrusted = QRegion();
+}
+
+void WindowPictures::distrust(xcb_window_t window, const QRegion &covered, const QPoint &inner,
+                              std::uint32_t sequence) {
+    Entry *entry = find(window);
+    if (entry && entry->redirected && sequence <= entry->since)
+        entry->untrusted = united(entry->untrusted, covered.translated(-inner));
+}
+
+QRegion WindowPictures::untrusted(xcb_window_t window, const QPoint &inner) const {
+    const Entry *entry = find(window);
+    return entry ? entry->untrusted.translated(inner) : QRegion();
 }
 
 bool WindowPictures::onShape(const xcb_shape_notify_event_t &event) {
@@ -122,11 +167,16 @@ bool WindowPictures::onShape(const xcb_shape_notify_event_t &event) {
     return true;
 }
 
-bool WindowPictures::onDamage(const xcb_damage_notify_event_t &event) {
+bool WindowPictures::onDamage(const xcb_damage_notify_event_t &event, std::uint32_t sequence) {
     Entry *entry = find(event.drawable);
-    if (!entry)
+    if (!entry || !entry->redirected || event.damage != entry->damage || sequence < entry->since)
         return false;
-    entry->pending |= QRect(event.area.x, event.area.y, event.area.width, event.area.height);
+    const QRect area(event.area.x, event.area.y, event.area.width, event.area.height);
+    entry->untrusted -= area;
+    entry->pending = united(entry->pending, area);
+    // Many pieces cost more than the box around them.
+    if (entry->pending.rectCount() > mostPieces)
+        entry->pending = entry->pending.boundingRect();
     return true;
 }
 
@@ -151,6 +201,11 @@ bool WindowPictures::isShowable(xcb_window_t window) const {
     return entry && entry->known && entry->showable && !entry->failed;
 }
 
+bool WindowPictures::takesInputOnly(xcb_window_t window) const {
+    const Entry *entry = find(window);
+    return entry && entry->inputOnly;
+}
+
 bool WindowPictures::hasAlpha(xcb_window_t window) const {
     const Entry *entry = find(window);
     return entry && entry->format.hasAlpha;
@@ -173,21 +228,22 @@ QRegion WindowPictures::region(xcb_window_t window, const QRect &outer, int bord
     return entry->shape->translated(outer.topLeft() + QPoint(border, border)).intersected(outer);
 }
 
-QRect WindowPictures::pendingDamage(xcb_window_t window) const {
+const QRegion &WindowPictures::damage(xcb_window_t window) const {
+    static const QRegion none;
     const Entry *entry = find(window);
-    return entry ? entry->pending : QRect();
+    return entry ? entry->pending : none;
 }
 
 void WindowPictures::takeDamage(xcb_window_t window) {
-    if (Entry *entry = find(window)) {
-        entry->pending = QRect();
+    if (Entry *entry = find(window); entry && !entry->pending.isEmpty()) {
         xcb_damage_subtract(connection_.get(), entry->damage, XCB_NONE, XCB_NONE);
+        entry->pending = QRegion();
     }
 }
 
 xcb_render_picture_t WindowPictures::picture(xcb_window_t window) {
     Entry *entry = find(window);
-    if (!entry || !entry->showable || entry->failed)
+    if (!entry || !entry->showable || entry->failed || !entry->redirected)
         return 0;
     if (entry->picture == 0) {
         entry->pixmap = connection_.newId();

@@ -17,12 +17,15 @@
 
 namespace x11 {
 
-/// What windows look like: their pixels as the server keeps them for redirected windows, their
-/// shapes, and what was drawn in them since it was last asked.
+/// What windows look like: their shapes, and for those that are asked for one by one the pixels
+/// that the server keeps of them, and what was drawn in them since that was last taken.
 ///
-/// A window's picture is named only when it is first needed, so that windows that are never shown
-/// (our own) cost nothing. A name is good for one size of one mapping: `renew` on either change. It
-/// may fail when the window vanishes meanwhile; the window then counts as gone until it is renewed.
+/// A window has pixels of its own only while it is redirected into memory of its own, which costs
+/// the server a copy of whatever is drawn in it. When that begins, the server fills in what the
+/// screen shows there, windows in front included: those parts are not to be trusted until somebody
+/// has drawn them anew. A window's picture is named only when it is first needed. A name is good
+/// for one size of one mapping: `renew` on either change. It may fail when the window vanishes
+/// meanwhile; the window then counts as gone until it is renewed.
 class WindowPictures {
 public:
     WindowPictures(Connection &connection, const PictureFormats &formats);
@@ -31,14 +34,26 @@ public:
     void watch(xcb_window_t window);
     /// The window is gone.
     void forget(xcb_window_t window);
-    /// The window was mapped or changed its size.
-    void renew(xcb_window_t window);
-    /// The window is no longer shown: gives its pixels back to the server.
-    void drop(xcb_window_t window);
+    /// The window was mapped or changed its size; from here on what is drawn in it counts. The
+    /// server has filled `covered` (desktop coordinates, as `inner`, the window's inner corner)
+    /// with what lies in front.
+    void renew(xcb_window_t window, const QRegion &covered, const QPoint &inner);
+
+    /// Lets the server keep the window's pixels apart. `covered` as above.
+    void redirect(xcb_window_t window, const QRegion &covered, const QPoint &inner);
+    bool isRedirected(xcb_window_t window) const;
+    /// Gives the window's pixels back to the screen.
+    void giveBack(xcb_window_t window);
+    /// More of the window turns out to have been covered when it was redirected, if the event that
+    /// tells so (its full sequence number) happened before the server did that.
+    void distrust(xcb_window_t window, const QRegion &covered, const QPoint &inner,
+                  std::uint32_t sequence);
+    /// What of the window's picture may show other windows; in desktop coordinates.
+    QRegion untrusted(xcb_window_t window, const QPoint &inner) const;
 
     /// Events and errors of the server. True when they change what is seen.
     bool onShape(const xcb_shape_notify_event_t &event);
-    bool onDamage(const xcb_damage_notify_event_t &event);
+    bool onDamage(const xcb_damage_notify_event_t &event, std::uint32_t sequence);
     bool onError(const xcb_generic_error_t &error); ///< true when some window could not be drawn
 
     /// Waits for what is still unknown of watched windows; costs nothing when all is known.
@@ -47,6 +62,7 @@ public:
     /// Whether the window can be seen at all: it is watched, takes output, and its picture did not
     /// fail. As of the last `settle`.
     bool isShowable(xcb_window_t window) const;
+    bool takesInputOnly(xcb_window_t window) const;
     bool hasAlpha(xcb_window_t window) const;
     bool isShaped(xcb_window_t window) const;
     /// Another number whenever the window shows another picture or another shape; 0 when it is not
@@ -55,9 +71,9 @@ public:
     /// What the window covers, in desktop coordinates; `outer` and `border` as in StackedWindow.
     QRegion region(xcb_window_t window, const QRect &outer, int border) const;
 
-    /// The box of all that was drawn and not yet taken, relative to the window's inner corner.
-    QRect pendingDamage(xcb_window_t window) const;
-    /// Takes it: from here on the server reports new drawing.
+    /// What was drawn in a redirected window and not yet taken, relative to its inner corner.
+    const QRegion &damage(xcb_window_t window) const;
+    /// Takes it: from here on the server tells of new drawing there.
     void takeDamage(xcb_window_t window);
 
     /// A render picture of the window, whose upper left pixel is its border's; 0 when there is
@@ -69,11 +85,15 @@ private:
         bool known = false; // the answers are here
         bool showable = false;
         bool failed = false;
+        bool inputOnly = false;
+        bool redirected = false;
         PictureFormats::Format format;
         std::optional<QRegion> shape; // relative to the window's inner corner
         std::uint64_t generation = 0;
         xcb_damage_damage_t damage = 0;
-        QRect pending;
+        QRegion pending; // relative to the inner corner, as the next one
+        QRegion untrusted;
+        std::uint32_t since = 0; // the request from which on reports of drawing count
         xcb_pixmap_t pixmap = 0;
         xcb_render_picture_t picture = 0;
         std::uint32_t naming = 0; // the request that named the pixmap

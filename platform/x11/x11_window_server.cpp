@@ -3,6 +3,8 @@
 #include "platform/x11/x11_window_server.h"
 
 #include "platform/regions.h"
+#include "platform/x11/surface.h"
+#include "platform/x11/tile_comparison.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
@@ -16,8 +18,8 @@ namespace {
 // How often events are taken in while nobody grabs, at most.
 constexpr std::chrono::milliseconds idlePause{500};
 
-// A grab is repeated when windows vanished in its midst, but not for ever on a restless desktop.
-constexpr int mostAttempts = 3;
+// A grab is repeated when windows moved in its midst, but not for ever on a restless desktop.
+constexpr int mostAttempts = 4;
 
 } // namespace
 
@@ -48,7 +50,7 @@ std::unique_ptr<X11WindowServer> X11WindowServer::create(const Options &options,
 
 X11WindowServer::X11WindowServer(std::unique_ptr<x11::Connection> connection,
                                  x11::PixelRoad bestRoad)
-    : connection_(std::move(connection)), model_(*connection_), composer_(*connection_, model_),
+    : connection_(std::move(connection)), model_(*connection_), underlay_(*connection_, model_),
       ring_(*connection_, model_.formats(), bestRoad) {
     watchWhileIdle();
 }
@@ -92,63 +94,87 @@ std::optional<Image> X11WindowServer::composite(std::span<const std::uint32_t> n
     if (connection_->broken())
         return {};
     const bool goesOn = picture_ && part == part_;
-    if (!model_.takeChanged() && goesOn && std::ranges::equal(numbers, numbers_))
+    const bool happened = model_.takeChanged();
+    const bool due = underlay_.isDue();
+    if (!happened && !due && goesOn && std::ranges::equal(numbers, numbers_))
         return picture_;
 
     numbers_.assign(numbers.begin(), numbers.end());
     part_ = part;
-    QRegion changed = findChanges();
     ring_.resize(model_.desktop().size());
-    ring_.invalidate(changed);
     const QRect wanted = part ? part->intersected(model_.desktop()) : model_.desktop();
-    if (goesOn && !changed.intersects(wanted))
+    follow(wanted, true);
+    ring_.invalidate(model_.screen().takeDamage(QRegion(wanted).subtracted(underlay_.place())));
+    if (goesOn && !ring_.isStale(wanted))
         return picture_;
-    const Image::Identity before = goesOn ? picture_->identity() : 0;
-    // Not held by us any more, it may be the one to be drawn on.
-    picture_.reset();
-    x11::PictureRing::Turn *turn = ring_.next();
-    if (!turn || !draw(*turn, wanted, changed))
+    x11::PictureRing::Turn *turn = underlay_.isReady() ? ring_.next() : nullptr;
+    QRegion drawn;
+    if (!turn || !draw(*turn, wanted, drawn))
         return giveUp();
-    picture_ = ring_.handOut(*turn, wanted, {before, std::move(changed)});
+    Image::Change change;
+    if (goesOn && picture_->size() == turn->picture->size()) {
+        const QImage before = picture_->toQImage();
+        change = {picture_->identity(),
+                  x11::differingTiles(turn->picture->pixels(),
+                                      reinterpret_cast<const std::uint32_t *>(before.constBits()),
+                                      before.size(), drawn)};
+        if (change.region.isEmpty()) {
+            ring_.latestIsAs(*turn, drawn);
+            return picture_;
+        }
+    }
+    picture_ = ring_.handOut(*turn, wanted, std::move(change));
     return picture_;
 }
 
-// Again when windows vanished in its midst; what changes besides is left to the next grab.
-bool X11WindowServer::draw(x11::PictureRing::Turn &turn, const QRect &part, QRegion &changed) {
-    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+// Brings the part that is not the screen as it is to the model's state, and tells where it changed.
+QRegion X11WindowServer::follow(const QRect &wanted, bool latestIsUntouched) {
+    x11::Underlay::Earlier earlier;
+    if (const auto *latest = latestIsUntouched ? ring_.latest() : nullptr)
+        earlier = {latest->picture->picture(), QRegion(model_.desktop()).subtracted(latest->stale)};
+    QRegion changed = underlay_.follow(numbers_, wanted, earlier);
+    ring_.invalidate(changed);
+    return changed;
+}
+
+// Windows go on being moved while they are drawn. One that came to be shown meanwhile may be in the
+// picture without having been asked for, and one that vanished may be missing: once more, then, and
+// the last time while nobody else can do anything.
+bool X11WindowServer::draw(x11::PictureRing::Turn &turn, const QRect &part, QRegion &drawn) {
+    for (int attempt = 1; attempt <= mostAttempts; ++attempt) {
+        const bool alone = attempt == mostAttempts;
+        if (alone) {
+            xcb_grab_server(connection_->get());
+            connection_->roundTrip();
+            model_.drain();
+            follow(part, &turn != ring_.latest());
+        }
         const QRegion stale = turn.stale.intersected(part);
-        // Windows go on being drawn in: whatever is composed anew may show more than was told of.
-        changed = united(changed, stale);
-        composer_.paint(turn.picture->picture(), layers_, stale);
+        drawn = united(drawn, stale);
+        x11::copyRegion(*connection_, model_.screen().picture(), turn.picture->picture(),
+                        stale.subtracted(underlay_.place()));
+        underlay_.paint(turn.picture->picture(), stale.intersected(underlay_.place()));
+        if (alone) {
+            // Before pixels are fetched, which may go by another connection.
+            xcb_ungrab_server(connection_->get());
+            connection_->roundTrip();
+        }
         if (!turn.picture->update(stale))
             return false;
         turn.stale -= stale;
         model_.drain();
-        if (!model_.takeFailures() || model_.desktop() != layers_.desktop())
-            return true;
-        const QRegion more = findChanges();
-        ring_.invalidate(more);
-        changed = united(changed, more);
+        const bool failed = model_.takeFailures();
+        if (alone || (!failed && !model_.layersChanged()) ||
+            model_.desktop().size() != turn.picture->size())
+            break;
+        if (!follow(part, &turn != ring_.latest()).intersects(part))
+            break;
     }
-    // Not all of it could be drawn: the next grab starts afresh.
-    if (turn.stale.intersects(part))
-        layers_ = {};
     return true;
 }
 
 std::optional<Image> X11WindowServer::giveUp() {
-    layers_ = {};
     ring_.clear();
+    picture_.reset();
     return {};
-}
-
-QRegion X11WindowServer::findChanges() {
-    QRegion changed;
-    auto layers = model_.layers(numbers_);
-    if (!std::ranges::equal(layers, layers_.layers()) || layers_.desktop() != model_.desktop()) {
-        x11::LayerStack after(std::move(layers), model_.desktop());
-        changed = x11::changedBetween(layers_, after);
-        layers_ = std::move(after);
-    }
-    return united(changed, model_.takeDamage(layers_));
 }

@@ -3,10 +3,10 @@
 #pragma once
 
 #include "platform/window_server.h"
-#include "platform/x11/composer.h"
 #include "platform/x11/connection.h"
 #include "platform/x11/desktop_model.h"
 #include "platform/x11/picture_ring.h"
+#include "platform/x11/underlay.h"
 
 #include <QObject>
 #include <QTimer>
@@ -20,10 +20,14 @@ class QSocketNotifier;
 /// The window server of an X11 display.
 ///
 /// Numbers are those of the root window's children (with a window manager: its frames), and the
-/// root window's own number for the desktop's background. Where a compositing manager runs, windows
-/// with an alpha channel are blended, without one they are shown raw: the screen does the same. Its
-/// effects (shadows, fading, opacity of whole windows) belong to no window and are not in the
-/// picture.
+/// root window's own number for the desktop's background. Windows that are on the display without
+/// being shown (minimised, of another workspace) are not among them.
+///
+/// The picture of all windows but some, in their order, is the screen as it is shown, effects and
+/// all, and only where those some are something else: what lies beneath them, as well as that can
+/// be had (see x11::Underlay). Any other list is composed from the windows' own pictures; where a
+/// compositing manager runs, windows with an alpha channel are blended then, without one they are
+/// shown raw.
 ///
 /// A window opts out of sharing by the property `_TOVAREL_SHARING` on the client window: type
 /// CARDINAL, format 32, one value, 0 = it may not be shared. Any other value, or none, shares it.
@@ -63,19 +67,18 @@ public:
 private:
     X11WindowServer(std::unique_ptr<x11::Connection> connection, x11::PixelRoad bestRoad);
 
-    bool draw(x11::PictureRing::Turn &turn, const QRect &part, QRegion &changed);
-    QRegion findChanges();
+    QRegion follow(const QRect &wanted, bool latestIsUntouched);
+    bool draw(x11::PictureRing::Turn &turn, const QRect &part, QRegion &drawn);
     std::optional<Image> giveUp();
     void watchWhileIdle();
 
     std::unique_ptr<x11::Connection> connection_;
     x11::DesktopModel model_;
-    x11::Composer composer_;
+    x11::Underlay underlay_;
     x11::PictureRing ring_;
 
     std::vector<std::uint32_t> numbers_; // what `picture_` shows
     std::optional<QRect> part_;          // and where
-    x11::LayerStack layers_;
     std::optional<Image> picture_;
 
     QTimer idle_;

@@ -150,6 +150,16 @@ void putWindow(x11::Connection &connection, xcb_window_t window, bool blend, QIm
 
 } // namespace
 
+QImage XClient::screen() {
+    const Pixels pixels(*connection_, root(),
+                        *visualOf(connection_->screen(), connection_->screen().root_visual));
+    QImage picture(pixels.size, QImage::Format_RGB32);
+    for (int y = 0; y < pixels.size.height(); ++y)
+        for (int x = 0; x < pixels.size.width(); ++x)
+            picture.setPixel(x, y, pixels.at(x, y));
+    return picture;
+}
+
 QImage XClient::reference(const std::set<xcb_window_t> &without) {
     QImage picture(desktop().size(), QImage::Format_RGB32);
     picture.fill(Qt::black);

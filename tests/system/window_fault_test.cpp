@@ -103,7 +103,9 @@ TEST_F(WindowFault, tenThousandEventsLeaveTheRightPictureAndNothingInTheServer) 
     const unsigned seed = seedOfThisRun(usualSeed);
     SCOPED_TRACE("TOVAREL_TEST_SEED=" + std::to_string(seed));
     std::mt19937 random(seed);
+    const auto withServer = clients().size();
     server.reset();
+    ASSERT_TRUE(eventually([&] { return clients().size() < withServer; }));
     const auto others = clients();
     auto obstacle = X11WindowServer::Obstacle::NoDisplay;
     server = X11WindowServer::create({}, obstacle);

@@ -155,34 +155,39 @@ TEST_F(WindowPicture, blendsAlphaWhereACompositingManagerRunsAndShowsItRawWhereN
     const auto upper = client.show({.place = {100, 100, 220, 150}, .alpha = true}, 3);
     EXPECT_TRUE(looksLikeReference());
     if (!realOne) {
+        // It composes nothing, so that only what is composed here is blended.
         client.actAsCompositingManager(true);
-        EXPECT_TRUE(looksLikeReference()) << "a compositing manager came";
     }
     EXPECT_TRUE(looksLikeReference({client.root()})) << "over nothing";
+    const std::set<xcb_window_t> hidden{realOne ? xcb_window_t{XCB_NONE} : client.root()};
     client.drawPattern(lower, {50, 50, 150, 150}, 4);
-    EXPECT_TRUE(looksLikeReference()) << "drawing beneath";
+    EXPECT_TRUE(looksLikeReference(hidden)) << "drawing beneath";
     client.restack(upper, XCB_STACK_MODE_BELOW, lower);
-    EXPECT_TRUE(looksLikeReference()) << "exchanged";
+    EXPECT_TRUE(looksLikeReference(hidden)) << "exchanged";
     client.setShape(lower, {{10, 10, 150, 80}});
-    EXPECT_TRUE(looksLikeReference()) << "with a shape";
+    EXPECT_TRUE(looksLikeReference(hidden)) << "with a shape";
     if (!realOne) {
         client.actAsCompositingManager(false);
         EXPECT_TRUE(looksLikeReference()) << "it went";
     }
 }
 
-TEST_F(WindowPicture, showsTheBackgroundThatWasSetAndBlackForOneThatIsGone) {
-    client.show({.place = {60, 40, 200, 100}}, 1);
-    EXPECT_TRUE(looksLikeReference());
+TEST_F(WindowPicture, showsTheBackgroundAlsoBeneathWindows) {
+    const auto top = client.show({.place = {60, 40, 200, 100}}, 1);
+    EXPECT_TRUE(looksLikeReference({top}));
     client.setBackgroundPixmap(true);
     EXPECT_TRUE(looksLikeReference());
+    EXPECT_TRUE(looksLikeReference({top}));
     EXPECT_TRUE(looksLikeReference({client.root()})) << "left out";
     client.setProperty(client.root(), "_XROOTPMAP_ID", XCB_ATOM_PIXMAP, {0x1234567});
-    EXPECT_TRUE(looksLikeReference()) << "a pixmap that does not exist";
+    EXPECT_TRUE(eventually([&] { return grab() == client.screen(); }))
+        << "a pixmap that does not exist";
     const auto window = client.create({});
     client.setProperty(client.root(), "_XROOTPMAP_ID", XCB_ATOM_PIXMAP, {window});
     client.sync();
-    EXPECT_TRUE(eventually([&] { return grab().pixel(5, 5) == 0xff000000; }));
+    EXPECT_TRUE(eventually([&] { return grab() == client.screen(); })) << "not a pixmap";
+    if (client.compositingManagerRuns())
+        return;
     client.setBackgroundPixmap(false);
     EXPECT_TRUE(looksLikeReference());
 }
@@ -295,10 +300,16 @@ TEST_P(WindowPictureByRoad, isRightAfterAnySequenceOfEvents) {
         if (random() % 2 == 0)
             expectTruthAboutChanges(*server, numbers(), unrest);
         std::set<xcb_window_t> without;
+        // One that composes nothing: only a picture that is composed here is blended.
+        if (!realOne && client.compositingManagerRuns())
+            without.insert(client.root());
         for (const auto number : numbers())
             if (random() % 5 == 0)
                 without.insert(number);
-        ASSERT_TRUE(looksLikeReference(without)) << "round " << round;
+        // A real one is not always right about shapes: what it shows is.
+        ASSERT_TRUE(realOne && !without.contains(client.root()) ? looksLikeScreen(without)
+                                                                : looksLikeReference(without))
+            << "round " << round;
     }
 }
 
@@ -320,5 +331,5 @@ TEST_P(WindowPictureByRoad, survivesWindowsThatVanishResizeAndHideThroughoutGrab
         EXPECT_EQ(grab().size(), client.desktop().size());
     go = false;
     vandal.join();
-    EXPECT_TRUE(looksLikeReference());
+    EXPECT_TRUE(client.compositingManagerRuns() ? looksLikeScreen() : looksLikeReference());
 }

@@ -19,11 +19,17 @@ protected:
     static constexpr std::chrono::seconds limit{10};
 
     explicit WindowServerFixture(x11::PixelRoad road = x11::PixelRoad::SharedPixmap) {
+        client.keepWindowsApart();
+        client.sync();
         auto obstacle = X11WindowServer::Obstacle::NoDisplay;
         server = X11WindowServer::create({.display = nullptr, .bestRoad = road}, obstacle);
     }
 
-    void SetUp() override { ASSERT_TRUE(server); }
+    void SetUp() override {
+        ASSERT_TRUE(server);
+        // A compositing manager may put grey where there is none.
+        client.setBackgroundPixmap(client.compositingManagerRuns());
+    }
 
     /// Whether the condition comes true within the limit.
     template <class Condition> static bool eventually(Condition condition) {
@@ -56,12 +62,46 @@ protected:
     testing::AssertionResult looksLikeReference(const std::set<xcb_window_t> &without = {}) {
         QImage expected, seen;
         const bool equal = eventually([&] {
-            expected = client.reference(without);
-            seen = grab(without);
+            // What was covered when our server came to look at it is not believed before.
+            grab(without);
+            client.redraw();
+            expected = asShown(client.reference(without));
+            seen = asShown(grab(without));
             return seen == expected;
         });
-        if (equal)
-            return testing::AssertionSuccess();
+        return equal ? testing::AssertionSuccess() : difference(seen, expected);
+    }
+
+    /// Whether the grab comes to equal the screen, but where those windows lie, with shadows.
+    testing::AssertionResult looksLikeScreen(const std::set<xcb_window_t> &without = {}) {
+        constexpr int widestShadow = 64;
+        QImage expected, seen;
+        const bool equal = eventually([&] {
+            QRegion beneath;
+            for (const auto &window : server->listWindows())
+                if (without.contains(window.number))
+                    beneath += window.bounds.toRect().adjusted(-widestShadow, -widestShadow,
+                                                               widestShadow, widestShadow);
+            seen = grab(without);
+            expected = client.screen();
+            for (const QRect &place : beneath.intersected(expected.rect()))
+                for (int y = place.top(); y <= place.bottom(); ++y)
+                    for (int x = place.left(); x <= place.right(); ++x)
+                        expected.setPixel(x, y, seen.pixel(x, y));
+            return seen == expected;
+        });
+        return equal ? testing::AssertionSuccess() : difference(seen, expected);
+    }
+
+    /// With no more colours than the screen has.
+    QImage asShown(const QImage &picture) {
+        constexpr int fewColours = 16; // bits
+        return client.depth() > fewColours ? picture
+                                           : picture.convertToFormat(QImage::Format_RGB16)
+                                                 .convertToFormat(QImage::Format_RGB32);
+    }
+
+    static testing::AssertionResult difference(const QImage &seen, const QImage &expected) {
         auto failure = testing::AssertionFailure();
         if (seen.size() != expected.size())
             return failure << "size " << seen.width() << "x" << seen.height();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/system/x_client.h"
 
+#include <xcb/composite.h>
 #include <xcb/randr.h>
 #include <xcb/shape.h>
 
@@ -209,15 +210,45 @@ void XClient::reparent(xcb_window_t window, xcb_window_t parent) {
 }
 
 void XClient::setBackgroundPixmap(bool present) {
+    const auto show = [this](std::uint32_t background) {
+        xcb_change_window_attributes(get(), root(), XCB_CW_BACK_PIXMAP, &background);
+        xcb_clear_area(get(), 0, root(), 0, 0, 0, 0);
+    };
     if (!present) {
         xcb_delete_property(get(), root(), connection_->atoms().rootPixmap);
+        const std::uint32_t black = connection_->screen().black_pixel;
+        xcb_change_window_attributes(get(), root(), XCB_CW_BACK_PIXEL, &black);
+        xcb_clear_area(get(), 0, root(), 0, 0, 0, 0);
         return;
     }
     // Smaller than the desktop: it is to be repeated.
     const QRect whole(0, 0, 150, 90);
     const auto background = pixmap(whole.size());
     drawPattern(background, whole, 77);
+    show(background);
     setProperty(root(), "_XROOTPMAP_ID", XCB_ATOM_PIXMAP, {background});
+}
+
+void XClient::keepWindowsApart() {
+    xcb_composite_redirect_subwindows(get(), root(), XCB_COMPOSITE_REDIRECT_AUTOMATIC);
+}
+
+void XClient::redraw() {
+    redraw(root());
+    sync();
+}
+
+void XClient::redraw(xcb_window_t window) {
+    const auto tree = connection_->reply<xcb_query_tree_reply>(xcb_query_tree(get(), window));
+    if (!tree)
+        return;
+    for (const auto child : std::span(xcb_query_tree_children(tree.get()), tree->children_len)) {
+        const auto size =
+            connection_->reply<xcb_get_geometry_reply>(xcb_get_geometry(get(), child));
+        if (size)
+            copy(child, child, {size->width, size->height});
+        redraw(child);
+    }
 }
 
 void XClient::actAsCompositingManager(bool active) {

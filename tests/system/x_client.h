@@ -30,6 +30,8 @@ public:
     xcb_connection_t *get() const { return connection_->get(); }
     xcb_window_t root() const { return connection_->root(); }
     QRect desktop();
+    /// Bits of a pixel of the screen.
+    int depth() const { return connection_->screen().root_depth; }
     /// To any size up to the one that the display started with.
     void resizeDesktop(const QSize &size);
 
@@ -65,7 +67,7 @@ public:
         setText(window, XCB_ATOM_WM_CLASS, both);
     }
     void reparent(xcb_window_t window, xcb_window_t parent);
-    /// Sets a background as desktops do. An empty rectangle of colours takes it away.
+    /// Sets a background as desktops do, on the screen and for those who ask; or takes it away.
     void setBackgroundPixmap(bool present);
     /// Owns or disowns the selection that tells of a compositing manager.
     void actAsCompositingManager(bool active);
@@ -76,12 +78,20 @@ public:
     /// Returns when the server has done all of the above.
     void sync() { connection_->roundTrip(); }
 
+    /// Lets the server keep all windows' pixels apart, as a compositing manager does.
+    void keepWindowsApart();
+    /// Every window draws itself anew, wherever it is covered, as before.
+    void redraw();
+    /// The screen as it is shown.
+    QImage screen();
+
     /// The desktop composed pixel by pixel from the pictures of all windows on it but `without`.
     /// Slow and obvious; needs somebody to have redirected the windows.
     QImage reference(const std::set<xcb_window_t> &without = {});
 
 private:
     xcb_visualid_t alphaVisual() const;
+    void redraw(xcb_window_t window);
 
     std::unique_ptr<x11::Connection> connection_;
     xcb_colormap_t alphaColors_ = 0;

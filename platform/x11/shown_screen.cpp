@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "platform/x11/shown_screen.h"
+
+#include "platform/regions.h"
+
+#include <xcb/xfixes.h>
+
+#include <vector>
+
+namespace x11 {
+
+namespace {
+
+// More pieces than this cost more than the box around them.
+constexpr int mostPieces = 64;
+
+} // namespace
+
+ShownScreen::ShownScreen(Connection &connection, const PictureFormats &formats)
+    : connection_(connection), picture_(connection.newId()), object_(connection.newId()) {
+    const std::uint32_t withWindows = XCB_SUBWINDOW_MODE_INCLUDE_INFERIORS;
+    xcb_render_create_picture(connection_.get(), picture_, connection_.root(),
+                              formats.of(connection_.screen().root_visual).id,
+                              XCB_RENDER_CP_SUBWINDOW_MODE, &withWindows);
+    // The rectangles that are new among those that were not taken: a place is told of once.
+    xcb_damage_create(connection_.get(), object_, connection_.root(),
+                      XCB_DAMAGE_REPORT_LEVEL_DELTA_RECTANGLES);
+}
+
+bool ShownScreen::onDamage(const xcb_damage_notify_event_t &event) {
+    if (event.damage != object_)
+        return false;
+    damage_ =
+        united(damage_, QRect(event.area.x, event.area.y, event.area.width, event.area.height));
+    if (damage_.rectCount() > mostPieces)
+        damage_ = damage_.boundingRect();
+    return true;
+}
+
+QRegion ShownScreen::takeDamage(const QRegion &where) {
+    QRegion taken = damage_.intersected(where);
+    if (taken.isEmpty())
+        return taken;
+    std::vector<xcb_rectangle_t> rectangles;
+    for (const auto &r : taken)
+        rectangles.push_back({static_cast<std::int16_t>(r.x()), static_cast<std::int16_t>(r.y()),
+                              static_cast<std::uint16_t>(r.width()),
+                              static_cast<std::uint16_t>(r.height())});
+    xcb_connection_t *c = connection_.get();
+    const xcb_xfixes_region_t region = connection_.newId();
+    xcb_xfixes_create_region(c, region, static_cast<std::uint32_t>(rectangles.size()),
+                             rectangles.data());
+    xcb_damage_subtract(c, object_, region, XCB_NONE);
+    xcb_xfixes_destroy_region(c, region);
+    damage_ -= taken;
+    return taken;
+}
+
+} // namespace x11

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/x11/connection.h"
+#include "platform/x11/picture_formats.h"
+
+#include <xcb/damage.h>
+
+#include <QRegion>
+
+namespace x11 {
+
+/// The screen as it is shown: the root window with all that lies in it, whoever drew it (windows, a
+/// compositing manager, a desktop's shell), and what was drawn there since it was last asked.
+class ShownScreen {
+public:
+    /// Reports of drawing arrive from here on.
+    ShownScreen(Connection &connection, const PictureFormats &formats);
+
+    /// False when the event is about something else.
+    bool onDamage(const xcb_damage_notify_event_t &event);
+
+    /// What was drawn and not yet taken, in desktop coordinates.
+    const QRegion &damage() const { return damage_; }
+
+    /// Takes what was drawn within `where`. What is left there is not told of again until it is
+    /// taken, so that drawing which nobody wants to see is silent.
+    QRegion takeDamage(const QRegion &where);
+
+    /// A render picture of the whole screen; remains ours.
+    xcb_render_picture_t picture() const { return picture_; }
+
+private:
+    Connection &connection_;
+    xcb_render_picture_t picture_;
+    xcb_damage_damage_t object_;
+    QRegion damage_;
+};
+
+} // namespace x11
