@@ -26,10 +26,11 @@ void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
     ui.groupDimension->setTitle(qtTrId("IDD_GROUP_SIZE"));
     ui.radioGIFOriginalDimension->setText(texts.s_IDD_RESOLUTION_EQUAL());
     ui.radioGIFCustomDimension->setText(texts.s_IDD_RESOLUTION_CUSTOM());
-    ui.labelWidth->setText(texts.s_IDD_WIDTH());
-    ui.labelHeight->setText(texts.s_IDD_HEIGHT());
-    ui.textGIFWidth->setAccessibleName(texts.s_IDD_WIDTH());
-    ui.textGIFHeigth->setAccessibleName(texts.s_IDD_HEIGHT());
+    for (const auto &[field, name] : {std::pair(ui.textGIFWidth, texts.s_IDD_WIDTH()),
+                                      {ui.textGIFHeigth, texts.s_IDD_HEIGHT()}}) {
+        field->setAccessibleName(name);
+        field->setToolTip(name);
+    }
     ui.checkGIFKeepAspectRatio->setText(texts.s_IDD_KEEP_ASPECT_RATIO());
     ui.groupFPS->setTitle(qtTrId("IDD_GROUP_RATE"));
     ui.radioGIFOriginalFPS->setText(texts.s_IDD_FPS_EQUAL());
@@ -41,6 +42,14 @@ void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
     ui.comboGIFQuality->setAccessibleName(qtTrId("IDD_QUALITY"));
     ui.comboGIFQuality->setToolTip(qtTrId("IDD_QUALITY_TIP"));
     ui.labelSpeed->setText(qtTrId("IDD_SPEED"));
+    ui.labelFitUnder->setText(qtTrId("IDD_FIT_UNDER"));
+    ui.comboFitUnder->setAccessibleName(qtTrId("IDD_FIT_UNDER"));
+    ui.comboFitUnder->lineEdit()->setAccessibleName(qtTrId("IDD_FIT_UNDER"));
+    ui.comboFitUnder->setToolTip(qtTrId("IDD_FIT_UNDER_TIP"));
+    for (const auto &[button, percent] : {std::pair(ui.btnGIFSize75, 75), {ui.btnGIFSize50, 50}}) {
+        button->setText(qtTrId("IDD_PERCENT").arg(percent));
+        button->setToolTip(qtTrId("IDD_PERCENT_TIP").arg(percent));
+    }
     ui.comboGIFSpeed->setAccessibleName(qtTrId("IDD_SPEED"));
     ui.labelWebPLoops->setText(qtTrId("IDD_WEBP_LOOPS"));
     ui.labelWebPLoopsHint->setText(qtTrId("IDD_WEBP_LOOPS_HINT"));

@@ -29,6 +29,33 @@ QString scaleFilter(const QString &width, const QString &height) {
            QStringLiteral(":flags=lanczos");
 }
 
+/// Repeats the last column and row of a picture with odd sides.
+QString evenSidesFilter(const QString &width, const QString &height) {
+    const auto missing = [](const QString &side) { return integerValue(side) % 2 == 0 ? 0 : 1; };
+    const QString right = QString::number(missing(width));
+    const QString bottom = QString::number(missing(height));
+    if (right == bottom && missing(width) == 0)
+        return {};
+    // Before colours are thinned out, so that the borders can be filled by single pixels.
+    return QStringLiteral(",format=yuv444p,pad=iw+") + right + QStringLiteral(":ih+") + bottom +
+           QStringLiteral(",fillborders=mode=smear:right=") + right + QStringLiteral(":bottom=") +
+           bottom;
+}
+
+/// The encoder's measure of how much a picture may differ: less is better and larger.
+int constantQuality(GifPreset preset) {
+    switch (preset) {
+    case GifPreset::Best:
+        return 14;
+    case GifPreset::Small:
+        return 26;
+    case GifPreset::Balanced:
+    case GifPreset::Classic:
+        break;
+    }
+    return 20;
+}
+
 /// The encoder's expression for the tick at which frame number N begins: rounded as `frame_timing`
 /// rounds it, in whole numbers that a double holds exactly.
 QString beginOfFrame(std::span<const frame_timing::TimedFrame> frames) {
@@ -58,6 +85,10 @@ QString gifFile(const QString &exportFolder) {
 
 QString webpFile(const QString &exportFolder) {
     return exportFolder + QStringLiteral("/output.webp");
+}
+
+QString mp4File(const QString &exportFolder) {
+    return exportFolder + QStringLiteral("/output.mp4");
 }
 
 QString scaledFile(const QString &exportFolder, std::uint64_t number) {
@@ -111,15 +142,67 @@ QStringList scalingArguments(const QString &exportFolder, const QString &width,
             pattern(exportFolder, QLatin1String("/scaled%d.png"))};
 }
 
+QStringList mp4Arguments(const QString &exportFolder,
+                         std::span<const frame_timing::TimedFrame> frames, const QString &width,
+                         const QString &height, GifPreset preset) {
+    const std::uint64_t ticks = std::max<std::uint64_t>(frame_timing::length(frames), 1);
+    const QString rate = QString::number(frames.size() * frame_timing::videoTicks.perSecond) +
+                         QLatin1Char('/') + QString::number(ticks);
+    return {QStringLiteral("-f"),
+            QStringLiteral("image2"),
+            QStringLiteral("-framerate"),
+            rate,
+            QStringLiteral("-i"),
+            inputPattern(exportFolder),
+            QStringLiteral("-vf"),
+            scaleFilter(width, height) + QStringLiteral(":out_color_matrix=bt709:out_range=tv") +
+                evenSidesFilter(width, height),
+            QStringLiteral("-c:v"),
+            QStringLiteral("libx264"),
+            QStringLiteral("-crf"),
+            QString::number(constantQuality(preset)),
+            QStringLiteral("-pix_fmt"),
+            QStringLiteral("yuv420p"),
+            QStringLiteral("-colorspace"),
+            QStringLiteral("bt709"),
+            QStringLiteral("-color_primaries"),
+            QStringLiteral("bt709"),
+            QStringLiteral("-color_trc"),
+            QStringLiteral("bt709"),
+            QStringLiteral("-color_range"),
+            QStringLiteral("tv"),
+            QStringLiteral("-movflags"),
+            QStringLiteral("+faststart"),
+            mp4File(exportFolder)};
+}
+
+std::optional<int> lossyQuality(GifPreset preset) {
+    switch (preset) {
+    case GifPreset::Best:
+        return std::nullopt;
+    case GifPreset::Balanced:
+        return 90;
+    case GifPreset::Small:
+    case GifPreset::Classic:
+        break;
+    }
+    return 75;
+}
+
 QStringList webpArguments(QStringView loopsText, std::span<const WebPFrame> frames,
-                          const QString &output) {
+                          const WebPCoding &coding, const QString &output) {
     using Limits = std::numeric_limits<std::int32_t>;
     const std::int64_t loops =
         std::clamp<std::int64_t>(integerValue(loopsText), Limits::min(), Limits::max());
-    QStringList arguments{QStringLiteral("-v"), QStringLiteral("-loop"), QString::number(loops)};
+    QStringList arguments{QStringLiteral("-v"),
+                          QStringLiteral("-loop"),
+                          QString::number(loops),
+                          coding.lossy ? QStringLiteral("-lossy") : QStringLiteral("-lossless"),
+                          QStringLiteral("-q"),
+                          QString::number(coding.quality)};
     std::uint64_t milliseconds = 0;
     for (const WebPFrame &frame : frames) {
-        // A duration holds until the next one, and a command line has an end.
+        // A duration holds until the next one.
         if (frame.milliseconds != milliseconds)
             arguments += {QStringLiteral("-d"), QString::number(frame.milliseconds)};
         milliseconds = frame.milliseconds;

@@ -3,11 +3,13 @@
 #pragma once
 
 #include "export/frame_timing.h"
+#include "export/gif_preset.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <cstdint>
+#include <optional>
 #include <span>
 
 /// The encoders' command lines and the names of the files that they hand to each other. Rules only:
@@ -28,6 +30,7 @@ QString videoFile(const QString &paletteFolder);
 QString paletteFile(const QString &paletteFolder);
 QString gifFile(const QString &exportFolder);
 QString webpFile(const QString &exportFolder);
+QString mp4File(const QString &exportFolder);
 /// The file of scaled frame `number`, which the WebP is made of where it has a size of its own.
 QString scaledFile(const QString &exportFolder, std::uint64_t number);
 
@@ -49,15 +52,33 @@ QStringList gifArguments(const QString &exportFolder, const QString &paletteFold
 QStringList scalingArguments(const QString &exportFolder, const QString &width,
                              const QString &height);
 
+/// The MP4 of the staged frames, which are shown equally long, as long together as `frames` say in
+/// `frame_timing::videoTicks`. H.264 in the colours that every player takes, which come in squares
+/// of two pixels: an odd size gets its last column or row twice. What players need first is written
+/// first. `width` and `height` are the user's texts.
+QStringList mp4Arguments(const QString &exportFolder,
+                         std::span<const frame_timing::TimedFrame> frames, const QString &width,
+                         const QString &height, GifPreset preset);
+
 /// A picture of the WebP and how long it is shown.
 struct WebPFrame {
     QString file;
     std::uint64_t milliseconds = 0;
 };
 
-/// The WebP. `loopsText` is the user's: text that does not begin with a number means 0, for ever.
-/// The encoder says on its error output which frames it has added.
+/// How the pictures of a WebP are coded.
+struct WebPCoding {
+    bool lossy = false;
+    int quality = 75; ///< 0 to 100; of a lossless coding how hard it is tried.
+};
+
+/// The qualities of a lossy WebP that a preset stands for; none where it must be exact.
+std::optional<int> lossyQuality(GifPreset preset);
+
+/// The WebP: arguments one after another, of which only the paths may hold blanks. `loopsText` is
+/// the user's: text that does not begin with a number means 0, for ever. The encoder says on its
+/// error output which frames it has added.
 QStringList webpArguments(QStringView loopsText, std::span<const WebPFrame> frames,
-                          const QString &output);
+                          const WebPCoding &coding, const QString &output);
 
 } // namespace encoder_arguments

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "export/fit_limit.h"
 #include "export/gif_preset.h"
 
 #include <QString>
@@ -19,4 +20,8 @@ struct ExportChoices {
     std::optional<double> rate = {};
     /// How many times as fast as it was recorded, above 0.
     double speed = 1.0;
+    /// Whether the size is one that the user chose, not the recording's.
+    bool customSize = false;
+    /// How large a GIF may be at most.
+    FitLimit limit = {};
 };

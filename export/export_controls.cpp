@@ -4,15 +4,19 @@
 #include "export/exporter.h"
 #include "shell/settings.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QRadioButton>
 
 namespace {
+
+constexpr double largeType = 1.3; // of the desktop's font
 
 /// Lets the export's shortcut reach the menu while a field has the focus: a line of text would take
 /// it for the end of the line, which has a key of its own.
@@ -37,7 +41,7 @@ private:
 } // namespace
 
 ExportOptions::ExportOptions(const ExportControls &controls, Exporter &exporter, QObject *parent)
-    : QObject(parent), ui_(controls), exporter_(exporter) {
+    : QObject(parent), ui_(controls), exporter_(exporter), estimator_(exporter, this) {
     listen();
 }
 
@@ -67,6 +71,7 @@ void ExportOptions::listen() {
             // own take this back.
             edit->setModified(true);
             updateGIFDimensionHint();
+            updateEstimate();
         });
     };
     field(ui_.textGIFWidth, &ExportOptions::OnGIFChangeWidth);
@@ -83,6 +88,20 @@ void ExportOptions::listen() {
     for (const double speed : frame_timing::speeds)
         ui_.comboGIFSpeed->addItem(QLocale().toString(speed) + QChar(u'×'), speed);
     ui_.comboGIFSpeed->setCurrentIndex(ui_.comboGIFSpeed->findData(1.0));
+    fillLimits();
+    ui_.labelGIFEstimate->installEventFilter(this);
+    connect(ui_.btnGIFSize75, &QAbstractButton::clicked, this, [this] { chooseShare(75); });
+    connect(ui_.btnGIFSize50, &QAbstractButton::clicked, this, [this] { chooseShare(50); });
+    QFont large = ui_.labelGIFEstimate->font();
+    large.setPointSizeF(large.pointSizeF() * largeType);
+    large.setBold(true);
+    ui_.labelGIFEstimate->setFont(large);
+    connect(&estimator_, &SizeEstimator::unknown, ui_.labelGIFEstimate, &QLabel::clear);
+    connect(&estimator_, &SizeEstimator::estimated, this, [this](quint64 bytes, bool isExact) {
+        const QString size =
+            QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
+        ui_.labelGIFEstimate->setText(isExact ? size : qtTrId("IDD_ABOUT_SIZE").arg(size));
+    });
     for (const QComboBox *list : {ui_.comboGIFFPS, ui_.comboGIFSpeed})
         connect(list, &QComboBox::currentIndexChanged, this, &ExportOptions::updateGIFSummary);
 }
@@ -93,6 +112,26 @@ void ExportOptions::fillQualities() {
         list.addItem(qtTrId(presetKey(preset)), QString::fromLatin1(presetWord(preset)));
     const GifPreset remembered = presetOfWord(settings::readGIFQuality());
     list.setCurrentIndex(list.findData(QString::fromLatin1(presetWord(remembered))));
-    connect(&list, &QComboBox::currentIndexChanged, this,
-            [&list] { settings::writeGIFQuality(list.currentData().toString()); });
+    connect(&list, &QComboBox::currentIndexChanged, this, [this, &list] {
+        settings::writeGIFQuality(list.currentData().toString());
+        updateEstimate();
+    });
+}
+
+bool ExportOptions::eventFilter(QObject *watched, QEvent *event) {
+    // It is on the screen as long as its tab is.
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
+        isShown_ = event->type() == QEvent::Show;
+        updateEstimate();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void ExportOptions::fillLimits() {
+    QComboBox &list = *ui_.comboFitUnder;
+    list.addItem(qtTrId("IDD_NO_LIMIT"));
+    for (const int limit : offeredLimits)
+        list.addItem(qtTrId("IDD_LIMIT_MB").arg(QLocale().toString(limit)), limit);
+    connect(&list, &QComboBox::editTextChanged, this, &ExportOptions::updateLimitHint);
+    updateLimitHint();
 }

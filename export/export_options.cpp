@@ -9,6 +9,7 @@
 #include "record/recorder.h"
 #include "shell/surroundings.h"
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -40,6 +41,10 @@ void ExportOptions::resetGIFOptions() {
                                  ui_.comboGIFFPS,
                                  ui_.labelQuality,
                                  ui_.comboGIFQuality,
+                                 ui_.labelFitUnder,
+                                 ui_.comboFitUnder,
+                                 ui_.btnGIFSize75,
+                                 ui_.btnGIFSize50,
                                  ui_.labelSpeed,
                                  ui_.comboGIFSpeed};
     for (QWidget *control : controls)
@@ -159,6 +164,36 @@ void ExportOptions::updateGIFDimensionHint() {
     ui_.labelDimensionHint->setVisible(!hint.isEmpty());
 }
 
+FitLimit ExportOptions::limit() const {
+    const QString text = ui_.comboFitUnder->currentText();
+    return text == qtTrId("IDD_NO_LIMIT") ? FitLimit() : fitLimitOf(text);
+}
+
+void ExportOptions::updateLimitHint() {
+    const QString hint = limit().isWrong ? qtTrId("IDD_LIMIT_NOT_NUMBER") : QString();
+    ui_.comboFitUnder->setAccessibleDescription(hint);
+    ui_.labelFitUnderHint->setText(hint);
+}
+
+void ExportOptions::chooseShare(int percent) {
+    const std::optional<QSize> size = exporter_.originalSize();
+    if (!size)
+        return;
+    const auto share = [percent](int side) {
+        return QString::number(std::max(1, (side * percent + 50) / 100));
+    };
+    ui_.radioGIFCustomDimension->setChecked(true);
+    write(*ui_.textGIFWidth, share(size->width()));
+    write(*ui_.textGIFHeigth, share(size->height()));
+}
+
+void ExportOptions::updateEstimate() {
+    if (isShown_ && isUsable_)
+        estimator_.request([this] { return chosen(); });
+    else
+        estimator_.stop();
+}
+
 ExportChoices ExportOptions::choices() {
     finishEditingGIFSize();
     return chosen();
@@ -169,7 +204,9 @@ ExportChoices ExportOptions::chosen() const {
                          .height = ui_.textGIFHeigth->text(),
                          .loops = ui_.txtWebPLoops->text(),
                          .preset = presetOfWord(ui_.comboGIFQuality->currentData().toString()),
-                         .speed = ui_.comboGIFSpeed->currentData().toDouble()};
+                         .speed = ui_.comboGIFSpeed->currentData().toDouble(),
+                         .customSize = ui_.radioGIFCustomDimension->isChecked(),
+                         .limit = limit()};
     if (ui_.radioGIFCustomFPS->isChecked())
         chosen.rate = ui_.comboGIFFPS->currentIndex() + static_cast<int>(lowestRate);
     return chosen;

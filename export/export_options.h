@@ -3,6 +3,7 @@
 #pragma once
 
 #include "export/export_choices.h"
+#include "export/size_estimator.h"
 
 #include <QObject>
 #include <QString>
@@ -33,6 +34,12 @@ struct ExportControls {
     QComboBox *comboGIFSpeed;
     QLabel *labelQuality;
     QComboBox *comboGIFQuality;
+    QLabel *labelFitUnder;
+    QComboBox *comboFitUnder;
+    QLabel *labelFitUnderHint;
+    QAbstractButton *btnGIFSize75;
+    QAbstractButton *btnGIFSize50;
+    QLabel *labelGIFEstimate;
     QLabel *labelGIFSummary;
     QLabel *labelGIFThinned;
     QLineEdit *txtWebPLoops;
@@ -54,6 +61,8 @@ public:
 
     /// What is chosen; edits that have not been acted upon yet are finished first.
     ExportChoices choices();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     /// Resets the options to the original size and rate, or disables them without a recording.
     void resetGIFOptions();
@@ -86,10 +95,20 @@ private:
     void updateWebPLoopsHint();
     /// Says what the file will hold: frames, seconds, and the rate that comes of it.
     void updateGIFSummary();
+    void fillLimits();
+    /// Says what is wrong with the limit that is typed, if anything.
+    void updateLimitHint();
+    FitLimit limit() const;
+    /// Chooses a size of that share of the recording's.
+    void chooseShare(int percent);
+    /// Counts anew how large the GIF will be, while its tab is shown.
+    void updateEstimate();
     /// Ratio that the typed size is tied to; none when it is free.
     std::optional<float> tiedAspectRatio() const;
 
     const ExportControls ui_;
     Exporter &exporter_;
+    SizeEstimator estimator_;
     bool isUsable_ = false;
+    bool isShown_ = false;
 };

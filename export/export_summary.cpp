@@ -48,6 +48,7 @@ QString problemText(LoopsTextProblem problem) {
 } // namespace
 
 void ExportOptions::updateGIFSummary() {
+    updateEstimate();
     ui_.labelGIFThinned->clear();
     ui_.labelGIFSummary->clear();
     if (!exporter_.surroundings().firstFrameFileExists() || ui_.comboGIFFPS->currentIndex() < 0)

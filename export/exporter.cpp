@@ -16,6 +16,9 @@ namespace {
 
 constexpr std::uint64_t fewestFrames = 3; // fewer are no moving picture
 
+// GIF89a, 18 (Logical Screen Descriptor): 16 bits each.
+constexpr int longestGIFSide = 65535; // pixels
+
 constexpr std::uint64_t partOfMemory = 2; // of what is free: half may be taken
 
 } // namespace
@@ -55,17 +58,25 @@ std::optional<QString> Exporter::refusal(const ExportChoices &choices) const {
     return sized ? std::nullopt : std::optional(surroundings_.texts.s_IDD_INVALID_DIMENSION());
 }
 
-std::optional<QString> Exporter::GIFSizeRefusal(const ExportChoices &choices) const {
+std::optional<QString> Exporter::sizeRefusal(const ExportChoices &choices, int longestSide) const {
     const struct {
         const QString &typed;
         const QString &name;
     } fields[] = {{choices.width, surroundings_.texts.s_IDD_WIDTH()},
                   {choices.height, surroundings_.texts.s_IDD_HEIGHT()}};
     for (const auto &[typed, name] : fields) {
-        const QString problem = sizeProblemText(sizeTextProblem(typed));
+        QString problem = sizeProblemText(sizeTextProblem(typed));
+        if (problem.isEmpty() && integerValue(typed) > longestSide)
+            problem = qtTrId("IDD_SIZE_ABOVE").arg(QLocale().toString(longestSide));
         if (!problem.isEmpty())
             return qtTrId("IDD_SIZE_HINT").arg(name, problem);
     }
+    return std::nullopt;
+}
+
+std::optional<QString> Exporter::GIFSizeRefusal(const ExportChoices &choices) const {
+    if (const std::optional<QString> reason = sizeRefusal(choices, longestGIFSide))
+        return reason;
     const std::optional<MemoryState> memory = recorder_.recording.memory();
     if (!memory)
         return std::nullopt;

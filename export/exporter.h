@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "export/encoder_arguments.h"
 #include "export/export_choices.h"
 #include "export/export_fields.h"
 #include "export/frame_timing.h"
@@ -15,11 +16,15 @@
 #include <optional>
 #include <span>
 
+class FitLadder;
+class FitSearch;
 class Recorder;
 class Surroundings;
 class TrimEditor;
+struct FittingGif;
 struct GifFileJob;
 struct GifFileResult;
+struct GifPlan;
 struct MadeGif;
 struct ToolExit;
 struct ToolRun;
@@ -58,6 +63,8 @@ public:
     void OnGIFExport();
     /// Likewise the WebP.
     void Generate_WebP();
+    /// Likewise the MP4.
+    void Generate_MP4();
     /// Ends the export that is under way: tool and encoder at once, the export itself when they
     /// have ended. Its files are removed, the recording stays.
     void cancelExport();
@@ -74,10 +81,17 @@ public:
     /// three frames, or a size field that does not begin with a number other than 0. None when one
     /// may.
     std::optional<QString> refusal(const ExportChoices &choices) const;
+    /// Why there is no file of the size that is typed, in the user's words: no plain number from 1
+    /// to `longestSide` pixels. None when there may be one.
+    std::optional<QString> sizeRefusal(const ExportChoices &choices, int longestSide) const;
     /// Why the program's own encoder makes no GIF of the size that is typed, in the user's words:
     /// no plain number from 1 to 65,535, or more memory than half of what is free. None when it
     /// does.
     std::optional<QString> GIFSizeRefusal(const ExportChoices &choices) const;
+
+    /// What the GIF's encoder would be given, and what there is to know of the size beforehand.
+    /// Nothing is written: the job has no file.
+    GifPlan planGIF(const ExportChoices &choices) const;
 
     // A finished file without a place -----------------------------------------------------------
 
@@ -98,9 +112,10 @@ public:
     ToolRun RunToolReadAllOutput(const QString &toolPath, const QStringList &arguments);
     /// Runs an encoder while events are processed and its error output moves the bar of the
     /// progress sheet. The sheet is closed when it returns, however the run ended, unless the run
-    /// only prepares the next one.
+    /// only prepares the next one. Paths in the arguments are relative to `workingFolder`.
     ToolExit RunToolWithProgress(const QString &toolPath, const QStringList &arguments,
-                                 ProgressType type = PROGRESS_TYPE_GIF);
+                                 ProgressType type = PROGRESS_TYPE_GIF,
+                                 const QString &workingFolder = {});
     /// The watched tool has written to its output: takes it and forgets it.
     void outData(QProcess &tool);
     /// A chunk of the watched tool's error output; empty at its end.
@@ -113,18 +128,40 @@ Q_SIGNALS:
     void unsavedResultChanged();
 
 private:
+    void generateGIF(bool mayLowerChosen);
+
     using Frames = std::span<const frame_timing::TimedFrame>;
 
     /// Makes the GIF with the program's own encoder, in threads of its own, while events are
     /// processed.
     MadeGif makeGIF(Frames frames, const ExportChoices &choices);
-    GifFileResult runEncoder(const GifFileJob &job);
+    /// Likewise so that it fits under the limit, whatever must be given up for that.
+    MadeGif makeFittingGIF(const ExportChoices &choices, bool mayLowerChosen);
+    /// Asks whether the rate and the size that the user chose may be lowered, and makes the GIF
+    /// if so.
+    void askToLower(const ExportChoices &choices);
+    /// Makes it with what is given up at each depth that the search asks for; the best that fits
+    /// stays. Whether the search came to its end.
+    bool search(FitSearch &search, const FitLadder &ladder, const ExportChoices &choices,
+                FittingGif &best);
+    GifFileResult runEncoder(GifFileJob &job);
+    GifFileJob jobFor(Frames frames, const ExportChoices &choices) const;
     /// Stages the frames and makes the GIF by three runs of `ffmpeg`.
     MadeGif makeClassicGIF(Frames frames, const ExportChoices &choices);
     /// The three runs and the look at their result: why there is no GIF, or none.
     std::optional<QString> runClassicEncoder(Frames frames, const ExportChoices &choices);
     /// Likewise for the WebP.
     std::optional<QString> encodeWebP(Frames frames, const ExportChoices &choices);
+    /// The coding that makes the smaller WebP, tried on some of the pictures.
+    encoder_arguments::WebPCoding
+    betterCoding(const ExportChoices &choices,
+                 std::span<const encoder_arguments::WebPFrame> pictures);
+    ToolExit runWebPEncoder(const ExportChoices &choices,
+                            std::span<const encoder_arguments::WebPFrame> pictures,
+                            const encoder_arguments::WebPCoding &coding, const QString &output,
+                            ProgressType type);
+    /// Likewise for the MP4.
+    std::optional<QString> encodeMP4(Frames frames, const ExportChoices &choices);
     /// Scales the frames, each once, into files of their own in the export folder.
     std::optional<QString> scaleForWebP(Frames frames, const ExportChoices &choices);
     /// Starts the tool and waits for its end while events are processed; why it was not started, or

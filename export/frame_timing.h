@@ -31,6 +31,9 @@ inline constexpr Ticks gifTicks{.perSecond = 100, .shortest = 2};
 /// WebP container, ANMF chunk: milliseconds. Browsers play 10 ms and less as 100 ms.
 inline constexpr Ticks webpTicks{.perSecond = 1000, .shortest = 11};
 
+/// A video: microseconds, and as many frames as were asked for.
+inline constexpr Ticks videoTicks{.perSecond = 1'000'000, .shortest = 1};
+
 /// Frames per second that such a file holds at most.
 constexpr std::uint64_t highestRate(Ticks ticks) { return ticks.perSecond / ticks.shortest; }
 

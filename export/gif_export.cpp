@@ -5,7 +5,8 @@
 #include "export/exporter.h"
 #include "export/frame_file_source.h"
 #include "export/frame_store_source.h"
-#include "export/gif_file.h"
+#include "export/gif_failure.h"
+#include "export/gif_plan.h"
 #include "export/made_gif.h"
 #include "export/save_request.h"
 #include "platform/text_number.h"
@@ -35,33 +36,41 @@ QString noteAbout(const MadeGif &made, std::size_t wanted) {
     return made.moves ? QString() : qtTrId("IDD_STATUS_STILL");
 }
 
-/// Gives the job the frames of the store, which is whole even where files are missing; else those
-/// of the files.
-void feed(GifFileJob &job, const std::optional<std::vector<Image>> &store, const QString &folder,
-          std::span<const TimedFrame> frames) {
-    const bool stored = store && std::ranges::all_of(frames, [&](const TimedFrame &each) {
-                            return each.source < store->size();
-                        });
-    if (stored) {
-        std::vector<FrameStoreSource::Shown> shown;
-        for (const TimedFrame &each : frames)
-            shown.push_back({(*store)[each.source], static_cast<std::int64_t>(each.delay)});
-        auto source = std::make_unique<FrameStoreSource>(std::move(shown));
-        job.sourceSize = source->size();
-        job.source = std::move(source);
-        return;
+/// The frames of the store, which is whole even where files are missing; none of them where it is
+/// not.
+std::vector<FrameStoreSource::Shown> storedFrames(const std::optional<std::vector<Image>> &store,
+                                                  std::span<const TimedFrame> frames) {
+    std::vector<FrameStoreSource::Shown> shown;
+    for (const TimedFrame &each : frames) {
+        if (!store || each.source >= store->size())
+            return {};
+        shown.push_back({(*store)[each.source], static_cast<std::int64_t>(each.delay)});
     }
+    return shown;
+}
+
+std::vector<FrameFileSource::Shown> frameFiles(const QString &folder,
+                                               std::span<const TimedFrame> frames) {
     std::vector<FrameFileSource::Shown> shown;
     for (const TimedFrame &each : frames)
         shown.push_back({working_folders::frameFile(folder, each.source),
                          static_cast<std::int64_t>(each.delay)});
-    auto source = std::make_unique<FrameFileSource>(std::move(shown));
-    job.sourceSize = source->size();
-    job.source = std::move(source);
+    return shown;
 }
 
-std::optional<QString> failureOf(const GifFileResult &result, const GifFileJob &job,
-                                 const QString &frames) {
+/// Pixels of the squares in which two frames differ; all of them where that is not known.
+double changedPixels(const Image &earlier, const Image &later) {
+    double pixels = 0;
+    const QRegion whole(QRect(QPoint(), later.size()));
+    for (const QRect &rect : later.changesSince(earlier).value_or(whole))
+        pixels += double(rect.width()) * rect.height();
+    return pixels;
+}
+
+} // namespace
+
+std::optional<QString> gifFailure(const GifFileResult &result, const GifFileJob &job,
+                                  const QString &frames) {
     if (result.outOfMemory)
         return qtTrId("IDD_GIF_NO_MEMORY");
     if (!result.writeError.isEmpty())
@@ -71,33 +80,45 @@ std::optional<QString> failureOf(const GifFileResult &result, const GifFileJob &
     return std::nullopt;
 }
 
-} // namespace
+void Exporter::OnGIFExport() { generateGIF(false); }
 
-void Exporter::OnGIFExport() {
+void Exporter::generateGIF(bool mayLowerChosen) {
     if (!mayExport())
         return;
     const ExportMark mark(exporting);
     const ExportChoices wanted = choices();
     std::optional<QString> reason = refusal(wanted);
-    // The other encoder judges sizes itself.
-    if (!reason && wanted.preset != GifPreset::Classic)
+    // The other encoder judges sizes itself, and knows no limit.
+    if (!reason && wanted.preset != GifPreset::Classic) {
         reason = GIFSizeRefusal(wanted);
+        if (!reason && wanted.limit.isWrong)
+            reason = qtTrId("IDD_LIMIT_NOT_NUMBER");
+    }
     if (reason) {
         surroundings_.alerts.run(AlertKind::Error, *reason);
         return;
     }
-    if (mustAskFirst([this] { OnGIFExport(); }))
+    if (mustAskFirst([this, mayLowerChosen] { generateGIF(mayLowerChosen); }))
         return;
     beginExport(qtTrId("IDD_PROGRESS_GIF"));
     working_folders::removeContent(surroundings_.shell.s_Pallete_Folder());
     working_folders::ensureFolder(surroundings_.shell.s_Pallete_Folder());
     const std::vector<TimedFrame> frames =
         frame_timing::timedFrames(timingRequest(wanted), frame_timing::gifTicks);
-    const MadeGif made = wanted.preset == GifPreset::Classic ? makeClassicGIF(frames, wanted)
-                                                             : makeGIF(frames, wanted);
+    MadeGif made;
+    if (wanted.preset == GifPreset::Classic)
+        made = makeClassicGIF(frames, wanted);
+    else if (wanted.limit.bytes)
+        made = makeFittingGIF(wanted, mayLowerChosen);
+    else
+        made = makeGIF(frames, wanted);
     if (endedWithoutResult(made.failure))
         return;
-    const QString note = noteAbout(made, frames.size());
+    if (made.needsLowering) {
+        askToLower(wanted);
+        return;
+    }
+    const QString note = made.fitNote.isEmpty() ? noteAbout(made, frames.size()) : made.fitNote;
     surroundings_.showStatus(note);
     saveResult({.file = encoder_arguments::gifFile(surroundings_.shell.s_Export_Folder()),
                 .panelTitle = QStringLiteral("Select a folder to save the GIF image"),
@@ -105,17 +126,54 @@ void Exporter::OnGIFExport() {
                 .note = note});
 }
 
-MadeGif Exporter::makeGIF(Frames frames, const ExportChoices &choices) {
+GifFileJob Exporter::jobFor(Frames frames, const ExportChoices &choices) const {
     GifFileJob job{.source = {},
                    .sourceSize = {},
                    .size = QSize(static_cast<int>(integerValue(choices.width)),
                                  static_cast<int>(integerValue(choices.height))),
                    .tolerance = presetTolerance(choices.preset),
-                   .file = encoder_arguments::gifFile(surroundings_.shell.s_Export_Folder())};
-    feed(job, recorder_.recording.array_Images, surroundings_.shell.s_Output_Folder(), frames);
+                   .file = {},
+                   .frames = frames.size()};
+    auto stored = storedFrames(recorder_.recording.array_Images, frames);
+    if (stored.empty()) {
+        auto source = std::make_unique<FrameFileSource>(
+            frameFiles(surroundings_.shell.s_Output_Folder(), frames));
+        job.sourceSize = source->size();
+        job.source = std::move(source);
+    } else {
+        auto source = std::make_unique<FrameStoreSource>(std::move(stored));
+        job.sourceSize = source->size();
+        job.source = std::move(source);
+    }
+    return job;
+}
+
+GifPlan Exporter::planGIF(const ExportChoices &choices) const {
+    const std::vector<TimedFrame> frames =
+        frame_timing::timedFrames(timingRequest(choices), frame_timing::gifTicks);
+    GifPlan plan{.job = jobFor(frames, choices), .changes = std::vector(frames.size(), 1.0)};
+    const auto &store = recorder_.recording.array_Images;
+    for (std::size_t at = 1; at < frames.size(); ++at)
+        if (store && std::max(frames[at].source, frames[at - 1].source) < store->size())
+            plan.changes[at] =
+                changedPixels((*store)[frames[at - 1].source], (*store)[frames[at].source]);
+    return plan;
+}
+
+MadeGif Exporter::makeGIF(Frames frames, const ExportChoices &choices) {
+    GifFileJob job = jobFor(frames, choices);
+    job.file = encoder_arguments::gifFile(surroundings_.shell.s_Export_Folder());
+    const GifFileResult result = runEncoder(job);
+    return {.failure = gifFailure(result, job, surroundings_.shell.s_Output_Folder()),
+            .frames = static_cast<std::uint64_t>(result.outcome.frames),
+            .moves = result.outcome.pictures > 1};
+}
+
+GifFileResult Exporter::runEncoder(GifFileJob &job) {
+    surroundings_.progress.setValue(0.0);
     double shown = 0;
-    const auto total = static_cast<double>(frames.size());
-    job.progress = [this, total, &shown](std::int64_t done) {
+    const auto total = static_cast<double>(job.frames);
+    job.progress = [this, total, &shown](std::int64_t done, std::uint64_t) {
         // The window has more to do than to follow a bar by less than it can show.
         const double share = std::floor(static_cast<double>(done) * barSteps / total);
         if (share <= shown)
@@ -125,13 +183,6 @@ MadeGif Exporter::makeGIF(Frames frames, const ExportChoices &choices) {
             this, [this, share] { surroundings_.progress.setValue(share * 100.0 / barSteps); },
             Qt::QueuedConnection);
     };
-    const GifFileResult result = runEncoder(job);
-    return {.failure = failureOf(result, job, surroundings_.shell.s_Output_Folder()),
-            .frames = static_cast<std::uint64_t>(result.outcome.frames),
-            .moves = result.outcome.pictures > 1};
-}
-
-GifFileResult Exporter::runEncoder(const GifFileJob &job) {
     exporting.encoderStop = std::stop_source();
     // Cancel may have been pressed while the sheet was being shown.
     if (exporting.exportCancelled())

@@ -29,11 +29,23 @@ constexpr std::uint64_t scaledBytesPerPixel = 4;
 constexpr std::uint64_t acrossBytesPerPixel = 36;
 constexpr double bandRows = 32 + 6;
 
-gif::Outcome encode(const GifFileJob &job, const gif::Sink &sink, const std::stop_token &stop) {
+gif::Outcome encode(const GifFileJob &job, const gif::Sink &takeBytes, const std::stop_token &stop,
+                    std::uint64_t &firstFrame) {
+    std::uint64_t bytes = 0;
+    const gif::Sink sink = [&takeBytes, &bytes](std::span<const std::uint8_t> more) {
+        bytes += more.size();
+        return takeBytes(more);
+    };
     gif::Options options{.width = job.size.width(), .height = job.size.height()};
     options.tolerance = job.tolerance;
     options.threads = gifThreads;
-    options.progress = job.progress;
+    options.sizeLimit = job.sizeLimit;
+    options.progress = [&job, &bytes, &firstFrame](std::int64_t frames) {
+        if (frames == 1)
+            firstFrame = bytes;
+        if (job.progress)
+            job.progress(frames, bytes);
+    };
     if (job.sourceSize.isEmpty())
         return {.end = gif::Outcome::End::NoFrames};
     if (job.size == job.sourceSize)
@@ -48,13 +60,16 @@ gif::Outcome encode(const GifFileJob &job, const gif::Sink &sink, const std::sto
 GifFileResult writeGifFile(const GifFileJob &job, const std::stop_token &stop) {
     GifFileResult result;
     QFile file(job.file);
+    const bool onlyCounts = job.file.isEmpty();
     // The encoder hands out whole pictures; a buffer in between would lose the reason of a failure.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered,
-                   QFile::ReadOwner | QFile::WriteOwner)) {
+    if (!onlyCounts && !file.open(QIODevice::WriteOnly | QIODevice::Unbuffered,
+                                  QFile::ReadOwner | QFile::WriteOwner)) {
         result.writeError = file.errorString();
         return result;
     }
-    const gif::Sink sink = [&file](std::span<const std::uint8_t> bytes) {
+    const gif::Sink sink = [&file, onlyCounts](std::span<const std::uint8_t> bytes) {
+        if (onlyCounts)
+            return true;
         // A full disk takes what still fits, and names the reason at the next attempt only.
         while (!bytes.empty()) {
             const qint64 written = file.write(reinterpret_cast<const char *>(bytes.data()),
@@ -66,13 +81,13 @@ GifFileResult writeGifFile(const GifFileJob &job, const std::stop_token &stop) {
         return true;
     };
     try {
-        result.outcome = encode(job, sink, stop);
+        result.outcome = encode(job, sink, stop, result.firstFrame);
     } catch (const std::bad_alloc &) {
         result.outOfMemory = true;
     }
     if (result.outcome.end == gif::Outcome::End::SinkFailed)
         result.writeError = file.errorString();
-    if (!result.isComplete())
+    if (!onlyCounts && !result.isComplete())
         file.remove();
     return result;
 }

@@ -28,3 +28,12 @@ std::uint64_t stageFrames(const QString &recordingFolder,
             ++staged;
     return staged;
 }
+
+std::span<const frame_timing::TimedFrame>
+framesUpToGap(const QString &recordingFolder, std::span<const frame_timing::TimedFrame> frames) {
+    std::size_t count = 0;
+    while (count < frames.size() &&
+           QFile::exists(working_folders::frameFile(recordingFolder, frames[count].source)))
+        ++count;
+    return frames.first(count);
+}

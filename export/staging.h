@@ -14,3 +14,7 @@
 /// cannot be staged is left out, the others keep their numbers. Returns how many were staged.
 std::uint64_t stageFrames(const QString &recordingFolder,
                           std::span<const frame_timing::TimedFrame> frames, const QString &folder);
+
+/// The frames up to the first one whose file is missing in the recording's folder.
+std::span<const frame_timing::TimedFrame>
+framesUpToGap(const QString &recordingFolder, std::span<const frame_timing::TimedFrame> frames);

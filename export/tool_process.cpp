@@ -8,8 +8,6 @@
 #include <sys/prctl.h>
 #include <unistd.h>
 
-#include <cerrno>
-
 namespace tool_process {
 
 void prepare(QProcess &process, const QString &toolPath, const QStringList &arguments) {
@@ -27,10 +25,7 @@ void prepare(QProcess &process, const QString &toolPath, const QStringList &argu
 
 ToolExit exitOf(const QProcess &process, QByteArrayView errorOutput) {
     if (process.error() == QProcess::FailedToStart) {
-        QString reason = process.errorString();
-        if (reason.contains(qt_error_string(E2BIG)))
-            reason = qtTrId("IDD_TOOL_TOO_MANY_FRAMES");
-        return {.kind = ToolExit::Kind::NotStarted, .reason = reason};
+        return {.kind = ToolExit::Kind::NotStarted, .reason = process.errorString()};
     }
     const bool crashed = process.exitStatus() == QProcess::CrashExit;
     return {.kind = crashed ? ToolExit::Kind::Crashed : ToolExit::Kind::Ended,

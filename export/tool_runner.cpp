@@ -32,11 +32,13 @@ ToolRun Exporter::RunToolReadAllOutput(const QString &toolPath, const QStringLis
 }
 
 ToolExit Exporter::RunToolWithProgress(const QString &toolPath, const QStringList &arguments,
-                                       ProgressType type) {
+                                       ProgressType type, const QString &workingFolder) {
     surroundings_.progress.setValue(0.0);
     exporting.setU_Type_Progress(type);
     exporting.toolErrors.clear();
     QProcess tool;
+    if (!workingFolder.isEmpty())
+        tool.setWorkingDirectory(workingFolder);
     connect(&tool, &QProcess::readyReadStandardOutput, this, [this, &tool] { outData(tool); });
     connect(&tool, &QProcess::readyReadStandardError, this,
             [this, &tool] { errData(tool.readAllStandardError()); });

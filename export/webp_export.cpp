@@ -12,27 +12,25 @@
 #include "shell/surroundings.h"
 #include "shell/working_folders.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QLocale>
 
+using encoder_arguments::WebPCoding;
+using encoder_arguments::WebPFrame;
 using frame_timing::TimedFrame;
 
 namespace {
 
+constexpr std::size_t sampled = 6; // pictures that show which coding is smaller
+
+// WebP container, VP8X: 24 bits each, but the picture itself has 14.
+constexpr int longestSide = 16383; // pixels
+
 const QString encoder = QStringLiteral("img2webp");
 const QString scaler = QStringLiteral("ffmpeg");
-
-/// The frames up to the first one whose file is missing.
-std::span<const TimedFrame> framesUpToGap(const QString &folder,
-                                          std::span<const TimedFrame> frames) {
-    std::size_t count = 0;
-    while (count < frames.size() &&
-           QFileInfo::exists(working_folders::frameFile(folder, frames[count].source)))
-        ++count;
-    return frames.first(count);
-}
 
 /// The frames without those that repeat the one before.
 std::vector<TimedFrame> withoutRepeats(std::span<const TimedFrame> frames) {
@@ -59,7 +57,10 @@ void Exporter::Generate_WebP() {
         return;
     const ExportMark mark(exporting);
     const ExportChoices asked = choices();
-    if (const std::optional<QString> reason = refusal(asked)) {
+    std::optional<QString> reason = refusal(asked);
+    if (!reason)
+        reason = sizeRefusal(asked, longestSide);
+    if (reason) {
         surroundings_.alerts.run(AlertKind::Error, *reason);
         return;
     }
@@ -96,7 +97,7 @@ std::optional<QString> Exporter::encodeWebP(Frames frames, const ExportChoices &
         if (const std::optional<QString> failure = scaleForWebP(frames, choices))
             return failure;
     }
-    std::vector<encoder_arguments::WebPFrame> pictures;
+    std::vector<WebPFrame> pictures;
     pictures.reserve(frames.size());
     std::uint64_t number = 0;
     for (std::size_t at = 0; at < frames.size(); ++at) {
@@ -112,14 +113,59 @@ std::optional<QString> Exporter::encodeWebP(Frames frames, const ExportChoices &
     const QString output = encoder_arguments::webpFile(surroundings_.shell.s_Export_Folder());
     exporting.setI_Orig_Duration_in_Seconds(
         frame_timing::beginOfLast(frames, frame_timing::webpTicks));
-    const ToolExit exit = RunToolWithProgress(
-        surroundings_.shell.simg2webpPath(),
-        encoder_arguments::webpArguments(choices.loops, pictures, output), PROGRESS_TYPE_WEBP);
+    const ToolExit exit = runWebPEncoder(choices, pictures, betterCoding(choices, pictures), output,
+                                         PROGRESS_TYPE_WEBP);
     if (!exit.succeeded())
         return toolFailureText(encoder, exit);
     if (QFileInfo(output).size() == 0)
         return noResultText(encoder, output, exit);
     return std::nullopt;
+}
+
+WebPCoding Exporter::betterCoding(const ExportChoices &choices,
+                                  std::span<const WebPFrame> pictures) {
+    const std::optional<int> quality = encoder_arguments::lossyQuality(choices.preset);
+    if (!quality)
+        return {};
+    // A few pictures in a row, so that what changes between them counts as it will.
+    const std::size_t from = (pictures.size() - std::min(pictures.size(), sampled)) / 2;
+    const auto sample = pictures.subspan(from, std::min(pictures.size() - from, sampled));
+    const QString file = surroundings_.shell.s_Export_Folder() + QStringLiteral("/sample.webp");
+    const auto bytesOf = [&](const WebPCoding &coding) {
+        const ToolExit exit =
+            runWebPEncoder(choices, sample, coding, file, PROGRESS_TYPE_PREPARATION);
+        const qint64 bytes = exit.succeeded() ? QFileInfo(file).size() : 0;
+        QFile::remove(file);
+        return bytes;
+    };
+    const WebPCoding lossy{.lossy = true, .quality = *quality};
+    const qint64 lossless = bytesOf({});
+    // Where even that fails, the run that counts says why.
+    return lossless > 0 && bytesOf(lossy) < lossless ? lossy : WebPCoding();
+}
+
+ToolExit Exporter::runWebPEncoder(const ExportChoices &choices, std::span<const WebPFrame> pictures,
+                                  const WebPCoding &coding, const QString &output,
+                                  ProgressType type) {
+    // The arguments go into a file, since a command line has an end. The encoder parts them at
+    // blanks, which the names of our folders have not; those above them may.
+    const QDir parent(QFileInfo(surroundings_.shell.s_Export_Folder()).path());
+    std::vector<WebPFrame> relative;
+    for (const WebPFrame &picture : pictures)
+        relative.push_back({parent.relativeFilePath(picture.file), picture.milliseconds});
+    const QString list = surroundings_.shell.s_Export_Folder() + QStringLiteral("/arguments.txt");
+    QFile file(list);
+    const QByteArray text = encoder_arguments::webpArguments(choices.loops, relative, coding,
+                                                             parent.relativeFilePath(output))
+                                .join(u'\n')
+                                .toUtf8();
+    if (!file.open(QIODevice::WriteOnly, QFile::ReadOwner | QFile::WriteOwner) ||
+        file.write(text) != text.size() || !file.flush())
+        return {.kind = ToolExit::Kind::NotStarted, .reason = file.errorString()};
+    const ToolExit exit =
+        RunToolWithProgress(surroundings_.shell.simg2webpPath(), {list}, type, parent.path());
+    file.remove();
+    return exit;
 }
 
 std::optional<QString> Exporter::scaleForWebP(Frames frames, const ExportChoices &choices) {

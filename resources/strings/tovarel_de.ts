@@ -419,10 +419,6 @@
         <source>The program “%1” could not be started: %2</source>
         <translation>Das Programm „%1“ konnte nicht gestartet werden: %2</translation>
     </message>
-    <message id="IDD_TOOL_TOO_MANY_FRAMES">
-        <source>The chosen range holds more frames than fit on one command line. Choose a shorter range.</source>
-        <translation>Der gewählte Abschnitt hat mehr Bilder, als auf eine Befehlszeile passen. Wählen Sie einen kürzeren Abschnitt.</translation>
-    </message>
     <message id="IDD_TOOL_CRASHED">
         <source>The program “%1” crashed (signal %2, %3).</source>
         <translation>Das Programm „%1“ ist abgestürzt (Signal %2, %3).</translation>
@@ -552,6 +548,90 @@ Sie bleibt unter %3.</translation>
     <message id="IDD_GIF_THINNED">
         <source>GIF: thinned to 50&#xa0;fps</source>
         <translation>GIF: auf 50&#xa0;fps verringert</translation>
+    </message>
+    <message id="IDD_FIT_UNDER">
+        <source>Fit under</source>
+        <translation>Höchstgröße</translation>
+    </message>
+    <message id="IDD_FIT_UNDER_TIP">
+        <source>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</source>
+        <translation>Höchste Dateigröße des GIF. Dafür werden zuerst genaue Farben, dann die Bildrate, dann die Größe verringert</translation>
+    </message>
+    <message id="IDD_NO_LIMIT">
+        <source>No limit</source>
+        <translation>Unbegrenzt</translation>
+    </message>
+    <message id="IDD_LIMIT_MB">
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message id="IDD_LIMIT_NOT_NUMBER">
+        <source>Type a file size in MB, such as 8, or choose “No limit”.</source>
+        <translation>Geben Sie eine Dateigröße in MB ein, zum Beispiel 8, oder wählen Sie „Unbegrenzt“.</translation>
+    </message>
+    <message id="IDD_FIT_IMPOSSIBLE">
+        <source>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</source>
+        <translation>Das GIF passt nicht unter %1: Das kleinste ist etwa %2 groß. Wählen Sie eine höhere Grenze oder behalten Sie weniger von der Aufnahme.</translation>
+    </message>
+    <message id="IDD_FIT_ASK">
+        <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
+        <translation>Für höchstens %1 muss die Bildrate oder die Größe, die Sie gewählt haben, verringert werden.</translation>
+    </message>
+    <message id="IDD_FIT_ASK_DETAIL">
+        <source>What you chose stays in the fields.</source>
+        <translation>Ihre Auswahl bleibt in den Feldern stehen.</translation>
+    </message>
+    <message id="IDD_FIT_KEEP">
+        <source>Don’t Generate</source>
+        <translation>Nicht erzeugen</translation>
+    </message>
+    <message id="IDD_FIT_LOWER">
+        <source>Lower</source>
+        <translation>Verringern</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED">
+        <source>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</source>
+        <translation>Für höchstens %1 hat es %2 × %3 Pixel und %4 Bilder pro Sekunde.</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_COLORS">
+        <source>To fit under %1, its colors are less exact.</source>
+        <translation>Für höchstens %1 sind die Farben weniger genau.</translation>
+    </message>
+    <message id="IDD_ABOUT_SIZE">
+        <source>About %1</source>
+        <translation>Etwa %1</translation>
+    </message>
+    <message id="IDD_PERCENT">
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message id="IDD_PERCENT_TIP">
+        <source>%1% of the recording’s width and height</source>
+        <translation>%1&#xa0;% der Breite und Höhe der Aufnahme</translation>
+    </message>
+    <message id="IDD_GENERATE_MP4">
+        <source>Generate MP4</source>
+        <translation>MP4 erzeugen</translation>
+    </message>
+    <message id="IDD_GENERATE_MP4_TIP">
+        <source>Generates an MP4 video with the size, frame rate and speed chosen here</source>
+        <translation>Erzeugt ein MP4-Video mit der hier gewählten Größe, Bildrate und Geschwindigkeit</translation>
+    </message>
+    <message id="IDD_PROGRESS_MP4">
+        <source>Making the MP4…</source>
+        <translation>Das MP4 wird erzeugt&#xa0;…</translation>
+    </message>
+    <message id="IDD_MP4_NO_ENCODER">
+        <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>
+        <translation>Diesem ffmpeg fehlt der H.264-Encoder (libx264), den ein MP4 braucht. Installieren Sie ein ffmpeg, das ihn hat, oder erzeugen Sie ein GIF oder WebP.</translation>
+    </message>
+    <message id="IDD_STATUS_MP4_GAP">
+        <source>The MP4 holds %1 of %2 frames: the next one was missing.</source>
+        <translation>Das MP4 enthält %1 von %2 Bildern: Das nächste fehlte.</translation>
+    </message>
+    <message id="IDD_SIZE_ABOVE">
+        <source>%1 pixels at most</source>
+        <translation>höchstens %1 Pixel</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>

@@ -419,10 +419,6 @@
         <source>The program “%1” could not be started: %2</source>
         <translation>The program “%1” could not be started: %2</translation>
     </message>
-    <message id="IDD_TOOL_TOO_MANY_FRAMES">
-        <source>The chosen range holds more frames than fit on one command line. Choose a shorter range.</source>
-        <translation>The chosen range holds more frames than fit on one command line. Choose a shorter range.</translation>
-    </message>
     <message id="IDD_TOOL_CRASHED">
         <source>The program “%1” crashed (signal %2, %3).</source>
         <translation>The program “%1” crashed (signal %2, %3).</translation>
@@ -552,6 +548,90 @@ It remains at %3.</translation>
     <message id="IDD_GIF_THINNED">
         <source>GIF: thinned to 50&#xa0;fps</source>
         <translation>GIF: thinned to 50&#xa0;fps</translation>
+    </message>
+    <message id="IDD_FIT_UNDER">
+        <source>Fit under</source>
+        <translation>Fit under</translation>
+    </message>
+    <message id="IDD_FIT_UNDER_TIP">
+        <source>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</source>
+        <translation>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</translation>
+    </message>
+    <message id="IDD_NO_LIMIT">
+        <source>No limit</source>
+        <translation>No limit</translation>
+    </message>
+    <message id="IDD_LIMIT_MB">
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message id="IDD_LIMIT_NOT_NUMBER">
+        <source>Type a file size in MB, such as 8, or choose “No limit”.</source>
+        <translation>Type a file size in MB, such as 8, or choose “No limit”.</translation>
+    </message>
+    <message id="IDD_FIT_IMPOSSIBLE">
+        <source>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</source>
+        <translation>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</translation>
+    </message>
+    <message id="IDD_FIT_ASK">
+        <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
+        <translation>To fit under %1, the frame rate or the size that you chose must be lowered.</translation>
+    </message>
+    <message id="IDD_FIT_ASK_DETAIL">
+        <source>What you chose stays in the fields.</source>
+        <translation>What you chose stays in the fields.</translation>
+    </message>
+    <message id="IDD_FIT_KEEP">
+        <source>Don’t Generate</source>
+        <translation>Don’t Generate</translation>
+    </message>
+    <message id="IDD_FIT_LOWER">
+        <source>Lower</source>
+        <translation>Lower</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED">
+        <source>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</source>
+        <translation>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_COLORS">
+        <source>To fit under %1, its colors are less exact.</source>
+        <translation>To fit under %1, its colors are less exact.</translation>
+    </message>
+    <message id="IDD_ABOUT_SIZE">
+        <source>About %1</source>
+        <translation>About %1</translation>
+    </message>
+    <message id="IDD_PERCENT">
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message id="IDD_PERCENT_TIP">
+        <source>%1% of the recording’s width and height</source>
+        <translation>%1% of the recording’s width and height</translation>
+    </message>
+    <message id="IDD_GENERATE_MP4">
+        <source>Generate MP4</source>
+        <translation>Generate MP4</translation>
+    </message>
+    <message id="IDD_GENERATE_MP4_TIP">
+        <source>Generates an MP4 video with the size, frame rate and speed chosen here</source>
+        <translation>Generates an MP4 video with the size, frame rate and speed chosen here</translation>
+    </message>
+    <message id="IDD_PROGRESS_MP4">
+        <source>Making the MP4…</source>
+        <translation>Making the MP4…</translation>
+    </message>
+    <message id="IDD_MP4_NO_ENCODER">
+        <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>
+        <translation>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</translation>
+    </message>
+    <message id="IDD_STATUS_MP4_GAP">
+        <source>The MP4 holds %1 of %2 frames: the next one was missing.</source>
+        <translation>The MP4 holds %1 of %2 frames: the next one was missing.</translation>
+    </message>
+    <message id="IDD_SIZE_ABOVE">
+        <source>%1 pixels at most</source>
+        <translation>%1 pixels at most</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>

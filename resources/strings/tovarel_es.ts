@@ -419,10 +419,6 @@
         <source>The program “%1” could not be started: %2</source>
         <translation>No se pudo iniciar el programa «%1»: %2</translation>
     </message>
-    <message id="IDD_TOOL_TOO_MANY_FRAMES">
-        <source>The chosen range holds more frames than fit on one command line. Choose a shorter range.</source>
-        <translation>El intervalo elegido tiene más fotogramas de los que caben en una línea de órdenes. Elija un intervalo más corto.</translation>
-    </message>
     <message id="IDD_TOOL_CRASHED">
         <source>The program “%1” crashed (signal %2, %3).</source>
         <translation>El programa «%1» se cerró de forma inesperada (señal %2, %3).</translation>
@@ -552,6 +548,90 @@ Sigue en %3.</translation>
     <message id="IDD_GIF_THINNED">
         <source>GIF: thinned to 50&#xa0;fps</source>
         <translation>GIF: se reduce a 50&#xa0;fps</translation>
+    </message>
+    <message id="IDD_FIT_UNDER">
+        <source>Fit under</source>
+        <translation>Tamaño máximo</translation>
+    </message>
+    <message id="IDD_FIT_UNDER_TIP">
+        <source>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</source>
+        <translation>Tamaño máximo del archivo GIF. Para no superarlo se reducen primero la exactitud de los colores, luego la frecuencia de fotogramas y luego el tamaño</translation>
+    </message>
+    <message id="IDD_NO_LIMIT">
+        <source>No limit</source>
+        <translation>Sin límite</translation>
+    </message>
+    <message id="IDD_LIMIT_MB">
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message id="IDD_LIMIT_NOT_NUMBER">
+        <source>Type a file size in MB, such as 8, or choose “No limit”.</source>
+        <translation>Escriba un tamaño de archivo en MB, por ejemplo 8, o elija «Sin límite».</translation>
+    </message>
+    <message id="IDD_FIT_IMPOSSIBLE">
+        <source>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</source>
+        <translation>El GIF no cabe en %1: el más pequeño ocupa aproximadamente %2. Elija un límite mayor o conserve menos de la grabación.</translation>
+    </message>
+    <message id="IDD_FIT_ASK">
+        <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
+        <translation>Para caber en %1 hay que reducir la frecuencia de fotogramas o el tamaño que eligió.</translation>
+    </message>
+    <message id="IDD_FIT_ASK_DETAIL">
+        <source>What you chose stays in the fields.</source>
+        <translation>Lo que eligió permanece en los campos.</translation>
+    </message>
+    <message id="IDD_FIT_KEEP">
+        <source>Don’t Generate</source>
+        <translation>No crear</translation>
+    </message>
+    <message id="IDD_FIT_LOWER">
+        <source>Lower</source>
+        <translation>Reducir</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED">
+        <source>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</source>
+        <translation>Para caber en %1 tiene %2 × %3 píxeles y %4 fotogramas por segundo.</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_COLORS">
+        <source>To fit under %1, its colors are less exact.</source>
+        <translation>Para caber en %1, sus colores son menos exactos.</translation>
+    </message>
+    <message id="IDD_ABOUT_SIZE">
+        <source>About %1</source>
+        <translation>Aproximadamente %1</translation>
+    </message>
+    <message id="IDD_PERCENT">
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message id="IDD_PERCENT_TIP">
+        <source>%1% of the recording’s width and height</source>
+        <translation>%1&#xa0;% del ancho y el alto de la grabación</translation>
+    </message>
+    <message id="IDD_GENERATE_MP4">
+        <source>Generate MP4</source>
+        <translation>Crear MP4</translation>
+    </message>
+    <message id="IDD_GENERATE_MP4_TIP">
+        <source>Generates an MP4 video with the size, frame rate and speed chosen here</source>
+        <translation>Crea un vídeo MP4 con el tamaño, la frecuencia de fotogramas y la velocidad elegidos aquí</translation>
+    </message>
+    <message id="IDD_PROGRESS_MP4">
+        <source>Making the MP4…</source>
+        <translation>Creando el MP4…</translation>
+    </message>
+    <message id="IDD_MP4_NO_ENCODER">
+        <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>
+        <translation>Este ffmpeg no tiene el codificador H.264 (libx264) que necesita un MP4. Instale un ffmpeg que lo tenga, o cree un GIF o un WebP.</translation>
+    </message>
+    <message id="IDD_STATUS_MP4_GAP">
+        <source>The MP4 holds %1 of %2 frames: the next one was missing.</source>
+        <translation>El MP4 contiene %1 de %2 fotogramas: faltaba el siguiente.</translation>
+    </message>
+    <message id="IDD_SIZE_ABOVE">
+        <source>%1 pixels at most</source>
+        <translation>%1 píxeles como máximo</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>

@@ -419,10 +419,6 @@
         <source>The program “%1” could not be started: %2</source>
         <translation>Le programme « %1 » n’a pas pu être lancé : %2</translation>
     </message>
-    <message id="IDD_TOOL_TOO_MANY_FRAMES">
-        <source>The chosen range holds more frames than fit on one command line. Choose a shorter range.</source>
-        <translation>La plage choisie contient plus d’images que n’en accepte une ligne de commande. Choisissez une plage plus courte.</translation>
-    </message>
     <message id="IDD_TOOL_CRASHED">
         <source>The program “%1” crashed (signal %2, %3).</source>
         <translation>Le programme « %1 » s’est arrêté brutalement (signal %2, %3).</translation>
@@ -552,6 +548,90 @@ Il reste à l’emplacement %3.</translation>
     <message id="IDD_GIF_THINNED">
         <source>GIF: thinned to 50&#xa0;fps</source>
         <translation>GIF&#xa0;: réduit à 50&#xa0;i/s</translation>
+    </message>
+    <message id="IDD_FIT_UNDER">
+        <source>Fit under</source>
+        <translation>Taille maximale</translation>
+    </message>
+    <message id="IDD_FIT_UNDER_TIP">
+        <source>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</source>
+        <translation>Taille maximale du fichier GIF. Pour ne pas la dépasser, on réduit d’abord l’exactitude des couleurs, puis la fréquence d’images, puis la taille</translation>
+    </message>
+    <message id="IDD_NO_LIMIT">
+        <source>No limit</source>
+        <translation>Sans limite</translation>
+    </message>
+    <message id="IDD_LIMIT_MB">
+        <source>%1 MB</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message id="IDD_LIMIT_NOT_NUMBER">
+        <source>Type a file size in MB, such as 8, or choose “No limit”.</source>
+        <translation>Saisissez une taille de fichier en Mo, par exemple 8, ou choisissez « Sans limite ».</translation>
+    </message>
+    <message id="IDD_FIT_IMPOSSIBLE">
+        <source>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</source>
+        <translation>Le GIF ne tient pas dans %1 : le plus petit fait environ %2. Choisissez une limite plus élevée ou conservez une partie plus courte de l’enregistrement.</translation>
+    </message>
+    <message id="IDD_FIT_ASK">
+        <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
+        <translation>Pour tenir dans %1, il faut réduire la fréquence d’images ou la taille que vous avez choisie.</translation>
+    </message>
+    <message id="IDD_FIT_ASK_DETAIL">
+        <source>What you chose stays in the fields.</source>
+        <translation>Votre choix reste dans les champs.</translation>
+    </message>
+    <message id="IDD_FIT_KEEP">
+        <source>Don’t Generate</source>
+        <translation>Ne pas créer</translation>
+    </message>
+    <message id="IDD_FIT_LOWER">
+        <source>Lower</source>
+        <translation>Réduire</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED">
+        <source>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</source>
+        <translation>Pour tenir dans %1, il fait %2 × %3 pixels à %4 images par seconde.</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_COLORS">
+        <source>To fit under %1, its colors are less exact.</source>
+        <translation>Pour tenir dans %1, ses couleurs sont moins exactes.</translation>
+    </message>
+    <message id="IDD_ABOUT_SIZE">
+        <source>About %1</source>
+        <translation>Environ %1</translation>
+    </message>
+    <message id="IDD_PERCENT">
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message id="IDD_PERCENT_TIP">
+        <source>%1% of the recording’s width and height</source>
+        <translation>%1&#xa0;% de la largeur et de la hauteur de l’enregistrement</translation>
+    </message>
+    <message id="IDD_GENERATE_MP4">
+        <source>Generate MP4</source>
+        <translation>Créer le MP4</translation>
+    </message>
+    <message id="IDD_GENERATE_MP4_TIP">
+        <source>Generates an MP4 video with the size, frame rate and speed chosen here</source>
+        <translation>Crée une vidéo MP4 avec la taille, la fréquence d’images et la vitesse choisies ici</translation>
+    </message>
+    <message id="IDD_PROGRESS_MP4">
+        <source>Making the MP4…</source>
+        <translation>Création du MP4…</translation>
+    </message>
+    <message id="IDD_MP4_NO_ENCODER">
+        <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>
+        <translation>Ce ffmpeg n’a pas d’encodeur H.264 (libx264), nécessaire au MP4. Installez un ffmpeg qui en a un, ou créez un GIF ou un WebP.</translation>
+    </message>
+    <message id="IDD_STATUS_MP4_GAP">
+        <source>The MP4 holds %1 of %2 frames: the next one was missing.</source>
+        <translation>Le MP4 contient %1 images sur %2 : la suivante manquait.</translation>
+    </message>
+    <message id="IDD_SIZE_ABOVE">
+        <source>%1 pixels at most</source>
+        <translation>%1 pixels au plus</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>

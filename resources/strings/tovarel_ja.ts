@@ -419,10 +419,6 @@
         <source>The program “%1” could not be started: %2</source>
         <translation>プログラム「%1」を起動できませんでした: %2</translation>
     </message>
-    <message id="IDD_TOOL_TOO_MANY_FRAMES">
-        <source>The chosen range holds more frames than fit on one command line. Choose a shorter range.</source>
-        <translation>選択した範囲のフレームが多すぎて、1 つのコマンドラインに収まりません。範囲を短くしてください。</translation>
-    </message>
     <message id="IDD_TOOL_CRASHED">
         <source>The program “%1” crashed (signal %2, %3).</source>
         <translation>プログラム「%1」が異常終了しました (シグナル %2、%3)。</translation>
@@ -552,6 +548,90 @@ It remains at %3.</source>
     <message id="IDD_GIF_THINNED">
         <source>GIF: thinned to 50&#xa0;fps</source>
         <translation>GIF は 50 fps に間引かれます</translation>
+    </message>
+    <message id="IDD_FIT_UNDER">
+        <source>Fit under</source>
+        <translation>サイズの上限</translation>
+    </message>
+    <message id="IDD_FIT_UNDER_TIP">
+        <source>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</source>
+        <translation>GIF のファイルサイズの上限です。収まるように、色の正確さ、フレームレート、サイズの順に下げます</translation>
+    </message>
+    <message id="IDD_NO_LIMIT">
+        <source>No limit</source>
+        <translation>制限なし</translation>
+    </message>
+    <message id="IDD_LIMIT_MB">
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message id="IDD_LIMIT_NOT_NUMBER">
+        <source>Type a file size in MB, such as 8, or choose “No limit”.</source>
+        <translation>ファイルサイズを MB 単位で入力するか（例: 8）、「制限なし」を選択してください。</translation>
+    </message>
+    <message id="IDD_FIT_IMPOSSIBLE">
+        <source>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</source>
+        <translation>GIF は %1 に収まりません。最小でも約 %2 です。上限を大きくするか、残す区間を短くしてください。</translation>
+    </message>
+    <message id="IDD_FIT_ASK">
+        <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
+        <translation>%1 に収めるには、選択したフレームレートまたはサイズを下げる必要があります。</translation>
+    </message>
+    <message id="IDD_FIT_ASK_DETAIL">
+        <source>What you chose stays in the fields.</source>
+        <translation>選択した値は欄に残ります。</translation>
+    </message>
+    <message id="IDD_FIT_KEEP">
+        <source>Don’t Generate</source>
+        <translation>作成しない</translation>
+    </message>
+    <message id="IDD_FIT_LOWER">
+        <source>Lower</source>
+        <translation>下げる</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED">
+        <source>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</source>
+        <translation>%1 に収めるため、%2 × %3 ピクセル、%4 フレーム/秒にしました。</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_COLORS">
+        <source>To fit under %1, its colors are less exact.</source>
+        <translation>%1 に収めるため、色の正確さを下げました。</translation>
+    </message>
+    <message id="IDD_ABOUT_SIZE">
+        <source>About %1</source>
+        <translation>約 %1</translation>
+    </message>
+    <message id="IDD_PERCENT">
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message id="IDD_PERCENT_TIP">
+        <source>%1% of the recording’s width and height</source>
+        <translation>録画の幅と高さの %1%</translation>
+    </message>
+    <message id="IDD_GENERATE_MP4">
+        <source>Generate MP4</source>
+        <translation>MP4 を作成</translation>
+    </message>
+    <message id="IDD_GENERATE_MP4_TIP">
+        <source>Generates an MP4 video with the size, frame rate and speed chosen here</source>
+        <translation>ここで選択したサイズ、フレームレート、速度で MP4 動画を作成します</translation>
+    </message>
+    <message id="IDD_PROGRESS_MP4">
+        <source>Making the MP4…</source>
+        <translation>MP4 を作成しています…</translation>
+    </message>
+    <message id="IDD_MP4_NO_ENCODER">
+        <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>
+        <translation>この ffmpeg には、MP4 に必要な H.264 エンコーダー（libx264）がありません。エンコーダーのある ffmpeg をインストールするか、GIF または WebP を作成してください。</translation>
+    </message>
+    <message id="IDD_STATUS_MP4_GAP">
+        <source>The MP4 holds %1 of %2 frames: the next one was missing.</source>
+        <translation>MP4 に含まれるのは %2 フレーム中 %1 フレームです。次のフレームが見つかりませんでした。</translation>
+    </message>
+    <message id="IDD_SIZE_ABOVE">
+        <source>%1 pixels at most</source>
+        <translation>%1 ピクセルまでです</translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>

@@ -37,8 +37,8 @@ void checkFloat(const QString &text) {
 
 void checkArguments(const QString &text) {
     using namespace encoder_arguments;
-    const QStringList webp = webpArguments(text, std::array{WebPFrame{text, 40}}, text);
-    REQUIRE(webp.size() == 8 && webp[5] == text && webp[7] == text);
+    const QStringList webp = webpArguments(text, std::array{WebPFrame{text, 40}}, {}, text);
+    REQUIRE(webp.size() == 11 && webp[8] == text && webp[10] == text);
     bool number = false;
     webp[2].toInt(&number);
     REQUIRE(number);

@@ -96,9 +96,11 @@ class Accessibility(case.Case):
         self.program.enter("GIF")
         sizes, rates = (("radio button", f"Same {what} as the recording")
                         for what in ("size", "frame rate"))
-        rest = (("combo box", "Quality"), ("combo box", "Speed"), *self.buttons("Generate GIF"),
-                ("text", "WebP loops"), *self.buttons("Generate WebP"))
-        self.check_order((BAR, "GIF"), sizes, rates, *rest)
+        shares = self.buttons("75%", "50%")
+        rest = (("combo box", "Quality"), ("combo box", "Fit under"), ("combo box", "Speed"),
+                ("text", "WebP loops"),
+                *self.buttons("Generate GIF", "Generate WebP", "Generate MP4"))
+        self.check_order((BAR, "GIF"), sizes, *shares, rates, *rest)
         # One Tab for the whole of a choice, the arrows within it; what it enables comes next.
         for choice in (sizes, rates):
             while self.focus() != choice:
@@ -107,7 +109,7 @@ class Accessibility(case.Case):
         size = [("radio button", "Custom size"), ("text", "Width"), ("text", "Height"),
                 ("check box", "Keep aspect ratio")]
         rate = [("radio button", "Custom frame rate"), ("combo box", "Frames per Second")]
-        self.check_order((BAR, "GIF"), *size, *rate, *rest)
+        self.check_order((BAR, "GIF"), *size[:3], *shares, *size[3:], *rate, *rest)
 
         width = self.program.await_control("text", "Width")
         width.set_text_contents("0")

@@ -80,7 +80,8 @@ class Privacy(case.Case):
             if name.startswith("open") and not re.search("O_WRONLY|O_RDWR|O_CREAT", arguments):
                 continue
             for text in TEXT.findall(arguments):
-                path = pathlib.Path(os.path.normpath(text))
+                # The one tool that is given relative paths runs in the documents' folder.
+                path = pathlib.Path(os.path.normpath(self.session.documents / text))
                 if re.match("/proc/self/fd/|/dev/(?!shm)", str(path)):
                     continue  # an open file by its number, and devices, which keep nothing
                 [place] = [place for place in places if path.is_relative_to(place)][:1] or [None]

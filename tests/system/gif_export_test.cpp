@@ -122,14 +122,14 @@ TEST_F(GifExport, AndTheWebPLeaveNothingWhenTheyAreCancelledInAnyRun) {
     record(4);
     const QString ffmpeg = controller.shell.sffmpegPath();
     const struct {
-        const char *run; // a word of its command line
+        const char *run; // a word of its command line; the WebP's are in a file
         bool webp;
         bool byKey;
     } cases[] = {{"640x480", false, false},
                  {"palettegen", false, true},
                  {"paletteuse", false, false},
                  {"scaled%d.png", true, false},
-                 {"output.webp", true, true}};
+                 {"arguments.txt", true, true}};
     for (const auto &[run, webp, byKey] : cases) {
         SCOPED_TRACE(run);
         answers.alerts.clear();

@@ -300,4 +300,78 @@ TEST_F(GifQuality, BeginsWithBalancedAndIsRemembered) {
     }
 }
 
+TEST_F(GifQuality, TellsHowLargeItWillBe) {
+    recordInMemory(12);
+    choose(GifPreset::Best);
+    const QLocale locale;
+    const auto said = [&] {
+        QString last;
+        // The exact size is the one that does not change any more.
+        QElapsedTimer since;
+        since.start();
+        while (ui.labelGIFEstimate->text().isEmpty() && since.elapsed() < 20'000)
+            QTest::qWait(20);
+        QTest::qWait(500);
+        return ui.labelGIFEstimate->text();
+    };
+    QString sizes[2];
+    for (const bool half : {false, true}) {
+        if (half)
+            ui.btnGIFSize50->click();
+        EXPECT_EQ(ui.textGIFWidth->text(), half ? QStringLiteral("100") : QStringLiteral("200"));
+        sizes[half] = said();
+        answers.savePath = place(half ? "half.gif" : "whole.gif");
+        ui.btnGIFExport->click();
+        EXPECT_EQ(sizes[half], locale.formattedDataSize(QFileInfo(answers.savePath).size(), 1,
+                                                        QLocale::DataSizeSIFormat));
+    }
+    EXPECT_NE(sizes[0], sizes[1]);
+    choose(GifPreset::Classic);
+    QTest::qWait(500);
+    EXPECT_TRUE(ui.labelGIFEstimate->text().isEmpty()) << "nobody knows";
+}
+
+TEST_F(GifQuality, FitsUnderALimitAndKeepsWhatWasChosen) {
+    recordNoise(12, {160, 120});
+    choose(GifPreset::Balanced);
+    controller.recording.setExactRate(20);
+    const auto limited = [&](const char *limit, const char *file) {
+        ui.comboFitUnder->setEditText(QString::fromLatin1(limit));
+        answers.savePath = place(file);
+        answers.alerts.clear();
+        ui.btnGIFExport->click();
+        EXPECT_TRUE(finish());
+        QTest::qWait(50); // what an answer leads to begins when its question has gone
+        EXPECT_TRUE(finish());
+        return QFileInfo(answers.savePath).size();
+    };
+    const qint64 whole = limited("", "whole.gif");
+    // The size is the user's: it is lowered only after a question.
+    answers.choice = QMessageBox::AcceptRole;
+    const QByteArray limit = QByteArray::number(double(whole) / 4e6, 'f', 3);
+    EXPECT_EQ(limited(limit, "kept.gif"), 0);
+    EXPECT_EQ(answers.questions, 1);
+    answers.choice = QMessageBox::DestructiveRole;
+    const qint64 quarter = limited(limit, "quarter.gif");
+    EXPECT_EQ(answers.questions, 2);
+    EXPECT_LE(quarter, whole / 4 + 1000);
+    EXPECT_GE(quarter, whole * 85 / 400 - 1000);
+    EXPECT_LT(QImageReader(answers.savePath).size().width(), 160);
+    EXPECT_EQ(ui.textGIFWidth->text(), QStringLiteral("160"));
+    EXPECT_TRUE(ui.labelStatus->text().contains(QStringLiteral("160")) ||
+                ui.labelStatus->text().contains(answers.savePath))
+        << status();
+
+    EXPECT_EQ(limited("0.001", "tiny.gif"), 0);
+    ASSERT_EQ(answers.alerts.size(), 1u);
+    EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
+    EXPECT_TRUE(exported().isEmpty());
+    for (const char *wrong : {"0", "-1", "abc"}) {
+        EXPECT_EQ(limited(wrong, "wrong.gif"), 0);
+        ASSERT_EQ(answers.alerts.size(), 1u);
+        EXPECT_EQ(answers.alerts[0].text, qtTrId("IDD_LIMIT_NOT_NUMBER"));
+        EXPECT_EQ(ui.labelFitUnderHint->text(), qtTrId("IDD_LIMIT_NOT_NUMBER"));
+    }
+}
+
 } // namespace

@@ -54,10 +54,11 @@ TEST(EncoderArguments, TakeTheLoopCountThatTheTextBeginsWith) {
     const encoder_arguments::WebPFrame frames[] = {
         {QStringLiteral("a"), 17}, {QStringLiteral("b"), 17}, {QStringLiteral("c"), 16}};
     for (const auto &[text, loops] : cases)
-        EXPECT_EQ(encoder_arguments::webpArguments(text, frames, QStringLiteral("out"))
+        EXPECT_EQ(encoder_arguments::webpArguments(text, frames, {.lossy = true, .quality = 90},
+                                                   QStringLiteral("out"))
                       .join(u'|')
                       .toStdString(),
-                  std::string("-v|-loop|") + loops + "|-d|17|a|b|-d|16|c|-o|out");
+                  std::string("-v|-loop|") + loops + "|-lossy|-q|90|-d|17|a|b|-d|16|c|-o|out");
 }
 
 TEST(ProgressParser, TakesTheLastCompleteStampOfAChunk) {

@@ -27,9 +27,9 @@ public:
 /// What is left of a text without the parts that come from the table or are fixed in every
 /// language.
 QString foreign(QString text) {
-    static const QRegularExpression fixed(
-        QStringLiteral("«[A-Z_]+»|Tovarel|Error|Success|Close|No Video|GIF|WebP|MIT|ffmpeg|img2webp"
-                       "|(/[\\w.-]+)+"));
+    static const QRegularExpression fixed(QStringLiteral(
+        "«[A-Z0-9_]+»|Tovarel|Error|Success|Close|No Video|GIF|WebP|×|MIT|ffmpeg|img2webp"
+        "|(/[\\w.-]+)+"));
     static const QRegularExpression letters(QStringLiteral("\\p{L}+"));
     const QRegularExpressionMatch rest = letters.match(text.remove(QLatin1Char('&')).remove(fixed));
     return rest.captured();

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringView>
+
+#include <cstdint>
+#include <optional>
+
+/// What the text of the list "Fit under" says.
+struct FitLimit {
+    std::optional<std::uint64_t> bytes = {}; ///< None: no limit.
+    bool isWrong = false;                    ///< It is neither a number above 0 nor nothing.
+};
+
+/// The limits that the list offers, in MB (1,000,000 bytes).
+inline constexpr int offeredLimits[] = {5, 10, 25};
+
+/// A number of MB, with the locale's decimal sign or a point, "MB" behind it or not; an empty text
+/// is no limit.
+FitLimit fitLimitOf(QStringView text);

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "export_fixture.h"
+
+#include <QProcess>
+
+namespace {
+
+class MP4Export : public ExportTest {};
+
+QByteArray run(const char *program, const QStringList &arguments) {
+    QProcess process;
+    process.start(QString::fromLatin1(program), arguments);
+    process.waitForFinished(-1);
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    return process.readAllStandardOutput();
+}
+
+TEST_F(MP4Export, PlaysTheFramesInAnySizeForAsLongAsTheyTook) {
+    record(9);
+    controller.recording.setExactRate(59.3); // more than a GIF holds
+    answers.savePath = place("mine.mp4");
+    ui.radioGIFCustomDimension->click();
+    ui.checkGIFKeepAspectRatio->setChecked(false);
+    for (const auto &[width, height] : {std::pair(64, 48), {33, 17}}) {
+        SCOPED_TRACE(width);
+        ui.textGIFWidth->setText(QString::number(width));
+        ui.textGIFHeigth->setText(QString::number(height));
+        QFile::remove(answers.savePath);
+        answers.alerts.clear();
+        ui.btnMP4Generate->click();
+        ASSERT_EQ(answers.alerts.size(), 1u);
+        EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Success"))
+            << answers.alerts[0].text.toStdString();
+        const int wide = width + width % 2;
+        const int high = height + height % 2;
+        const QList<QByteArray> said =
+            run("ffprobe",
+                {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-count_frames"),
+                 QStringLiteral("-show_entries"),
+                 QStringLiteral("stream=codec_name,width,height,pix_fmt,duration,nb_read_frames"),
+                 QStringLiteral("-of"), QStringLiteral("csv=p=0"), answers.savePath})
+                .trimmed()
+                .split(',');
+        ASSERT_EQ(said.size(), 6);
+        EXPECT_EQ(said[0], "h264");
+        EXPECT_EQ(said[1].toInt(), wide);
+        EXPECT_EQ(said[2].toInt(), high);
+        EXPECT_EQ(said[3], "yuv420p");
+        EXPECT_NEAR(said[4].toDouble(), 9 / 59.3, 0.002);
+        EXPECT_EQ(said[5].toInt(), 9);
+        const QByteArray pixels = run(
+            "ffmpeg", {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-i"),
+                       answers.savePath, QStringLiteral("-f"), QStringLiteral("rawvideo"),
+                       QStringLiteral("-pix_fmt"), QStringLiteral("rgb24"), QStringLiteral("-")});
+        ASSERT_EQ(pixels.size(), 9 * wide * high * 3);
+        for (int frame = 0; frame < 9; ++frame)
+            for (const int at : {0, wide * high - 1}) { // the added corner has the colour, too
+                const auto *pixel =
+                    reinterpret_cast<const uchar *>(pixels.data()) + 3 * (frame * wide * high + at);
+                const QColor colour = colourOf(frame);
+                EXPECT_NEAR(pixel[0], colour.red(), 8) << frame;
+                EXPECT_NEAR(pixel[1], colour.green(), 8) << frame;
+                EXPECT_NEAR(pixel[2], colour.blue(), 8) << frame;
+            }
+        // What a player needs first comes first.
+        const QByteArray file = contentOf(answers.savePath);
+        EXPECT_LT(file.indexOf("moov"), file.indexOf("mdat"));
+    }
+}
+
+TEST_F(MP4Export, EndsAtAGapAndWithOneAlertWhateverGoesWrong) {
+    record(8);
+    ASSERT_TRUE(QFile::remove(frameFile(5)));
+    answers.savePath = place("gap.mp4");
+    ui.btnMP4Generate->click();
+    EXPECT_TRUE(ui.labelStatus->text().contains(
+        qtTrId("IDD_STATUS_MP4_GAP").arg(QStringLiteral("5"), QStringLiteral("8"))));
+    const struct {
+        QString tool;
+        QString reason;
+    } cases[] = {
+        {{}, QStringLiteral("missing")},
+        {standIn("echo \"Unknown encoder 'libx264'\" >&2; exit 1"), qtTrId("IDD_MP4_NO_ENCODER")},
+        {standIn("echo no memory >&2; exit 3"), QStringLiteral("no memory")},
+        {standIn("exit 0"), QStringLiteral("output.mp4")},
+    };
+    for (const auto &[tool, reason] : cases) {
+        answers.alerts.clear();
+        controller.shell.setSffmpegPath(tool);
+        ui.btnMP4Generate->click();
+        ASSERT_EQ(answers.alerts.size(), 1u);
+        EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
+        EXPECT_TRUE(answers.alerts[0].text.contains(reason))
+            << answers.alerts[0].text.toStdString();
+    }
+}
+
+} // namespace
