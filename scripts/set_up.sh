@@ -31,7 +31,7 @@ step() {
 # packages_of SECTION...: the names in these sections of packages.txt.
 packages_of() {
     awk -v wanted=" $* " '
-        /^# (build|run|test|bench):/ { section = substr($2, 1, length($2) - 1) }
+        /^# (build|run|test|desktops|bench):/ { section = substr($2, 1, length($2) - 1) }
         /^[^#[:space:]]/ { if (index(wanted, " " section " ")) print $1 }' packages.txt
 }
 

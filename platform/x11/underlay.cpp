@@ -28,7 +28,7 @@ constexpr auto keptAfterwards = 300ms;
 // A compositing manager lets windows fade and fly away, and may be late. It has been there once it
 // drew the place anew, which it need not do.
 constexpr auto shortestEffect = 500ms;
-constexpr auto longestEffect = 3s;
+constexpr auto longestEffect = 2s;
 
 // A look at the whole screen is repeated when windows came meanwhile, but not for ever.
 constexpr int mostLooks = 3;
@@ -38,6 +38,13 @@ QRegion grown(const QRegion &region, int by) {
     for (const QRect &r : region)
         result = united(result, r.adjusted(-by, -by, by, by));
     return result;
+}
+
+std::int64_t area(const QRegion &region) {
+    std::int64_t pixels = 0;
+    for (const QRect &r : region)
+        pixels += std::int64_t{r.width()} * r.height();
+    return pixels;
 }
 
 bool contains(std::span<const std::uint32_t> numbers, std::uint32_t number) {
@@ -198,10 +205,13 @@ void Underlay::linger(std::span<const Layer> shown, std::span<const std::uint32_
 
 // The ground is remembered when a window comes to lie on it.
 void Underlay::rememberGround(const LayerStack &all, const Earlier &earlier) {
-    if (std::exchange(backgroundGeneration_, model_.background().generation()) !=
-        model_.background().generation())
-        groundSeen_ = QRegion();
-    else if (!all_.layers().empty()) {
+    const auto generation = model_.background().generation();
+    if (std::exchange(backgroundGeneration_, generation) != generation) {
+        if (!model_.isComposited())
+            groundSeen_ = QRegion();
+        else
+            groundDoubted_ = Clock::now() + longestEffect;
+    } else if (!all_.layers().empty()) {
         QRegion fresh = all_.visible(all_.layers().size() - 1)
                             .subtracted(all.visible(all.layers().size() - 1))
                             .subtracted(place_)
@@ -219,10 +229,29 @@ void Underlay::rememberGround(const LayerStack &all, const Earlier &earlier) {
     all_ = all;
 }
 
+// Not all compositing managers show the pixmap that was set anew. One that does changes
+// all of it.
+void Underlay::pictureChanged(const QRegion &where) {
+    if (Clock::now() >= groundDoubted_ || all_.layers().empty())
+        return;
+    const QRegion ground = all_.visible(all_.layers().size() - 1).subtracted(place_);
+    if (area(ground.subtracted(where)) * 4 >= area(ground))
+        return;
+    groundSeen_ = QRegion();
+    groundDoubted_ = {};
+}
+
 // Around windows that moved or left, shadows of theirs may lie on the ground.
-QRegion Underlay::shadowsLeftBehind(const LayerStack &after, const QRegion &moved) const {
-    if (!model_.isComposited() || moved.isEmpty() || !groundAsked_)
+QRegion Underlay::shadowsLeftBehind(const LayerStack &after) const {
+    if (!model_.isComposited() || !groundAsked_)
         return {};
+    QRegion moved;
+    for (std::size_t i = 0; i < layers_.layers().size(); ++i) {
+        const Layer &before = layers_.layers()[i];
+        const auto now = std::ranges::find(after.layers(), before.window, &Layer::window);
+        if (now == after.layers().end() || now->region != before.region)
+            moved = united(moved, layers_.visible(i));
+    }
     return grown(moved, widestShadow)
         .intersected(after.visible(after.layers().size() - 1))
         .intersected(groundKnown());
@@ -248,7 +277,7 @@ QRegion Underlay::arrange(std::span<const std::uint32_t> numbers, const Earlier 
         linger(shown, numbers, place);
     rememberGround(LayerStack(shown, desktop), earlier);
     if (asShown)
-        gone = united(gone, shadowsLeftBehind(after, gone));
+        gone = united(gone, shadowsLeftBehind(after));
 
     const QRegion coming = place.subtracted(place_);
     const QRegion kept = coming.intersected(earlier.valid).subtracted(gone);

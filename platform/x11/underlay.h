@@ -42,6 +42,9 @@ public:
     QRegion follow(std::span<const std::uint32_t> numbers, const QRect &wanted,
                    const Earlier &earlier);
 
+    /// The picture that was handed out last differs there from the one before.
+    void pictureChanged(const QRegion &where);
+
     /// Whether time has come to follow although nothing happened.
     bool isDue();
 
@@ -74,7 +77,7 @@ private:
     void rememberGround(const LayerStack &all, const Earlier &earlier);
     void linger(std::span<const Layer> shown, std::span<const std::uint32_t> numbers,
                 QRegion &place);
-    QRegion shadowsLeftBehind(const LayerStack &after, const QRegion &moved) const;
+    QRegion shadowsLeftBehind(const LayerStack &after) const;
     QRegion takeDamage(const QRect &wanted);
     void redirectBeneath(const QRect &wanted);
     void compose(const QRegion &where);
@@ -98,6 +101,7 @@ private:
     QRegion groundSeen_; // where `ground_` holds
     LayerStack all_;     // all that is shown
     std::uint64_t backgroundGeneration_ = 0;
+    Clock::time_point groundDoubted_; // until then: whether it changed will show
 
     QRegion before_; // the place without those that linger
     std::vector<Lingering> lingering_;

@@ -76,17 +76,20 @@ void WindowPictures::answer(const Question &question) {
     }
     if (!extents || !rectangles)
         return;
-    entry->generation = ++generations_;
-    entry->shape.reset();
+    std::optional<QRegion> shape;
     // The rectangles of a window that has no shape leave out its border.
-    if (!extents->bounding_shaped)
-        return;
-    entry->shape.emplace();
-    const std::span list(
-        xcb_shape_get_rectangles_rectangles(rectangles.get()),
-        static_cast<std::size_t>(xcb_shape_get_rectangles_rectangles_length(rectangles.get())));
-    for (const auto &r : list)
-        *entry->shape += QRect(r.x, r.y, r.width, r.height);
+    if (extents->bounding_shaped) {
+        shape.emplace();
+        const std::span list(
+            xcb_shape_get_rectangles_rectangles(rectangles.get()),
+            static_cast<std::size_t>(xcb_shape_get_rectangles_rectangles_length(rectangles.get())));
+        for (const auto &r : list)
+            *shape += QRect(r.x, r.y, r.width, r.height);
+    }
+    // Some window managers set the same shape again whenever they draw a frame.
+    if (shape != entry->shape || attributes)
+        entry->generation = ++generations_;
+    entry->shape = std::move(shape);
 }
 
 void WindowPictures::release(Entry &entry) {

@@ -122,6 +122,7 @@ std::optional<Image> X11WindowServer::composite(std::span<const std::uint32_t> n
             ring_.latestIsAs(*turn, drawn);
             return picture_;
         }
+        underlay_.pictureChanged(change.region);
     }
     picture_ = ring_.handOut(*turn, wanted, std::move(change));
     return picture_;

@@ -18,18 +18,25 @@ protected:
     /// How long the display may take to come to rest, window managers and all.
     static constexpr std::chrono::seconds limit{10};
 
-    explicit WindowServerFixture(x11::PixelRoad road = x11::PixelRoad::SharedPixmap) {
-        client.keepWindowsApart();
+    /// Whether the client has the server keep all windows' pixels, as the reference needs it.
+    enum class Apart { Yes, No };
+
+    explicit WindowServerFixture(x11::PixelRoad road = x11::PixelRoad::SharedPixmap,
+                                 Apart apart = Apart::Yes) {
+        if (apart == Apart::Yes)
+            client.keepWindowsApart();
         client.sync();
+        const bool composited = client.compositingManagerRuns();
+        client.setBackgroundPixmap(composited);
+        client.sync();
+        // A compositing manager shows it a little later, and may put grey where there is none.
+        if (composited && apart == Apart::Yes)
+            eventually([&] { return client.screen() == client.reference(); });
         auto obstacle = X11WindowServer::Obstacle::NoDisplay;
         server = X11WindowServer::create({.display = nullptr, .bestRoad = road}, obstacle);
     }
 
-    void SetUp() override {
-        ASSERT_TRUE(server);
-        // A compositing manager may put grey where there is none.
-        client.setBackgroundPixmap(client.compositingManagerRuns());
-    }
+    void SetUp() override { ASSERT_TRUE(server); }
 
     /// Whether the condition comes true within the limit.
     template <class Condition> static bool eventually(Condition condition) {

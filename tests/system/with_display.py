@@ -14,18 +14,29 @@ from session import Session
 from waiting import wait_for
 
 
+def is_managed(session):
+    """Whether a window manager says that it is there."""
+    done = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=session.environment,
+                          text=True, check=False, capture_output=True)
+    return "window id" in done.stdout
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--screen", default="1280x720x24")
     parser.add_argument("--server", default="", help="further options of the X server")
     parser.add_argument("--window-manager", action="store_true")
     parser.add_argument("--compositor", default="", help="a compositing manager to start first")
+    parser.add_argument("--desktop", default="", help="a desktop's window manager to start first")
     parser.add_argument("command", nargs=argparse.REMAINDER)
     asked = parser.parse_args()
     session = Session(".", *map(int, asked.screen.split("x")))
     session.display_options = shlex.split(asked.server)
     session.with_window_manager = asked.window_manager
     with session:
+        if asked.desktop:
+            session.start("desktop", shlex.split(asked.desktop), {"LIBGL_ALWAYS_SOFTWARE": "1"})
+            wait_for("the window manager", lambda: is_managed(session))
         if asked.compositor:
             session.start("compositor", shlex.split(asked.compositor))
             wait_for("the compositing manager", session.composited)
