@@ -151,12 +151,16 @@ GifFileJob Exporter::jobFor(Frames frames, const ExportChoices &choices) const {
 GifPlan Exporter::planGIF(const ExportChoices &choices) const {
     const std::vector<TimedFrame> frames =
         frame_timing::timedFrames(timingRequest(choices), frame_timing::gifTicks);
-    GifPlan plan{.job = jobFor(frames, choices), .changes = std::vector(frames.size(), 1.0)};
+    std::vector changes(frames.size(), 1.0);
     const auto &store = recorder_.recording.array_Images;
     for (std::size_t at = 1; at < frames.size(); ++at)
         if (store && std::max(frames[at].source, frames[at - 1].source) < store->size())
-            plan.changes[at] =
+            changes[at] =
                 changedPixels((*store)[frames[at - 1].source], (*store)[frames[at].source]);
+    GifPlan plan{.job = jobFor(frames, choices), .forecast = SizeForecast(std::move(changes))};
+    plan.sampled = plan.forecast.weightiestFrame();
+    if (plan.sampled)
+        plan.sample = jobFor(Frames(frames).subspan(*plan.sampled - 1, 2), choices);
     return plan;
 }
 

@@ -41,7 +41,8 @@ gif::Outcome encode(const GifFileJob &job, const gif::Sink &takeBytes, const std
     options.threads = gifThreads;
     options.sizeLimit = job.sizeLimit;
     options.progress = [&job, &bytes, &firstFrame](std::int64_t frames) {
-        if (frames == 1)
+        // The last picture is kept back until it is known how long it is shown.
+        if (frames == 2)
             firstFrame = bytes;
         if (job.progress)
             job.progress(frames, bytes);

@@ -28,13 +28,13 @@ struct GifFileJob {
     /// The encoder gives up once the file is sure to be larger than this, in bytes.
     std::optional<std::uint64_t> sizeLimit = {};
     /// Called in the thread that writes, with the number of frames that are done and the bytes that
-    /// they take.
+    /// all of them but the last take.
     std::function<void(std::int64_t, std::uint64_t)> progress = {};
 };
 
 struct GifFileResult {
     gif::Outcome outcome;
-    std::uint64_t firstFrame = 0; ///< Bytes that the first frame took.
+    std::uint64_t firstFrame = 0; ///< Bytes that the first frame took, where there is another.
     QString writeError;           ///< The system's words when the file could not be written.
     bool outOfMemory = false;     ///< Memory ran out on the way.
 

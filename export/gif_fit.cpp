@@ -6,7 +6,6 @@
 #include "export/gif_failure.h"
 #include "export/gif_plan.h"
 #include "export/made_gif.h"
-#include "export/size_forecast.h"
 #include "platform/text_number.h"
 #include "shell/surroundings.h"
 
@@ -85,10 +84,9 @@ bool Exporter::search(FitSearch &search, const FitLadder &ladder, const ExportCh
             best.choice = choice;
             best.size = plan.job.size;
         } else {
-            SizeForecast forecast(plan.changes);
-            forecast.add(1, std::min(bytes, result.firstFrame));
-            forecast.add(result.outcome.frames, bytes);
-            bytes = std::max(forecast.bytes(), *choices.limit.bytes + 1);
+            plan.forecast.add(1, std::min(bytes, result.firstFrame));
+            plan.forecast.add(result.outcome.frames - 1, bytes);
+            bytes = std::max(plan.forecast.bytes(), *choices.limit.bytes + 1);
         }
         best.smallest = best.smallest == 0 ? bytes : std::min(best.smallest, bytes);
         search.tried(*depth, bytes);

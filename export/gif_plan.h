@@ -3,12 +3,17 @@
 #pragma once
 
 #include "export/gif_file.h"
+#include "export/size_forecast.h"
 
-#include <vector>
+#include <cstddef>
+#include <optional>
 
 /// A GIF that could be made of what is kept and chosen now.
 struct GifPlan {
     GifFileJob job; ///< Without a file; without frames where none can be made.
-    /// How much each frame changes against the one before, see `SizeForecast`.
-    std::vector<double> changes;
+    /// How much each frame changes against the one before.
+    SizeForecast forecast;
+    /// A frame to be tried for the forecast: it and the one before.
+    std::optional<std::size_t> sampled = {};
+    GifFileJob sample = {};
 };

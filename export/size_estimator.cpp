@@ -4,7 +4,6 @@
 
 #include "export/exporter.h"
 #include "export/gif_plan.h"
-#include "export/size_forecast.h"
 
 #include <QElapsedTimer>
 
@@ -62,11 +61,16 @@ void SizeEstimator::begin() {
     worker_ = std::jthread([plan = std::move(plan), tell](const std::stop_token &stop) {
         // On Linux a thread has a priority of its own, and those that it starts inherit it.
         setpriority(PRIO_PROCESS, 0, lowestPriority);
-        SizeForecast forecast(plan->changes);
         QElapsedTimer since;
         since.start();
+        SizeForecast &forecast = plan->forecast;
+        if (plan->sampled) {
+            const GifFileResult tried = writeGifFile(plan->sample, stop);
+            if (tried.isComplete())
+                forecast.addSample(*plan->sampled, tried.outcome.bytes - tried.firstFrame);
+        }
         plan->job.progress = [&](std::int64_t frames, std::uint64_t bytes) {
-            forecast.add(frames, bytes);
+            forecast.add(frames - 1, bytes);
             if (frames < 2 || since.elapsed() < betweenForecasts)
                 return;
             since.restart();

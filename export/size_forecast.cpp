@@ -4,27 +4,67 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
-SizeForecast::SizeForecast(std::vector<double> changes) {
-    upTo_.assign(1, 0.0);
-    for (std::size_t frame = 0; frame < changes.size(); ++frame)
-        upTo_.push_back(upTo_.back() + (frame == 0 ? 0.0 : changes[frame]));
+SizeForecast::SizeForecast(std::vector<double> changes) : changes_(std::move(changes)) {
+    for (std::size_t frame = 1; frame < changes_.size(); ++frame)
+        groups_[groupOf(changes_[frame])].toCome += changes_[frame];
+}
+
+std::size_t SizeForecast::groupOf(double change) {
+    const double number = std::log2(std::max(change, 1.0)) / 2;
+    return std::min(static_cast<std::size_t>(number), std::tuple_size_v<decltype(groups_)> - 1);
+}
+
+std::optional<std::size_t> SizeForecast::weightiestFrame() const {
+    const auto *weightiest = std::ranges::max_element(groups_, {}, &Group::toCome);
+    std::vector<std::size_t> frames;
+    for (std::size_t frame = 1; frame < changes_.size(); ++frame)
+        if (changes_[frame] > 0.0 && &groups_[groupOf(changes_[frame])] == weightiest)
+            frames.push_back(frame);
+    if (frames.empty())
+        return std::nullopt;
+    return frames[frames.size() / 2];
+}
+
+void SizeForecast::addSample(std::size_t frame, std::uint64_t bytes) {
+    Group &group = groups_[groupOf(changes_[frame])];
+    group.tried += changes_[frame];
+    group.bytes += static_cast<double>(bytes);
 }
 
 void SizeForecast::add(std::int64_t frames, std::uint64_t bytes) {
-    if (frames <= 0)
-        return;
-    if (frames_ == 0)
-        first_ = bytes;
-    frames_ = frames;
+    const auto done =
+        std::min(static_cast<std::size_t>(std::max<std::int64_t>(frames, 0)), changes_.size());
+    // The first picture is whole, and like no other.
+    const std::size_t from = std::max<std::size_t>(frames_, 1);
+    double changed = 0;
+    for (std::size_t frame = from; frame < done; ++frame)
+        changed += changes_[frame];
+    for (std::size_t frame = from; frame < done; ++frame) {
+        Group &group = groups_[groupOf(changes_[frame])];
+        group.toCome -= changes_[frame];
+        group.tried += changes_[frame];
+        if (changed > 0.0 && frames_ > 0)
+            group.bytes += static_cast<double>(bytes - bytes_) * changes_[frame] / changed;
+    }
+    frames_ = std::max(frames_, done);
     bytes_ = bytes;
 }
 
 std::uint64_t SizeForecast::bytes() const {
-    const auto done = std::min(static_cast<std::size_t>(frames_), upTo_.size() - 1);
-    const double changed = upTo_[done];
-    if (changed <= 0.0)
-        return bytes_;
-    const double later = static_cast<double>(bytes_ - first_) * upTo_.back() / changed;
-    return first_ + static_cast<std::uint64_t>(std::llround(later));
+    double later = 0;
+    for (const Group &group : groups_) {
+        if (group.toCome <= 0.0)
+            continue;
+        // The nearest group of which anything is known.
+        const Group *known = nullptr;
+        for (const Group &other : groups_)
+            if (other.tried > 0.0 &&
+                (!known || std::abs(&other - &group) < std::abs(known - &group)))
+                known = &other;
+        if (known)
+            later += group.toCome * known->bytes / known->tried;
+    }
+    return bytes_ + static_cast<std::uint64_t>(std::llround(later));
 }

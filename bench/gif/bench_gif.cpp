@@ -8,6 +8,7 @@
 #include "bench/gif/recordings.h"
 #include "export/gif/colour.h"
 #include "export/gif/encoder.h"
+#include "export/size_forecast.h"
 
 #include <chrono>
 #include <cstdio>
@@ -137,6 +138,63 @@ void report(BenchRecording &recording, const std::filesystem::path &folder) {
     }
 }
 
+/// How near to the size of the file what is told of it beforehand is, as the program tells it.
+void reportForecast(BenchRecording &recording, const Preset &preset) {
+    std::vector<double> changes;
+    for (std::size_t frame = 0; frame < recording.size(); ++frame)
+        changes.push_back(recording.changedPixels(frame));
+    SizeForecast forecast(std::move(changes));
+    struct Told {
+        double seconds;
+        double bytes;
+    };
+    std::vector<Told> told;
+    std::uint64_t bytes = 0;
+    gif::Options options{.width = recording.width, .height = recording.height};
+    options.tolerance = preset.tolerance;
+    options.threads = threads;
+    const auto began = std::chrono::steady_clock::now();
+    const auto since = [began] {
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
+    };
+    const auto count = [&](BenchRecording &frames) {
+        frames.rewind();
+        gif::encode(frames, options, [&](std::span<const std::uint8_t> part) {
+            bytes += part.size();
+            return true;
+        });
+    };
+    if (const auto sampled = forecast.weightiestFrame()) {
+        BenchRecording two("", recording.width, recording.height, 1);
+        for (const std::size_t frame : {*sampled - 1, *sampled}) {
+            BenchRecording::Pixels pixels = recording.pixels(frame);
+            two.add(std::move(pixels));
+        }
+        std::uint64_t first = 0;
+        options.progress = [&](std::int64_t frames) { first = frames == 2 ? bytes : first; };
+        count(two);
+        forecast.addSample(*sampled, bytes - first);
+        bytes = 0;
+    }
+    options.progress = [&](std::int64_t frames) {
+        forecast.add(frames - 1, bytes);
+        if (frames > 1)
+            told.push_back({since(), double(forecast.bytes())});
+    };
+    count(recording);
+    const auto ratioAt = [&](double seconds) {
+        double last = 0;
+        for (const Told &each : told)
+            if (each.seconds <= seconds || last == 0)
+                last = each.bytes;
+        return last / double(bytes);
+    };
+    std::printf(
+        "%-14s %-9s size told / size: %.3f after 0.7 s, %.3f after 5 s; exact after %.2f s\n",
+        recording.name.c_str(), preset.name, ratioAt(0.7), ratioAt(5), since());
+    std::fflush(stdout);
+}
+
 /// What a change costs may depend neither on the picture around it nor on how long nothing changes.
 void reportScaling() {
     const auto cost = [](int width, int height, int seconds) {
@@ -169,13 +227,19 @@ int main(int argc, char **argv) {
         report(recording, folder);
         BenchRecording half = recording.halved();
         report(half, folder);
+        for (const Preset &preset : presets)
+            reportForecast(recording, preset);
         return 0;
     }
+    BenchRecording rush = madeLateRush(1280, 800);
+    reportForecast(rush, presets[1]);
     for (const auto &make : {madeDocument, madePan}) {
         BenchRecording recording = make(1280, 800);
         report(recording, work);
         BenchRecording half = recording.halved();
         report(half, work);
+        for (const Preset &preset : presets)
+            reportForecast(recording, preset);
     }
     reportScaling();
     std::filesystem::remove_all(work);

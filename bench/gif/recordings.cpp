@@ -155,3 +155,29 @@ BenchRecording madeSquare(int width, int height, int seconds) {
     }
     return recording;
 }
+
+BenchRecording madeLateRush(int width, int height) {
+    constexpr int still = 59 * int(madeRate);
+    const BenchRecording rush = madePan(width, height);
+    BenchRecording recording("late rush", width, height, madeRate);
+    for (int i = 0; i < still; ++i) {
+        BenchRecording::Pixels pixels = rush.pixels(0);
+        for (int y = 0; y < 18; ++y)
+            for (int x = 0; x < 2; ++x)
+                pixels[std::size_t((height / 2 + y) * width + width / 2 + x)] =
+                    i / 8 % 2 == 0 ? 0xFFFFFF : 0;
+        recording.add(std::move(pixels));
+    }
+    for (int i = 0; i < int(madeRate); ++i) {
+        BenchRecording::Pixels pixels = rush.pixels(std::size_t(i));
+        recording.add(std::move(pixels));
+    }
+    return recording;
+}
+
+double BenchRecording::changedPixels(std::size_t frame) const {
+    double pixels = 0;
+    for (const gif::Rect &rect : changes_[frame])
+        pixels += double(rect.width) * rect.height;
+    return pixels;
+}

@@ -30,6 +30,8 @@ public:
     std::size_t size() const { return frames_.size(); }
     const Pixels &pixels(std::size_t frame) const { return frames_[frame]; }
     std::int64_t delay(std::size_t frame) const;
+    /// Pixels of the tiles in which the frame differs from the one before.
+    double changedPixels(std::size_t frame) const;
 
     bool next(gif::Frame &frame) override;
     bool rewind() override;
@@ -53,3 +55,6 @@ BenchRecording madePan(int width, int height);
 
 /// A square of 200 by 100 that changes in every frame, and nothing else.
 BenchRecording madeSquare(int width, int height, int seconds);
+
+/// A minute in which a caret blinks, but for the last second, which pans as `madePan` does.
+BenchRecording madeLateRush(int width, int height);

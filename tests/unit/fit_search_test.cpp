@@ -81,13 +81,19 @@ TEST(FitLimit, IsANumberOfMegabytesOrNone) {
         EXPECT_TRUE(fitLimitOf(text).isWrong) << QString::fromUtf16(text).toStdString();
 }
 
-TEST(SizeForecast, TakesWhatIsToComeByHowMuchChanges) {
-    SizeForecast forecast({7, 1, 1, 8, 0});
+TEST(SizeForecast, TakesWhatIsToComeByWhatChangedAsMuch) {
+    SizeForecast forecast({9e9, 100, 100, 100'000, 0, 100'000});
     EXPECT_EQ(forecast.bytes(), 0);
+    EXPECT_EQ(forecast.weightiestFrame(), 5);
     forecast.add(1, 1000);
     EXPECT_EQ(forecast.bytes(), 1000);
-    forecast.add(3, 1400); // 200 bytes for each unit
-    EXPECT_EQ(forecast.bytes(), 3000);
-    forecast.add(5, 3100);
-    EXPECT_EQ(forecast.bytes(), 3100);
+    forecast.addSample(5, 50'000); // half a byte for each pixel
+    EXPECT_EQ(forecast.bytes(), 1000 + 100 + 100'000);
+    forecast.add(2, 1200); // two bytes for each pixel of a small change
+    EXPECT_EQ(forecast.bytes(), 1400 + 100'000);
+    forecast.add(4, 71'400);
+    EXPECT_NEAR(double(forecast.bytes()), 71'400 + 60'000, 200);
+    forecast.add(6, 140'000);
+    EXPECT_EQ(forecast.bytes(), 140'000);
+    EXPECT_FALSE(SizeForecast({5, 0, 0}).weightiestFrame());
 }
