@@ -9,7 +9,7 @@
 
 #include "bench/processor_time.h"
 #include "platform/x11/x11_window_server.h"
-#include "tests/system/x_client.h"
+#include "tests/support/x_client.h"
 
 #include <QCoreApplication>
 

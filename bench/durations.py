@@ -11,7 +11,7 @@ file is off by more than 2 % or one frame's time, or shows other frames than it 
 import pathlib
 import sys
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "system"))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "support"))
 
 import driver  # noqa: E402  pylint: disable=wrong-import-position
 from lengths import COUNTS, Take, measure  # noqa: E402  pylint: disable=wrong-import-position

@@ -14,7 +14,7 @@ import sys
 import time
 import warnings
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "system"))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "support"))
 
 import counter  # noqa: E402  pylint: disable=wrong-import-position
 import driver  # noqa: E402  pylint: disable=wrong-import-position

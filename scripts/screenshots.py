@@ -11,7 +11,7 @@ import subprocess
 import sys
 
 # What drives the program in the tests drives it here.
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "system"))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "support"))
 
 import driver  # noqa: E402  pylint: disable=wrong-import-position
 

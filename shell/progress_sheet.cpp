@@ -19,6 +19,8 @@ constexpr qint64 exposureLimit = 250;
 
 void ProgressSheet::show(const QString &caption) {
     close();
+    if (!anchor_)
+        return;
     // Owned by the main window; a sheet whose job has ended deletes itself, see below.
     auto *sheet = new Window_Progress(*anchor_, caption);
     connect(sheet, &Window_Progress::parentCloseRequested, this,

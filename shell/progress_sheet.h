@@ -14,7 +14,7 @@ class ProgressSheet : public QObject {
     Q_OBJECT
 
 public:
-    /// The strip of the main window that sheets hang from, borrowed; to be set before the first.
+    /// The strip of the main window that sheets hang from, borrowed. Without one none is shown.
     void hangFrom(QWidget &anchor) { anchor_ = &anchor; }
 
     /// The sheet while one is shown; null otherwise. The main window owns the widget.

@@ -10,7 +10,7 @@
 // Blocks of BLOCK by BLOCK pixels have one colour each, so that a grab that is scaled down by BLOCK
 // still holds exact colours. A line on standard output says that the window is on the screen. The
 // program runs until it is ended.
-#include "tests/system/x_client.h"
+#include "tests/support/x_client.h"
 
 #include <algorithm>
 #include <cstdio>

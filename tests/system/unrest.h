@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/system/x_client.h"
+#include "tests/support/x_client.h"
 
 #include <random>
 #include <vector>

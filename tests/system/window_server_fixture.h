@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/x11/x11_window_server.h"
-#include "tests/system/x_client.h"
+#include "tests/support/x_client.h"
 
 #include <gtest/gtest.h>
 

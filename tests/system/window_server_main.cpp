@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "tests/system/x_client.h"
+#include "tests/support/x_client.h"
 
 #include <QCoreApplication>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/tile_store.h"
 #include "record/save/frame_saver.h"
-#include "tests/controller_fixture.h"
-#include "tests/files.h"
+#include "tests/support/fake_window_server.h"
+#include "tests/support/files.h"
 
 #include <QTest>
 #include <QtEndian>

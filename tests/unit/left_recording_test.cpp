@@ -3,7 +3,7 @@
 #include "record/left_recording.h"
 
 #include "shell/working_folders.h"
-#include "tests/files.h"
+#include "tests/support/files.h"
 
 #include <QImage>
 #include <QTemporaryDir>

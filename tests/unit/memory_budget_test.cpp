@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "record/memory_budget.h"
 
-#include "tests/controller_fixture.h"
-#include "tests/files.h"
+#include "tests/support/files.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 #include <array>
 
@@ -73,33 +73,6 @@ TEST(MemoryBudget, pausesAtATenthAndThenAtHalfOfWhatWasLeft) {
     EXPECT_DOUBLE_EQ(fresh.secondsLeft({1000, 600}, 50).value(), 10);
     EXPECT_DOUBLE_EQ(fresh.secondsLeft({1000, 60}, 50).value(), 0);
     EXPECT_FALSE(fresh.secondsLeft({1000, 600}, 0));
-}
-
-using RecordingInLittleMemory = ControllerFixture;
-
-TEST_F(RecordingInLittleMemory, isPausedWithItsReasonAndLosesNothing) {
-    MemoryState memory{1000000, 500000};
-    delegate->recording.memory = [&memory] { return std::optional(memory); };
-    delegate->OnRecordRecord(nullptr);
-    delegate->TimerRefreshVideoRoutine();
-    delegate->TimerDebug1SecondRoutine();
-    EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_RECORD);
-    const std::size_t frames = delegate->recording.array_Images->size();
-
-    memory.available = 90000;
-    delegate->TimerDebug1SecondRoutine();
-    EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_PAUSE);
-    EXPECT_TRUE(delegate->ui->labelStatus->text().contains(QStringLiteral("memory")))
-        << qPrintable(delegate->ui->labelStatus->text());
-    EXPECT_EQ(delegate->recording.array_Images->size(), frames);
-
-    delegate->OnRecordRecord(nullptr);
-    delegate->TimerDebug1SecondRoutine();
-    EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_RECORD) << "the user insists";
-    memory.available = 40000;
-    delegate->TimerDebug1SecondRoutine();
-    EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_PAUSE);
-    EXPECT_EQ(delegate->recording.array_Images->size(), frames);
 }
 
 } // namespace

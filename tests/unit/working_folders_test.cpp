@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/working_folders.h"
 
-#include "tests/files.h"
+#include "tests/support/files.h"
 
 #include <QDir>
 #include <QTemporaryDir>

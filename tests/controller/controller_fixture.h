@@ -4,9 +4,9 @@
 
 #include "app/app_delegate.h"
 #include "app/application.h"
-#include "platform/window_server.h"
 #include "shell/strings_table.h"
 #include "shell/working_folders.h"
+#include "tests/support/fake_window_server.h"
 #include "ui_MainWindow.h"
 
 #include <QLocale>
@@ -14,33 +14,6 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-
-/// A window server without a screen: a test says which windows there are and what a grab yields.
-class FakeWindowServer : public WindowServer {
-public:
-    std::vector<WindowDescription> windows;
-    std::optional<Image> picture;
-    QString why;
-    /// The numbers of the last grab.
-    std::vector<std::uint32_t> asked;
-
-    WindowServerCapabilities capabilities() const override { return {true, true, true}; }
-    QString reason() const override { return why; }
-    std::vector<WindowDescription> listWindows() override { return windows; }
-    using WindowServer::composite;
-    std::optional<Image> composite(std::span<const std::uint32_t> numbers,
-                                   const std::optional<QRect> &) override {
-        asked.assign(numbers.begin(), numbers.end());
-        return picture;
-    }
-};
-
-/// A picture of one colour.
-inline Image plainImage(QSize size, QRgb colour, QImage::Format format = QImage::Format_RGB32) {
-    QImage pixels(size, format);
-    pixels.fill(colour);
-    return Image::fromQImage(pixels);
-}
 
 /// The whole controller over a window server without a screen, started, its timers off: a test
 /// makes the ticks itself. Works in a folder of its own.

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "export_fixture.h"
+#include "tests/controller/export_fixture.h"
 
 #include <QApplication>
 #include <QLocale>

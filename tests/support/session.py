@@ -19,7 +19,7 @@ import counter
 from accessibility import SCALE
 from waiting import PATIENCE, wait_for
 
-COUNTER = "tests/system/counter_window"
+COUNTER = "tests/support/counter_window"
 C_LIBRARY = ctypes.CDLL(None)
 PR_SET_PDEATHSIG = 1  # prctl(2)
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // A window with a known changing picture: a counter, coded so that it can be read back from a
-// frame and from a GIF with a palette of its own (tests/system/counter.py reads it), under a bar
+// frame and from a GIF with a palette of its own (tests/support/counter.py reads it), under a bar
 // that moves to the right with it. A picture is drawn aside and shown by one request, so that no
 // grab can see half of it.
 //
@@ -12,7 +12,7 @@
 // slow skips numbers. --unmanaged asks for no frame and no placing by the window manager. Where the
 // window lies on the screen, without its frame, is written to standard output whenever it changes:
 // a line "X Y WIDTH HEIGHT". The program runs until it is ended.
-#include "tests/system/x_client.h"
+#include "tests/support/x_client.h"
 
 #include <poll.h>
 

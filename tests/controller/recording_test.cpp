@@ -3,7 +3,7 @@
 #include "record/window_fps.h"
 #include "shell/tab_view.h"
 #include "shell/window_progress.h"
-#include "tests/controller_fixture.h"
+#include "tests/controller/controller_fixture.h"
 
 #include <QDir>
 #include <QFile>
@@ -259,4 +259,29 @@ TEST_F(Recording, theSheetShowsFractionsAndIgnoresWhatWouldDismissIt) {
     EXPECT_EQ(delegate->windowProgress()->maxValue(), 100.0);
     EXPECT_EQ(delegate->windowProgress()->doubleValue(), 0.0);
     delegate->surroundings.progress.close();
+}
+
+TEST_F(Recording, isPausedForWantOfMemoryWithTheReasonAndLosesNothing) {
+    MemoryState memory{1000000, 500000};
+    delegate->recording.memory = [&memory] { return std::optional(memory); };
+    delegate->OnRecordRecord(nullptr);
+    delegate->TimerRefreshVideoRoutine();
+    delegate->TimerDebug1SecondRoutine();
+    EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_RECORD);
+    const std::size_t frames = delegate->recording.array_Images->size();
+
+    memory.available = 90000;
+    delegate->TimerDebug1SecondRoutine();
+    EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_PAUSE);
+    EXPECT_TRUE(delegate->ui->labelStatus->text().contains(QStringLiteral("memory")))
+        << qPrintable(delegate->ui->labelStatus->text());
+    EXPECT_EQ(delegate->recording.array_Images->size(), frames);
+
+    delegate->OnRecordRecord(nullptr);
+    delegate->TimerDebug1SecondRoutine();
+    EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_RECORD) << "the user insists";
+    memory.available = 40000;
+    delegate->TimerDebug1SecondRoutine();
+    EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_PAUSE);
+    EXPECT_EQ(delegate->recording.array_Images->size(), frames);
 }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "shell/tab_view.h"
-#include "tests/controller_fixture.h"
-#include "tests/files.h"
+#include "tests/controller/controller_fixture.h"
+#include "tests/support/files.h"
 #include "trim/view_cut_preview.h"
 #include "trim/view_cut_range.h"
 

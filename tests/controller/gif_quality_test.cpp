@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "export/frame_timing.h"
 #include "export/gif_preset.h"
-#include "export_fixture.h"
 #include "shell/window_progress.h"
+#include "tests/controller/export_fixture.h"
 
 #include <QDir>
 #include <QElapsedTimer>

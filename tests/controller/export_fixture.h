@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tests/controller_fixture.h"
-#include "tests/files.h"
+#include "tests/controller/controller_fixture.h"
+#include "tests/support/files.h"
 
 #include "export/gif_preset.h"
 

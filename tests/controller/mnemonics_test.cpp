@@ -4,7 +4,7 @@
 
 #include "record/window_fps.h"
 #include "region/window_region_how_it_works.h"
-#include "tests/controller_fixture.h"
+#include "tests/controller/controller_fixture.h"
 
 #include <QTranslator>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "record/window_list.h"
-#include "tests/controller_fixture.h"
+#include "tests/controller/controller_fixture.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "export/frame_timing.h"
-#include "export_fixture.h"
 #include "shell/window_progress.h"
+#include "tests/controller/export_fixture.h"
 
 #include <QDir>
 #include <QImageReader>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "export/frame_timing.h"
-#include "export_fixture.h"
+#include "tests/controller/export_fixture.h"
 
 #include <QProcess>
 #include <QRegularExpression>

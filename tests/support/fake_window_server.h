@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/window_server.h"
+
+#include <QImage>
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+/// A window server without a screen: a test says which windows there are and what a grab yields.
+class FakeWindowServer : public WindowServer {
+public:
+    std::vector<WindowDescription> windows;
+    std::optional<Image> picture;
+    QString why;
+    /// The numbers of the last grab.
+    std::vector<std::uint32_t> asked;
+
+    WindowServerCapabilities capabilities() const override { return {true, true, true}; }
+    QString reason() const override { return why; }
+    std::vector<WindowDescription> listWindows() override { return windows; }
+    using WindowServer::composite;
+    std::optional<Image> composite(std::span<const std::uint32_t> numbers,
+                                   const std::optional<QRect> &) override {
+        asked.assign(numbers.begin(), numbers.end());
+        return picture;
+    }
+};
+
+/// A picture of one colour.
+inline Image plainImage(QSize size, QRgb colour, QImage::Format format = QImage::Format_RGB32) {
+    QImage pixels(size, format);
+    pixels.fill(colour);
+    return Image::fromQImage(pixels);
+}
