@@ -99,7 +99,7 @@ void AppDelegate::Terminate_App() {
     disconnect(shell.localeChangeObserver());
     settings::flush();
     // No destructors: save threads may be at work beside them, and nested event loops stand on the
-    // stack. A running tool is ended by the kernel, which was told so when it was started.
+    // stack. The kernel ends a running tool, as it was asked to when the tool was started.
     std::_Exit(EXIT_SUCCESS);
 }
 

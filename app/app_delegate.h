@@ -36,7 +36,7 @@ public:
     /// What the controller takes from outside, so that a test can give another one.
     struct Environment {
         std::unique_ptr<WindowServer> windowServer;
-        /// The user's Documents folder, absolute, in which the working folders lie.
+        /// The user's Documents folder, absolute, which holds the working folders.
         QString documentsFolder;
     };
 
@@ -74,7 +74,7 @@ public:
     /// Loads the main window and sets what its description leaves open; before the start-up.
     void awakeFromNib();
     /// The start-up sequence; the window is shown when it returns. False when a working folder
-    /// could not be made (the user has been told): the process must end, with status 0.
+    /// could not be made (the user has been notified): the process must end, with status 0.
     bool applicationDidFinishLaunching();
     bool applicationShouldTerminateAfterLastWindowClosed() const { return true; }
     /// The main window is closing: ends the process. Returns when a recording is being saved, as

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int patience = 2000; // milliseconds
+constexpr int longestWait = 2000; // milliseconds
 
 } // namespace
 
@@ -41,16 +41,16 @@ bool SingleInstance::askFirstToComeForward() const {
     // Connecting is the whole message: there is only one thing to ask for.
     QLocalSocket socket;
     socket.connectToServer(socketPath_);
-    if (!socket.waitForConnected(patience))
+    if (!socket.waitForConnected(longestWait))
         return false;
     // One that ends meanwhile hangs up, too, but has not said anything.
-    return socket.bytesAvailable() > 0 || socket.waitForReadyRead(patience);
+    return socket.bytesAvailable() > 0 || socket.waitForReadyRead(longestWait);
 }
 
 void SingleInstance::listen(std::function<void()> comeForward) {
     if (lock_ < 0)
         return;
-    // What lies there belongs to an instance that has ended: this one holds the lock.
+    // What is there belongs to an instance that has ended: this one holds the lock.
     QLocalServer::removeServer(socketPath_);
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     QObject::connect(&server_, &QLocalServer::newConnection, &server_,

@@ -20,7 +20,7 @@ namespace start_up {
 
 namespace {
 
-/// False when one could not be made; the user has been told.
+/// False when one could not be made; the user has been notified.
 bool createWorkingFolders(Surroundings &surroundings, const QString &documentsFolder) {
     ShellFields &shell = surroundings.shell;
     shell.setS_Output_Folder(working_folders::recordingFolder(documentsFolder));

@@ -14,7 +14,7 @@ namespace start_up {
 void makeMainWindow(AppDelegate &controller);
 
 /// The start-up sequence; the window is shown when it returns. False when a working folder in
-/// `documentsFolder` could not be made (the user has been told).
+/// `documentsFolder` could not be made (the user has been notified).
 bool run(AppDelegate &controller, Controls &controls, const QString &documentsFolder);
 
 } // namespace start_up

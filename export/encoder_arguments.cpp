@@ -15,7 +15,7 @@ namespace encoder_arguments {
 namespace {
 
 /// Whether the path of a single picture in this folder may be taken for that of a sequence.
-/// Doubling does not help there: with no number left in it, such a path is used as it stands.
+/// Doubling does not help there: with no number left in it, such a path is used as it is.
 bool looksLikePattern(const QString &folder) { return folder.contains(QLatin1Char('%')); }
 
 QString pattern(const QString &folder, QLatin1String name) {

@@ -72,12 +72,12 @@ struct WebPCoding {
     int quality = 75; ///< 0 to 100; of a lossless coding how hard it is tried.
 };
 
-/// The qualities of a lossy WebP that a preset stands for; none where it must be exact.
+/// The qualities of a lossy WebP that goes with a preset; none where it must be exact.
 std::optional<int> lossyQuality(GifPreset preset);
 
 /// The WebP: arguments one after another, of which only the paths may hold blanks. `loopsText` is
-/// the user's: text that does not begin with a number means 0, for ever. The encoder says on its
-/// error output which frames it has added.
+/// the user's: text that does not begin with a number means 0 = loop forever. The encoder says on
+/// its error output which frames it has added.
 QStringList webpArguments(QStringView loopsText, std::span<const WebPFrame> frames,
                           const WebPCoding &coding, const QString &output);
 

@@ -9,7 +9,7 @@
 
 #include <optional>
 
-/// What the user has chosen for the file, as it stands in the controls. The texts are as they were
+/// What the user has chosen for the file, as the controls show it. The texts are as they were
 /// typed: some of them are for an encoder to judge.
 struct ExportChoices {
     QString width;  ///< pixels

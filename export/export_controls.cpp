@@ -61,7 +61,7 @@ void ExportOptions::listen() {
 
     const auto field = [this](QLineEdit *edit, Action action) {
         connect(edit, &QLineEdit::returnPressed, this, [this, action] { (this->*action)(); });
-        // Also told after Return, and when an untouched field loses the focus.
+        // Also emitted after Return, and when an untouched field loses the focus.
         connect(edit, &QLineEdit::editingFinished, this, [this, edit, action] {
             if (edit->isModified())
                 (this->*action)();

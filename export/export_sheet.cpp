@@ -12,7 +12,7 @@ void Exporter::beginExport(const QString &caption) {
     surroundings_.progress.offerCancel();
     // Laying the frames out, which comes next, lets nothing be painted.
     surroundings_.progress.paint();
-    // Somebody may have taken it away since the start.
+    // It may have been deleted since the start.
     working_folders::ensureFolder(surroundings_.shell.s_Export_Folder());
 }
 

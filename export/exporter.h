@@ -96,7 +96,7 @@ public:
     // A finished file without a place -----------------------------------------------------------
 
     /// Whether a finished export has no place of the user's yet, since the panel was cancelled or
-    /// the place could not be used. It lies in the export folder.
+    /// the place could not be used. It is in the export folder.
     bool hasUnsavedResult() const;
     /// Lets the user choose a place for it once more.
     void saveUnsavedResult();

@@ -15,7 +15,7 @@ enum class GifPreset {
 inline constexpr GifPreset gifPresets[] = {GifPreset::Best, GifPreset::Balanced, GifPreset::Small,
                                            GifPreset::Classic};
 
-/// The word that stands for it in the settings file.
+/// Its word in the settings file.
 const char *presetWord(GifPreset preset);
 /// The preset of a word; Balanced for a text that is none of the words, as before the first choice.
 GifPreset presetOfWord(QStringView word);

@@ -8,7 +8,7 @@
 /// number that the text begins with, and the encoder judges that.
 enum class LoopsTextProblem {
     None,
-    NotNumber, ///< Does not begin with a number: it counts as 0, for ever.
+    NotNumber, ///< Does not begin with a number: it counts as 0 = loop forever.
     Negative,  ///< The encoder refuses it.
     TooLarge,  ///< More than the WebP format can hold: the encoder refuses it.
 };

@@ -6,7 +6,7 @@
 
 #include <optional>
 
-/// Moves a finished file to the place that the user chose. Whatever stands there is replaced only
+/// Moves a finished file to the place that the user chose. Whatever is there is replaced only
 /// by the complete new file, in one step: it is never lost, whether the move fails, the disk is
 /// full or the power goes. Between file systems the new file is first written beside the old one.
 ///

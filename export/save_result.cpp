@@ -29,7 +29,7 @@ QString startFolder() {
     return QDir::homePath();
 }
 
-/// Whether a file of that path would lie in a folder that the program empties.
+/// Whether a file of that path would be in a folder that the program empties.
 bool liesInWorkingFolder(const QString &path, const ShellFields &shell) {
     const QString folder = QFileInfo(path).dir().canonicalPath() + QLatin1Char('/');
     const std::array working{shell.s_Output_Folder(), shell.s_Export_Folder(),

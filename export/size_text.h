@@ -7,7 +7,7 @@
 
 /// What is wrong with the text of a size field. The field takes anything; whether an export starts
 /// depends on the number that the text begins with, and whether it succeeds on the encoder, which
-/// reads the text as it stands.
+/// reads the whole text.
 enum class SizeTextProblem {
     None,
     Zero,     ///< Does not begin with a number other than 0: the export will not start.
@@ -19,5 +19,5 @@ enum class SizeTextProblem {
 /// The first of these that holds; none for what both will take.
 SizeTextProblem sizeTextProblem(QStringView text);
 
-/// What the user is told about it, as it reads on after the field's name; empty for none.
+/// The message about it, to follow the field's name; empty for none.
 QString sizeProblemText(SizeTextProblem problem);

@@ -11,13 +11,12 @@
 /// short or a progress line; bytes that are not UTF-8 are replaced.
 QString lastMeaningfulLines(QByteArrayView errorOutput);
 
-/// What the user is told about a run that did not succeed: the tool's name, how it ended, what it
-/// said.
+/// The message for a run that did not succeed: the tool's name, how it ended, what it wrote.
 QString toolFailureText(const QString &toolName, const ToolExit &exit);
 
 /// The same for a run that was given a size; the size too, where it may be the reason.
 QString refusedSizeText(const QString &toolName, const ToolExit &exit, const QString &width,
                         const QString &height);
 
-/// What the user is told when a tool ended well and its result is missing or empty.
+/// The message when a tool ended well and its result is missing or empty.
 QString noResultText(const QString &toolName, const QString &file, const ToolExit &exit);

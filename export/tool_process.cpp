@@ -17,7 +17,7 @@ void prepare(QProcess &process, const QString &toolPath, const QStringList &argu
     process.setChildProcessModifier([parent = getpid()] {
         // Between fork and exec: only calls that are safe in a signal handler.
         prctl(PR_SET_PDEATHSIG, SIGKILL);
-        // The parent may have died before the kernel was told.
+        // The parent may have died before the kernel was asked.
         if (getppid() != parent)
             raise(SIGKILL);
     });

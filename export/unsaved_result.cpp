@@ -53,7 +53,7 @@ bool Exporter::mustAskFirst(std::function<void()> goOn) {
     if (surroundings_.alerts.isAsking() || recorder_.isOpeningRecording())
         return true;
     if (!hasUnsavedResult()) {
-        // Somebody may have taken it away: what is made next under its name is another one.
+        // It may have been deleted: what is made next under its name is another one.
         forgetResult();
         return false;
     }

@@ -25,7 +25,7 @@ public:
     std::uint32_t imageOptions() const { return imageOptions_; }
     void setImageOptions(std::uint32_t options) { imageOptions_ = options; }
 
-    /// Area of the composite image; none stands for the infinite rectangle, the whole desktop.
+    /// Area of the composite image; none means the infinite rectangle, the whole desktop.
     const std::optional<QRectF> &imageBounds() const { return imageBounds_; }
     void setImageBounds(const std::optional<QRectF> &bounds) { imageBounds_ = bounds; }
 

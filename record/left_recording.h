@@ -6,7 +6,7 @@
 
 #include <QString>
 
-/// A recording that was saved to the end and lies in the recording folder, as it is found by a
+/// A recording that was saved to the end and is in the recording folder, as it is found by a
 /// start after a crash, a kill or the end of the session.
 namespace left_recording {
 

@@ -16,7 +16,7 @@ struct MemoryState {
     std::uint64_t available = 0;
 };
 
-/// As the kernel tells it; none where it doesn't. `root` stands for the root folder, for tests.
+/// As the kernel reports it; none where it doesn't. `root` replaces the root folder, for tests.
 std::optional<MemoryState> machineMemory(const QString &root = QStringLiteral("/"));
 
 /// Says when a recording should pause, before the machine runs out of memory: once when less than a

@@ -136,7 +136,7 @@ Q_SIGNALS:
     void began();
     /// The last recording is about to be written again: nobody may read its files meanwhile.
     void aboutToSaveAgain();
-    /// A recording stands in the store and, as far as that was possible, in the recording folder.
+    /// A recording is in the store and, as far as that was possible, in the recording folder.
     void recordingReady();
 
 private:

@@ -23,7 +23,7 @@ class RecordingLoader : public QObject {
 
 public:
     /// Called after each turn with the number of frames read so far. The last call comes when all
-    /// have been read, or one cannot be; the loader may be told to `deleteLater` in it.
+    /// have been read, or one cannot be; `deleteLater` may be called on the loader in it.
     using Report = std::function<void(std::uint64_t done)>;
 
     /// Starts with the next turn of the event loop. `store` is borrowed.

@@ -17,7 +17,7 @@ constexpr double mostSeconds = 366.0 * 24 * 60 * 60;
 constexpr double mostFrames = mostSeconds * 60;
 constexpr double longestSide = 1'000'000;
 constexpr double mostBytes = 1e18;
-// Frames per second. What was measured may lie a little beyond the rates that can be chosen.
+// Frames per second. What was measured may be a little beyond the rates that can be chosen.
 constexpr double slowest = 0.001;
 constexpr double fastest = 1000;
 

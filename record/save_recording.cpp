@@ -20,7 +20,7 @@ void Recorder::saveRecording() {
         surroundings_.showStatus(qtTrId("IDD_NOTHING_RECORDED"));
         return;
     }
-    // Somebody may have taken it away since the start.
+    // It may have been deleted since the start.
     working_folders::ensureFolder(surroundings_.shell.s_Output_Folder());
     frameSaver_ =
         std::make_unique<FrameSaver>(*recording.array_Images, surroundings_.shell.s_Output_Folder(),

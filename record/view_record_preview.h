@@ -40,7 +40,7 @@ public:
     void showReason(const QString &reason);
 
     /// The part of `image` inside `rectangle`, which is in the image's units with its origin at the
-    /// lower left corner. The result has the rectangle's size, in whole pixels; what lies outside
+    /// lower left corner. The result has the rectangle's size, in whole pixels; what is outside
     /// the image is transparent. Empty when the image is. `change` is how the part came out of an
     /// earlier one of its size.
     static Image partOfImage(const Image &image, const QRectF &rectangle,

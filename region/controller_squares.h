@@ -5,11 +5,11 @@
 #include "region/region_fields.h"
 #include "region/region_geometry.h"
 
-/// The five squares between the controller, which keeps them as a list of holders, and the rules,
+/// The five squares between the desk, which keeps them as a list of holders, and the rules,
 /// which take five points.
 namespace controller_squares {
 
-/// The controller's squares; those that its list lacks lie at the origin.
+/// The desk's squares; those that its list lacks are at the origin.
 inline region_geometry::Squares read(const RegionFields &fields) {
     region_geometry::Squares squares;
     for (std::size_t i = 0; i < std::min(squares.size(), fields.arrayScreenPointSquare.size());
@@ -20,7 +20,7 @@ inline region_geometry::Squares read(const RegionFields &fields) {
     return squares;
 }
 
-/// Replaces the controller's list.
+/// Replaces the desk's list.
 inline void write(RegionFields &fields, const region_geometry::Squares &squares) {
     fields.arrayScreenPointSquare.clear();
     for (const region_geometry::Point &corner : squares)

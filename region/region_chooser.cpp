@@ -50,7 +50,7 @@ void RegionChooser::OnRecordRegion() {
     }
     if (code == Window_Transparent_Region::accepted)
         return;
-    // A region may lie anywhere on a screen that has changed.
+    // A region may be anywhere on a screen that has changed.
     region.setI_Type_Screen_Capture(
         code == Window_Transparent_Region::screenChanged ? CAPTURE_FULL_SCREEN : typeBefore);
     region.setRect_Screen_Region(rectangleBefore);

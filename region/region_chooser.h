@@ -13,7 +13,7 @@
 class Surroundings;
 
 /// The desk of the region: what is recorded, the whole screen or a part of it, and where that part
-/// lies. It knows nothing of grabs but their size, and nothing of the main window's controls.
+/// is. It knows nothing of grabs but their size, and nothing of the main window's controls.
 class RegionChooser : public QObject {
     Q_OBJECT
 

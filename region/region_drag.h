@@ -25,7 +25,7 @@ enum class Held { Corner, Whole, NewRegion };
 
 struct Grip {
     Held held = Held::NewRegion;
-    /// Index of the square in hand: for a new region the one that the pointer draws.
+    /// Index of the square that is dragged: for a new region the one that the pointer draws.
     int corner = region_geometry::lowerRight;
     Point pressed;
     Squares before{};

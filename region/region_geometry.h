@@ -11,7 +11,7 @@
 #include <cstdint>
 #include <optional>
 
-/// The rules of the region selection: where the five squares lie, which one a press hits, what a
+/// The rules of the region selection: where the five squares are, which one a press hits, what a
 /// drag does, which region they stand for. Not for drawing, and not for the grab's own units (see
 /// shell/coordinates.h).
 ///
@@ -113,7 +113,7 @@ inline void drag(Squares &squares, int index, Point pointer) {
     sameRow.y = pointer.y;
     sameColumn.x = pointer.x;
 
-    // The half is cut off on the way from the lower left, whichever corner is in hand.
+    // The half is cut off on the way from the lower left, whichever corner is dragged.
     const std::int32_t xPointer = truncated(pointer.x);
     const std::int32_t yPointer = truncated(pointer.y);
     const std::int32_t xOther = truncated(sameRow.x);
@@ -144,7 +144,7 @@ inline Region boundingRegion(const Squares &squares) {
     return {minX + squareInset, minY + squareInset, maxX - minX, maxY - minY};
 }
 
-/// Where a corner lies now, seen from the opposite one: its place as the user sees it, which is not
+/// Where a corner is now, seen from the opposite one: its place as the user sees it, which is not
 /// its index's once it has been dragged past another corner.
 struct Place {
     bool left = false;

@@ -10,11 +10,11 @@
 
 #include <optional>
 
-/// Where the region lies in what is grabbed. A value that follows from other values: nothing is
+/// Where the region is in what is grabbed. A value that follows from other values: nothing is
 /// stored here and no window is asked.
 namespace region_place {
 
-/// A grab of the desktop, as far as it decides where a region lies in it.
+/// A grab of the desktop, as far as it decides where a region is in it.
 struct Grab {
     QSize pixels; ///< Of the desktop, before any halving; empty before the first grab.
     /// If it was halved: the pixel that became part of the half's first one, 0 or 1 in either

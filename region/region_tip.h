@@ -4,7 +4,7 @@
 
 #include <QLabel>
 
-/// The small window beside the corner in hand that tells the region's size and place. A window of
+/// The small window beside the chosen corner that shows the region's size and place. A window of
 /// its own, because the overlay draws nothing but the region; it takes no events, and as one of our
 /// own windows it is never recorded.
 class RegionTip : public QLabel {

@@ -309,7 +309,7 @@ void Window_Transparent_Region::adaptToDesktop() {
         viewTransparentRegion_->setShaped(!blended);
         squaresChanged();
     }
-    // A panel that the compositing manager draws lies above every window, and a shaped window has
+    // A panel that the compositing manager draws is above every window, and a shaped window has
     // no presses outside its shape. Another client may hold them for a moment (a menu that is
     // closing).
     if (holdsInput_ || !windowHandle())

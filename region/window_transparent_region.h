@@ -104,7 +104,7 @@ private:
     QRect screenFrame_;      // points, upper left origin
     View_Transparent_Region *viewTransparentRegion_;
     RegionTip *tip_;
-    /// The corner that the arrow keys move and that the tip stands at.
+    /// The corner that the arrow keys move and that the tip is shown at.
     int cornerInHand_ = region_geometry::lowerRight;
     bool blended_ = true;
     bool holdsInput_ = false;

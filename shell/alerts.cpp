@@ -18,7 +18,7 @@ constexpr int alertTextWidth = 400; // points
 
 const QString closeTitle = QStringLiteral("Close");
 
-/// One more text above the buttons; to be called last, since the box arranges itself anew with what
+/// One more text above the buttons; to be called last, since the box rearranges itself with what
 /// it knows.
 void addDetail(QMessageBox &box, QGridLayout &grid, const QString &text) {
     auto *buttons = box.findChild<QDialogButtonBox *>();

@@ -9,7 +9,7 @@ namespace coordinates {
 
 Screen screenOnDesktop(const QScreen &screen) {
     const QRect frame = screen.geometry();
-    // The toolkit leaves a screen's origin in pixels and scales only what lies on the screen.
+    // The toolkit leaves a screen's origin in pixels and scales only what is on the screen.
     return {.originX = static_cast<double>(frame.x()),
             .originY = static_cast<double>(frame.y()),
             .height = static_cast<double>(frame.height()),

@@ -72,7 +72,7 @@ struct Units {
 /// screen's own ratio decides, whatever else the desktop consists of.
 inline bool isHalved(double ratio) { return ratio == 2.0; }
 
-/// Where `region` lies in a grab that has `unitsPerPixel` units for one pixel of the desktop (1, or
+/// Where `region` is in a grab that has `unitsPerPixel` units for one pixel of the desktop (1, or
 /// a half where a grab of double density was halved). Each edge goes to the nearest whole unit, so
 /// that neighbouring regions stay neighbours. A screen's size in points is rounded, so that its
 /// last unit may be one that the grab, `grabWidth` by `grabHeight`, does not have: that one is left

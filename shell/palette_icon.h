@@ -6,7 +6,7 @@
 #include <QIcon>
 #include <QString>
 
-/// Icons that follow the application's palette: drawings in one colour, painted anew in each size,
+/// Icons that follow the application's palette: drawings in one colour, painted again in each size,
 /// scale and state from the palette of that moment. So they stay sharp on every screen, and a theme
 /// that turns dark while the program runs needs nothing more than the repaint that it causes
 /// anyway. Not for pictures with colours of their own.

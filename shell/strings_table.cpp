@@ -18,7 +18,7 @@ const QString fallback = QStringLiteral("en");
 
 QString language(const QString &tag) { return tag.section(QLatin1Char('-'), 0, 0); }
 
-/// Chinese is two written languages: a preference decides by its script, and a territory stands for
+/// Chinese is two written languages: a preference decides by its script, and a territory implies
 /// the script that is written there.
 bool sameWriting(const QString &preferred, const QString &table) {
     return QLocale(preferred).script() == QLocale(table).script();

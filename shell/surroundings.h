@@ -31,7 +31,7 @@ public:
     /// rectangle without a screen. Points, lower left origin.
     void updateScreen();
 
-    /// Whether a recording exists: whether anything stands at the first frame's path.
+    /// Whether a recording exists: whether anything is at the first frame's path.
     bool firstFrameFileExists() const;
 
 Q_SIGNALS:

@@ -15,13 +15,13 @@ class Window_Progress;
 
 /// The progress sheet: a caption and a bar, hanging from a strip of the window that it blocks. The
 /// job that showed it takes it down, the user cannot; a job that can be cancelled says so, and is
-/// told when the user does. A sheet is never used twice.
+/// notified when the user does. A sheet is never used twice.
 class Window_Progress : public QDialog {
     Q_OBJECT
 
 public:
     /// A sheet on `anchor`'s window, centred under `anchor` and following that window's moves. The
-    /// window owns it. The bar runs from 0 to 100 and stands at 0.
+    /// window owns it. The bar runs from 0 to 100 and starts at 0.
     Window_Progress(QWidget &anchor, const QString &caption);
     ~Window_Progress() override;
 

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <optional>
 
-/// The arithmetic of the trim editor: where the handles stand, which frames lie between them, where
+/// The arithmetic of the trim editor: where the handles are, which frames are between them, where
 /// the playhead is drawn. Percentages are of the recording, in single precision; x and widths are
 /// points from the strip's left end. No drawing and no state.
 namespace range_rules {
@@ -28,14 +28,14 @@ struct Stretch {
 /// Width of a handle and of the playhead, in points.
 inline constexpr double handleWidth = 5.0;
 
-/// The lower handle stands right of its percentage, the upper one left of it.
+/// The lower handle is right of its percentage, the upper one left of it.
 Stretch lowerHandle(float percent, double stripWidth);
 Stretch upperHandle(float percent, double stripWidth);
 
 /// The band between the handles; its width is negative where they overlap.
 Stretch bandBetween(Handles handles, double stripWidth);
 
-/// Whether the stretch contains x; its right end lies outside.
+/// Whether the stretch contains x; its right end is not part of it.
 bool contains(Stretch stretch, double x);
 
 /// One step of a drag: `handle` follows the pointer at x, in a preview of `previewWidth`, to the
@@ -43,7 +43,7 @@ bool contains(Stretch stretch, double x);
 /// one the two values are swapped.
 std::optional<Handles> dragged(Handles handles, Handle handle, double x, double previewWidth);
 
-/// Which of the two handles is the one in hand after `handle` was moved to `percent`: the other one
+/// Which of the two handles is being dragged after `handle` was moved to `percent`: the other one
 /// once they have changed places.
 Handle inHand(Handles moved, Handle handle, float percent);
 

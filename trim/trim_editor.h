@@ -14,7 +14,7 @@ class Recorder;
 class Surroundings;
 
 /// The desk of the trim editor: which part of the recording is kept, and its playback. Its views
-/// draw what stands here. It knows neither tabs nor controls: it says by signals what has changed.
+/// draw what is kept here. It knows neither tabs nor controls: it says by signals what has changed.
 class TrimEditor : public QObject {
     Q_OBJECT
 

@@ -45,7 +45,7 @@ public:
     std::uint64_t uCurrentFrame() const { return uCurrentFrame_; }
     void setUCurrentFrame(std::uint64_t frame) { uCurrentFrame_ = frame; }
 
-    /// The end that the preview shows while nothing plays: that of the handle in hand.
+    /// The end that the preview shows while nothing plays: that of the handle that was moved last.
     RangeEnd previewedEnd() const { return previewedEnd_; }
     void setPreviewedEnd(RangeEnd end) { previewedEnd_ = end; }
 

@@ -52,7 +52,7 @@ void View_Cut_Preview::drawNoVideo(QPainter &painter) const {
     const double textWidth = metrics.horizontalAdvance(text);
     painter.setFont(font);
     painter.setPen(Qt::white);
-    // The text's box is centred; its baseline lies above the box's lower edge.
+    // The text's box is centred; its baseline is above the box's lower edge.
     painter.drawText(QPointF(width() / 2.0 - textWidth / 2.0,
                              height() / 2.0 + metrics.height() / 2.0 - metrics.descent()),
                      text);

@@ -57,7 +57,7 @@ public:
     /// The handle that keys move.
     range_rules::Handle chosenHandle() const { return chosen_; }
 
-    /// The frame number that a handle stands for, 0 to the number of frames.
+    /// The frame number that a handle represents, 0 to the number of frames.
     std::uint64_t frameOf(range_rules::Handle handle) const;
     /// Moves a handle to a frame number, under the rules of a drag: not while playing or paused,
     /// and the two are swapped when they pass each other; then the chosen handle changes as well,

@@ -17,7 +17,7 @@ namespace gif {
 constexpr std::int64_t longestDelay = 65535;
 
 /// The header, a table for all pictures (may be empty, at most 256), and how often the pictures are
-/// repeated, 0 for ever; without a number they are shown once.
+/// repeated, 0 = loop forever; without a number they are shown once.
 std::vector<std::uint8_t> fileBeginning(int width, int height, std::span<const Rgb> table,
                                         std::optional<std::uint16_t> repeats);
 

@@ -24,7 +24,7 @@ struct Options {
     int width = 0; ///< pixels of every frame, 1 to 65,535
     int height = 0;
     float tolerance = balancedTolerance;
-    /// How often a player begins again, 0 for ever; without a number it plays once.
+    /// How often a player begins again, 0 = loop forever; without a number it plays once.
     std::optional<std::uint16_t> repeats = 0;
     /// Threads to use, the caller's included. The bytes do not depend on it.
     int threads = 1;

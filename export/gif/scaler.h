@@ -17,13 +17,13 @@ namespace gif {
 /// pixels around, so that there are no halos.
 ///
 /// A pixel of the result depends on nothing but the pixels around its place: what did not change
-/// stays the same to the bit, and parts can be scaled anew on their own.
+/// stays the same to the bit, and parts can be scaled again on their own.
 class Scaler {
 public:
     /// Sizes in pixels, from 1 to 65,535.
     Scaler(int fromWidth, int fromHeight, int width, int height);
 
-    /// Scales the part `part` of the result, which lies within it, from the whole picture `from`
+    /// Scales the part `part` of the result, which is within it, from the whole picture `from`
     /// (rows `stride` pixels apart, as of `Frame`) into `result`, rows of the result's width. Ends
     /// early, with some of it unscaled, when `stop` is asked for.
     void scale(const std::uint32_t *from, std::ptrdiff_t stride, const Rect &part,

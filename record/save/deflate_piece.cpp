@@ -57,7 +57,7 @@ private:
 };
 
 /// What a codeword leads to: in the lowest five bits how many bits it takes, those that follow it
-/// included; above them what it stands for.
+/// included; above them what it means.
 using Meaning = std::uint16_t;
 constexpr unsigned bitsOfMeaning = 5;
 constexpr Meaning meaning(unsigned what, unsigned bits) {

@@ -18,8 +18,10 @@ namespace {
 /// A frame whose result has not come yet; no error has this number.
 constexpr int pending = -1;
 
-/// Waits for what the run before says. Nothing of the first run's, before which there is none.
-template <class T> T told(std::future<T> &future) { return future.valid() ? future.get() : T(); }
+/// Waits for the result of the run before; empty for the first run, which has none before it.
+template <class T> T resultOf(std::future<T> &future) {
+    return future.valid() ? future.get() : T();
+}
 
 } // namespace
 
@@ -45,7 +47,7 @@ void FrameSaver::work() {
     ImageReader reader;
     std::unique_ptr<PngBandWriter> writer;
     while (!cancelled_) {
-        Told own;
+        Promised own;
         Awaited before;
         std::size_t run = 0;
         {
@@ -59,14 +61,14 @@ void FrameSaver::work() {
     }
 }
 
-void FrameSaver::saveRun(std::size_t run, Told &own, Awaited &before, ImageReader &reader,
+void FrameSaver::saveRun(std::size_t run, Promised &own, Awaited &before, ImageReader &reader,
                          std::unique_ptr<PngBandWriter> &writer) {
     const std::size_t first = runs_[run];
     const std::size_t end = run + 1 < runs_.size() ? runs_[run + 1] : frames_.size();
     bool changed = true;
     const PngBands bands = encode(run, before, reader, writer, changed);
     own.bands.set_value(bands);
-    own.file.set_value(writeRun(first, end, bands, changed ? QString() : told(before.file)));
+    own.file.set_value(writeRun(first, end, bands, changed ? QString() : resultOf(before.file)));
 }
 
 PngBands FrameSaver::encode(std::size_t run, Awaited &before, ImageReader &reader,
@@ -89,7 +91,7 @@ PngBands FrameSaver::encode(std::size_t run, Awaited &before, ImageReader &reade
     }
     changed = written > 0;
     // Only now, when what is new has been done beside it, the run before is waited for.
-    const PngBands bandsBefore = written < bands.size() ? told(before.bands) : PngBands();
+    const PngBands bandsBefore = written < bands.size() ? resultOf(before.bands) : PngBands();
     for (std::size_t band = 0; band < bands.size(); ++band)
         if (!bands[band])
             bands[band] = bandsBefore.empty() ? writer->write(rows, static_cast<int>(band))

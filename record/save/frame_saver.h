@@ -33,8 +33,8 @@ class FrameSaver : public QObject {
 
 public:
     /// Called on the thread that made the saver, from its event loop, once for each frame in their
-    /// order: `done` runs 1, 2, ... up to the number of frames. The saver may be told to
-    /// `deleteLater` in it.
+    /// order: `done` runs 1, 2, ... up to the number of frames. `deleteLater` may be
+    /// called on the saver in it.
     using Report = std::function<void(std::uint64_t done)>;
 
     /// Starts at once. `frames` is not empty, `folder` exists.
@@ -50,9 +50,9 @@ public:
     QString reason() const { return reason_; }
 
 private:
-    /// What a run of identical frames tells the run behind it, as soon as it is known; each is told
-    /// in any case, empty when it could not be made.
-    struct Told {
+    /// What a run of identical frames passes to the next one as soon as it is known; each is set
+    /// in any case, to an empty value when it could not be made.
+    struct Promised {
         std::promise<PngBands> bands;
         std::promise<QString> file;
     };
@@ -62,7 +62,7 @@ private:
     };
 
     void work();
-    void saveRun(std::size_t run, Told &own, Awaited &before, ImageReader &reader,
+    void saveRun(std::size_t run, Promised &own, Awaited &before, ImageReader &reader,
                  std::unique_ptr<PngBandWriter> &writer);
     PngBands encode(std::size_t run, Awaited &before, ImageReader &reader,
                     std::unique_ptr<PngBandWriter> &writer, bool &changed) const;

@@ -29,17 +29,17 @@ struct FrameFormat {
 
 /// The rows of `frame` in the format's size, 32 bits a pixel: premultiplied with alpha, else with
 /// bytes of any value in its place. A picture of another size is put into the upper left corner
-/// over black, and what is transparent stands over black where the format has no alpha. Null when
+/// over black, and what is transparent is over black where the format has no alpha. Null when
 /// there is no memory for it. To be let go before `reader` reads again.
 QImage rowsOf(const Image &frame, const FrameFormat &format, ImageReader &reader);
 
 /// How many bands a picture of this format has, from the top down.
 int bandCount(const FrameFormat &format);
 
-/// Where the band `band` stands in the picture.
+/// Where the band `band` is in the picture.
 QRect bandIn(const FrameFormat &format, int band);
 
-/// A band as it stands in a file.
+/// A band as it is written in a file.
 struct PngBand {
     std::vector<std::uint8_t> chunk;
     std::size_t length = 0;  // bytes before they were compressed

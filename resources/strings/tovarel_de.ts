@@ -163,7 +163,7 @@
         <translation>nicht gefunden</translation>
     </message>
     <message id="IDD_HELP_NOT_OPENED">
-        <source>No program was found that shows the help pages. Open this file in a browser:</source>
+        <source>No program was found to show the help pages. Open this file in a browser:</source>
         <translation>Es wurde kein Programm gefunden, das die Hilfeseiten anzeigt. Öffnen Sie diese Datei in einem Browser:</translation>
     </message>
     <message id="IDD_RECORD_PREVIEW">
@@ -192,7 +192,7 @@
         <translation>Der Bildschirm kann nicht aufgenommen werden: Diesem Anzeigeserver fehlt eine der Erweiterungen Damage, XFixes, Render und Shape.</translation>
     </message>
     <message id="IDD_REASON_PICTURE_FORMAT">
-        <source>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</source>
+        <source>The screen cannot be recorded: this display server does not use 24-bit colour.</source>
         <translation>Der Bildschirm kann nicht aufgenommen werden: Dieser Anzeigeserver hält keine Bilder in 24-Bit-Farbe.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -213,7 +213,7 @@
         <translation>Angehalten</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
-        <source>Paused – press %1 to go on</source>
+        <source>Paused – press %1 to continue</source>
         <translation>Angehalten – weiter mit „%1“</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
@@ -221,7 +221,7 @@
         <translation>%1 · Bilder: %2 · Bilder pro Sekunde: %3</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Recording was paused, because memory is running out (%1 left). Record goes on, Stop saves what there is.</source>
+        <source>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</source>
         <translation>Die Aufnahme wurde angehalten, weil der Speicher knapp wird (noch %1). „Aufnehmen“ setzt sie fort, „Stopp“ sichert, was da ist.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
@@ -229,7 +229,7 @@
         <translation>Speicher: %1</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
-        <source>Memory: %1, lasts %2 more</source>
+        <source>Memory: %1, enough for %2 more</source>
         <translation>Speicher: %1, reicht noch %2</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
@@ -237,7 +237,7 @@
         <translation>Die Aufnahme ist vollständig. Bilder: %1 · Bilder pro Sekunde: %2</translation>
     </message>
     <message id="IDD_RECORDING_BEHIND">
-        <source>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</source>
+        <source>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</source>
         <translation>Die Aufnahme ist abgeschlossen. Bilder: %1 · %2 Bilder pro Sekunde gewünscht, %3 erreicht</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
@@ -350,7 +350,7 @@
         <translation>Klicken zum Bestätigen</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
-        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</source>
+        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</source>
         <translation>Mit der Tastatur: Die Pfeiltasten bewegen eine Ecke (mit Umschalt schneller), Tabulator wählt eine andere, Eingabe bestätigt, Escape bricht ab.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
@@ -408,7 +408,7 @@
         <translation>Schritt 2 von 2: %p %</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
-        <source>The export was canceled.</source>
+        <source>The export was cancelled.</source>
         <translation>Der Export wurde abgebrochen.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
@@ -466,11 +466,11 @@ It remains at %3.</source>
 Sie bleibt unter %3.</translation>
     </message>
     <message id="IDD_MOVE_IS_FOLDER">
-        <source>A folder of that name stands there.</source>
+        <source>There is a folder with that name.</source>
         <translation>Dort steht ein Ordner dieses Namens.</translation>
     </message>
     <message id="IDD_MOVE_NOT_A_FILE">
-        <source>What stands there is not an ordinary file.</source>
+        <source>There is something with that name that is not an ordinary file.</source>
         <translation>Was dort steht, ist keine gewöhnliche Datei.</translation>
     </message>
     <message id="IDD_MOVE_SAME_FILE">
@@ -522,7 +522,7 @@ Sie bleibt unter %3.</translation>
         <translation>Qualität</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
         <translation>Qualität des GIF: „Beste“ erhält die Farben so genau wie möglich, „Klein“ ergibt die kleinste Datei, „Klassisch“ verwendet ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -646,7 +646,7 @@ Sie bleibt unter %3.</translation>
         <translation>WebP-Wiederholungen</translation>
     </message>
     <message id="IDD_WEBP_LOOPS_HINT">
-        <source>0 means for ever</source>
+        <source>0 = loop forever</source>
         <translation>0 heißt endlos</translation>
     </message>
     <message id="IDD_LOOPS_NOT_NUMBER">
@@ -670,7 +670,7 @@ Sie bleibt unter %3.</translation>
         <translation>muss mit einer Zahl außer 0 beginnen</translation>
     </message>
     <message id="IDD_SIZE_NEGATIVE">
-        <source>negative, will be refused</source>
+        <source>must not be negative</source>
         <translation>negativ, wird abgelehnt</translation>
     </message>
     <message id="IDD_SIZE_NOT_PLAIN">

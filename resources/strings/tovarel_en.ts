@@ -163,8 +163,8 @@
         <translation>not found</translation>
     </message>
     <message id="IDD_HELP_NOT_OPENED">
-        <source>No program was found that shows the help pages. Open this file in a browser:</source>
-        <translation>No program was found that shows the help pages. Open this file in a browser:</translation>
+        <source>No program was found to show the help pages. Open this file in a browser:</source>
+        <translation>No program was found to show the help pages. Open this file in a browser:</translation>
     </message>
     <message id="IDD_RECORD_PREVIEW">
         <source>Live preview</source>
@@ -192,8 +192,8 @@
         <translation>The screen cannot be recorded: this display server lacks one of the extensions Damage, XFixes, Render and Shape.</translation>
     </message>
     <message id="IDD_REASON_PICTURE_FORMAT">
-        <source>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</source>
-        <translation>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</translation>
+        <source>The screen cannot be recorded: this display server does not use 24-bit colour.</source>
+        <translation>The screen cannot be recorded: this display server does not use 24-bit colour.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
         <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
@@ -213,32 +213,32 @@
         <translation>Paused</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
-        <source>Paused – press %1 to go on</source>
-        <translation>Paused – press %1 to go on</translation>
+        <source>Paused – press %1 to continue</source>
+        <translation>Paused – press %1 to continue</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
         <source>%1 · Frames: %2 · Frames per second: %3</source>
         <translation>%1 · Frames: %2 · Frames per second: %3</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Recording was paused, because memory is running out (%1 left). Record goes on, Stop saves what there is.</source>
-        <translation>Recording was paused, because memory is running out (%1 left). Record goes on, Stop saves what there is.</translation>
+        <source>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</source>
+        <translation>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
         <translation>Memory: %1</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
-        <source>Memory: %1, lasts %2 more</source>
-        <translation>Memory: %1, lasts %2 more</translation>
+        <source>Memory: %1, enough for %2 more</source>
+        <translation>Memory: %1, enough for %2 more</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
         <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
         <translation>The recording is complete. Frames: %1 · Frames per second: %2</translation>
     </message>
     <message id="IDD_RECORDING_BEHIND">
-        <source>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</source>
-        <translation>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</translation>
+        <source>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</source>
+        <translation>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
@@ -350,8 +350,8 @@
         <translation>Click to accept</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
-        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</source>
-        <translation>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</translation>
+        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</source>
+        <translation>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
         <source>Don't show this again</source>
@@ -408,8 +408,8 @@
         <translation>Step 2 of 2: %p%</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
-        <source>The export was canceled.</source>
-        <translation>The export was canceled.</translation>
+        <source>The export was cancelled.</source>
+        <translation>The export was cancelled.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
         <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
@@ -466,12 +466,12 @@ It remains at %3.</source>
 It remains at %3.</translation>
     </message>
     <message id="IDD_MOVE_IS_FOLDER">
-        <source>A folder of that name stands there.</source>
-        <translation>A folder of that name stands there.</translation>
+        <source>There is a folder with that name.</source>
+        <translation>There is a folder with that name.</translation>
     </message>
     <message id="IDD_MOVE_NOT_A_FILE">
-        <source>What stands there is not an ordinary file.</source>
-        <translation>What stands there is not an ordinary file.</translation>
+        <source>There is something with that name that is not an ordinary file.</source>
+        <translation>There is something with that name that is not an ordinary file.</translation>
     </message>
     <message id="IDD_MOVE_SAME_FILE">
         <source>That is the file itself.</source>
@@ -522,8 +522,8 @@ It remains at %3.</translation>
         <translation>Quality</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
-        <translation>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</translation>
+        <source>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <translation>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
         <source>Best</source>
@@ -646,8 +646,8 @@ It remains at %3.</translation>
         <translation>WebP loops</translation>
     </message>
     <message id="IDD_WEBP_LOOPS_HINT">
-        <source>0 means for ever</source>
-        <translation>0 means for ever</translation>
+        <source>0 = loop forever</source>
+        <translation>0 = loop forever</translation>
     </message>
     <message id="IDD_LOOPS_NOT_NUMBER">
         <source>must be a whole number</source>
@@ -670,8 +670,8 @@ It remains at %3.</translation>
         <translation>must begin with a number other than 0</translation>
     </message>
     <message id="IDD_SIZE_NEGATIVE">
-        <source>negative, will be refused</source>
-        <translation>negative, will be refused</translation>
+        <source>must not be negative</source>
+        <translation>must not be negative</translation>
     </message>
     <message id="IDD_SIZE_NOT_PLAIN">
         <source>digits only, or it will be refused</source>

@@ -163,7 +163,7 @@
         <translation>no encontrada</translation>
     </message>
     <message id="IDD_HELP_NOT_OPENED">
-        <source>No program was found that shows the help pages. Open this file in a browser:</source>
+        <source>No program was found to show the help pages. Open this file in a browser:</source>
         <translation>No se encontró ningún programa que muestre las páginas de ayuda. Abra este archivo en un navegador:</translation>
     </message>
     <message id="IDD_RECORD_PREVIEW">
@@ -192,7 +192,7 @@
         <translation>No se puede grabar la pantalla: a este servidor gráfico le falta una de las extensiones Damage, XFixes, Render y Shape.</translation>
     </message>
     <message id="IDD_REASON_PICTURE_FORMAT">
-        <source>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</source>
+        <source>The screen cannot be recorded: this display server does not use 24-bit colour.</source>
         <translation>No se puede grabar la pantalla: este servidor gráfico no usa imágenes en color de 24 bits.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -213,7 +213,7 @@
         <translation>En pausa</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
-        <source>Paused – press %1 to go on</source>
+        <source>Paused – press %1 to continue</source>
         <translation>En pausa: siga con «%1»</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
@@ -221,7 +221,7 @@
         <translation>%1 · Fotogramas: %2 · Fotogramas por segundo: %3</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Recording was paused, because memory is running out (%1 left). Record goes on, Stop saves what there is.</source>
+        <source>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</source>
         <translation>La grabación se ha puesto en pausa porque queda poca memoria (%1). Grabar la continúa, Detener guarda lo grabado.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
@@ -229,7 +229,7 @@
         <translation>Memoria: %1</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
-        <source>Memory: %1, lasts %2 more</source>
+        <source>Memory: %1, enough for %2 more</source>
         <translation>Memoria: %1, alcanza para %2 más</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
@@ -237,7 +237,7 @@
         <translation>La grabación está completa. Fotogramas: %1 · Fotogramas por segundo: %2</translation>
     </message>
     <message id="IDD_RECORDING_BEHIND">
-        <source>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</source>
+        <source>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</source>
         <translation>La grabación ha terminado. Fotogramas: %1 · Se pidieron %2 fotogramas por segundo y se obtuvieron %3</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
@@ -350,7 +350,7 @@
         <translation>Haga clic para aceptar</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
-        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</source>
+        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</source>
         <translation>Con el teclado: las flechas mueven una esquina (más rápido con Mayús), Tab elige otra, Intro acepta y Esc cancela.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
@@ -408,7 +408,7 @@
         <translation>Paso 2 de 2: %p %</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
-        <source>The export was canceled.</source>
+        <source>The export was cancelled.</source>
         <translation>La exportación se ha cancelado.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
@@ -466,11 +466,11 @@ It remains at %3.</source>
 Sigue en %3.</translation>
     </message>
     <message id="IDD_MOVE_IS_FOLDER">
-        <source>A folder of that name stands there.</source>
+        <source>There is a folder with that name.</source>
         <translation>Ahí hay una carpeta con ese nombre.</translation>
     </message>
     <message id="IDD_MOVE_NOT_A_FILE">
-        <source>What stands there is not an ordinary file.</source>
+        <source>There is something with that name that is not an ordinary file.</source>
         <translation>Lo que hay ahí no es un archivo corriente.</translation>
     </message>
     <message id="IDD_MOVE_SAME_FILE">
@@ -522,7 +522,7 @@ Sigue en %3.</translation>
         <translation>Calidad</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
         <translation>Calidad del GIF: «Óptima» conserva los colores con la mayor exactitud posible, «Compacta» da el archivo más pequeño, «Clásica» usa ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -646,7 +646,7 @@ Sigue en %3.</translation>
         <translation>Repeticiones del WebP</translation>
     </message>
     <message id="IDD_WEBP_LOOPS_HINT">
-        <source>0 means for ever</source>
+        <source>0 = loop forever</source>
         <translation>0 significa sin fin</translation>
     </message>
     <message id="IDD_LOOPS_NOT_NUMBER">
@@ -670,7 +670,7 @@ Sigue en %3.</translation>
         <translation>debe empezar por un número distinto de 0</translation>
     </message>
     <message id="IDD_SIZE_NEGATIVE">
-        <source>negative, will be refused</source>
+        <source>must not be negative</source>
         <translation>negativo, será rechazado</translation>
     </message>
     <message id="IDD_SIZE_NOT_PLAIN">

@@ -163,7 +163,7 @@
         <translation>introuvable</translation>
     </message>
     <message id="IDD_HELP_NOT_OPENED">
-        <source>No program was found that shows the help pages. Open this file in a browser:</source>
+        <source>No program was found to show the help pages. Open this file in a browser:</source>
         <translation>Aucun programme n’a été trouvé pour afficher les pages d’aide. Ouvrez ce fichier dans un navigateur :</translation>
     </message>
     <message id="IDD_RECORD_PREVIEW">
@@ -192,7 +192,7 @@
         <translation>Impossible d’enregistrer l’écran : il manque à ce serveur d’affichage l’une des extensions Damage, XFixes, Render et Shape.</translation>
     </message>
     <message id="IDD_REASON_PICTURE_FORMAT">
-        <source>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</source>
+        <source>The screen cannot be recorded: this display server does not use 24-bit colour.</source>
         <translation>Impossible d’enregistrer l’écran : ce serveur d’affichage n’utilise pas d’images en couleurs 24 bits.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -213,7 +213,7 @@
         <translation>En pause</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
-        <source>Paused – press %1 to go on</source>
+        <source>Paused – press %1 to continue</source>
         <translation>En pause – « %1 » pour continuer</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
@@ -221,7 +221,7 @@
         <translation>%1 · Images : %2 · Images par seconde : %3</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Recording was paused, because memory is running out (%1 left). Record goes on, Stop saves what there is.</source>
+        <source>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</source>
         <translation>L’enregistrement a été mis en pause, car la mémoire s’épuise (il reste %1). Enregistrer le poursuit, Arrêter sauvegarde ce qui existe.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
@@ -229,7 +229,7 @@
         <translation>Mémoire : %1</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
-        <source>Memory: %1, lasts %2 more</source>
+        <source>Memory: %1, enough for %2 more</source>
         <translation>Mémoire : %1, suffit encore pour %2</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
@@ -237,7 +237,7 @@
         <translation>L’enregistrement est terminé. Images : %1 · Images par seconde : %2</translation>
     </message>
     <message id="IDD_RECORDING_BEHIND">
-        <source>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</source>
+        <source>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</source>
         <translation>L’enregistrement est terminé. Images&#xa0;: %1 · %2&#xa0;images par seconde demandées, %3 obtenues</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
@@ -350,7 +350,7 @@
         <translation>Cliquez pour valider</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
-        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</source>
+        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</source>
         <translation>Au clavier : les flèches déplacent un coin (plus vite avec Maj), Tab en choisit un autre, Entrée valide, Échap abandonne.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
@@ -408,7 +408,7 @@
         <translation>Étape 2 sur 2 : %p %</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
-        <source>The export was canceled.</source>
+        <source>The export was cancelled.</source>
         <translation>L’exportation a été annulée.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
@@ -466,11 +466,11 @@ It remains at %3.</source>
 Il reste à l’emplacement %3.</translation>
     </message>
     <message id="IDD_MOVE_IS_FOLDER">
-        <source>A folder of that name stands there.</source>
+        <source>There is a folder with that name.</source>
         <translation>Un dossier de ce nom s’y trouve.</translation>
     </message>
     <message id="IDD_MOVE_NOT_A_FILE">
-        <source>What stands there is not an ordinary file.</source>
+        <source>There is something with that name that is not an ordinary file.</source>
         <translation>Ce qui s’y trouve n’est pas un fichier ordinaire.</translation>
     </message>
     <message id="IDD_MOVE_SAME_FILE">
@@ -522,7 +522,7 @@ Il reste à l’emplacement %3.</translation>
         <translation>Qualité</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
         <translation>Qualité du GIF&#xa0;: «&#xa0;Optimale&#xa0;» garde les couleurs aussi exactes que possible, «&#xa0;Compacte&#xa0;» donne le plus petit fichier, «&#xa0;Classique&#xa0;» utilise ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -646,7 +646,7 @@ Il reste à l’emplacement %3.</translation>
         <translation>Répétitions du WebP</translation>
     </message>
     <message id="IDD_WEBP_LOOPS_HINT">
-        <source>0 means for ever</source>
+        <source>0 = loop forever</source>
         <translation>0 signifie sans fin</translation>
     </message>
     <message id="IDD_LOOPS_NOT_NUMBER">
@@ -670,7 +670,7 @@ Il reste à l’emplacement %3.</translation>
         <translation>doit commencer par un nombre autre que 0</translation>
     </message>
     <message id="IDD_SIZE_NEGATIVE">
-        <source>negative, will be refused</source>
+        <source>must not be negative</source>
         <translation>négatif, sera refusé</translation>
     </message>
     <message id="IDD_SIZE_NOT_PLAIN">

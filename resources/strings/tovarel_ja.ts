@@ -163,7 +163,7 @@
         <translation>見つかりません</translation>
     </message>
     <message id="IDD_HELP_NOT_OPENED">
-        <source>No program was found that shows the help pages. Open this file in a browser:</source>
+        <source>No program was found to show the help pages. Open this file in a browser:</source>
         <translation>ヘルプページを表示できるプログラムが見つかりません。次のファイルをブラウザーで開いてください:</translation>
     </message>
     <message id="IDD_RECORD_PREVIEW">
@@ -192,7 +192,7 @@
         <translation>画面を録画できません。このディスプレイサーバーには Damage、XFixes、Render、Shape のいずれかの拡張がありません。</translation>
     </message>
     <message id="IDD_REASON_PICTURE_FORMAT">
-        <source>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</source>
+        <source>The screen cannot be recorded: this display server does not use 24-bit colour.</source>
         <translation>画面を録画できません。このディスプレイサーバーは 24 ビットカラーの画像を扱っていません。</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -213,7 +213,7 @@
         <translation>一時停止中</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
-        <source>Paused – press %1 to go on</source>
+        <source>Paused – press %1 to continue</source>
         <translation>一時停止中（「%1」で再開）</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
@@ -221,7 +221,7 @@
         <translation>%1 · フレーム数: %2 · 1 秒あたりのフレーム数: %3</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Recording was paused, because memory is running out (%1 left). Record goes on, Stop saves what there is.</source>
+        <source>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</source>
         <translation>メモリが残り少ないため（残り %1）、録画を一時停止しました。録画で再開、停止で保存します。</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
@@ -229,7 +229,7 @@
         <translation>メモリ: %1</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
-        <source>Memory: %1, lasts %2 more</source>
+        <source>Memory: %1, enough for %2 more</source>
         <translation>メモリ: %1、あと %2</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
@@ -237,7 +237,7 @@
         <translation>録画が完了しました。フレーム数: %1 · 1 秒あたりのフレーム数: %2</translation>
     </message>
     <message id="IDD_RECORDING_BEHIND">
-        <source>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</source>
+        <source>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</source>
         <translation>録画が完了しました。フレーム数: %1 · 指定: %2 fps、実際: %3 fps</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
@@ -350,7 +350,7 @@
         <translation>クリックで確定</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
-        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</source>
+        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</source>
         <translation>キーボード操作: 矢印キーで角を移動（Shift で速く）、Tab で別の角を選択、Enter で確定、Esc で中止。</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
@@ -408,7 +408,7 @@
         <translation>2/2: %p%</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
-        <source>The export was canceled.</source>
+        <source>The export was cancelled.</source>
         <translation>書き出しを中止しました。</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
@@ -466,11 +466,11 @@ It remains at %3.</source>
 ファイルは %3 に残っています。</translation>
     </message>
     <message id="IDD_MOVE_IS_FOLDER">
-        <source>A folder of that name stands there.</source>
+        <source>There is a folder with that name.</source>
         <translation>その名前のフォルダーがあります。</translation>
     </message>
     <message id="IDD_MOVE_NOT_A_FILE">
-        <source>What stands there is not an ordinary file.</source>
+        <source>There is something with that name that is not an ordinary file.</source>
         <translation>そこにあるのは通常のファイルではありません。</translation>
     </message>
     <message id="IDD_MOVE_SAME_FILE">
@@ -522,7 +522,7 @@ It remains at %3.</source>
         <translation>画質</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
         <translation>GIF の画質: 「最高」は色をできるだけ正確に保ち、「小サイズ」はファイルが最小になり、「クラシック」は ffmpeg を使用します</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -646,7 +646,7 @@ It remains at %3.</source>
         <translation>WebP の繰り返し回数</translation>
     </message>
     <message id="IDD_WEBP_LOOPS_HINT">
-        <source>0 means for ever</source>
+        <source>0 = loop forever</source>
         <translation>0 は無限</translation>
     </message>
     <message id="IDD_LOOPS_NOT_NUMBER">
@@ -670,7 +670,7 @@ It remains at %3.</source>
         <translation>0 以外の数で始めてください</translation>
     </message>
     <message id="IDD_SIZE_NEGATIVE">
-        <source>negative, will be refused</source>
+        <source>must not be negative</source>
         <translation>負の数は拒否されます</translation>
     </message>
     <message id="IDD_SIZE_NOT_PLAIN">

@@ -163,7 +163,7 @@
         <translation>não encontrada</translation>
     </message>
     <message id="IDD_HELP_NOT_OPENED">
-        <source>No program was found that shows the help pages. Open this file in a browser:</source>
+        <source>No program was found to show the help pages. Open this file in a browser:</source>
         <translation>Nenhum programa foi encontrado para mostrar as páginas de ajuda. Abra este arquivo em um navegador:</translation>
     </message>
     <message id="IDD_RECORD_PREVIEW">
@@ -192,7 +192,7 @@
         <translation>Não é possível gravar a tela: falta a este servidor gráfico uma das extensões Damage, XFixes, Render e Shape.</translation>
     </message>
     <message id="IDD_REASON_PICTURE_FORMAT">
-        <source>The screen cannot be recorded: this display server does not hold pictures in 24-bit colour.</source>
+        <source>The screen cannot be recorded: this display server does not use 24-bit colour.</source>
         <translation>Não é possível gravar a tela: este servidor gráfico não usa imagens em cores de 24 bits.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -213,7 +213,7 @@
         <translation>Em pausa</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
-        <source>Paused – press %1 to go on</source>
+        <source>Paused – press %1 to continue</source>
         <translation>Em pausa – continue com “%1”</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
@@ -221,7 +221,7 @@
         <translation>%1 · Quadros: %2 · Quadros por segundo: %3</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Recording was paused, because memory is running out (%1 left). Record goes on, Stop saves what there is.</source>
+        <source>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</source>
         <translation>A gravação foi pausada porque a memória está acabando (restam %1). Gravar continua, Parar salva o que existe.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
@@ -229,7 +229,7 @@
         <translation>Memória: %1</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
-        <source>Memory: %1, lasts %2 more</source>
+        <source>Memory: %1, enough for %2 more</source>
         <translation>Memória: %1, dura mais %2</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
@@ -237,7 +237,7 @@
         <translation>A gravação está completa. Quadros: %1 · Quadros por segundo: %2</translation>
     </message>
     <message id="IDD_RECORDING_BEHIND">
-        <source>The recording is complete. Frames: %1 · Asked for %2, got %3 frames per second</source>
+        <source>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</source>
         <translation>A gravação terminou. Quadros: %1 · Pedidos: %2 quadros por segundo; obtidos: %3</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
@@ -350,7 +350,7 @@
         <translation>Clique para confirmar</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
-        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape gives up.</source>
+        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</source>
         <translation>Pelo teclado: as setas movem um canto (Shift: mais rápido), Tab escolhe outro, Enter confirma, Esc cancela.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
@@ -408,7 +408,7 @@
         <translation>Etapa 2 de 2: %p%</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
-        <source>The export was canceled.</source>
+        <source>The export was cancelled.</source>
         <translation>A exportação foi cancelada.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
@@ -466,11 +466,11 @@ It remains at %3.</source>
 Ele continua em %3.</translation>
     </message>
     <message id="IDD_MOVE_IS_FOLDER">
-        <source>A folder of that name stands there.</source>
+        <source>There is a folder with that name.</source>
         <translation>Já existe ali uma pasta com esse nome.</translation>
     </message>
     <message id="IDD_MOVE_NOT_A_FILE">
-        <source>What stands there is not an ordinary file.</source>
+        <source>There is something with that name that is not an ordinary file.</source>
         <translation>O que está ali não é um arquivo comum.</translation>
     </message>
     <message id="IDD_MOVE_SAME_FILE">
@@ -522,7 +522,7 @@ Ele continua em %3.</translation>
         <translation>Qualidade</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
         <translation>Qualidade do GIF: “Melhor” mantém as cores o mais exatas possível, “Compacta” dá o menor arquivo, “Clássica” usa o ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -646,7 +646,7 @@ Ele continua em %3.</translation>
         <translation>Repetições do WebP</translation>
     </message>
     <message id="IDD_WEBP_LOOPS_HINT">
-        <source>0 means for ever</source>
+        <source>0 = loop forever</source>
         <translation>0 significa sem fim</translation>
     </message>
     <message id="IDD_LOOPS_NOT_NUMBER">
@@ -670,7 +670,7 @@ Ele continua em %3.</translation>
         <translation>deve começar com um número diferente de 0</translation>
     </message>
     <message id="IDD_SIZE_NEGATIVE">
-        <source>negative, will be refused</source>
+        <source>must not be negative</source>
         <translation>negativo, será recusado</translation>
     </message>
     <message id="IDD_SIZE_NOT_PLAIN">
