@@ -12,7 +12,7 @@ namespace {
 
 /// Enough of a tool's error output for the alert's last lines, in bytes. A long run writes
 /// megabytes of progress.
-constexpr qsizetype errorTail = 64 * 1024;
+constexpr qsizetype errorTail = qsizetype{64} * 1024;
 
 } // namespace
 
@@ -63,7 +63,7 @@ std::optional<ToolExit> Exporter::runWhileEventsTurn(QProcess &tool, const QStri
     connect(&tool, &QProcess::finished, this,
             [this](int exitCode, QProcess::ExitStatus status) { terminated(exitCode, status); });
     connect(&tool, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-        // The only error after which the tool's end is not told.
+        // The only error after which no end is reported.
         if (error == QProcess::FailedToStart)
             terminated(0, QProcess::NormalExit);
     });

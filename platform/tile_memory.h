@@ -19,7 +19,7 @@
 /// back to the system, a few spare ones aside.
 class TileMemory {
 public:
-    static constexpr std::size_t blockBytes = 64 * 64 * 4;
+    static constexpr std::size_t blockBytes = std::size_t{64} * 64 * 4;
 
     TileMemory();
     ~TileMemory(); ///< all blocks are back

@@ -10,8 +10,8 @@
 /// plain cast is undefined there.
 template <std::signed_integral Whole, std::floating_point Number> Whole saturated(Number value) {
     // A power of two, and so exact; the highest whole number itself may not be.
-    constexpr Number beyond =
-        static_cast<Number>(std::numeric_limits<Whole>::max() / 2 + 1) * Number{2};
+    constexpr Whole half = std::numeric_limits<Whole>::max() / 2 + 1;
+    constexpr Number beyond = static_cast<Number>(half) * Number{2};
     if (std::isnan(value))
         return 0;
     if (value >= beyond)

@@ -29,6 +29,6 @@ inline float squaredDistance(const Perceived &x, const Perceived &y) {
 }
 
 /// CIEDE2000 itself, which costs some ten times as much: for what is promised.
-float colourDifference(Rgb x, Rgb y);
+float colourDifference(Rgb first, Rgb second);
 
 } // namespace gif

@@ -19,7 +19,7 @@ constexpr int rounds = 5;
 /// not the mean of its square.
 constexpr int roundsOfMedians = 3;
 constexpr float smallestDistance = 0.3f;
-/// A colour with this share of its group's weight stands for the group.
+/// A colour with this share of its group's weight represents the group.
 constexpr float ownShare = 0.4f;
 
 struct Point {
@@ -184,6 +184,7 @@ void moveToMiddles(const std::vector<Point> &points, std::vector<Rgb> &colours,
 std::vector<float> assign(std::vector<Point> &points, const std::vector<Rgb> &colours,
                           std::span<const Rgb> fixed) {
     std::vector<Perceived> places;
+    places.reserve(colours.size() + fixed.size());
     for (const Rgb colour : colours)
         places.push_back(perceived(colour));
     for (const Rgb colour : fixed)

@@ -31,7 +31,7 @@ public:
         std::uint8_t last = 0;  ///< and the one that it ends with
     };
 
-    LzwTable() : nodes_(mostCodes), children_(new std::uint16_t[mostCodes * 256]()) {}
+    LzwTable() : nodes_(mostCodes), children_(new std::uint16_t[std::size_t{mostCodes} * 256]()) {}
 
     /// Only the single indices below 2 to the power of `codeSize` (2 to 8) are left.
     void reset(int codeSize) {
@@ -83,7 +83,7 @@ public:
         parent.firstChild = added;
     }
 
-    /// Writes the indices that the phrase `code` stands for.
+    /// Writes the indices that the phrase `code` represents.
     void spell(unsigned code, std::uint8_t *indices) const {
         for (std::size_t i = nodes_[code].length; i-- > 0; code = nodes_[code].parent)
             indices[i] = nodes_[code].last;
