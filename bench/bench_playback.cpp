@@ -5,6 +5,7 @@
 // the view, painting it; beside a plain scaled paint of an uncompressed picture of the same size.
 // Ratios of processor time; the status is 1 when what is painted is wrong.
 
+#include "bench/short_form.h"
 #include "platform/image_scaler.h"
 
 #include <QGuiApplication>
@@ -18,8 +19,8 @@
 namespace {
 
 constexpr QSize frameSize{1920, 1080};
-constexpr int frameCount = 30;
-constexpr int rounds = 4;
+int frameCount = 30;
+int rounds = 4;
 
 double processorSeconds() {
     timespec now{};
@@ -106,6 +107,10 @@ bool quickIsCloseToFine(QSize view) {
 int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
+    if (isShortForm(argc, argv)) {
+        frameCount = 2;
+        rounds = 1;
+    }
     const std::vector<Image> frames = makeFrames();
     int status = 0;
     std::printf("%-12s %8s %8s %8s %8s   share of a tick at 60/s\n", "view", "fetch", "scale",

@@ -8,6 +8,7 @@
 // photograph, and of a film. The status is 1 when a bar is missed or a file does not hold the very
 // pixels of its frame.
 
+#include "bench/short_form.h"
 #include "platform/tile_store.h"
 #include "record/save/frame_saver.h"
 
@@ -30,8 +31,9 @@ namespace {
 
 constexpr QSize screen{1920, 1080};
 constexpr int rate = 30;
-constexpr int frameCount = 150;
-constexpr int saves = 5;
+int frameCount = 150;
+int saves = 5;
+bool barsCount = true;
 
 using Frames = std::vector<Image>;
 
@@ -234,7 +236,8 @@ bool measure(const char *name, void (*record)(Recording &), const Bars &bars) {
                 share > bars.save ? " MISSED" : "", static_cast<double>(bytes) * 1e-6,
                 bytes < 0 ? " WRONG PICTURES" : "");
     std::fflush(stdout);
-    return bytes >= 0 && share <= bars.save && held <= bars.held;
+    const bool met = share <= bars.save && held <= bars.held;
+    return bytes >= 0 && (met || !barsCount);
 }
 
 } // namespace
@@ -242,6 +245,11 @@ bool measure(const char *name, void (*record)(Recording &), const Bars &bars) {
 int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
+    if (isShortForm(argc, argv)) {
+        frameCount = 10;
+        saves = 1;
+        barsCount = false;
+    }
     std::puts("| recording of 5 s          | held/raw | bar   | save/length | bar | files MB |\n"
               "|---------------------------|----------|-------|-------------|-----|----------|");
     // One after another: a recording takes more than a gigabyte.

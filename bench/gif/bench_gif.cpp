@@ -6,6 +6,7 @@
 //   bench_gif NAME RAW WIDTH HEIGHT RATE [FOLDER]
 //                                      one of raw RGB frames; its files are kept in the folder
 #include "bench/gif/recordings.h"
+#include "bench/short_form.h"
 #include "export/gif/colour.h"
 #include "export/gif/encoder.h"
 #include "export/size_forecast.h"
@@ -23,6 +24,9 @@ namespace {
 
 constexpr int threads = 2;
 constexpr std::size_t measuredFrames = 24;
+
+/// Beyond this, in units of CIEDE2000, a picture is wrong and not only coarse.
+constexpr double largestDifference = 3;
 
 struct Preset {
     const char *name;
@@ -122,7 +126,9 @@ double meanDifference(const BenchRecording &recording, const std::vector<std::ui
     return sum / double(measured) / double(pixels);
 }
 
-void report(BenchRecording &recording, const std::filesystem::path &folder) {
+/// Whether all that was made looks like the recording.
+bool report(BenchRecording &recording, const std::filesystem::path &folder) {
+    bool good = true;
     for (const Preset &preset : presets) {
         const Made made = encoded(recording, preset.tolerance);
         const std::string name = recording.name.substr(0, recording.name.find('/')) +
@@ -135,7 +141,9 @@ void report(BenchRecording &recording, const std::filesystem::path &folder) {
                     static_cast<long long>(made.outcome.pictures), made.seconds, made.processor,
                     difference);
         std::fflush(stdout);
+        good = good && difference < largestDifference;
     }
+    return good;
 }
 
 /// How near to the size of the file what is told of it beforehand is, as the program tells it.
@@ -218,6 +226,12 @@ void reportScaling() {
 int main(int argc, char **argv) {
     const auto work = std::filesystem::temp_directory_path() / "tovarel-bench-gif";
     std::filesystem::create_directories(work);
+    if (isShortForm(argc, argv)) {
+        BenchRecording recording = madePan(160, 100);
+        const bool good = report(recording, work);
+        std::filesystem::remove_all(work);
+        return good ? 0 : 1;
+    }
     if (argc >= 6) {
         BenchRecording recording(argv[1], std::atoi(argv[3]), std::atoi(argv[4]),
                                  std::atof(argv[5]));
