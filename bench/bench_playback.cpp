@@ -6,7 +6,7 @@
 // Ratios of processor time; the status is 1 when what is painted is wrong.
 
 #include "bench/short_form.h"
-#include "platform/image_scaler.h"
+#include "platform/image/image_scaler.h"
 
 #include <QGuiApplication>
 #include <QPainter>

@@ -9,7 +9,7 @@
 // pixels of its frame.
 
 #include "bench/short_form.h"
-#include "platform/tile_store.h"
+#include "platform/image/tile_store.h"
 #include "record/save/frame_saver.h"
 
 #include <QEventLoop>

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "export/gif/frame_source.h"
-#include "platform/image.h"
-#include "platform/image_reader.h"
+#include "platform/image/image.h"
+#include "platform/image/image_reader.h"
 
 #include <QSize>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/image.h"
+#include "platform/image/image.h"
 
 #include <QRect>
 #include <QRectF>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/image.h"
+#include "platform/image/image.h"
 #include "platform/window_server.h"
 #include "record/window_entry.h"
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/image.h"
+#include "platform/image/image.h"
+#include "platform/image/tile_store.h"
 #include "platform/repeating_timer.h"
-#include "platform/tile_store.h"
 #include "record/memory_budget.h"
 #include "record/rates.h"
 #include "record/recording_clock.h"

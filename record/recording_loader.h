@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/image.h"
-#include "platform/tile_store.h"
+#include "platform/image/image.h"
+#include "platform/image/tile_store.h"
 #include "record/recording_note.h"
 
 #include <QObject>

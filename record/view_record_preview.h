@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/image.h"
-#include "platform/image_scaler.h"
+#include "platform/image/image.h"
+#include "platform/image/image_scaler.h"
 #include "record/fitting.h"
 
 #include <QElapsedTimer>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/image_scaler.h"
+#include "platform/image/image_scaler.h"
 
 #include <QWidget>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/desktop_model.h"
 
-#include "platform/regions.h"
+#include "platform/image/regions.h"
 
 #include <xcb/xfixes.h>
 

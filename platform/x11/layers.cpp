@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/layers.h"
 
-#include "platform/regions.h"
+#include "platform/image/regions.h"
 
 #include <algorithm>
 #include <unordered_map>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/picture_ring.h"
 
-#include "platform/regions.h"
+#include "platform/image/regions.h"
 
 #include <algorithm>
 #include <cstring>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/image.h"
-#include "platform/pixel_pool.h"
+#include "platform/image/image.h"
+#include "platform/image/pixel_pool.h"
 #include "platform/x11/connection.h"
 #include "platform/x11/picture_formats.h"
 #include "platform/x11/shared_picture.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "platform/regions.h"
+#include "platform/image/regions.h"
 #include "platform/x11/desktop_model.h"
 
 #include <algorithm>

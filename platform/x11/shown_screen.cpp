@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/shown_screen.h"
 
-#include "platform/regions.h"
+#include "platform/image/regions.h"
 
 #include <xcb/xfixes.h>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/tile_comparison.h"
 
-#include "platform/tile.h"
+#include "platform/image/tile.h"
 
 #include <algorithm>
 #include <cstring>

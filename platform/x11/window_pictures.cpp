@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/window_pictures.h"
 
-#include "platform/regions.h"
+#include "platform/image/regions.h"
 
 #include <xcb/composite.h>
 

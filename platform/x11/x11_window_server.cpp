@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/x11/x11_window_server.h"
 
-#include "platform/regions.h"
+#include "platform/image/regions.h"
 #include "platform/x11/surface.h"
 #include "platform/x11/tile_comparison.h"
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/image.h"
-#include "platform/image_reader.h"
+#include "platform/image/image.h"
+#include "platform/image/image_reader.h"
 #include "record/save/deflate_piece.h"
 
 #include <QImage>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "platform/tile_store.h"
+#include "platform/image/tile_store.h"
 #include "record/save/frame_saver.h"
 #include "tests/support/fake_window_server.h"
 #include "tests/support/files.h"

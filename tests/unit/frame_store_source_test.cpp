@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "export/frame_store_source.h"
-#include "platform/tile_store.h"
+#include "platform/image/tile_store.h"
 
 #include <QPainter>
 

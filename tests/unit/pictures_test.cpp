@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "platform/image_reader.h"
-#include "platform/image_scaler.h"
-#include "platform/tile_store.h"
+#include "platform/image/image_reader.h"
+#include "platform/image/image_scaler.h"
+#include "platform/image/tile_store.h"
 
 #include <QColor>
 #include <QPainter>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "platform/pixel_pool.h"
+#include "platform/image/pixel_pool.h"
 
-#include "platform/image.h"
+#include "platform/image/image.h"
 
 #include <gtest/gtest.h>
 

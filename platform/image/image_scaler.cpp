@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "platform/image_scaler.h"
+#include "platform/image/image_scaler.h"
 
 #include <QPainter>
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "platform/tile_store.h"
+#include "platform/image/tile_store.h"
 
-#include "platform/image_storage.h"
+#include "platform/image/image_storage.h"
 
 #include <sys/resource.h>
 #include <sys/syscall.h>

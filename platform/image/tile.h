@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/tile_memory.h"
+#include "platform/image/tile_memory.h"
 
 #include <QImage>
 #include <QRegion>

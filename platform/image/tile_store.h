@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/image.h"
-#include "platform/tile.h"
-#include "platform/tile_memory.h"
+#include "platform/image/image.h"
+#include "platform/image/tile.h"
+#include "platform/image/tile_memory.h"
 
 #include <condition_variable>
 #include <cstddef>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/display.h"
 
-#include "platform/x11/toolkit_connection.h"
+#include "platform/x11/toolkit/toolkit_connection.h"
 
 #include <QByteArray>
 

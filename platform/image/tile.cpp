@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "platform/tile.h"
+#include "platform/image/tile.h"
 
 #include <lz4.h>
 

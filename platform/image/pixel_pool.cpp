@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "platform/pixel_pool.h"
+#include "platform/image/pixel_pool.h"
 
 #include <sys/mman.h>
 

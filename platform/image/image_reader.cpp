@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "platform/image_reader.h"
+#include "platform/image/image_reader.h"
 
-#include "platform/image_storage.h"
+#include "platform/image/image_storage.h"
 
 #include <utility>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/image.h"
-#include "platform/tile.h"
+#include "platform/image/image.h"
+#include "platform/image/tile.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "platform/tile_memory.h"
+#include "platform/image/tile_memory.h"
 
 #include <sys/mman.h>
 
