@@ -124,7 +124,7 @@ void AppDelegate::OnMenuHelpSubmitTicket() { help::open("ticket.html"); }
 void AppDelegate::OnMenuAbout() { showAbout(surroundings); }
 
 void AppDelegate::listenToDesktopKeys() {
-    if (recorder.windowServer().reason().isEmpty())
+    if (!recorder.windowServer().obstacle())
         desktopKeys_ = std::make_unique<DesktopKeys>(*ui, surroundings, regionChooser);
 }
 

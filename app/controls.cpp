@@ -6,8 +6,8 @@
 #include "app/control_texts.h"
 #include "app/tabs.h"
 #include "app/task_bar_state.h"
-#include "platform/window_server.h"
 #include "shell/mnemonics.h"
+#include "shell/obstacle_text.h"
 #include "shell/tab_view.h"
 #include "ui_MainWindow.h"
 
@@ -30,7 +30,7 @@ void Controls::setUp() {
     ::setUp(commands_, this);
     const InterfaceStrings &texts = controller_.texts;
     nameControls(ui_, texts, controller_.shell.s_App_Name());
-    ui_.viewRecordPreview->showReason(controller_.recorder.windowServer().reason());
+    ui_.viewRecordPreview->showReason(obstacleText(controller_.recorder.windowServer().obstacle()));
     for (const QString &label : {texts.s_IDD_RECORD(), texts.s_IDD_CUT(), texts.s_IDD_SAVE()})
         controller_.shell.tabviewMain()->addTab(label);
     // Chosen last: a letter depends on the texts around it.

@@ -182,7 +182,7 @@ private:
 class Tick {
 public:
     Tick() {
-        auto obstacle = X11WindowServer::Obstacle::NoDisplay;
+        auto obstacle = Obstacle::NoDisplay;
         server_ = X11WindowServer::create({}, obstacle);
         if (!server_)
             std::abort();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/safe_move.h"
 
+#include "export/log.h"
 #include "shell/file_calls.h"
 
 #include <QFile>
@@ -133,7 +134,7 @@ std::optional<QString> safeMove(const QString &source, const QString &target) {
         return problem;
     // A working file is for the user alone. File systems without modes refuse; nothing is lost.
     if (fchmod(content.get(), usualMode()) != 0)
-        qWarning("oops: %s: %s", from.constData(), qPrintable(qt_error_string(errno)));
+        qCWarning(logExport, "oops: %s: %s", from.constData(), qPrintable(qt_error_string(errno)));
     if (!sync(content.get()))
         return systemReason();
     if (std::rename(from.constData(), to.constData()) == 0) {
@@ -145,6 +146,6 @@ std::optional<QString> safeMove(const QString &source, const QString &target) {
     const std::optional<QString> failure = copyOver(content.get(), to, folder);
     // The result is in its place: a source that cannot be removed is only left over.
     if (!failure && unlink(from.constData()) != 0)
-        qWarning("oops: %s: %s", from.constData(), qPrintable(qt_error_string(errno)));
+        qCWarning(logExport, "oops: %s: %s", from.constData(), qPrintable(qt_error_string(errno)));
     return failure;
 }

@@ -2,15 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "export/tool_process.h"
 
+#include "export/log.h"
 #include "export/tool_failure.h"
 
 #include <signal.h>
 #include <sys/prctl.h>
 #include <unistd.h>
 
+Q_LOGGING_CATEGORY(logExport, "tovarel.export", QtWarningMsg)
+
 namespace tool_process {
 
 void prepare(QProcess &process, const QString &toolPath, const QStringList &arguments) {
+    qCDebug(logExport) << toolPath << arguments;
     process.setProgram(toolPath);
     process.setArguments(arguments);
     process.setStandardInputFile(QProcess::nullDevice());

@@ -7,6 +7,7 @@
 #include <QRect>
 #include <QRectF>
 #include <QString>
+#include <QStringView>
 
 #include <cstdint>
 #include <memory>
@@ -21,7 +22,7 @@ struct WindowDescription {
     /// 0 when the window may not be shared (it opted out), another value otherwise.
     std::int32_t sharingState = 1;
     /// The name of the application that owns the window, never a title; it may be unknown. Windows
-    /// of this program's own process bear "Tovarel", whatever the executable is called.
+    /// of this program's own process bear `ownWindowsName`, whatever the executable is called.
     std::optional<QString> ownerName;
     /// The process that owns the window; 0 when the server cannot tell.
     std::int64_t ownerPid = 0;
@@ -33,6 +34,18 @@ struct WindowDescription {
     /// It hides whatever lies behind it: no shape of its own, no transparency, and nobody at work
     /// (a compositing manager) who may show windows through others or elsewhere.
     bool opaque = false;
+};
+
+/// The owner name of this program's own windows.
+inline constexpr QLatin1StringView ownWindowsName("Tovarel");
+
+/// Why a session cannot be recorded. A value: the words for it are found elsewhere.
+enum class Obstacle {
+    NoDisplay,        ///< There is no server, or it refuses.
+    NoComposite,      ///< Our own windows could not be left out.
+    MissingExtension, ///< Another extension that the back end needs is missing.
+    PictureFormat,    ///< The server does not hold pictures as words of 32 bits.
+    WaylandSession,   ///< An X server may answer, but it shows the windows of X clients only.
 };
 
 /// What a back end is able to do.
@@ -55,8 +68,8 @@ public:
     /// The same as long as the server lives.
     virtual WindowServerCapabilities capabilities() const = 0;
 
-    /// Why this server cannot record, in one sentence for the user; empty when it can.
-    virtual QString reason() const = 0;
+    /// Why this server cannot record; none when it can.
+    virtual std::optional<Obstacle> obstacle() const = 0;
 
     /// The windows on screen, front to back, menus and tool tips included. The desktop's background
     /// is the last entry. Windows that vanish meanwhile are left out; an empty list when the server
@@ -81,6 +94,6 @@ public:
     }
 };
 
-/// The server of the display that this session runs on; a null one with its reason where nothing
+/// The server of the display that this session runs on; a null one with the obstacle where nothing
 /// can be recorded. Never null itself.
 std::unique_ptr<WindowServer> makeWindowServer();

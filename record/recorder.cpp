@@ -3,6 +3,7 @@
 #include "record/recorder.h"
 
 #include "platform/window_server.h"
+#include "record/log.h"
 #include "record/recording_loader.h"
 #include "record/save/frame_saver.h"
 #include "record/window_list.h"
@@ -11,6 +12,8 @@
 #include "shell/working_folders.h"
 
 #include <utility>
+
+Q_LOGGING_CATEGORY(logRecord, "tovarel.record", QtWarningMsg)
 
 namespace {
 
@@ -42,7 +45,7 @@ void Recorder::start() {
 }
 
 bool Recorder::mayRecord() const {
-    return windowServer().reason().isEmpty() && !saveDue_ && !isSavingRecording();
+    return !windowServer().obstacle() && !saveDue_ && !isSavingRecording();
 }
 
 void Recorder::OnRecordRecord() {
@@ -88,7 +91,9 @@ void Recorder::OnRecordStop() {
         return;
     recording.clock.hold(now());
     recording.setM_RecordStatus(RECORD_STATUS_STOP);
-    recording.setExactRate(measuredRate(recordingCounts(), recording.u_FPS()));
+    const RecordingCounts counts = recordingCounts();
+    recording.setExactRate(measuredRate(counts, recording.u_FPS()));
+    qCDebug(logRecord) << counts.storedFrames << "frames in" << counts.passedSeconds << "seconds";
     recording.store.rest();
     // A new recording, which empties store and folder, has to wait for the save.
     saveDue_ = true;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "record/left_recording.h"
+#include "record/log.h"
 #include "record/recorder.h"
 #include "record/recording_loader.h"
 #include "shell/surroundings.h"
@@ -33,7 +34,7 @@ void Recorder::noteRecording() {
                              .seconds = counts.passedSeconds,
                              .rate = recording.exactRate()};
     if (!left_recording::writeNote(surroundings_.shell.s_Output_Folder(), note))
-        qWarning("the recording could not be noted: a later start will not offer it");
+        qCWarning(logRecord, "the recording could not be noted: a later start will not offer it");
 }
 
 void Recorder::forgetRecording() {

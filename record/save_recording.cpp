@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
+#include "record/log.h"
 #include "record/recorder.h"
 #include "record/save/frame_saver.h"
 #include "shell/surroundings.h"
 #include "shell/working_folders.h"
 
-#include <QDebug>
 #include <QDir>
 
 void Recorder::saveRecording() {
@@ -72,7 +72,7 @@ void Recorder::showSaveResult(const FrameSaver &saver) {
         qtTrId("IDD_FRAMES_MISSING")
             .arg(QString::number(saver.missing()), QString::number(saver.count()),
                  QDir::toNativeSeparators(surroundings_.shell.s_Output_Folder()), saver.reason());
-    qWarning().noquote() << text;
+    qCWarning(logRecord).noquote() << text;
     surroundings_.showStatus(text);
     hasMissingFrames_ = true;
 }

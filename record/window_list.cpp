@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr QLatin1StringView programName("Tovarel");
-
 /// Two numbers without decimals, rounded to the nearest, `separator` between them.
 QString wholePair(double first, double second, char separator) {
     // A double has up to 309 digits before its decimal sign.
@@ -48,7 +46,7 @@ void WindowListApplierFunction(const WindowDescription &description, WindowListA
 bool isCovered(std::span<const WindowDescription> frontToBack, const QRect &place) {
     QRegion seen = place;
     for (const WindowDescription &window : frontToBack) {
-        if (window.ownerName == programName) {
+        if (window.ownerName == ownWindowsName) {
             if (window.bounds.intersects(place))
                 break;
         } else if (window.opaque) {
@@ -58,4 +56,4 @@ bool isCovered(std::span<const WindowDescription> frontToBack, const QRect &plac
     return seen.isEmpty();
 }
 
-bool isOwnWindow(const WindowEntry &entry) { return entryText(entry).contains(programName); }
+bool isOwnWindow(const WindowEntry &entry) { return entryText(entry).contains(ownWindowsName); }

@@ -12,6 +12,8 @@
 #include <QMainWindow>
 #include <QPushButton>
 
+#include <utility>
+
 namespace {
 
 constexpr int alertTextWidth = 400; // points
@@ -78,7 +80,7 @@ void Alerts::ask(const Question &question, std::function<void(Answer)> answered)
     mnemonics::mark(*box);
     if (auto *grid = qobject_cast<QGridLayout *>(box->layout()))
         widen(*grid);
-    connect(box, &QDialog::finished, this, [=, this] {
+    connect(box, &QDialog::finished, this, [=, this, answered = std::move(answered)] {
         const QAbstractButton *clicked = box->clickedButton();
         const Answer answer = clicked == destroy  ? Answer::Destroy
                               : clicked == accept ? Answer::Accept

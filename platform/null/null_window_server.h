@@ -4,14 +4,13 @@
 
 #include "platform/window_server.h"
 
-/// The server of a session in which nothing can be recorded: no windows, no picture, one reason.
+/// The server of a session in which nothing can be recorded: no windows, no picture, one obstacle.
 class NullWindowServer : public WindowServer {
 public:
-    /// `reason` is the sentence that the user reads in the preview's place.
-    explicit NullWindowServer(QString reason);
+    explicit NullWindowServer(Obstacle obstacle) : obstacle_(obstacle) {}
 
     WindowServerCapabilities capabilities() const override { return {}; }
-    QString reason() const override { return reason_; }
+    std::optional<Obstacle> obstacle() const override { return obstacle_; }
     std::vector<WindowDescription> listWindows() override { return {}; }
     using WindowServer::composite;
     std::optional<Image> composite(std::span<const std::uint32_t>,
@@ -20,5 +19,5 @@ public:
     }
 
 private:
-    QString reason_;
+    Obstacle obstacle_;
 };

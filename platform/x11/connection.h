@@ -20,6 +20,18 @@ struct FreeReply {
     void operator()(void *reply) const { std::free(reply); }
 };
 template <class T> using Reply = std::unique_ptr<T, FreeReply>;
+
+/// Tells the log of an error that nothing follows from (category "tovarel.x11").
+void logDropped(const xcb_generic_error_t &error);
+
+struct Disconnect {
+    void operator()(xcb_connection_t *connection) const { xcb_disconnect(connection); }
+};
+using OwnConnection = std::unique_ptr<xcb_connection_t, Disconnect>;
+
+/// Connects to `display`, or to what DISPLAY names when it is null; null when there is no server or
+/// it refuses. `screen` gets the number of the screen that the display names.
+OwnConnection openDisplay(const char *display = nullptr, int *screen = nullptr);
 using Event = Reply<xcb_generic_event_t>;
 
 /// What the server can do beyond the core protocol, and where its events start.
@@ -68,7 +80,7 @@ public:
     /// server or it refuses.
     static std::unique_ptr<Connection> open(const char *display = nullptr);
 
-    ~Connection();
+    ~Connection() = default;
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
 
@@ -77,17 +89,17 @@ public:
         return open(display_.empty() ? nullptr : display_.c_str());
     }
 
-    xcb_connection_t *get() const { return connection_; }
-    const xcb_setup_t &setup() const { return *xcb_get_setup(connection_); }
+    xcb_connection_t *get() const { return connection_.get(); }
+    const xcb_setup_t &setup() const { return *xcb_get_setup(get()); }
     const xcb_screen_t &screen() const { return *screen_; }
     xcb_window_t root() const { return screen_->root; }
     const Extensions &extensions() const { return extensions_; }
     const Atoms &atoms() const { return atoms_; }
 
     /// Whether the server is gone; every call is harmless then and yields nothing.
-    bool broken() const { return xcb_connection_has_error(connection_) != 0; }
+    bool broken() const { return xcb_connection_has_error(get()) != 0; }
 
-    std::uint32_t newId() const { return xcb_generate_id(connection_); }
+    std::uint32_t newId() const { return xcb_generate_id(get()); }
 
     /// The bits of a resource's number that say which client made it; 0 for the server's own
     /// resources, such as a compositing manager's overlay window.
@@ -99,9 +111,11 @@ public:
     /// the server answered with an error: what a request is about may be gone at any time, so that
     /// errors are normal.
     template <auto Fetch, class Cookie> auto reply(Cookie cookie) {
-        using Answer = std::remove_pointer_t<decltype(Fetch(connection_, cookie, nullptr))>;
+        using Answer = std::remove_pointer_t<decltype(Fetch(get(), cookie, nullptr))>;
         xcb_generic_error_t *error = nullptr;
-        Reply<Answer> answer(Fetch(connection_, cookie, &error));
+        Reply<Answer> answer(Fetch(get(), cookie, &error));
+        if (error)
+            logDropped(*error);
         std::free(error);
         return answer;
     }
@@ -110,18 +124,18 @@ public:
     bool succeeded(xcb_void_cookie_t checked);
 
     /// The next event, or error (response type 0), that has arrived; null when there is none.
-    Event nextEvent() { return Event(xcb_poll_for_event(connection_)); }
+    Event nextEvent() { return Event(xcb_poll_for_event(get())); }
 
     /// Returns when the server has done everything that was asked of it so far.
     void roundTrip();
 
 private:
-    Connection(xcb_connection_t *connection, xcb_screen_t *screen);
+    Connection(OwnConnection connection, xcb_screen_t *screen);
     void queryExtensions();
     void internAtoms(int screenNumber);
 
     std::string display_; // empty: what DISPLAY names
-    xcb_connection_t *connection_;
+    OwnConnection connection_;
     xcb_screen_t *screen_;
     Extensions extensions_;
     Atoms atoms_;

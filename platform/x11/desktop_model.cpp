@@ -120,6 +120,8 @@ void DesktopModel::handle(const xcb_generic_event_t &event) {
         const auto &error = as<xcb_generic_error_t>(event);
         if (pictures_.onError(error))
             failures_ = true, stackChanged();
+        else
+            logDropped(error);
         return;
     }
     // Clients send copies of structure events to the root window, by convention or by mistake;

@@ -14,27 +14,13 @@ bool isWaylandSession() {
            !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-QString sentence(X11WindowServer::Obstacle obstacle) {
-    switch (obstacle) {
-    case X11WindowServer::Obstacle::NoDisplay:
-        return qtTrId("IDD_REASON_NO_DISPLAY");
-    case X11WindowServer::Obstacle::NoComposite:
-        return qtTrId("IDD_REASON_NO_COMPOSITE");
-    case X11WindowServer::Obstacle::MissingExtension:
-        return qtTrId("IDD_REASON_MISSING_EXTENSION");
-    case X11WindowServer::Obstacle::PictureFormat:
-        return qtTrId("IDD_REASON_PICTURE_FORMAT");
-    }
-    return {};
-}
-
 } // namespace
 
 std::unique_ptr<WindowServer> makeWindowServer() {
     if (isWaylandSession())
-        return std::make_unique<NullWindowServer>(qtTrId("IDD_REASON_WAYLAND"));
-    auto obstacle = X11WindowServer::Obstacle::NoDisplay;
+        return std::make_unique<NullWindowServer>(Obstacle::WaylandSession);
+    auto obstacle = Obstacle::NoDisplay;
     if (auto server = X11WindowServer::create({}, obstacle))
         return server;
-    return std::make_unique<NullWindowServer>(sentence(obstacle));
+    return std::make_unique<NullWindowServer>(obstacle);
 }

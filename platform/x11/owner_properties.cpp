@@ -4,6 +4,8 @@
 
 #include "platform/x11/property_values.h"
 
+#include "platform/window_server.h"
+
 #include <algorithm>
 #include <array>
 #include <span>
@@ -163,7 +165,7 @@ WindowOwner awaitOwner(Connection &connection, const OwnerQuestion &question, st
             : !claimedPid.empty() && claimedPid.front() == static_cast<std::uint32_t>(getpid());
     owner.isOurs = isOurs;
     if (isOurs)
-        owner.name = QStringLiteral("Tovarel");
+        owner.name = ownWindowsName;
     if (owner.pid == 0 && !claimedPid.empty())
         owner.pid = claimedPid.front();
     if (!sharing.empty() && sharing.front() == 0)

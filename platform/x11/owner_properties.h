@@ -19,7 +19,7 @@ namespace x11 {
 /// asking and awaiting, so that many windows cost one wait. All of it may be missing: a window can
 /// vanish, and clients are free to set nothing.
 struct WindowOwner {
-    /// The class of WM_CLASS, or "Tovarel" for windows of any X connection of this process.
+    /// The class of WM_CLASS, or `ownWindowsName` for windows of any X connection of this process.
     std::optional<QString> name;
     /// The window is this program's own.
     bool isOurs = false;

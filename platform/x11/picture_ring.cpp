@@ -29,8 +29,9 @@ QImage copyOf(const SharedPicture &picture, const QRect &part, PixelPool &pool) 
 
 } // namespace
 
-PictureRing::PictureRing(Connection &connection, const PictureFormats &formats, PixelRoad bestRoad)
-    : connection_(connection), formats_(formats), bestRoad_(bestRoad) {
+PictureRing::PictureRing(Connection &connection, const PictureFormats &formats,
+                         TransferMethod bestMethod)
+    : connection_(connection), formats_(formats), bestMethod_(bestMethod) {
     shared_.reserve(mostShared);
 }
 
@@ -64,16 +65,17 @@ void PictureRing::invalidate(const QRegion &changed) {
     add(reserve_);
 }
 
-PictureRing::Turn PictureRing::make(PixelRoad best) {
+PictureRing::Turn PictureRing::make(TransferMethod best) {
     auto picture = SharedPicture::create(connection_, formats_, size_, best);
     if (picture)
-        road_ = picture->road();
+        method_ = picture->method();
     return {std::move(picture), QRect(QPoint(), size_)};
 }
 
 PictureRing::Turn *PictureRing::next() {
-    const bool mayShare = bestRoad_ == PixelRoad::SharedPixmap &&
-                          road_.value_or(PixelRoad::SharedPixmap) == PixelRoad::SharedPixmap;
+    const bool mayShare =
+        bestMethod_ == TransferMethod::SharedPixmap &&
+        method_.value_or(TransferMethod::SharedPixmap) == TransferMethod::SharedPixmap;
     if (mayShare) {
         const auto free =
             std::ranges::find_if(shared_, [](const auto &turn) { return !turn.picture->isHeld(); });
@@ -83,14 +85,14 @@ PictureRing::Turn *PictureRing::next() {
             return &*free;
         }
         if (shared_.size() < mostShared)
-            if (Turn turn = make(bestRoad_); turn.picture) {
-                if (turn.picture->road() == PixelRoad::SharedPixmap)
+            if (Turn turn = make(bestMethod_); turn.picture) {
+                if (turn.picture->method() == TransferMethod::SharedPixmap)
                     return &shared_.emplace_back(std::move(turn));
                 reserve_ = std::move(turn);
             }
     }
     if (!reserve_.picture)
-        reserve_ = make(bestRoad_);
+        reserve_ = make(bestMethod_);
     return reserve_.picture ? &reserve_ : nullptr;
 }
 

@@ -29,7 +29,7 @@ public:
     /// Pictures that take turns: one being drawn, one shown, one on its way between them.
     static constexpr std::size_t mostShared = 3;
 
-    PictureRing(Connection &connection, const PictureFormats &formats, PixelRoad bestRoad);
+    PictureRing(Connection &connection, const PictureFormats &formats, TransferMethod bestMethod);
 
     /// A picture to be drawn on, and where it is out of date.
     struct Turn {
@@ -62,15 +62,15 @@ public:
     Turn *latest() { return latest_; }
 
     /// How pixels come over; none before the first picture.
-    std::optional<PixelRoad> road() const { return road_; }
+    std::optional<TransferMethod> method() const { return method_; }
 
 private:
-    Turn make(PixelRoad best);
+    Turn make(TransferMethod best);
 
     Connection &connection_;
     const PictureFormats &formats_;
-    PixelRoad bestRoad_;
-    std::optional<PixelRoad> road_;
+    TransferMethod bestMethod_;
+    std::optional<TransferMethod> method_;
     QSize size_;
     std::vector<Turn> shared_;
     Turn reserve_;

@@ -66,7 +66,10 @@ public:
     void release() const { shmctl(id_, IPC_RMID, nullptr); }
 
 private:
-    static void *failed() { return reinterpret_cast<void *>(-1); }
+    /// What shmat(2) returns when it fails.
+    static void *failed() {
+        return reinterpret_cast<void *>(-1); // NOLINT(performance-no-int-to-ptr)
+    }
 
     int id_;
     void *address_ = failed();
@@ -74,14 +77,14 @@ private:
 
 std::unique_ptr<SharedPicture> SharedPicture::create(Connection &connection,
                                                      const PictureFormats &formats, QSize size,
-                                                     PixelRoad best) {
+                                                     TransferMethod best) {
     std::unique_ptr<SharedPicture> picture(new SharedPicture(connection, size));
-    const bool memory = best != PixelRoad::PlainFetch && picture->attachMemory();
-    bool made = memory && best == PixelRoad::SharedPixmap &&
+    const bool memory = best != TransferMethod::PlainFetch && picture->attachMemory();
+    bool made = memory && best == TransferMethod::SharedPixmap &&
                 connection.extensions().sharedPixmaps &&
-                picture->makePixmap(PixelRoad::SharedPixmap);
-    made = made || (memory && picture->makePixmap(PixelRoad::SharedFetch));
-    made = made || picture->makePixmap(PixelRoad::PlainFetch);
+                picture->makePixmap(TransferMethod::SharedPixmap);
+    made = made || (memory && picture->makePixmap(TransferMethod::SharedFetch));
+    made = made || picture->makePixmap(TransferMethod::PlainFetch);
     if (!made)
         return {};
     picture->picture_ = connection.newId();
@@ -118,27 +121,27 @@ bool SharedPicture::attachMemory() {
     return true;
 }
 
-bool SharedPicture::makePixmap(PixelRoad road) {
+bool SharedPicture::makePixmap(TransferMethod method) {
     xcb_connection_t *c = connection_.get();
     const auto pixmap = connection_.newId();
     const auto width = extent(size_.width()), height = extent(size_.height());
     const auto cookie =
-        road == PixelRoad::SharedPixmap
+        method == TransferMethod::SharedPixmap
             ? xcb_shm_create_pixmap_checked(c, pixmap, connection_.root(), width, height,
                                             PictureFormats::targetDepth, segment_, 0)
             : xcb_create_pixmap_checked(c, PictureFormats::targetDepth, pixmap, connection_.root(),
                                         width, height);
     if (!connection_.succeeded(cookie))
         return false;
-    if (road != PixelRoad::SharedPixmap)
+    if (method != TransferMethod::SharedPixmap)
         fetched_.resize(area(size_));
     pixmap_ = pixmap;
-    road_ = road;
+    method_ = method;
     return true;
 }
 
 const std::uint32_t *SharedPicture::pixels() const {
-    return road_ == PixelRoad::SharedPixmap ? memory_->words() : fetched_.data();
+    return method_ == TransferMethod::SharedPixmap ? memory_->words() : fetched_.data();
 }
 
 QImage SharedPicture::view() const {
@@ -159,13 +162,13 @@ bool SharedPicture::isHeld() const {
 }
 
 bool SharedPicture::update(const QRegion &changed) {
-    switch (road_) {
-    case PixelRoad::SharedPixmap:
+    switch (method_) {
+    case TransferMethod::SharedPixmap:
         connection_.roundTrip();
         return !connection_.broken();
-    case PixelRoad::SharedFetch:
+    case TransferMethod::SharedFetch:
         return fetchShared(fetchable(changed));
-    case PixelRoad::PlainFetch:
+    case TransferMethod::PlainFetch:
         return fetchPlain(fetchable(changed));
     }
     return false;

@@ -18,7 +18,7 @@
 namespace x11 {
 
 /// How pixels come from the server to us, best first.
-enum class PixelRoad {
+enum class TransferMethod {
     SharedPixmap, ///< the server draws into memory that we see
     SharedFetch,  ///< the server copies what changed into memory that we see
     PlainFetch,   ///< what changed comes through the connection
@@ -27,15 +27,15 @@ enum class PixelRoad {
 /// A picture of the desktop's size that the server draws into and whose pixels we can read.
 class SharedPicture {
 public:
-    /// Takes the first road that the server admits, starting with `best`; null when the server has
-    /// no memory for a picture of this size.
+    /// Takes the first method that the server admits, starting with `best`; null when the server
+    /// has no memory for a picture of this size.
     static std::unique_ptr<SharedPicture>
-    create(Connection &connection, const PictureFormats &formats, QSize size, PixelRoad best);
+    create(Connection &connection, const PictureFormats &formats, QSize size, TransferMethod best);
     ~SharedPicture();
     SharedPicture(const SharedPicture &) = delete;
     SharedPicture &operator=(const SharedPicture &) = delete;
 
-    PixelRoad road() const { return road_; }
+    TransferMethod method() const { return method_; }
     QSize size() const { return size_; }
     xcb_render_picture_t picture() const { return picture_; }
 
@@ -59,7 +59,7 @@ private:
 
     SharedPicture(Connection &connection, QSize size);
     bool attachMemory();
-    bool makePixmap(PixelRoad road);
+    bool makePixmap(TransferMethod method);
     bool fetchShared(const QRegion &changed);
     bool fetchPlain(const QRegion &changed);
     void store(const QRect &place, const std::uint32_t *source);
@@ -67,12 +67,12 @@ private:
     Connection &connection_;
     std::unique_ptr<Connection> fetching_; // see fetchPlain
     QSize size_;
-    PixelRoad road_ = PixelRoad::SharedPixmap;
+    TransferMethod method_ = TransferMethod::SharedPixmap;
     xcb_pixmap_t pixmap_ = 0;
     xcb_render_picture_t picture_ = 0;
     xcb_shm_seg_t segment_ = 0;
     std::shared_ptr<const Memory> memory_;
-    std::vector<std::uint32_t> fetched_; // what the fetching roads have brought over so far
+    std::vector<std::uint32_t> fetched_; // what the fetching methods have brought over so far
 };
 
 } // namespace x11

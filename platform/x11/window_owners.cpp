@@ -102,6 +102,7 @@ void WindowOwners::setClient(xcb_window_t top, xcb_window_t client, bool managed
 // Breadth first, a level of all windows at a time, so that waiting does not grow with their number.
 void WindowOwners::findClients(const std::vector<xcb_window_t> &tops) {
     std::vector<Node> level;
+    level.reserve(tops.size());
     for (const auto top : tops)
         level.push_back({top, top});
     for (int depth = 0; depth <= deepestClient && !level.empty(); ++depth)
@@ -116,6 +117,7 @@ void WindowOwners::findClients(const std::vector<xcb_window_t> &tops) {
 std::vector<WindowOwners::Node> WindowOwners::searchLevel(const std::vector<Node> &level) {
     xcb_connection_t *c = connection_.get();
     std::vector<std::pair<xcb_get_property_cookie_t, xcb_query_tree_cookie_t>> cookies;
+    cookies.reserve(level.size());
     for (const auto &node : level)
         cookies.emplace_back(xcb_get_property(c, 0, node.window, connection_.atoms().wmState,
                                               XCB_GET_PROPERTY_TYPE_ANY, 0, 0),

@@ -40,7 +40,7 @@ std::unique_ptr<X11WindowServer> X11WindowServer::create(const Options &options,
         return {};
     }
     std::unique_ptr<X11WindowServer> server(
-        new X11WindowServer(std::move(connection), options.bestRoad));
+        new X11WindowServer(std::move(connection), options.bestMethod));
     if (!server->model_.formats().usable()) {
         obstacle = Obstacle::PictureFormat;
         return {};
@@ -49,9 +49,9 @@ std::unique_ptr<X11WindowServer> X11WindowServer::create(const Options &options,
 }
 
 X11WindowServer::X11WindowServer(std::unique_ptr<x11::Connection> connection,
-                                 x11::PixelRoad bestRoad)
+                                 x11::TransferMethod bestMethod)
     : connection_(std::move(connection)), model_(*connection_), underlay_(*connection_, model_),
-      ring_(*connection_, model_.formats(), bestRoad) {
+      ring_(*connection_, model_.formats(), bestMethod) {
     watchWhileIdle();
 }
 

@@ -37,17 +37,9 @@ class QSocketNotifier;
 /// nothing changed sends nothing.
 class X11WindowServer : public WindowServer {
 public:
-    /// Why an X11 display cannot be recorded.
-    enum class Obstacle {
-        NoDisplay,        ///< there is no server, or it refuses
-        NoComposite,      ///< our own windows could not be left out
-        MissingExtension, ///< another extension that the back end stands on is missing
-        PictureFormat,    ///< the server does not hold pictures as words of 32 bits
-    };
-
     struct Options {
         const char *display = nullptr; ///< null: what DISPLAY names
-        x11::PixelRoad bestRoad = x11::PixelRoad::SharedPixmap;
+        x11::TransferMethod bestMethod = x11::TransferMethod::SharedPixmap;
     };
 
     /// Null, and why, when this display cannot be recorded.
@@ -55,17 +47,17 @@ public:
     ~X11WindowServer() override;
 
     WindowServerCapabilities capabilities() const override;
-    QString reason() const override { return {}; }
+    std::optional<Obstacle> obstacle() const override { return {}; }
     std::vector<WindowDescription> listWindows() override;
     using WindowServer::composite;
     std::optional<Image> composite(std::span<const std::uint32_t> numbers,
                                    const std::optional<QRect> &part) override;
 
     /// How pixels come over; none before the first composite.
-    std::optional<x11::PixelRoad> road() const { return ring_.road(); }
+    std::optional<x11::TransferMethod> method() const { return ring_.method(); }
 
 private:
-    X11WindowServer(std::unique_ptr<x11::Connection> connection, x11::PixelRoad bestRoad);
+    X11WindowServer(std::unique_ptr<x11::Connection> connection, x11::TransferMethod bestMethod);
 
     QRegion follow(const QRect &wanted, bool latestIsUntouched);
     bool draw(x11::PictureRing::Turn &turn, const QRect &part, QRegion &drawn);

@@ -19,13 +19,14 @@
 /// makes the ticks itself. Works in a folder of its own.
 class TestController {
 public:
-    /// `reason` is why nothing can be recorded here, `documents` the name of the documents folder.
-    explicit TestController(const QString &reason = {},
+    /// `obstacle` is why nothing can be recorded here, `documents` the name of the documents
+    /// folder.
+    explicit TestController(std::optional<Obstacle> obstacle = {},
                             const QString &documents = QStringLiteral("Documents")) {
         installTexts();
         auto fake = std::make_unique<FakeWindowServer>();
         server = fake.get();
-        server->why = reason;
+        server->why = obstacle;
         server->picture = plainImage({64, 48}, qRgb(10, 20, 30));
         delegate = std::make_unique<AppDelegate>(AppDelegate::Environment{
             .windowServer = std::move(fake), .documentsFolder = folder.filePath(documents)});

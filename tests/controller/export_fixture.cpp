@@ -50,7 +50,8 @@ void Answerer::answer() {
     }
 }
 
-ExportTest::ExportTest() : ControllerFixture(QString(), QStringLiteral("100% real %1/Döcuments")) {
+ExportTest::ExportTest()
+    : ControllerFixture(std::nullopt, QStringLiteral("100% real %1/Döcuments")) {
     choose(GifPreset::Classic);
 }
 

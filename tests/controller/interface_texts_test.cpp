@@ -47,7 +47,7 @@ struct WithMarkedTable {
 
 class InterfaceTexts : WithMarkedTable, public ControllerFixture {
 protected:
-    InterfaceTexts() : ControllerFixture(QStringLiteral("«REASON»")) {}
+    InterfaceTexts() : ControllerFixture(Obstacle::NoDisplay) {}
 
     void check(const QObject &owner, const char *what, const QString &text) {
         if (text.isEmpty())

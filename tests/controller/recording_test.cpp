@@ -174,7 +174,7 @@ TEST_F(Recording, savesTheVeryFramesAgainWhenSomethingStoodInTheWay) {
 
 class WithoutAScreen : public Recording {
 protected:
-    WithoutAScreen() : Recording(QStringLiteral("Here, nothing can be recorded.")) {}
+    WithoutAScreen() : Recording(Obstacle::NoComposite) {}
 };
 
 TEST_F(WithoutAScreen, theReasonStandsInThePreviewsPlaceAndRecordIsOff) {
@@ -182,7 +182,7 @@ TEST_F(WithoutAScreen, theReasonStandsInThePreviewsPlaceAndRecordIsOff) {
     const auto *reason = ui().viewRecordPreview->findChild<QLabel *>(QStringLiteral("labelReason"));
     ASSERT_NE(reason, nullptr);
     EXPECT_TRUE(reason->isVisible());
-    EXPECT_EQ(reason->text(), server->why);
+    EXPECT_EQ(reason->text(), qtTrId("IDD_REASON_NO_COMPOSITE"));
     delegate->OnRecordRecord(nullptr); // A way around the controls.
     EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_STOP);
 }

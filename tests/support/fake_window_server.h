@@ -16,12 +16,12 @@ class FakeWindowServer : public WindowServer {
 public:
     std::vector<WindowDescription> windows;
     std::optional<Image> picture;
-    QString why;
+    std::optional<Obstacle> why;
     /// The numbers of the last grab.
     std::vector<std::uint32_t> asked;
 
     WindowServerCapabilities capabilities() const override { return {true, true, true}; }
-    QString reason() const override { return why; }
+    std::optional<Obstacle> obstacle() const override { return why; }
     std::vector<WindowDescription> listWindows() override { return windows; }
     using WindowServer::composite;
     std::optional<Image> composite(std::span<const std::uint32_t> numbers,

@@ -26,14 +26,14 @@ protected:
         bool undecorated = false;
     };
 
-    DesktopScene() : WindowServerFixture(x11::PixelRoad::SharedPixmap, Apart::No) {}
+    DesktopScene() : WindowServerFixture(x11::TransferMethod::SharedPixmap, Apart::No) {}
 
     void SetUp() override {
         WindowServerFixture::SetUp();
         ASSERT_TRUE(client.windowManagerRuns());
         client.setBackgroundPixmap(true);
         restingScreen();
-        auto obstacle = X11WindowServer::Obstacle::NoDisplay;
+        auto obstacle = Obstacle::NoDisplay;
         server = X11WindowServer::create({}, obstacle);
     }
 

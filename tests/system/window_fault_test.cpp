@@ -107,7 +107,7 @@ TEST_F(WindowFault, tenThousandEventsLeaveTheRightPictureAndNothingInTheServer) 
     server.reset();
     ASSERT_TRUE(eventually([&] { return clients().size() < withServer; }));
     const auto others = clients();
-    auto obstacle = X11WindowServer::Obstacle::NoDisplay;
+    auto obstacle = Obstacle::NoDisplay;
     server = X11WindowServer::create({}, obstacle);
     useAllPictures();
     std::vector<std::uint32_t> ours;

@@ -12,25 +12,26 @@ namespace {
 
 class WindowPicture : public WindowServerFixture {};
 
-class WindowPictureByRoad : public WindowServerFixture,
-                            public testing::WithParamInterface<x11::PixelRoad> {
+class WindowPictureByMethod : public WindowServerFixture,
+                              public testing::WithParamInterface<x11::TransferMethod> {
 protected:
-    WindowPictureByRoad() : WindowServerFixture(GetParam()) {}
+    WindowPictureByMethod() : WindowServerFixture(GetParam()) {}
 };
 
-std::string roadName(const testing::TestParamInfo<x11::PixelRoad> &info) {
+std::string methodName(const testing::TestParamInfo<x11::TransferMethod> &info) {
     constexpr std::array names{"SharedPixmap", "SharedFetch", "PlainFetch"};
     return names[static_cast<std::size_t>(info.param)];
 }
 
-INSTANTIATE_TEST_SUITE_P(Roads, WindowPictureByRoad,
-                         testing::Values(x11::PixelRoad::SharedPixmap, x11::PixelRoad::SharedFetch,
-                                         x11::PixelRoad::PlainFetch),
-                         roadName);
+INSTANTIATE_TEST_SUITE_P(Methods, WindowPictureByMethod,
+                         testing::Values(x11::TransferMethod::SharedPixmap,
+                                         x11::TransferMethod::SharedFetch,
+                                         x11::TransferMethod::PlainFetch),
+                         methodName);
 
 } // namespace
 
-TEST_P(WindowPictureByRoad, followsDrawingMovesRestackingResizingHidingAndEnd) {
+TEST_P(WindowPictureByMethod, followsDrawingMovesRestackingResizingHidingAndEnd) {
     const auto back = client.show({.place = {40, 30, 300, 200}}, 1);
     const auto middle = client.show({.place = {-60, 100, 250, 180}, .border = 7}, 2);
     const auto front = client.show({.place = {500, -50, 300, 150}, .overrideRedirect = true}, 3);
@@ -66,8 +67,8 @@ TEST_P(WindowPictureByRoad, followsDrawingMovesRestackingResizingHidingAndEnd) {
     client.destroy(middle);
     EXPECT_TRUE(looksLikeReference()) << "destroyed";
 
-    const auto setup = server->road();
-    EXPECT_TRUE(setup.has_value() && *setup >= GetParam()) << "no better road than allowed";
+    const auto setup = server->method();
+    EXPECT_TRUE(setup.has_value() && *setup >= GetParam()) << "no better method than allowed";
 }
 
 TEST_F(WindowPicture, showsExactlyTheWindowsThatAreAskedForInTheOrderGiven) {
@@ -192,7 +193,7 @@ TEST_F(WindowPicture, showsTheBackgroundAlsoBeneathWindows) {
     EXPECT_TRUE(looksLikeReference());
 }
 
-TEST_P(WindowPictureByRoad, keepsThePixelsOfEveryHandleThatIsHeld) {
+TEST_P(WindowPictureByMethod, keepsThePixelsOfEveryHandleThatIsHeld) {
     const auto window = client.show({.place = {60, 40, 300, 200}}, 1);
     ASSERT_TRUE(looksLikeReference());
     std::vector<Image> recording;
@@ -213,7 +214,7 @@ TEST_P(WindowPictureByRoad, keepsThePixelsOfEveryHandleThatIsHeld) {
         EXPECT_EQ(recording[i].toQImage(), expected[i]) << i;
 }
 
-TEST_P(WindowPictureByRoad, followsTheDesktopsSize) {
+TEST_P(WindowPictureByMethod, followsTheDesktopsSize) {
     client.setBackgroundPixmap(true);
     client.show({.place = {60, 40, 500, 300}}, 1);
     ASSERT_TRUE(looksLikeReference());
@@ -254,7 +255,7 @@ void expectTruthAboutChanges(WindowServer &server, std::span<const std::uint32_t
 
 } // namespace
 
-TEST_P(WindowPictureByRoad, isOnlyAsMuchAsIsAskedFor) {
+TEST_P(WindowPictureByMethod, isOnlyAsMuchAsIsAskedFor) {
     client.setBackgroundPixmap(true);
     const auto left = client.show({.place = {20, 20, 200, 150}}, 1);
     const auto right = client.show({.place = {300, 20, 200, 150}}, 2);
@@ -284,7 +285,7 @@ TEST_P(WindowPictureByRoad, isOnlyAsMuchAsIsAskedFor) {
     EXPECT_TRUE(partIsRight());
 }
 
-TEST_P(WindowPictureByRoad, isRightAfterAnySequenceOfEvents) {
+TEST_P(WindowPictureByMethod, isRightAfterAnySequenceOfEvents) {
     const unsigned seed = seedOfThisRun(std::random_device()());
     SCOPED_TRACE("TOVAREL_TEST_SEED=" + std::to_string(seed));
     std::mt19937 random(seed);
@@ -313,7 +314,7 @@ TEST_P(WindowPictureByRoad, isRightAfterAnySequenceOfEvents) {
     }
 }
 
-TEST_P(WindowPictureByRoad, survivesWindowsThatVanishResizeAndHideThroughoutGrabs) {
+TEST_P(WindowPictureByMethod, survivesWindowsThatVanishResizeAndHideThroughoutGrabs) {
     const unsigned seed = seedOfThisRun(std::random_device()());
     SCOPED_TRACE("TOVAREL_TEST_SEED=" + std::to_string(seed));
     // On a thread and a connection of its own, and left standing when it ends.

@@ -21,7 +21,7 @@ protected:
     /// Whether the client has the server keep all windows' pixels, as the reference needs it.
     enum class Apart { Yes, No };
 
-    explicit WindowServerFixture(x11::PixelRoad road = x11::PixelRoad::SharedPixmap,
+    explicit WindowServerFixture(x11::TransferMethod method = x11::TransferMethod::SharedPixmap,
                                  Apart apart = Apart::Yes) {
         if (apart == Apart::Yes)
             client.keepWindowsApart();
@@ -32,8 +32,8 @@ protected:
         // A compositing manager shows it a little later, and may put grey where there is none.
         if (composited && apart == Apart::Yes)
             eventually([&] { return client.screen() == client.reference(); });
-        auto obstacle = X11WindowServer::Obstacle::NoDisplay;
-        server = X11WindowServer::create({.display = nullptr, .bestRoad = road}, obstacle);
+        auto obstacle = Obstacle::NoDisplay;
+        server = X11WindowServer::create({.display = nullptr, .bestMethod = method}, obstacle);
     }
 
     void SetUp() override { ASSERT_TRUE(server); }

@@ -15,9 +15,8 @@ bool desktopBlendsWindows() {
     if (QGuiApplication::platformName() != QLatin1String("xcb"))
         return true;
     int screen = 0;
-    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(
-        xcb_connect(nullptr, &screen), &xcb_disconnect);
-    if (xcb_connection_has_error(connection.get()))
+    const x11::OwnConnection connection = x11::openDisplay(nullptr, &screen);
+    if (!connection)
         return false;
     // Extended Window Manager Hints 1.5, "Compositing Managers": whoever composites screen n owns
     // the selection _NET_WM_CM_Sn.

@@ -14,17 +14,14 @@ bool displayIsReachable() {
         return true;
     if (wanted.isEmpty() && qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
         return true;
-    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
-    const bool reached = xcb_connection_has_error(connection) == 0;
-    xcb_disconnect(connection);
-    return reached;
+    return x11::openDisplay() != nullptr;
 }
 
 bool displayIsGone() {
     xcb_connection_t *connection = x11::toolkitConnection();
     if (!connection)
         return false;
-    // What the server sent last may still lie there to be read; only its end is looked for.
+    // What the server sent last may still be waiting to be read; only its end is looked for.
     pollfd state{.fd = xcb_get_file_descriptor(connection), .events = POLLRDHUP, .revents = 0};
     return poll(&state, 1, 0) > 0;
 }

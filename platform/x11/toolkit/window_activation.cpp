@@ -4,8 +4,6 @@
 
 #include "platform/x11/toolkit/toolkit_connection.h"
 
-#include <memory>
-
 namespace {
 
 /// The request comes from the user through another program (EWMH 1.5, _NET_ACTIVE_WINDOW).
@@ -14,9 +12,8 @@ constexpr std::uint32_t sourceIsUser = 2;
 } // namespace
 
 void bringToFront(quintptr window) {
-    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(
-        xcb_connect(nullptr, nullptr), xcb_disconnect);
-    if (xcb_connection_has_error(connection.get()) != 0)
+    const x11::OwnConnection connection = x11::openDisplay();
+    if (!connection)
         return;
     xcb_client_message_event_t request{};
     request.response_type = XCB_CLIENT_MESSAGE;
