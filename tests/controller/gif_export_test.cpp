@@ -258,23 +258,18 @@ TEST_F(GifExport, NamesTheSizeThatTheEncoderRefused) {
     EXPECT_TRUE(answers.alerts[0].text.contains(QStringLiteral("320px × 48")));
 }
 
+// What else can be wrong with a place is SafeMove's to test.
 TEST_F(GifExport, KeepsTheResultWhenItCannotBePlaced) {
     record(3);
     const QString gif = controller.shell.s_Export_Folder() + QStringLiteral("/output.gif");
-    QDir().mkpath(place("folder"));
-    for (const QString &path : {place("none/x.gif"), gif,
-                                controller.shell.s_Output_Folder() + QStringLiteral("/x.gif")}) {
-        SCOPED_TRACE(path.toStdString());
-        answers.alerts.clear();
-        answers.savePath = path;
-        ui.btnGIFExport->click();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !answers.alerts.empty(); }));
-        ASSERT_TRUE(finish());
-        EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
-        EXPECT_TRUE(answers.alerts[0].text.contains(gif));
-        EXPECT_EQ(QImageReader(gif).imageCount(), 3);
-        EXPECT_TRUE(ui.btnSaveResult->isVisible());
-    }
+    answers.savePath = controller.shell.s_Output_Folder() + QStringLiteral("/x.gif");
+    ui.btnGIFExport->click();
+    ASSERT_TRUE(finish());
+    ASSERT_EQ(answers.alerts.size(), 1u);
+    EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
+    EXPECT_TRUE(answers.alerts[0].text.contains(gif));
+    EXPECT_EQ(QImageReader(gif).imageCount(), 3);
+    EXPECT_TRUE(ui.btnSaveResult->isVisible());
 }
 
 TEST_F(GifExport, CannotBeStartedAgainWhileItRuns) {
