@@ -4,7 +4,7 @@
 
 /// Whether a display server answers: an X server, or a Wayland session whose socket exists. To be
 /// asked before the toolkit starts, which aborts the process when there is none. True as well when
-/// the toolkit was told (QT_QPA_PLATFORM) to use something else.
+/// the toolkit was asked (QT_QPA_PLATFORM) to use something else.
 bool displayIsReachable();
 
 /// Whether the display server that the toolkit is connected to has gone. For waits without an event

@@ -71,7 +71,7 @@ QRegion ImageScaler::affected(const QRegion &region, QSize image, QSize pixels) 
         return QRect(QPoint(), pixels);
     const double across = static_cast<double>(pixels.width()) / image.width();
     const double down = static_cast<double>(pixels.height()) / image.height();
-    // A halved picture's pixel stands for several, and so does what is interpolated from it.
+    // A halved picture's pixel represents several, and so does what is interpolated from it.
     const int x = reach * (1 + static_cast<int>(1 / across));
     const int y = reach * (1 + static_cast<int>(1 / down));
     QRegion result;

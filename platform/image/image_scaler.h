@@ -18,7 +18,7 @@
 class ImageScaler {
 public:
     enum class Care {
-        /// Every source pixel counts: for a picture that stands still.
+        /// Every source pixel counts: for a picture that does not move.
         Fine,
         /// Halved as often as goes, then between the nearest four pixels: a third of the cost,
         /// for pictures in motion.

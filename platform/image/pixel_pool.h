@@ -32,7 +32,7 @@ public:
     /// may outlive every other handle on the pool. A null picture when memory has run out.
     QImage take(QSize size);
 
-    /// Buffers that lie idle now.
+    /// Buffers that are idle now.
     std::size_t idleCount() const;
 
 private:

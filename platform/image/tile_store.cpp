@@ -96,7 +96,7 @@ public:
                                                    sizeof(std::shared_ptr<const TileTable::Row>)));
     }
 
-    /// The tiles that were made anew.
+    /// The tiles that were made again.
     std::vector<std::weak_ptr<Tile>> fresh;
 
 private:
@@ -114,8 +114,8 @@ private:
         }
         if (before && **before == tiles)
             return *before;
-        const auto cost =
-            static_cast<std::ptrdiff_t>(sizeof tiles + tiles.size() * sizeof tiles.front());
+        const auto cost = static_cast<std::ptrdiff_t>(sizeof(decltype(tiles)) +
+                                                      tiles.size() * sizeof tiles.front());
         return counted(std::move(tiles), cost);
     }
 

@@ -15,7 +15,7 @@ class Background {
 public:
     Background(Connection &connection, const PictureFormats &formats);
 
-    /// The property was set anew: the pixmap is looked up again when it is next needed.
+    /// The property was set again: the pixmap is looked up again when it is next needed.
     void invalidate();
 
     /// A repeating render picture, 0 for black. Remains ours.

@@ -28,7 +28,7 @@ template <class T> const T &as(const xcb_generic_event_t &event) {
 } // namespace
 
 // The order matters: first what tells of changes, then the one look at the tree. What happens in
-// between is told twice rather than never.
+// between is reported twice rather than never.
 DesktopModel::DesktopModel(Connection &connection)
     : connection_(connection), formats_(connection), pictures_(connection, formats_),
       owners_(connection), background_(connection, formats_), screen_(connection, formats_) {
@@ -76,7 +76,7 @@ void DesktopModel::readTree() {
                                      window.border);
             window.overrideRedirect = attributes->override_redirect != 0;
         }
-        // Also one that is gone by now: until its end is told of, others may be placed above it.
+        // Also one that is gone by now: until its end is reported, others may be placed above it.
         stack_.add(window);
         if (attributes && attributes->map_state != XCB_MAP_STATE_UNMAPPED)
             onMapped(children[i], true, treeCookie.sequence);
@@ -213,7 +213,7 @@ void DesktopModel::onMapped(xcb_window_t window, bool mapped, std::uint32_t sequ
     distrustBeneath(window, sequence);
 }
 
-// A window that lies there may have lain there already when those beneath it were redirected.
+// A window that is there may have been there already when those beneath it were redirected.
 void DesktopModel::distrustBeneath(xcb_window_t window, std::uint32_t sequence) {
     stackChanged();
     const auto *above = stack_.find(window);
@@ -273,7 +273,7 @@ void DesktopModel::onReparent(const xcb_reparent_notify_event_t &event) {
         window.outer =
             outerRect(event.x, event.y, geometry->width, geometry->height, window.border);
     }
-    // Also one that is gone by now: until its end is told of, others may be placed above it.
+    // Also one that is gone by now: until its end is reported, others may be placed above it.
     stack_.add(window);
 }
 

@@ -26,7 +26,7 @@ class DesktopModel {
 public:
     explicit DesktopModel(Connection &connection);
 
-    /// Takes in all that the server has told meanwhile.
+    /// Takes in all that the server has reported meanwhile.
     void drain();
 
     /// Whether the picture of some list of windows may have changed since this was last asked.

@@ -23,7 +23,7 @@ struct Layer {
     bool blended = false;
     /// Whether its picture has an opacity that is not to be looked at.
     bool raw = false;
-    /// Another number whenever the window shows through another picture (mapped anew, resized).
+    /// Another number whenever the window shows through another picture (mapped again, resized).
     std::uint64_t generation = 0;
     /// How opaque it is shown as a whole, 0xffff: fully. Less than that only where it is blended.
     std::uint16_t opacity = 0xffff;

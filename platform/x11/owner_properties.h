@@ -32,7 +32,7 @@ struct WindowOwner {
     /// It is minimised (ICCCM 4.1.3.1, EWMH _NET_WM_STATE_HIDDEN); window managers may leave it
     /// mapped all the same.
     bool minimised = false;
-    /// The workspace that it lives on (EWMH _NET_WM_DESKTOP); none when on all, or not told.
+    /// The workspace that it is on (EWMH _NET_WM_DESKTOP); none when on all, or not known.
     std::optional<std::uint32_t> workspace;
     /// How opaque a compositing manager shows it, 0xffff: fully (_NET_WM_WINDOW_OPACITY).
     std::uint16_t opacity = 0xffff;
@@ -41,7 +41,7 @@ struct WindowOwner {
     std::optional<QMargins> frame;
     /// How much of the client window is a shadow that it draws itself (_GTK_FRAME_EXTENTS).
     QMargins shadow;
-    /// Where its button in a panel is, empty when that is not told (EWMH _NET_WM_ICON_GEOMETRY):
+    /// Where its button in a panel is, empty when that is not known (EWMH _NET_WM_ICON_GEOMETRY):
     /// desktops let a window fly there when it is minimised.
     QRect icon;
     /// The client's place, relative to the inner corner of the window on the root that holds it;

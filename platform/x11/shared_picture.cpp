@@ -67,9 +67,7 @@ public:
 
 private:
     /// What shmat(2) returns when it fails.
-    static void *failed() {
-        return reinterpret_cast<void *>(-1); // NOLINT(performance-no-int-to-ptr)
-    }
+    static void *failed() { return reinterpret_cast<void *>(-1); }
 
     int id_;
     void *address_ = failed();

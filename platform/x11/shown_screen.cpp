@@ -23,7 +23,7 @@ ShownScreen::ShownScreen(Connection &connection, const PictureFormats &formats)
     xcb_render_create_picture(connection_.get(), picture_, connection_.root(),
                               formats.of(connection_.screen().root_visual).id,
                               XCB_RENDER_CP_SUBWINDOW_MODE, &withWindows);
-    // The rectangles that are new among those that were not taken: a place is told of once.
+    // The rectangles that are new among those that were not taken: a place is reported once.
     xcb_damage_create(connection_.get(), object_, connection_.root(),
                       XCB_DAMAGE_REPORT_LEVEL_DELTA_RECTANGLES);
 }

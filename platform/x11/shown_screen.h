@@ -24,7 +24,7 @@ public:
     /// What was drawn and not yet taken, in desktop coordinates.
     const QRegion &damage() const { return damage_; }
 
-    /// Takes what was drawn within `where`. What is left there is not told of again until it is
+    /// Takes what was drawn within `where`. What is left there is not reported again until it is
     /// taken, so that drawing which nobody wants to see is silent.
     QRegion takeDamage(const QRegion &where);
 

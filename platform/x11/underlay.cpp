@@ -26,11 +26,11 @@ constexpr auto startLasts = 2s;
 constexpr auto keptAfterwards = 300ms;
 
 // A compositing manager lets windows fade and fly away, and may be late. It has been there once it
-// drew the place anew, which it need not do.
+// drew the place again, which it need not do.
 constexpr auto shortestEffect = 500ms;
 constexpr auto longestEffect = 2s;
 
-// A look at the whole screen is repeated when windows came meanwhile, but not for ever.
+// A look at the whole screen is repeated when windows came meanwhile, but not forever.
 constexpr int mostLooks = 3;
 
 QRegion grown(const QRegion &region, int by) {

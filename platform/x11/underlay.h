@@ -22,7 +22,7 @@ namespace x11 {
 ///
 /// It starts with the last picture of the screen from before such a window came there, which has
 /// all that a desktop shows, and goes on from there: what a window beneath draws is taken from that
-/// window's own picture, and where windows beneath come, go or move, the place is composed anew
+/// window's own picture, and where windows beneath come, go or move, the place is composed again
 /// from the pictures of those that are there now; nothing else is left of what was there. The
 /// windows beneath, and only those, are redirected for it.
 class Underlay {
@@ -38,7 +38,7 @@ public:
 
     /// Follows the desktop for a picture of these windows, of which `wanted` is going to be looked
     /// at. `earlier` is the last picture that was handed out. Tells where the picture changed, as
-    /// far as that is not told by what was drawn on the screen.
+    /// far as that is not known from what was drawn on the screen.
     QRegion follow(std::span<const std::uint32_t> numbers, const QRect &wanted,
                    const Earlier &earlier);
 
@@ -97,7 +97,7 @@ private:
     LayerStack layers_; // those that are asked for
     QRegion place_;
     QRegion remembered_; // where `memory_` was right once, and nothing has left since
-    QRegion dirty_;      // where it has to be composed anew
+    QRegion dirty_;      // where it has to be composed again
     QRegion groundSeen_; // where `ground_` holds
     LayerStack all_;     // all that is shown
     std::uint64_t backgroundGeneration_ = 0;

@@ -134,8 +134,8 @@ std::vector<WindowOwners::Node> WindowOwners::searchLevel(const std::vector<Node
             setClient(top, window, true);
             continue;
         }
-        if (const auto told = clientOfParent_.find(window); told != clientOfParent_.end()) {
-            setClient(top, told->second, true);
+        if (const auto known = clientOfParent_.find(window); known != clientOfParent_.end()) {
+            setClient(top, known->second, true);
             continue;
         }
         if (entry.client == 0 && connection_.clientBits(window) != connection_.clientBits(top))
@@ -155,7 +155,7 @@ void WindowOwners::askOwners(const std::vector<xcb_window_t> &tops) {
     questions.reserve(tops.size());
     for (const auto top : tops) {
         const auto client = entries_[top].client;
-        // What becomes of a child of the root is told by the root.
+        // What becomes of a child of the root is reported by the root.
         std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
         if (client != top)
             mask |= XCB_EVENT_MASK_STRUCTURE_NOTIFY;

@@ -14,10 +14,10 @@ namespace x11 {
 /// Who owns the windows on screen.
 ///
 /// The stack holds a window manager's frames, while process, class and the other properties belong
-/// to the client window within: the frame's client is found first (told by ReparentNotify, else by
-/// WM_STATE among the frame's descendants, else the first descendant that another X client made; a
-/// window without any of these is its own client). All answers are kept until something tells that
-/// they changed.
+/// to the client window within: the frame's client is found first (known from ReparentNotify, else
+/// by WM_STATE among the frame's descendants, else the first descendant that another X client made;
+/// a window without any of these is its own client). All answers are kept until something tells
+/// that they changed.
 class WindowOwners {
 public:
     explicit WindowOwners(Connection &connection);
@@ -61,7 +61,7 @@ private:
     Connection &connection_;
     std::unordered_map<xcb_window_t, Entry> entries_;
     std::unordered_map<xcb_window_t, xcb_window_t> topOfClient_;
-    std::unordered_map<xcb_window_t, xcb_window_t> clientOfParent_; // as ReparentNotify told
+    std::unordered_map<xcb_window_t, xcb_window_t> clientOfParent_; // from ReparentNotify
     std::int64_t ownPid_;
 };
 

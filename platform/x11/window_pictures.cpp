@@ -114,7 +114,7 @@ void WindowPictures::renew(xcb_window_t window, const QRegion &covered, const QP
     release(*entry);
     entry->failed = false;
     entry->generation = ++generations_;
-    // What was drawn last may have been drawn into the new pixels, and is not told of again.
+    // What was drawn last may have been drawn into the new pixels, and is not reported again.
     if (entry->redirected)
         entry->untrusted = covered.translated(-inner).subtracted(entry->pending);
 }
@@ -190,7 +190,7 @@ bool WindowPictures::onError(const xcb_generic_error_t &error) {
     const auto failed = std::ranges::find_if(entries_, [&error](const auto &entry) {
         return entry.second.pixmap != 0 && entry.second.naming == error.full_sequence;
     });
-    // Else the window's end was told of before, and is known already; it was not drawn all the
+    // Else the window's end was reported before, and is known already; it was not drawn all the
     // same.
     if (failed != entries_.end()) {
         release(failed->second);

@@ -23,7 +23,7 @@ namespace x11 {
 /// A window has pixels of its own only while it is redirected into memory of its own, which costs
 /// the server a copy of whatever is drawn in it. When that begins, the server fills in what the
 /// screen shows there, windows in front included: those parts are not to be trusted until somebody
-/// has drawn them anew. A window's picture is named only when it is first needed. A name is good
+/// has drawn them again. A window's picture is named only when it is first needed. A name is good
 /// for one size of one mapping: `renew` on either change. It may fail when the window vanishes
 /// meanwhile; the window then counts as gone until it is renewed.
 class WindowPictures {

@@ -19,8 +19,8 @@ struct StackedWindow {
     bool overrideRedirect = false;
 };
 
-/// The stacking order of the root window's children, as told by the server's structure events. A
-/// model by value: it asks nothing, and events about windows that it does not hold are ignored.
+/// The stacking order of the root window's children, as reported by the server's structure events.
+/// A model by value: it asks nothing, and events about windows that it does not hold are ignored.
 /// Windows that are never shown (the server's own, input-only ones) are held too: others are
 /// stacked relative to them.
 class WindowStack {

@@ -18,7 +18,7 @@ namespace {
 // How often events are taken in while nobody grabs, at most.
 constexpr std::chrono::milliseconds idlePause{500};
 
-// A grab is repeated when windows moved in its midst, but not for ever on a restless desktop.
+// A grab is repeated when windows moved in its midst, but not forever on a restless desktop.
 constexpr int mostAttempts = 4;
 
 } // namespace

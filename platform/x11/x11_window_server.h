@@ -32,7 +32,7 @@ class QSocketNotifier;
 /// A window opts out of sharing by the property `_TOVAREL_SHARING` on the client window: type
 /// CARDINAL, format 32, one value, 0 = it may not be shared. Any other value, or none, shares it.
 ///
-/// It talks to the server over a connection of its own. What was grabbed before is drawn anew only
+/// It talks to the server over a connection of its own. What was grabbed before is drawn again only
 /// where it changed, so that the cost of a grab follows what changed; a grab of a desktop on which
 /// nothing changed sends nothing.
 class X11WindowServer : public WindowServer {
