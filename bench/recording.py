@@ -47,10 +47,11 @@ def distinct_frames(screen, size, changes, rate, length=LENGTH):
     picture of their own."""
     def measure(build):
         with driver.Session(build, *screen) as session:
-            inside = session.counter("--at", "0,0", "--size", "%dx%d" % size, "--rate",
-                                     str(changes), "--unmanaged")
             program = driver.Program(session)
             program.choose_rate(rate)
+            # Only now: it covers what a pointer would click.
+            inside = session.counter("--at", "0,0", "--size", "%dx%d" % size, "--rate",
+                                     str(changes), "--unmanaged")
             program.press("Record")
             program.recording_for(length)
             program.press("Stop")
@@ -118,10 +119,10 @@ def outside_encoder(build):
         wrapper = tools / "ffmpeg"
         wrapper.write_text(WRAPPER, encoding="ascii")
         wrapper.chmod(0o755)
-        session.counter("--at", "0,0", "--size", "%dx%d" % HD, "--rate", "45", "--unmanaged")
         path = f"{tools}:{session.environment['PATH']}"
         program = driver.Program(session, {"PATH": path})
         program.choose_rate(30)
+        session.counter("--at", "0,0", "--size", "%dx%d" % HD, "--rate", "45", "--unmanaged")
         program.press("Record")
         program.recording_for(LENGTH if SHORT else 10)
         program.press("Stop")
@@ -178,10 +179,10 @@ def played(build):
     """Frames played against frames due, of a recording at 60 frames a second in which everything
     changes, while the window is being resized."""
     with driver.Session(build, *HD) as session:
-        inside = session.counter("--at", "0,0", "--size", "%dx%d" % HD, "--rate", "90",
-                                 "--unmanaged")
         program = driver.Program(session)
         program.choose_rate(60)
+        inside = session.counter("--at", "0,0", "--size", "%dx%d" % HD, "--rate", "90",
+                                 "--unmanaged")
         program.press("Record")
         program.recording_for(LENGTH)
         program.press("Stop")
