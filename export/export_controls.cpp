@@ -90,6 +90,9 @@ void ExportOptions::listen() {
     ui_.comboGIFSpeed->setCurrentIndex(ui_.comboGIFSpeed->findData(1.0));
     fillLimits();
     ui_.labelGIFEstimate->installEventFilter(this);
+    for (QComboBox *list :
+         {ui_.comboGIFFPS, ui_.comboGIFQuality, ui_.comboFitUnder, ui_.comboGIFSpeed})
+        list->installEventFilter(this);
     connect(ui_.btnGIFSize75, &QAbstractButton::clicked, this, [this] { chooseShare(75); });
     connect(ui_.btnGIFSize50, &QAbstractButton::clicked, this, [this] { chooseShare(50); });
     QFont large = ui_.labelGIFEstimate->font();
@@ -114,11 +117,19 @@ void ExportOptions::fillQualities() {
     list.setCurrentIndex(list.findData(QString::fromLatin1(presetWord(remembered))));
     connect(&list, &QComboBox::currentIndexChanged, this, [this, &list] {
         settings::writeGIFQuality(list.currentData().toString());
+        enableLimit();
         updateEstimate();
     });
 }
 
 bool ExportOptions::eventFilter(QObject *watched, QEvent *event) {
+    // Whoever scrolls the options does not mean to change the list beneath the pointer.
+    if (event->type() == QEvent::Wheel) {
+        event->ignore();
+        return true;
+    }
+    if (watched != ui_.labelGIFEstimate)
+        return QObject::eventFilter(watched, event);
     // It is on the screen as long as its tab is.
     if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
         isShown_ = event->type() == QEvent::Show;

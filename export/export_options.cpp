@@ -41,8 +41,6 @@ void ExportOptions::resetGIFOptions() {
                                  ui_.comboGIFFPS,
                                  ui_.labelQuality,
                                  ui_.comboGIFQuality,
-                                 ui_.labelFitUnder,
-                                 ui_.comboFitUnder,
                                  ui_.btnGIFSize75,
                                  ui_.btnGIFSize50,
                                  ui_.labelSpeed,
@@ -50,6 +48,7 @@ void ExportOptions::resetGIFOptions() {
     for (QWidget *control : controls)
         control->setEnabled(isUsable_);
     ui_.txtWebPLoops->setEnabled(isUsable_);
+    enableLimit();
     if (isUsable_) {
         ui_.radioGIFOriginalDimension->setChecked(true);
         OnGIFOriginalResolution();
@@ -175,6 +174,26 @@ void ExportOptions::updateLimitHint() {
     ui_.labelFitUnderHint->setText(hint);
 }
 
+void ExportOptions::enableLimit() {
+    const bool isKnown =
+        presetOfWord(ui_.comboGIFQuality->currentData().toString()) != GifPreset::Classic;
+    for (QWidget *control :
+         {static_cast<QWidget *>(ui_.labelFitUnder), static_cast<QWidget *>(ui_.comboFitUnder)})
+        control->setEnabled(isUsable_ && isKnown);
+}
+
+ExportChoices ExportOptions::choicesAfterEdits() const {
+    ExportChoices choices = chosen();
+    const std::optional<float> ratio = tiedAspectRatio();
+    const float width = floatValue(choices.width);
+    const float height = floatValue(choices.height);
+    if (ratio && ui_.textGIFWidth->isModified() && width != 0.0f)
+        choices.height = QString::number(aspect_ratio::heightForWidth(width, *ratio));
+    else if (ratio && ui_.textGIFHeigth->isModified() && height != 0.0f)
+        choices.width = QString::number(aspect_ratio::widthForHeight(height, *ratio));
+    return choices;
+}
+
 void ExportOptions::chooseShare(int percent) {
     const std::optional<QSize> size = exporter_.originalSize();
     if (!size)
@@ -189,7 +208,7 @@ void ExportOptions::chooseShare(int percent) {
 
 void ExportOptions::updateEstimate() {
     if (isShown_ && isUsable_)
-        estimator_.request([this] { return chosen(); });
+        estimator_.request([this] { return choicesAfterEdits(); });
     else
         estimator_.stop();
 }

@@ -87,6 +87,8 @@ private:
     void listen();
     void fillQualities();
     ExportChoices chosen() const;
+    /// What is chosen once the edits that are under way will have been acted upon.
+    ExportChoices choicesAfterEdits() const;
     /// Sends the actions of the size fields whose edits have not been acted upon yet.
     void finishEditingGIFSize();
     /// Says beside the size fields what is wrong with what is typed there, if anything.
@@ -96,6 +98,8 @@ private:
     /// Says what the file will hold: frames, seconds, and the rate that comes of it.
     void updateGIFSummary();
     void fillLimits();
+    /// The other encoder knows no limit.
+    void enableLimit();
     /// Says what is wrong with the limit that is typed, if anything.
     void updateLimitHint();
     FitLimit limit() const;

@@ -20,7 +20,7 @@ struct FittingGif {
     MadeGif made;
     FitChoice choice;
     QSize size;
-    std::uint64_t smallest = 0; ///< Bytes, about, of the smallest that was tried.
+    std::uint64_t smallest = 0; ///< Bytes where everything is given up that may be.
 };
 
 namespace {
@@ -69,13 +69,15 @@ bool Exporter::search(FitSearch &search, const FitLadder &ladder, const ExportCh
         GifPlan plan = planGIF(lowered(choices, asked, choice));
         plan.job.tolerance = choice.tolerance;
         plan.job.file = trial;
-        plan.job.sizeLimit = choices.limit.bytes;
+        // At the end nothing is left to be given up: there the true size is wanted, to be told.
+        if (*depth < ladder.end())
+            plan.job.sizeLimit = choices.limit.bytes;
         const GifFileResult result = runEncoder(plan.job);
         best.made.failure = gifFailure(result, plan.job, surroundings_.shell.s_Output_Folder());
         if (best.made.failure || exporting.exportCancelled())
             return false;
         std::uint64_t bytes = result.outcome.bytes;
-        if (result.isComplete()) {
+        if (result.isComplete() && bytes <= *choices.limit.bytes) {
             // Each file that fits is better than the one before, which looked in vain for more.
             QFile::remove(file);
             QFile::rename(trial, file);
@@ -83,12 +85,14 @@ bool Exporter::search(FitSearch &search, const FitLadder &ladder, const ExportCh
             best.made.moves = result.outcome.pictures > 1;
             best.choice = choice;
             best.size = plan.job.size;
-        } else {
+        } else if (!result.isComplete()) {
             plan.forecast.add(1, std::min(bytes, result.firstFrame));
             plan.forecast.add(result.outcome.frames - 1, bytes);
             bytes = std::max(plan.forecast.bytes(), *choices.limit.bytes + 1);
         }
-        best.smallest = best.smallest == 0 ? bytes : std::min(best.smallest, bytes);
+        QFile::remove(trial);
+        if (*depth >= ladder.end())
+            best.smallest = bytes;
         search.tried(*depth, bytes);
     }
     return true;

@@ -84,7 +84,7 @@ void Exporter::chooseResultsPlace() {
     forgetResult();
     const QFileInfo saved(path);
     settings::writeLastSaveFolder(saved.absolutePath());
-    const QString size = QLocale().formattedDataSize(saved.size());
+    const QString size = QLocale().formattedDataSize(saved.size(), 1, QLocale::DataSizeSIFormat);
     QString status = qtTrId("IDD_STATUS_SAVED").arg(path, size);
     if (!request.note.isEmpty())
         status += QLatin1Char(' ') + request.note;

@@ -570,8 +570,8 @@ Sie bleibt unter %3.</translation>
         <translation>Geben Sie eine Dateigröße in MB ein, zum Beispiel 8, oder wählen Sie „Unbegrenzt“.</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</source>
-        <translation>Das GIF passt nicht unter %1: Das kleinste ist etwa %2 groß. Wählen Sie eine höhere Grenze oder behalten Sie weniger von der Aufnahme.</translation>
+        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>Das GIF passt nicht unter %1: Selbst mit der niedrigsten Bildrate und halber Größe braucht es %2. Wählen Sie eine höhere Grenze oder eine kleinere Größe, oder behalten Sie weniger von der Aufnahme.</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>

@@ -570,8 +570,8 @@ It remains at %3.</translation>
         <translation>Type a file size in MB, such as 8, or choose “No limit”.</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</source>
-        <translation>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</translation>
+        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>

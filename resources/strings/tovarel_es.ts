@@ -570,8 +570,8 @@ Sigue en %3.</translation>
         <translation>Escriba un tamaño de archivo en MB, por ejemplo 8, o elija «Sin límite».</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</source>
-        <translation>El GIF no cabe en %1: el más pequeño ocupa aproximadamente %2. Elija un límite mayor o conserve menos de la grabación.</translation>
+        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>El GIF no cabe en %1: incluso con la menor frecuencia de fotogramas y la mitad del tamaño ocupa %2. Elija un límite mayor o un tamaño menor, o conserve menos de la grabación.</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>

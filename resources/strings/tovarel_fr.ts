@@ -570,8 +570,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>Saisissez une taille de fichier en Mo, par exemple 8, ou choisissez « Sans limite ».</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</source>
-        <translation>Le GIF ne tient pas dans %1 : le plus petit fait environ %2. Choisissez une limite plus élevée ou conservez une partie plus courte de l’enregistrement.</translation>
+        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>Le GIF ne tient pas dans %1 : même avec la fréquence d’images la plus basse et la moitié de la taille, il fait %2. Choisissez une limite plus élevée ou une taille plus petite, ou conservez une partie plus courte de l’enregistrement.</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>

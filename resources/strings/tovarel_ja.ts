@@ -570,8 +570,8 @@ It remains at %3.</source>
         <translation>ファイルサイズを MB 単位で入力するか（例: 8）、「制限なし」を選択してください。</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</source>
-        <translation>GIF は %1 に収まりません。最小でも約 %2 です。上限を大きくするか、残す区間を短くしてください。</translation>
+        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>GIF は %1 に収まりません。フレームレートを最低にし、サイズを半分にしても %2 になります。上限を大きくするか、サイズを小さくするか、残す区間を短くしてください。</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>

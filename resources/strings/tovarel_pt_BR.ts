@@ -570,8 +570,8 @@ Ele continua em %3.</translation>
         <translation>Digite um tamanho de arquivo em MB, por exemplo 8, ou escolha “Sem limite”.</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</source>
-        <translation>O GIF não cabe em %1: o menor tem cerca de %2. Escolha um limite maior ou mantenha menos da gravação.</translation>
+        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>O GIF não cabe em %1: mesmo com a menor taxa de quadros e metade do tamanho, ele ocupa %2. Escolha um limite maior ou um tamanho menor, ou mantenha menos da gravação.</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>

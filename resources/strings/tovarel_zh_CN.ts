@@ -570,8 +570,8 @@ It remains at %3.</source>
         <translation>请输入以 MB 为单位的文件大小（例如 8），或选择“不限”。</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: the smallest one is about %2. Choose a higher limit, or keep less of the recording.</source>
-        <translation>GIF 无法小于 %1：最小约为 %2。请提高上限，或保留更短的录制内容。</translation>
+        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>GIF 无法小于 %1：即使使用最低帧率和一半的尺寸，仍为 %2。请提高上限、减小尺寸，或保留更短的录制内容。</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>

@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
 
@@ -43,7 +44,8 @@ void Answerer::answer() {
         panels += panel->windowTitle() + u'|' + name;
         folder = panel->directory().path();
         if (!savePath.isEmpty())
-            panel->selectFile(savePath);
+            // `selectFile` changes nothing while this field has the focus.
+            panel->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(savePath);
         // Later: the panel may ask about an existing file, and this timer must tick for that.
         QMetaObject::invokeMethod(panel, savePath.isEmpty() ? "reject" : "accept",
                                   Qt::QueuedConnection);

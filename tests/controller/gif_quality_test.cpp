@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QTest>
 
@@ -146,7 +147,7 @@ TEST_F(GifQuality, ScalesToTheSizeThatIsTyped) {
             ui.btnGIFExport->click();
             QImageReader gif(answers.savePath);
             const QImage picture = gif.read();
-            ASSERT_EQ(picture.size(), size);
+            ASSERT_EQ(picture.size(), size) << status();
             if (size.width() > 1) {
                 const QRgb ground = picture.pixel(size.width() - 2, 2);
                 EXPECT_LE(std::abs(qRed(ground) - 30) + std::abs(qBlue(ground) - 90), 4);
@@ -366,6 +367,12 @@ TEST_F(GifQuality, FitsUnderALimitAndKeepsWhatWasChosen) {
     ASSERT_EQ(answers.alerts.size(), 1u);
     EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
     EXPECT_TRUE(exported().isEmpty());
+    // What is said to be the smallest does fit.
+    static const QRegularExpression smallest(QStringLiteral("([0-9.]+) kB[^0-9]*$"));
+    const QRegularExpressionMatch said = smallest.match(answers.alerts[0].text);
+    ASSERT_TRUE(said.hasMatch()) << answers.alerts[0].text.toStdString();
+    const double least = said.captured(1).toDouble();
+    EXPECT_GT(limited(QByteArray::number((least + 0.1) / 1000), "least.gif"), 900 * least);
     for (const char *wrong : {"0", "-1", "abc"}) {
         EXPECT_EQ(limited(wrong, "wrong.gif"), 0);
         ASSERT_EQ(answers.alerts.size(), 1u);

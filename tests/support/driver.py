@@ -248,8 +248,16 @@ class Program:
         # The window behind it may have a button of the same name.
         act(wait_for(f"the answer {button}", lambda: next(
             search(self.find("alert"), "push button", button), None)))
-        self.wait_for("the question to go", lambda: not self.find("alert"))
+        # What it leads to may be another alert.
+        self.wait_for("the question to go", lambda: wanted not in self.alert_now())
         return said
+
+    def alert_now(self):
+        """The texts of the alert that is up; empty without one."""
+        try:
+            return self.alert(patience=0) if self.find("alert") else ""
+        except (Late, bus_errors()):
+            return ""  # it went away while it was read
 
     def save_panel(self, path, replace=False, patience=PATIENCE, kind="GIF"):
         """Types the path into the save panel and confirms it, once more if a file is replaced."""
