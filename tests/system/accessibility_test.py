@@ -94,6 +94,7 @@ class Accessibility(case.Case):
         self.check_order((BAR, "Cut"), ("slider", "First frame"), ("slider", "Last frame"),
                          *self.buttons("Play"))
         self.program.enter("GIF")
+        self.program.choose_quality("Balanced")  # the other encoder knows no limit
         sizes, rates = (("radio button", f"Same {what} as the recording")
                         for what in ("size", "frame rate"))
         shares = self.buttons("75%", "50%")
@@ -121,6 +122,7 @@ class Accessibility(case.Case):
     def test_about_the_overlay_and_the_progress_sheet(self):
         self.program.end()
         # Time to look at the sheet, while the events turn.
+        self.session.remember_quality("classic")
         slow = self.stand_in('real "$@"; case "$*" in *paletteuse*) sleep 5;; esac')
         self.program = Program(self.session, slow)
         self.program.choose("Tovarel", "About Tovarel")
