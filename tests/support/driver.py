@@ -266,8 +266,13 @@ class Program:
         field = wait_for("the panel's name field", lambda: next(search(panel, "text"), None))
         wait_for("a preset name", lambda: re.fullmatch(
             rf"Tovarel \d{{4}}-\d\d-\d\d \d\d\.\d\d\.\d\d( \(\d+\))?\.{kind.lower()}", content(field)))
-        field.set_text_contents(str(path))
-        wait_for("the path in the field", lambda: content(field) == str(path))
+
+        def is_typed():
+            # Again where it was lost: the panel fills the field in while it reads the folder.
+            field.set_text_contents(str(path))
+            return content(field) == str(path)
+
+        wait_for("the path in the field", is_typed, between=0.2)
         self.press("Save")
         if replace:
             self.press("Yes")
