@@ -12,7 +12,7 @@ namespace {
 /// The GIF tab of the real window, with a recording of 30 frames at 12 frames per second.
 class GifOptions : public ExportTest {
 protected:
-    GifOptions() { QApplication::setActiveWindow(controller.shell.window()); }
+    GifOptions() { controller.shell.window()->activateWindow(); }
 
     /// The first frame alone has the size: it is the one that is asked.
     void enterTab(QSize size = {1366, 768}) {
