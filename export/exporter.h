@@ -132,6 +132,20 @@ private:
 
     using Frames = std::span<const frame_timing::TimedFrame>;
 
+    /// A file that a tool makes of the recording's files.
+    struct FileFormat {
+        int longestSide; // pixels
+        frame_timing::Ticks ticks;
+        const char *caption; // keys of texts: of the sheet, and of the note about a missing frame
+        const char *gap;
+        QString file;
+        QString panelTitle;
+        /// Makes the file of these frames: why there is none, or none.
+        std::optional<QString> (Exporter::*encode)(Frames frames, const ExportChoices &choices);
+    };
+    /// Makes such a file and lets the user choose its place; see `OnGIFExport`.
+    void makeFile(const FileFormat &format);
+
     /// Makes the GIF with the program's own encoder, in threads of its own, while events are
     /// processed.
     MadeGif makeGIF(Frames frames, const ExportChoices &choices);

@@ -58,15 +58,6 @@ std::vector<FrameFileSource::Shown> frameFiles(const QString &folder,
     return shown;
 }
 
-/// Pixels of the squares in which two frames differ; all of them where that is not known.
-double changedPixels(const Image &earlier, const Image &later) {
-    double pixels = 0;
-    const QRegion whole(QRect(QPoint(), later.size()));
-    for (const QRect &rect : later.changesSince(earlier).value_or(whole))
-        pixels += double(rect.width()) * rect.height();
-    return pixels;
-}
-
 } // namespace
 
 std::optional<QString> gifFailure(const GifFileResult &result, const GifFileJob &job,
@@ -151,16 +142,9 @@ GifFileJob Exporter::jobFor(Frames frames, const ExportChoices &choices) const {
 GifPlan Exporter::planGIF(const ExportChoices &choices) const {
     const std::vector<TimedFrame> frames =
         frame_timing::timedFrames(timingRequest(choices), frame_timing::gifTicks);
-    std::vector changes(frames.size(), 1.0);
-    const auto &store = recorder_.recording.array_Images;
-    for (std::size_t at = 1; at < frames.size(); ++at)
-        if (store && std::max(frames[at].source, frames[at - 1].source) < store->size())
-            changes[at] =
-                changedPixels((*store)[frames[at - 1].source], (*store)[frames[at].source]);
-    GifPlan plan{.job = jobFor(frames, choices), .forecast = SizeForecast(std::move(changes))};
-    plan.sampled = plan.forecast.weightiestFrame();
-    if (plan.sampled)
-        plan.sample = jobFor(Frames(frames).subspan(*plan.sampled - 1, 2), choices);
+    GifPlan plan{.job = jobFor(frames, choices), .images = {}};
+    for (const auto &shown : storedFrames(recorder_.recording.array_Images, frames))
+        plan.images.push_back(shown.image);
     return plan;
 }
 

@@ -86,9 +86,10 @@ bool Exporter::search(FitSearch &search, const FitLadder &ladder, const ExportCh
             best.choice = choice;
             best.size = plan.job.size;
         } else if (!result.isComplete()) {
-            plan.forecast.add(1, std::min(bytes, result.firstFrame));
-            plan.forecast.add(result.outcome.frames - 1, bytes);
-            bytes = std::max(plan.forecast.bytes(), *choices.limit.bytes + 1);
+            SizeForecast forecast = forecastOf(plan);
+            forecast.add(1, std::min(bytes, result.firstFrame));
+            forecast.add(result.outcome.frames - 1, bytes);
+            bytes = std::max(forecast.bytes(), *choices.limit.bytes + 1);
         }
         QFile::remove(trial);
         if (*depth >= ladder.end())

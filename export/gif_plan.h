@@ -4,16 +4,20 @@
 
 #include "export/gif_file.h"
 #include "export/size_forecast.h"
+#include "platform/image/image.h"
 
 #include <cstddef>
-#include <optional>
+#include <vector>
 
-/// A GIF that could be made of what is kept and chosen now.
+/// A GIF that could be made of what is kept and chosen now. Made on the main thread; what takes
+/// time with many frames, below, may be asked for in any other.
 struct GifPlan {
-    GifFileJob job; ///< Without a file; without frames where none can be made.
-    /// How much each frame changes against the one before.
-    SizeForecast forecast;
-    /// A frame to be tried for the forecast: it and the one before.
-    std::optional<std::size_t> sampled = {};
-    GifFileJob sample = {};
+    GifFileJob job;            ///< Without a file; without frames where none can be made.
+    std::vector<Image> images; ///< Of each frame; none of them where there are only files.
 };
+
+/// What can be said of the size by how much each frame changes against the one before.
+SizeForecast forecastOf(const GifPlan &plan);
+
+/// The making of one frame after the one before it. The plan has images; `frame` is not the first.
+GifFileJob sampleOf(const GifPlan &plan, std::size_t frame);

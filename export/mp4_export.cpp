@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "export/encoder_arguments.h"
-#include "export/export_mark.h"
 #include "export/exporter.h"
-#include "export/save_request.h"
 #include "export/staging.h"
 #include "export/tool_failure.h"
 #include "export/tool_run.h"
@@ -11,9 +9,6 @@
 #include "shell/working_folders.h"
 
 #include <QFileInfo>
-#include <QLocale>
-
-using frame_timing::TimedFrame;
 
 namespace {
 
@@ -29,37 +24,13 @@ bool lacksEncoder(const ToolExit &exit) {
 } // namespace
 
 void Exporter::Generate_MP4() {
-    if (!mayExport())
-        return;
-    const ExportMark mark(exporting);
-    const ExportChoices asked = choices();
-    std::optional<QString> reason = refusal(asked);
-    if (!reason)
-        reason = sizeRefusal(asked, longestSide);
-    if (reason) {
-        surroundings_.alerts.run(AlertKind::Error, *reason);
-        return;
-    }
-    if (mustAskFirst([this] { Generate_MP4(); }))
-        return;
-    beginExport(qtTrId("IDD_PROGRESS_MP4"));
-    const std::vector<TimedFrame> wanted =
-        frame_timing::timedFrames(timingRequest(asked), frame_timing::videoTicks);
-    const Frames frames = framesUpToGap(surroundings_.shell.s_Output_Folder(), wanted);
-    if (endedWithoutResult(encodeMP4(frames, asked)))
-        return;
-    QString note;
-    if (frames.size() < wanted.size()) {
-        const QLocale locale;
-        note = qtTrId("IDD_STATUS_MP4_GAP")
-                   .arg(locale.toString(qulonglong{frames.size()}),
-                        locale.toString(qulonglong{wanted.size()}));
-        surroundings_.showStatus(note);
-    }
-    saveResult({.file = encoder_arguments::mp4File(surroundings_.shell.s_Export_Folder()),
-                .panelTitle = QStringLiteral("Select a folder to save the MP4 video"),
-                .successText = QStringLiteral("Success"),
-                .note = note});
+    makeFile({.longestSide = longestSide,
+              .ticks = frame_timing::videoTicks,
+              .caption = "IDD_PROGRESS_MP4",
+              .gap = "IDD_STATUS_MP4_GAP",
+              .file = encoder_arguments::mp4File(surroundings_.shell.s_Export_Folder()),
+              .panelTitle = QStringLiteral("Select a folder to save the MP4 video"),
+              .encode = &Exporter::encodeMP4});
 }
 
 std::optional<QString> Exporter::encodeMP4(Frames frames, const ExportChoices &choices) {

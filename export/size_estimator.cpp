@@ -63,11 +63,12 @@ void SizeEstimator::begin() {
         setpriority(PRIO_PROCESS, 0, lowestPriority);
         QElapsedTimer since;
         since.start();
-        SizeForecast &forecast = plan->forecast;
-        if (plan->sampled) {
-            const GifFileResult tried = writeGifFile(plan->sample, stop);
+        SizeForecast forecast = forecastOf(*plan);
+        const auto sampled = forecast.weightiestFrame();
+        if (sampled && !plan->images.empty()) {
+            const GifFileResult tried = writeGifFile(sampleOf(*plan, *sampled), stop);
             if (tried.isComplete())
-                forecast.addSample(*plan->sampled, tried.outcome.bytes - tried.firstFrame);
+                forecast.addSample(*sampled, tried.outcome.bytes - tried.firstFrame);
         }
         plan->job.progress = [&](std::int64_t frames, std::uint64_t bytes) {
             forecast.add(frames - 1, bytes);

@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "export/encoder_arguments.h"
-#include "export/export_mark.h"
 #include "export/exporter.h"
-#include "export/save_request.h"
 #include "export/size_text.h"
 #include "export/staging.h"
 #include "export/tool_failure.h"
@@ -16,7 +14,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QLocale>
 
 using encoder_arguments::WebPCoding;
 using encoder_arguments::WebPFrame;
@@ -53,38 +50,13 @@ bool asksForAnotherSize(const QString &picture, const QString &width, const QStr
 } // namespace
 
 void Exporter::Generate_WebP() {
-    if (!mayExport())
-        return;
-    const ExportMark mark(exporting);
-    const ExportChoices asked = choices();
-    std::optional<QString> reason = refusal(asked);
-    if (!reason)
-        reason = sizeRefusal(asked, longestSide);
-    if (reason) {
-        surroundings_.alerts.run(AlertKind::Error, *reason);
-        return;
-    }
-    if (mustAskFirst([this] { Generate_WebP(); }))
-        return;
-    beginExport(qtTrId("IDD_PROGRESS_WEBP"));
-    const std::vector<TimedFrame> wanted =
-        frame_timing::timedFrames(timingRequest(asked), frame_timing::webpTicks);
-    const std::span<const TimedFrame> frames =
-        framesUpToGap(surroundings_.shell.s_Output_Folder(), wanted);
-    if (endedWithoutResult(encodeWebP(frames, asked)))
-        return;
-    QString note;
-    if (frames.size() < wanted.size()) {
-        const QLocale locale;
-        note = qtTrId("IDD_STATUS_WEBP_GAP")
-                   .arg(locale.toString(qulonglong{frames.size()}),
-                        locale.toString(qulonglong{wanted.size()}));
-        surroundings_.showStatus(note);
-    }
-    saveResult({.file = encoder_arguments::webpFile(surroundings_.shell.s_Export_Folder()),
-                .panelTitle = QStringLiteral("Select a folder to save the WebP image"),
-                .successText = QStringLiteral("Success"),
-                .note = note});
+    makeFile({.longestSide = longestSide,
+              .ticks = frame_timing::webpTicks,
+              .caption = "IDD_PROGRESS_WEBP",
+              .gap = "IDD_STATUS_WEBP_GAP",
+              .file = encoder_arguments::webpFile(surroundings_.shell.s_Export_Folder()),
+              .panelTitle = QStringLiteral("Select a folder to save the WebP image"),
+              .encode = &Exporter::encodeWebP});
 }
 
 std::optional<QString> Exporter::encodeWebP(Frames frames, const ExportChoices &choices) {

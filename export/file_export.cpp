@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "export/export_mark.h"
+#include "export/exporter.h"
+#include "export/save_request.h"
+#include "export/staging.h"
+#include "shell/surroundings.h"
+
+#include <QLocale>
+
+void Exporter::makeFile(const FileFormat &format) {
+    if (!mayExport())
+        return;
+    const ExportMark mark(exporting);
+    const ExportChoices asked = choices();
+    std::optional<QString> reason = refusal(asked);
+    if (!reason)
+        reason = sizeRefusal(asked, format.longestSide);
+    if (reason) {
+        surroundings_.alerts.run(AlertKind::Error, *reason);
+        return;
+    }
+    if (mustAskFirst([this, format] { makeFile(format); }))
+        return;
+    beginExport(qtTrId(format.caption));
+    const std::vector<frame_timing::TimedFrame> wanted =
+        frame_timing::timedFrames(timingRequest(asked), format.ticks);
+    const Frames frames = framesUpToGap(surroundings_.shell.s_Output_Folder(), wanted);
+    if (endedWithoutResult((this->*format.encode)(frames, asked)))
+        return;
+    QString note;
+    if (frames.size() < wanted.size()) {
+        const QLocale locale;
+        note = qtTrId(format.gap)
+                   .arg(locale.toString(qulonglong{frames.size()}),
+                        locale.toString(qulonglong{wanted.size()}));
+        surroundings_.showStatus(note);
+    }
+    saveResult({.file = format.file,
+                .panelTitle = format.panelTitle,
+                .successText = QStringLiteral("Success"),
+                .note = note});
+}
