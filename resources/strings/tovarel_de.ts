@@ -11,7 +11,7 @@
     </message>
     <message id="IDD_HELP">
         <source>Help</source>
-        <translation>Hilfe</translation>
+        <translation>– Hilfe</translation>
     </message>
     <message id="IDD_QUIT">
         <source>Quit</source>
@@ -22,7 +22,7 @@
         <translation>Startseite</translation>
     </message>
     <message id="IDD_COMPANY_PAGE">
-        <source>Maker's Page</source>
+        <source>About the Authors</source>
         <translation>Über die Entwickler</translation>
     </message>
     <message id="IDD_PRIVACY_POLICY">
@@ -67,7 +67,7 @@
     </message>
     <message id="IDD_INSTRUCTIONS">
         <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
-        <translation>Größe, Bildrate und Geschwindigkeit wählen, dann das GIF erzeugen.</translation>
+        <translation>Wählen Sie Größe, Bildrate und Geschwindigkeit, und erzeugen Sie dann das GIF.</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
@@ -151,7 +151,7 @@
         <translation>Version %1</translation>
     </message>
     <message id="IDD_ABOUT_LICENCE">
-        <source>Free software under the %1 licence.</source>
+        <source>Free software under the %1 License.</source>
         <translation>Freie Software unter der %1-Lizenz.</translation>
     </message>
     <message id="IDD_ABOUT_TOOLS">
@@ -171,11 +171,11 @@
         <translation>Live-Vorschau</translation>
     </message>
     <message id="IDD_KEYS_GRANTED">
-        <source>From any window, with %1: %2</source>
-        <translation>Aus jedem Fenster mit %1: %2</translation>
+        <source>Shortcuts in any window, with %1: %2</source>
+        <translation>In jedem Fenster, mit %1: %2</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
-        <source>Taken by another program, with %1: %2</source>
+        <source>Used by another program, with %1: %2</source>
         <translation>Von einem anderen Programm belegt, mit %1: %2</translation>
     </message>
     <!-- platform -->
@@ -192,17 +192,17 @@
         <translation>Der Bildschirm kann nicht aufgenommen werden: Diesem Anzeigeserver fehlt eine der Erweiterungen Damage, XFixes, Render und Shape.</translation>
     </message>
     <message id="IDD_REASON_PICTURE_FORMAT">
-        <source>The screen cannot be recorded: this display server does not use 24-bit colour.</source>
-        <translation>Der Bildschirm kann nicht aufgenommen werden: Dieser Anzeigeserver hält keine Bilder in 24-Bit-Farbe.</translation>
+        <source>The screen cannot be recorded: this display server does not use 24-bit color.</source>
+        <translation>Der Bildschirm kann nicht aufgenommen werden: Dieser Anzeigeserver verwendet keine 24-Bit-Farben.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
         <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
-        <translation>In einer Wayland-Sitzung kann der Bildschirm nicht aufgenommen werden; zum Aufnehmen bitte in einer X11-Sitzung anmelden.</translation>
+        <translation>In einer Wayland-Sitzung kann der Bildschirm nicht aufgenommen werden. Melden Sie sich zum Aufnehmen in einer X11-Sitzung an.</translation>
     </message>
     <!-- record -->
     <message id="IDD_SAVING_RECORDING">
         <source>Saving the recording…</source>
-        <translation>Die Aufnahme wird gespeichert …</translation>
+        <translation>Die Aufnahme wird gespeichert&#xa0;…</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
@@ -210,35 +210,35 @@
     </message>
     <message id="IDD_STATE_PAUSED">
         <source>Paused</source>
-        <translation>Angehalten</translation>
+        <translation>Pausiert</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
         <source>Paused – press %1 to continue</source>
-        <translation>Angehalten – weiter mit „%1“</translation>
+        <translation>Pausiert – weiter mit „%1“</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
-        <source>%1 · Frames: %2 · Frames per second: %3</source>
-        <translation>%1 · Bilder: %2 · Bilder pro Sekunde: %3</translation>
+        <source>%1 · Frames: %2 · %3&#xa0;fps</source>
+        <translation>%1 · Bilder: %2 · %3&#xa0;fps</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</source>
-        <translation>Die Aufnahme wurde angehalten, weil der Speicher knapp wird (noch %1). „Aufnehmen“ setzt sie fort, „Stopp“ sichert, was da ist.</translation>
+        <source>Memory is running out (%1 left). Stop saves what has been recorded.</source>
+        <translation>Arbeitsspeicher fast voll (noch %1 frei). „Stopp“ speichert die Aufnahme.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
-        <translation>Speicher: %1</translation>
+        <translation>Arbeitsspeicher: %1</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
         <source>Memory: %1, enough for %2 more</source>
-        <translation>Speicher: %1, reicht noch %2</translation>
+        <translation>Arbeitsspeicher: %1, reicht noch für %2</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
-        <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
-        <translation>Die Aufnahme ist vollständig. Bilder: %1 · Bilder pro Sekunde: %2</translation>
+        <source>The recording is complete. Frames: %1 · %2&#xa0;fps</source>
+        <translation>Die Aufnahme ist abgeschlossen. Bilder: %1 · %2&#xa0;fps</translation>
     </message>
     <message id="IDD_RECORDING_BEHIND">
-        <source>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</source>
-        <translation>Die Aufnahme ist abgeschlossen. Bilder: %1 · %2 Bilder pro Sekunde gewünscht, %3 erreicht</translation>
+        <source>The recording is complete. Frames: %1 · %3&#xa0;fps instead of %2&#xa0;fps</source>
+        <translation>Die Aufnahme ist abgeschlossen. Bilder: %1 · %3&#xa0;fps statt %2&#xa0;fps</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
@@ -246,7 +246,7 @@
     </message>
     <message id="IDD_FRAMES_MISSING">
         <source>%1 of %2 frames could not be written to %3: %4</source>
-        <translation>%1 von %2 Bildern konnten nicht nach %3 geschrieben werden: %4</translation>
+        <translation>Nicht nach %3 geschrieben: %1 von %2 Bildern (%4)</translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
@@ -289,8 +289,8 @@
         <translation>Bereich %1 × %2 bei %3,&#xa0;%4</translation>
     </message>
     <message id="IDD_CAPTURE_RATE">
-        <source>%1 fps</source>
-        <translation>%1 Bilder/s</translation>
+        <source>%1&#xa0;fps</source>
+        <translation>%1&#xa0;fps</translation>
     </message>
     <message id="IDD_OK">
         <source>OK</source>
@@ -302,7 +302,7 @@
     </message>
     <!-- region -->
     <message id="IDD_REGION_OVERLAY">
-        <source>Select a region</source>
+        <source>Select a Region</source>
         <translation>Bereich wählen</translation>
     </message>
     <message id="IDD_REGION_TIP">
@@ -330,7 +330,7 @@
         <translation>Oben rechts</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TITLE">
-        <source>How to select a region</source>
+        <source>How to Select a Region</source>
         <translation>So wählen Sie einen Bereich</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
@@ -350,11 +350,11 @@
         <translation>Klicken zum Bestätigen</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
-        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</source>
-        <translation>Mit der Tastatur: Die Pfeiltasten bewegen eine Ecke (mit Umschalt schneller), Tabulator wählt eine andere, Eingabe bestätigt, Escape bricht ab.</translation>
+        <source>With the keyboard: the arrow keys move a corner (faster with Shift), Tab selects the next one, Enter accepts, Esc cancels.</source>
+        <translation>Mit der Tastatur: Die Pfeiltasten verschieben eine Ecke (mit Umschalt schneller), Tab wählt die nächste, Eingabe bestätigt, Esc bricht ab.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>Don't show this again</source>
+        <source>Don’t show this again</source>
         <translation>Nicht mehr anzeigen</translation>
     </message>
     <!-- trim -->
@@ -367,12 +367,12 @@
         <translation>Letztes Bild</translation>
     </message>
     <message id="IDD_RANGE_HOLDS">
-        <source>Frames %1 to %2: %3 frames, %4 s</source>
-        <translation>Bilder %1 bis %2: %3 Bilder, %4 s</translation>
+        <source>Frames %1 to %2: %3 frames, %4&#xa0;s</source>
+        <translation>Bilder %1 bis %2: %3 Bilder, %4&#xa0;s</translation>
     </message>
     <message id="IDD_RANGE_ONE">
-        <source>Frame %1 only, %2 s</source>
-        <translation>Nur Bild %1, %2 s</translation>
+        <source>Frame %1 only, %2&#xa0;s</source>
+        <translation>Nur Bild %1, %2&#xa0;s</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>
@@ -388,15 +388,15 @@
     </message>
     <!-- export -->
     <message id="IDD_PROGRESS_GIF">
-        <source>Making the GIF…</source>
-        <translation>Das GIF wird erzeugt …</translation>
+        <source>Generating the GIF…</source>
+        <translation>Das GIF wird erzeugt&#xa0;…</translation>
     </message>
     <message id="IDD_PROGRESS_WEBP">
         <source>Generating the WebP…</source>
         <translation>Das WebP wird erzeugt&#xa0;…</translation>
     </message>
     <message id="IDD_PROGRESS_PALETTE">
-        <source>Step 1 of 2: choosing the colours</source>
+        <source>Step 1 of 2: choosing the colors</source>
         <translation>Schritt 1 von 2: Farben auswählen</translation>
     </message>
     <message id="IDD_PROGRESS_SCALING">
@@ -405,14 +405,14 @@
     </message>
     <message id="IDD_PROGRESS_PICTURES">
         <source>Step 2 of 2: %p%</source>
-        <translation>Schritt 2 von 2: %p %</translation>
+        <translation>Schritt 2 von 2: %p&#xa0;%</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
         <source>The export was cancelled.</source>
         <translation>Der Export wurde abgebrochen.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
-        <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
+        <source>The program “%1” is missing: it was not found when Tovarel started.</source>
         <translation>Das Programm „%1“ fehlt: Es wurde beim Start von Tovarel nicht gefunden.</translation>
     </message>
     <message id="IDD_TOOL_NOT_STARTED">
@@ -425,15 +425,15 @@
     </message>
     <message id="IDD_TOOL_FAILED">
         <source>The program “%1” failed (exit status %2).</source>
-        <translation>Das Programm „%1“ ist gescheitert (Rückgabewert %2).</translation>
+        <translation>Das Programm „%1“ wurde mit einem Fehler beendet (Rückgabewert %2).</translation>
     </message>
     <message id="IDD_TOOL_NO_RESULT">
         <source>The program “%1” ended without writing its result, %2.</source>
         <translation>Das Programm „%1“ endete, ohne sein Ergebnis zu schreiben: %2.</translation>
     </message>
     <message id="IDD_REFUSED_SIZE">
-        <source>The size asked for was %1 × %2.</source>
-        <translation>Die verlangte Größe war %1 × %2.</translation>
+        <source>The requested size was %1 × %2.</source>
+        <translation>Die angeforderte Größe war %1 × %2.</translation>
     </message>
     <message id="IDD_GIF_TOO_LARGE">
         <source>A GIF of %1 × %2 pixels needs about %3 of memory. At most %4 may be used, half of what is free. Choose a smaller size.</source>
@@ -458,28 +458,30 @@ Die Aufnahme ist noch vorhanden.</translation>
         <translation>Die Bilder der Aufnahme konnten nicht aus %1 gelesen werden.</translation>
     </message>
     <message id="IDD_MOVE_FAILED">
-        <source>The file could not be saved as %1. %2
+        <source>The file could not be saved as %1.
+%2
 
-It remains at %3.</source>
-        <translation>Die Datei konnte nicht als %1 gespeichert werden. %2
+It is still at %3.</source>
+        <translation>Die Datei konnte nicht als %1 gespeichert werden.
+%2
 
-Sie bleibt unter %3.</translation>
+Sie liegt weiterhin unter %3.</translation>
     </message>
     <message id="IDD_MOVE_IS_FOLDER">
-        <source>There is a folder with that name.</source>
-        <translation>Dort steht ein Ordner dieses Namens.</translation>
+        <source>There is already a folder with that name.</source>
+        <translation>Dort gibt es bereits einen Ordner mit diesem Namen.</translation>
     </message>
     <message id="IDD_MOVE_NOT_A_FILE">
-        <source>There is something with that name that is not an ordinary file.</source>
-        <translation>Was dort steht, ist keine gewöhnliche Datei.</translation>
+        <source>There is already something with that name, and it is not a regular file.</source>
+        <translation>Unter diesem Namen gibt es dort bereits etwas, das keine normale Datei ist.</translation>
     </message>
     <message id="IDD_MOVE_SAME_FILE">
-        <source>That is the file itself.</source>
-        <translation>Das ist die Datei selbst.</translation>
+        <source>Source and destination are the same file.</source>
+        <translation>Quelle und Ziel sind dieselbe Datei.</translation>
     </message>
     <message id="IDD_MOVE_WORKING_FOLDER">
-        <source>Tovarel empties that folder itself: choose another one.</source>
-        <translation>Tovarel leert diesen Ordner selbst: Wählen Sie einen anderen.</translation>
+        <source>Tovarel empties that folder automatically. Choose another one.</source>
+        <translation>Tovarel leert diesen Ordner automatisch. Wählen Sie einen anderen.</translation>
     </message>
     <message id="IDD_STATUS_SAVED">
         <source>Saved: %1 (%2).</source>
@@ -506,12 +508,12 @@ Sie bleibt unter %3.</translation>
         <translation>Verwerfen</translation>
     </message>
     <message id="IDD_STATUS_GAP">
-        <source>The GIF holds %1 of %2 frames: the others were missing.</source>
-        <translation>Das GIF enthält %1 von %2 Bildern: Die übrigen fehlten.</translation>
+        <source>The GIF contains only %1 of %2 frames; the rest are missing.</source>
+        <translation>Das GIF enthält nur %1 von %2 Bildern; der Rest fehlte.</translation>
     </message>
     <message id="IDD_STATUS_WEBP_GAP">
-        <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
-        <translation>Das WebP enthält %1 von %2 Bildern: Das nächste fehlte.</translation>
+        <source>The WebP contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>Das WebP enthält nur %1 von %2 Bildern; das nächste fehlte.</translation>
     </message>
     <message id="IDD_STATUS_STILL">
         <source>The GIF does not move: all its frames are the same.</source>
@@ -522,7 +524,7 @@ Sie bleibt unter %3.</translation>
         <translation>Qualität</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
         <translation>Qualität des GIF: „Beste“ erhält die Farben so genau wie möglich, „Klein“ ergibt die kleinste Datei, „Klassisch“ verwendet ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -546,16 +548,16 @@ Sie bleibt unter %3.</translation>
         <translation>Geschwindigkeit</translation>
     </message>
     <message id="IDD_GIF_THINNED">
-        <source>GIF: thinned to 50&#xa0;fps</source>
+        <source>GIF: reduced to 50&#xa0;fps</source>
         <translation>GIF: auf 50&#xa0;fps verringert</translation>
     </message>
     <message id="IDD_FIT_UNDER">
         <source>Fit under</source>
-        <translation>Höchstgröße</translation>
+        <translation>Max. Dateigröße</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</source>
-        <translation>Höchste Dateigröße des GIF. Dafür werden zuerst genaue Farben, dann die Bildrate, dann die Größe verringert</translation>
+        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>Maximale Größe der GIF-Datei. Um sie einzuhalten, werden zuerst die Farbgenauigkeit, dann die Bildrate und dann Breite und Höhe verringert</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -571,11 +573,11 @@ Sie bleibt unter %3.</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
         <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
-        <translation>Das GIF passt nicht unter %1: Selbst mit der niedrigsten Bildrate und halber Größe braucht es %2. Wählen Sie eine höhere Grenze oder eine kleinere Größe, oder behalten Sie weniger von der Aufnahme.</translation>
+        <translation>Das GIF lässt sich nicht auf %1 verkleinern: Selbst mit der niedrigsten Bildrate und halber Größe ist die Datei %2 groß. Wählen Sie eine höhere Grenze oder eine kleinere Größe, oder behalten Sie weniger von der Aufnahme.</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
-        <translation>Für höchstens %1 muss die Bildrate oder die Größe, die Sie gewählt haben, verringert werden.</translation>
+        <translation>Damit die Datei höchstens %1 groß wird, muss die von Ihnen gewählte Bildrate oder Größe verringert werden.</translation>
     </message>
     <message id="IDD_FIT_ASK_DETAIL">
         <source>What you chose stays in the fields.</source>
@@ -590,12 +592,12 @@ Sie bleibt unter %3.</translation>
         <translation>Verringern</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</source>
-        <translation>Für höchstens %1 hat es %2 × %3 Pixel und %4 Bilder pro Sekunde.</translation>
+        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <translation>Für höchstens %1 hat das GIF %2 × %3 Pixel und %4&#xa0;fps.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, its colors are less exact.</source>
-        <translation>Für höchstens %1 sind die Farben weniger genau.</translation>
+        <source>To fit under %1, the GIF has less exact colors.</source>
+        <translation>Für höchstens %1 hat das GIF weniger genaue Farben.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>About %1</source>
@@ -618,7 +620,7 @@ Sie bleibt unter %3.</translation>
         <translation>Erzeugt ein MP4-Video mit der hier gewählten Größe, Bildrate und Geschwindigkeit</translation>
     </message>
     <message id="IDD_PROGRESS_MP4">
-        <source>Making the MP4…</source>
+        <source>Generating the MP4…</source>
         <translation>Das MP4 wird erzeugt&#xa0;…</translation>
     </message>
     <message id="IDD_MP4_NO_ENCODER">
@@ -626,8 +628,8 @@ Sie bleibt unter %3.</translation>
         <translation>Diesem ffmpeg fehlt der H.264-Encoder (libx264), den ein MP4 braucht. Installieren Sie ein ffmpeg, das ihn hat, oder erzeugen Sie ein GIF oder WebP.</translation>
     </message>
     <message id="IDD_STATUS_MP4_GAP">
-        <source>The MP4 holds %1 of %2 frames: the next one was missing.</source>
-        <translation>Das MP4 enthält %1 von %2 Bildern: Das nächste fehlte.</translation>
+        <source>The MP4 contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>Das MP4 enthält nur %1 von %2 Bildern; das nächste fehlte.</translation>
     </message>
     <message id="IDD_SIZE_ABOVE">
         <source>%1 pixels at most</source>
@@ -647,15 +649,15 @@ Sie bleibt unter %3.</translation>
     </message>
     <message id="IDD_WEBP_LOOPS_HINT">
         <source>0 = loop forever</source>
-        <translation>0 heißt endlos</translation>
+        <translation>0 = endlos</translation>
     </message>
     <message id="IDD_LOOPS_NOT_NUMBER">
-        <source>must be a whole number</source>
-        <translation>muss eine ganze Zahl sein</translation>
+        <source>Whole numbers only</source>
+        <translation>Nur ganze Zahlen</translation>
     </message>
     <message id="IDD_LOOPS_NEGATIVE">
-        <source>must not be negative</source>
-        <translation>darf nicht negativ sein</translation>
+        <source>No negative numbers</source>
+        <translation>Keine negativen Zahlen</translation>
     </message>
     <message id="IDD_LOOPS_TOO_LARGE">
         <source>65,535 at most</source>
@@ -666,16 +668,16 @@ Sie bleibt unter %3.</translation>
         <translation>%1: %2</translation>
     </message>
     <message id="IDD_SIZE_ZERO">
-        <source>must begin with a number other than 0</source>
-        <translation>muss mit einer Zahl außer 0 beginnen</translation>
+        <source>must be a number greater than 0</source>
+        <translation>muss eine Zahl größer als 0 sein</translation>
     </message>
     <message id="IDD_SIZE_NEGATIVE">
         <source>must not be negative</source>
-        <translation>negativ, wird abgelehnt</translation>
+        <translation>darf nicht negativ sein</translation>
     </message>
     <message id="IDD_SIZE_NOT_PLAIN">
-        <source>digits only, or it will be refused</source>
-        <translation>nur Ziffern, sonst wird sie abgelehnt</translation>
+        <source>may contain digits only</source>
+        <translation>darf nur Ziffern enthalten</translation>
     </message>
     <message id="IDD_SIZE_TOO_LARGE">
         <source>65,535 pixels at most</source>

@@ -22,8 +22,8 @@
         <translation>Home Page</translation>
     </message>
     <message id="IDD_COMPANY_PAGE">
-        <source>Maker's Page</source>
-        <translation>Maker's Page</translation>
+        <source>About the Authors</source>
+        <translation>About the Authors</translation>
     </message>
     <message id="IDD_PRIVACY_POLICY">
         <source>Privacy Policy</source>
@@ -151,8 +151,8 @@
         <translation>Version %1</translation>
     </message>
     <message id="IDD_ABOUT_LICENCE">
-        <source>Free software under the %1 licence.</source>
-        <translation>Free software under the %1 licence.</translation>
+        <source>Free software under the %1 License.</source>
+        <translation>Free software under the %1 License.</translation>
     </message>
     <message id="IDD_ABOUT_TOOLS">
         <source>Tools in use:</source>
@@ -171,12 +171,12 @@
         <translation>Live preview</translation>
     </message>
     <message id="IDD_KEYS_GRANTED">
-        <source>From any window, with %1: %2</source>
-        <translation>From any window, with %1: %2</translation>
+        <source>Shortcuts in any window, with %1: %2</source>
+        <translation>Shortcuts in any window, with %1: %2</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
-        <source>Taken by another program, with %1: %2</source>
-        <translation>Taken by another program, with %1: %2</translation>
+        <source>Used by another program, with %1: %2</source>
+        <translation>Used by another program, with %1: %2</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">
@@ -192,8 +192,8 @@
         <translation>The screen cannot be recorded: this display server lacks one of the extensions Damage, XFixes, Render and Shape.</translation>
     </message>
     <message id="IDD_REASON_PICTURE_FORMAT">
-        <source>The screen cannot be recorded: this display server does not use 24-bit colour.</source>
-        <translation>The screen cannot be recorded: this display server does not use 24-bit colour.</translation>
+        <source>The screen cannot be recorded: this display server does not use 24-bit color.</source>
+        <translation>The screen cannot be recorded: this display server does not use 24-bit color.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
         <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
@@ -217,12 +217,12 @@
         <translation>Paused – press %1 to continue</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
-        <source>%1 · Frames: %2 · Frames per second: %3</source>
-        <translation>%1 · Frames: %2 · Frames per second: %3</translation>
+        <source>%1 · Frames: %2 · %3&#xa0;fps</source>
+        <translation>%1 · Frames: %2 · %3&#xa0;fps</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</source>
-        <translation>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</translation>
+        <source>Memory is running out (%1 left). Stop saves what has been recorded.</source>
+        <translation>Memory is running out (%1 left). Stop saves what has been recorded.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
@@ -233,12 +233,12 @@
         <translation>Memory: %1, enough for %2 more</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
-        <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
-        <translation>The recording is complete. Frames: %1 · Frames per second: %2</translation>
+        <source>The recording is complete. Frames: %1 · %2&#xa0;fps</source>
+        <translation>The recording is complete. Frames: %1 · %2&#xa0;fps</translation>
     </message>
     <message id="IDD_RECORDING_BEHIND">
-        <source>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</source>
-        <translation>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</translation>
+        <source>The recording is complete. Frames: %1 · %3&#xa0;fps instead of %2&#xa0;fps</source>
+        <translation>The recording is complete. Frames: %1 · %3&#xa0;fps instead of %2&#xa0;fps</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
@@ -289,8 +289,8 @@
         <translation>Region %1 × %2 at %3,&#xa0;%4</translation>
     </message>
     <message id="IDD_CAPTURE_RATE">
-        <source>%1 fps</source>
-        <translation>%1 fps</translation>
+        <source>%1&#xa0;fps</source>
+        <translation>%1&#xa0;fps</translation>
     </message>
     <message id="IDD_OK">
         <source>OK</source>
@@ -302,8 +302,8 @@
     </message>
     <!-- region -->
     <message id="IDD_REGION_OVERLAY">
-        <source>Select a region</source>
-        <translation>Select a region</translation>
+        <source>Select a Region</source>
+        <translation>Select a Region</translation>
     </message>
     <message id="IDD_REGION_TIP">
         <source>%1: %2 × %3 pixels at %4, %5</source>
@@ -330,8 +330,8 @@
         <translation>Upper right</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TITLE">
-        <source>How to select a region</source>
-        <translation>How to select a region</translation>
+        <source>How to Select a Region</source>
+        <translation>How to Select a Region</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
         <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</source>
@@ -350,12 +350,12 @@
         <translation>Click to accept</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
-        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</source>
-        <translation>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</translation>
+        <source>With the keyboard: the arrow keys move a corner (faster with Shift), Tab selects the next one, Enter accepts, Esc cancels.</source>
+        <translation>With the keyboard: the arrow keys move a corner (faster with Shift), Tab selects the next one, Enter accepts, Esc cancels.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>Don't show this again</source>
-        <translation>Don't show this again</translation>
+        <source>Don’t show this again</source>
+        <translation>Don’t show this again</translation>
     </message>
     <!-- trim -->
     <message id="IDD_HANDLE_FIRST">
@@ -367,12 +367,12 @@
         <translation>Last frame</translation>
     </message>
     <message id="IDD_RANGE_HOLDS">
-        <source>Frames %1 to %2: %3 frames, %4 s</source>
-        <translation>Frames %1 to %2: %3 frames, %4 s</translation>
+        <source>Frames %1 to %2: %3 frames, %4&#xa0;s</source>
+        <translation>Frames %1 to %2: %3 frames, %4&#xa0;s</translation>
     </message>
     <message id="IDD_RANGE_ONE">
-        <source>Frame %1 only, %2 s</source>
-        <translation>Frame %1 only, %2 s</translation>
+        <source>Frame %1 only, %2&#xa0;s</source>
+        <translation>Frame %1 only, %2&#xa0;s</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>
@@ -388,16 +388,16 @@
     </message>
     <!-- export -->
     <message id="IDD_PROGRESS_GIF">
-        <source>Making the GIF…</source>
-        <translation>Making the GIF…</translation>
+        <source>Generating the GIF…</source>
+        <translation>Generating the GIF…</translation>
     </message>
     <message id="IDD_PROGRESS_WEBP">
         <source>Generating the WebP…</source>
         <translation>Generating the WebP…</translation>
     </message>
     <message id="IDD_PROGRESS_PALETTE">
-        <source>Step 1 of 2: choosing the colours</source>
-        <translation>Step 1 of 2: choosing the colours</translation>
+        <source>Step 1 of 2: choosing the colors</source>
+        <translation>Step 1 of 2: choosing the colors</translation>
     </message>
     <message id="IDD_PROGRESS_SCALING">
         <source>Step 1 of 2, scaling: %p%</source>
@@ -412,8 +412,8 @@
         <translation>The export was cancelled.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
-        <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
-        <translation>The program “%1” is missing: it was not found when Tovarel was started.</translation>
+        <source>The program “%1” is missing: it was not found when Tovarel started.</source>
+        <translation>The program “%1” is missing: it was not found when Tovarel started.</translation>
     </message>
     <message id="IDD_TOOL_NOT_STARTED">
         <source>The program “%1” could not be started: %2</source>
@@ -432,8 +432,8 @@
         <translation>The program “%1” ended without writing its result, %2.</translation>
     </message>
     <message id="IDD_REFUSED_SIZE">
-        <source>The size asked for was %1 × %2.</source>
-        <translation>The size asked for was %1 × %2.</translation>
+        <source>The requested size was %1 × %2.</source>
+        <translation>The requested size was %1 × %2.</translation>
     </message>
     <message id="IDD_GIF_TOO_LARGE">
         <source>A GIF of %1 × %2 pixels needs about %3 of memory. At most %4 may be used, half of what is free. Choose a smaller size.</source>
@@ -458,28 +458,30 @@ The recording is still there.</translation>
         <translation>The frames of the recording could not be read from %1.</translation>
     </message>
     <message id="IDD_MOVE_FAILED">
-        <source>The file could not be saved as %1. %2
+        <source>The file could not be saved as %1.
+%2
 
-It remains at %3.</source>
-        <translation>The file could not be saved as %1. %2
+It is still at %3.</source>
+        <translation>The file could not be saved as %1.
+%2
 
-It remains at %3.</translation>
+It is still at %3.</translation>
     </message>
     <message id="IDD_MOVE_IS_FOLDER">
-        <source>There is a folder with that name.</source>
-        <translation>There is a folder with that name.</translation>
+        <source>There is already a folder with that name.</source>
+        <translation>There is already a folder with that name.</translation>
     </message>
     <message id="IDD_MOVE_NOT_A_FILE">
-        <source>There is something with that name that is not an ordinary file.</source>
-        <translation>There is something with that name that is not an ordinary file.</translation>
+        <source>There is already something with that name, and it is not a regular file.</source>
+        <translation>There is already something with that name, and it is not a regular file.</translation>
     </message>
     <message id="IDD_MOVE_SAME_FILE">
-        <source>That is the file itself.</source>
-        <translation>That is the file itself.</translation>
+        <source>Source and destination are the same file.</source>
+        <translation>Source and destination are the same file.</translation>
     </message>
     <message id="IDD_MOVE_WORKING_FOLDER">
-        <source>Tovarel empties that folder itself: choose another one.</source>
-        <translation>Tovarel empties that folder itself: choose another one.</translation>
+        <source>Tovarel empties that folder automatically. Choose another one.</source>
+        <translation>Tovarel empties that folder automatically. Choose another one.</translation>
     </message>
     <message id="IDD_STATUS_SAVED">
         <source>Saved: %1 (%2).</source>
@@ -506,12 +508,12 @@ It remains at %3.</translation>
         <translation>Discard</translation>
     </message>
     <message id="IDD_STATUS_GAP">
-        <source>The GIF holds %1 of %2 frames: the others were missing.</source>
-        <translation>The GIF holds %1 of %2 frames: the others were missing.</translation>
+        <source>The GIF contains only %1 of %2 frames; the rest are missing.</source>
+        <translation>The GIF contains only %1 of %2 frames; the rest are missing.</translation>
     </message>
     <message id="IDD_STATUS_WEBP_GAP">
-        <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
-        <translation>The WebP holds %1 of %2 frames: the next one was missing.</translation>
+        <source>The WebP contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>The WebP contains only the first %1 of %2 frames; the next one is missing.</translation>
     </message>
     <message id="IDD_STATUS_STILL">
         <source>The GIF does not move: all its frames are the same.</source>
@@ -522,8 +524,8 @@ It remains at %3.</translation>
         <translation>Quality</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
-        <translation>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</translation>
+        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <translation>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
         <source>Best</source>
@@ -546,16 +548,16 @@ It remains at %3.</translation>
         <translation>Speed</translation>
     </message>
     <message id="IDD_GIF_THINNED">
-        <source>GIF: thinned to 50&#xa0;fps</source>
-        <translation>GIF: thinned to 50&#xa0;fps</translation>
+        <source>GIF: reduced to 50&#xa0;fps</source>
+        <translation>GIF: reduced to 50&#xa0;fps</translation>
     </message>
     <message id="IDD_FIT_UNDER">
         <source>Fit under</source>
         <translation>Fit under</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</source>
-        <translation>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</translation>
+        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -590,12 +592,12 @@ It remains at %3.</translation>
         <translation>Lower</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</source>
-        <translation>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</translation>
+        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <translation>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, its colors are less exact.</source>
-        <translation>To fit under %1, its colors are less exact.</translation>
+        <source>To fit under %1, the GIF has less exact colors.</source>
+        <translation>To fit under %1, the GIF has less exact colors.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>About %1</source>
@@ -618,16 +620,16 @@ It remains at %3.</translation>
         <translation>Generates an MP4 video with the size, frame rate and speed chosen here</translation>
     </message>
     <message id="IDD_PROGRESS_MP4">
-        <source>Making the MP4…</source>
-        <translation>Making the MP4…</translation>
+        <source>Generating the MP4…</source>
+        <translation>Generating the MP4…</translation>
     </message>
     <message id="IDD_MP4_NO_ENCODER">
         <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>
         <translation>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</translation>
     </message>
     <message id="IDD_STATUS_MP4_GAP">
-        <source>The MP4 holds %1 of %2 frames: the next one was missing.</source>
-        <translation>The MP4 holds %1 of %2 frames: the next one was missing.</translation>
+        <source>The MP4 contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>The MP4 contains only the first %1 of %2 frames; the next one is missing.</translation>
     </message>
     <message id="IDD_SIZE_ABOVE">
         <source>%1 pixels at most</source>
@@ -650,12 +652,12 @@ It remains at %3.</translation>
         <translation>0 = loop forever</translation>
     </message>
     <message id="IDD_LOOPS_NOT_NUMBER">
-        <source>must be a whole number</source>
-        <translation>must be a whole number</translation>
+        <source>Whole numbers only</source>
+        <translation>Whole numbers only</translation>
     </message>
     <message id="IDD_LOOPS_NEGATIVE">
-        <source>must not be negative</source>
-        <translation>must not be negative</translation>
+        <source>No negative numbers</source>
+        <translation>No negative numbers</translation>
     </message>
     <message id="IDD_LOOPS_TOO_LARGE">
         <source>65,535 at most</source>
@@ -666,16 +668,16 @@ It remains at %3.</translation>
         <translation>%1: %2</translation>
     </message>
     <message id="IDD_SIZE_ZERO">
-        <source>must begin with a number other than 0</source>
-        <translation>must begin with a number other than 0</translation>
+        <source>must be a number greater than 0</source>
+        <translation>must be a number greater than 0</translation>
     </message>
     <message id="IDD_SIZE_NEGATIVE">
         <source>must not be negative</source>
         <translation>must not be negative</translation>
     </message>
     <message id="IDD_SIZE_NOT_PLAIN">
-        <source>digits only, or it will be refused</source>
-        <translation>digits only, or it will be refused</translation>
+        <source>may contain digits only</source>
+        <translation>may contain digits only</translation>
     </message>
     <message id="IDD_SIZE_TOO_LARGE">
         <source>65,535 pixels at most</source>

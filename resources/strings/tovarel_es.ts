@@ -22,7 +22,7 @@
         <translation>Página de inicio</translation>
     </message>
     <message id="IDD_COMPANY_PAGE">
-        <source>Maker's Page</source>
+        <source>About the Authors</source>
         <translation>Acerca de los autores</translation>
     </message>
     <message id="IDD_PRIVACY_POLICY">
@@ -39,7 +39,7 @@
     </message>
     <message id="IDD_PAUSE">
         <source>Pause</source>
-        <translation>Pausa</translation>
+        <translation>Pausar</translation>
     </message>
     <message id="IDD_STOP">
         <source>Stop</source>
@@ -107,7 +107,7 @@
     </message>
     <message id="IDD_LOW_FRAME_NUMBER">
         <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
-        <translation>El intervalo elegido tiene muy pocos fotogramas. Elija al menos tres en la pestaña Recortar.</translation>
+        <translation>El intervalo elegido no tiene suficientes fotogramas. Elija al menos tres en la pestaña «Recortar».</translation>
     </message>
     <message id="IDD_INVALID_DIMENSION">
         <source>Width and height must be whole numbers greater than 0.</source>
@@ -151,7 +151,7 @@
         <translation>Versión %1</translation>
     </message>
     <message id="IDD_ABOUT_LICENCE">
-        <source>Free software under the %1 licence.</source>
+        <source>Free software under the %1 License.</source>
         <translation>Software libre con licencia %1.</translation>
     </message>
     <message id="IDD_ABOUT_TOOLS">
@@ -171,12 +171,12 @@
         <translation>Vista previa en directo</translation>
     </message>
     <message id="IDD_KEYS_GRANTED">
-        <source>From any window, with %1: %2</source>
+        <source>Shortcuts in any window, with %1: %2</source>
         <translation>Desde cualquier ventana, con %1: %2</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
-        <source>Taken by another program, with %1: %2</source>
-        <translation>Ocupado por otro programa, con %1: %2</translation>
+        <source>Used by another program, with %1: %2</source>
+        <translation>En uso por otro programa, con %1: %2</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">
@@ -192,7 +192,7 @@
         <translation>No se puede grabar la pantalla: a este servidor gráfico le falta una de las extensiones Damage, XFixes, Render y Shape.</translation>
     </message>
     <message id="IDD_REASON_PICTURE_FORMAT">
-        <source>The screen cannot be recorded: this display server does not use 24-bit colour.</source>
+        <source>The screen cannot be recorded: this display server does not use 24-bit color.</source>
         <translation>No se puede grabar la pantalla: este servidor gráfico no usa imágenes en color de 24 bits.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -214,15 +214,15 @@
     </message>
     <message id="IDD_PAUSED_HINT">
         <source>Paused – press %1 to continue</source>
-        <translation>En pausa: siga con «%1»</translation>
+        <translation>En pausa: «%1» para continuar</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
-        <source>%1 · Frames: %2 · Frames per second: %3</source>
-        <translation>%1 · Fotogramas: %2 · Fotogramas por segundo: %3</translation>
+        <source>%1 · Frames: %2 · %3&#xa0;fps</source>
+        <translation>%1 · Fotogramas: %2 · %3&#xa0;fps</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</source>
-        <translation>La grabación se ha puesto en pausa porque queda poca memoria (%1). Grabar la continúa, Detener guarda lo grabado.</translation>
+        <source>Memory is running out (%1 left). Stop saves what has been recorded.</source>
+        <translation>Queda poca memoria (%1). «Detener» guarda lo grabado hasta ahora.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
@@ -233,12 +233,12 @@
         <translation>Memoria: %1, alcanza para %2 más</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
-        <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
-        <translation>La grabación está completa. Fotogramas: %1 · Fotogramas por segundo: %2</translation>
+        <source>The recording is complete. Frames: %1 · %2&#xa0;fps</source>
+        <translation>La grabación ha terminado. Fotogramas: %1 · %2&#xa0;fps</translation>
     </message>
     <message id="IDD_RECORDING_BEHIND">
-        <source>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</source>
-        <translation>La grabación ha terminado. Fotogramas: %1 · Se pidieron %2 fotogramas por segundo y se obtuvieron %3</translation>
+        <source>The recording is complete. Frames: %1 · %3&#xa0;fps instead of %2&#xa0;fps</source>
+        <translation>La grabación ha terminado. Fotogramas: %1 · %3&#xa0;fps en lugar de %2&#xa0;fps</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
@@ -246,7 +246,7 @@
     </message>
     <message id="IDD_FRAMES_MISSING">
         <source>%1 of %2 frames could not be written to %3: %4</source>
-        <translation>No se pudieron escribir %1 de %2 fotogramas en %3: %4</translation>
+        <translation>Fotogramas sin escribir en %3: %1 de %2 (%4)</translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
@@ -289,8 +289,8 @@
         <translation>Zona %1 × %2 en %3,&#xa0;%4</translation>
     </message>
     <message id="IDD_CAPTURE_RATE">
-        <source>%1 fps</source>
-        <translation>%1 fps</translation>
+        <source>%1&#xa0;fps</source>
+        <translation>%1&#xa0;fps</translation>
     </message>
     <message id="IDD_OK">
         <source>OK</source>
@@ -302,7 +302,7 @@
     </message>
     <!-- region -->
     <message id="IDD_REGION_OVERLAY">
-        <source>Select a region</source>
+        <source>Select a Region</source>
         <translation>Elegir una zona</translation>
     </message>
     <message id="IDD_REGION_TIP">
@@ -330,7 +330,7 @@
         <translation>Arriba a la derecha</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TITLE">
-        <source>How to select a region</source>
+        <source>How to Select a Region</source>
         <translation>Cómo elegir una zona</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
@@ -350,11 +350,11 @@
         <translation>Haga clic para aceptar</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
-        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</source>
-        <translation>Con el teclado: las flechas mueven una esquina (más rápido con Mayús), Tab elige otra, Intro acepta y Esc cancela.</translation>
+        <source>With the keyboard: the arrow keys move a corner (faster with Shift), Tab selects the next one, Enter accepts, Esc cancels.</source>
+        <translation>Con el teclado: las flechas mueven una esquina (más rápido con Mayús), Tab elige la siguiente, Intro acepta y Esc cancela.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>Don't show this again</source>
+        <source>Don’t show this again</source>
         <translation>No volver a mostrar</translation>
     </message>
     <!-- trim -->
@@ -367,12 +367,12 @@
         <translation>Último fotograma</translation>
     </message>
     <message id="IDD_RANGE_HOLDS">
-        <source>Frames %1 to %2: %3 frames, %4 s</source>
-        <translation>Fotogramas %1 a %2: %3 fotogramas, %4 s</translation>
+        <source>Frames %1 to %2: %3 frames, %4&#xa0;s</source>
+        <translation>Fotogramas %1 a %2: %3 fotogramas, %4&#xa0;s</translation>
     </message>
     <message id="IDD_RANGE_ONE">
-        <source>Frame %1 only, %2 s</source>
-        <translation>Solo el fotograma %1, %2 s</translation>
+        <source>Frame %1 only, %2&#xa0;s</source>
+        <translation>Solo el fotograma %1, %2&#xa0;s</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>
@@ -388,7 +388,7 @@
     </message>
     <!-- export -->
     <message id="IDD_PROGRESS_GIF">
-        <source>Making the GIF…</source>
+        <source>Generating the GIF…</source>
         <translation>Creando el GIF…</translation>
     </message>
     <message id="IDD_PROGRESS_WEBP">
@@ -396,7 +396,7 @@
         <translation>Creando el WebP…</translation>
     </message>
     <message id="IDD_PROGRESS_PALETTE">
-        <source>Step 1 of 2: choosing the colours</source>
+        <source>Step 1 of 2: choosing the colors</source>
         <translation>Paso 1 de 2: elección de los colores</translation>
     </message>
     <message id="IDD_PROGRESS_SCALING">
@@ -405,14 +405,14 @@
     </message>
     <message id="IDD_PROGRESS_PICTURES">
         <source>Step 2 of 2: %p%</source>
-        <translation>Paso 2 de 2: %p %</translation>
+        <translation>Paso 2 de 2: %p&#xa0;%</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
         <source>The export was cancelled.</source>
         <translation>La exportación se ha cancelado.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
-        <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
+        <source>The program “%1” is missing: it was not found when Tovarel started.</source>
         <translation>Falta el programa «%1»: no se encontró al iniciar Tovarel.</translation>
     </message>
     <message id="IDD_TOOL_NOT_STARTED">
@@ -432,12 +432,12 @@
         <translation>El programa «%1» terminó sin escribir su resultado, %2.</translation>
     </message>
     <message id="IDD_REFUSED_SIZE">
-        <source>The size asked for was %1 × %2.</source>
-        <translation>El tamaño pedido era %1 × %2.</translation>
+        <source>The requested size was %1 × %2.</source>
+        <translation>El tamaño solicitado era %1 × %2.</translation>
     </message>
     <message id="IDD_GIF_TOO_LARGE">
         <source>A GIF of %1 × %2 pixels needs about %3 of memory. At most %4 may be used, half of what is free. Choose a smaller size.</source>
-        <translation>Un GIF de %1 × %2 píxeles necesita unos %3 de memoria. Se pueden usar %4 como máximo, la mitad de la memoria libre. Elija un tamaño menor.</translation>
+        <translation>Un GIF de %1 × %2 píxeles necesita aproximadamente %3 de memoria. Se pueden usar %4 como máximo, la mitad de la memoria libre. Elija un tamaño menor.</translation>
     </message>
     <message id="IDD_GIF_NO_MEMORY">
         <source>There is not enough memory for the GIF. Choose a smaller size or close other programs.</source>
@@ -458,28 +458,30 @@ La grabación sigue disponible.</translation>
         <translation>No se pudieron leer los fotogramas de la grabación en %1.</translation>
     </message>
     <message id="IDD_MOVE_FAILED">
-        <source>The file could not be saved as %1. %2
+        <source>The file could not be saved as %1.
+%2
 
-It remains at %3.</source>
-        <translation>No se pudo guardar el archivo como %1. %2
+It is still at %3.</source>
+        <translation>No se pudo guardar el archivo como %1.
+%2
 
 Sigue en %3.</translation>
     </message>
     <message id="IDD_MOVE_IS_FOLDER">
-        <source>There is a folder with that name.</source>
-        <translation>Ahí hay una carpeta con ese nombre.</translation>
+        <source>There is already a folder with that name.</source>
+        <translation>Ya existe una carpeta con ese nombre.</translation>
     </message>
     <message id="IDD_MOVE_NOT_A_FILE">
-        <source>There is something with that name that is not an ordinary file.</source>
-        <translation>Lo que hay ahí no es un archivo corriente.</translation>
+        <source>There is already something with that name, and it is not a regular file.</source>
+        <translation>Ya existe un elemento con ese nombre que no es un archivo normal.</translation>
     </message>
     <message id="IDD_MOVE_SAME_FILE">
-        <source>That is the file itself.</source>
-        <translation>Ese es el propio archivo.</translation>
+        <source>Source and destination are the same file.</source>
+        <translation>El origen y el destino son el mismo archivo.</translation>
     </message>
     <message id="IDD_MOVE_WORKING_FOLDER">
-        <source>Tovarel empties that folder itself: choose another one.</source>
-        <translation>Tovarel vacía esa carpeta por su cuenta: elija otra.</translation>
+        <source>Tovarel empties that folder automatically. Choose another one.</source>
+        <translation>Tovarel vacía esa carpeta automáticamente. Elija otra.</translation>
     </message>
     <message id="IDD_STATUS_SAVED">
         <source>Saved: %1 (%2).</source>
@@ -506,12 +508,12 @@ Sigue en %3.</translation>
         <translation>Descartar</translation>
     </message>
     <message id="IDD_STATUS_GAP">
-        <source>The GIF holds %1 of %2 frames: the others were missing.</source>
-        <translation>El GIF contiene %1 de %2 fotogramas: los demás faltaban.</translation>
+        <source>The GIF contains only %1 of %2 frames; the rest are missing.</source>
+        <translation>El GIF contiene solo %1 de %2 fotogramas; faltaba el resto.</translation>
     </message>
     <message id="IDD_STATUS_WEBP_GAP">
-        <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
-        <translation>El WebP contiene %1 de %2 fotogramas: faltaba el siguiente.</translation>
+        <source>The WebP contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>El WebP contiene solo %1 de %2 fotogramas; faltaba el siguiente.</translation>
     </message>
     <message id="IDD_STATUS_STILL">
         <source>The GIF does not move: all its frames are the same.</source>
@@ -522,7 +524,7 @@ Sigue en %3.</translation>
         <translation>Calidad</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
         <translation>Calidad del GIF: «Óptima» conserva los colores con la mayor exactitud posible, «Compacta» da el archivo más pequeño, «Clásica» usa ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -546,16 +548,16 @@ Sigue en %3.</translation>
         <translation>Velocidad</translation>
     </message>
     <message id="IDD_GIF_THINNED">
-        <source>GIF: thinned to 50&#xa0;fps</source>
+        <source>GIF: reduced to 50&#xa0;fps</source>
         <translation>GIF: se reduce a 50&#xa0;fps</translation>
     </message>
     <message id="IDD_FIT_UNDER">
         <source>Fit under</source>
-        <translation>Tamaño máximo</translation>
+        <translation>Tamaño máx. del archivo</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</source>
-        <translation>Tamaño máximo del archivo GIF. Para no superarlo se reducen primero la exactitud de los colores, luego la frecuencia de fotogramas y luego el tamaño</translation>
+        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>Tamaño máximo del archivo GIF. Para no superarlo se reducen primero la exactitud de los colores, luego la frecuencia de fotogramas y por último el ancho y el alto</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -590,12 +592,12 @@ Sigue en %3.</translation>
         <translation>Reducir</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</source>
-        <translation>Para caber en %1 tiene %2 × %3 píxeles y %4 fotogramas por segundo.</translation>
+        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <translation>Para caber en %1, el GIF tiene %2 × %3 píxeles y %4&#xa0;fps.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, its colors are less exact.</source>
-        <translation>Para caber en %1, sus colores son menos exactos.</translation>
+        <source>To fit under %1, the GIF has less exact colors.</source>
+        <translation>Para caber en %1, el GIF tiene colores menos exactos.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>About %1</source>
@@ -618,7 +620,7 @@ Sigue en %3.</translation>
         <translation>Crea un vídeo MP4 con el tamaño, la frecuencia de fotogramas y la velocidad elegidos aquí</translation>
     </message>
     <message id="IDD_PROGRESS_MP4">
-        <source>Making the MP4…</source>
+        <source>Generating the MP4…</source>
         <translation>Creando el MP4…</translation>
     </message>
     <message id="IDD_MP4_NO_ENCODER">
@@ -626,8 +628,8 @@ Sigue en %3.</translation>
         <translation>Este ffmpeg no tiene el codificador H.264 (libx264) que necesita un MP4. Instale un ffmpeg que lo tenga, o cree un GIF o un WebP.</translation>
     </message>
     <message id="IDD_STATUS_MP4_GAP">
-        <source>The MP4 holds %1 of %2 frames: the next one was missing.</source>
-        <translation>El MP4 contiene %1 de %2 fotogramas: faltaba el siguiente.</translation>
+        <source>The MP4 contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>El MP4 contiene solo %1 de %2 fotogramas; faltaba el siguiente.</translation>
     </message>
     <message id="IDD_SIZE_ABOVE">
         <source>%1 pixels at most</source>
@@ -647,15 +649,15 @@ Sigue en %3.</translation>
     </message>
     <message id="IDD_WEBP_LOOPS_HINT">
         <source>0 = loop forever</source>
-        <translation>0 significa sin fin</translation>
+        <translation>0 = sin fin</translation>
     </message>
     <message id="IDD_LOOPS_NOT_NUMBER">
-        <source>must be a whole number</source>
-        <translation>debe ser un número entero</translation>
+        <source>Whole numbers only</source>
+        <translation>Solo números enteros</translation>
     </message>
     <message id="IDD_LOOPS_NEGATIVE">
-        <source>must not be negative</source>
-        <translation>no debe ser negativo</translation>
+        <source>No negative numbers</source>
+        <translation>Sin números negativos</translation>
     </message>
     <message id="IDD_LOOPS_TOO_LARGE">
         <source>65,535 at most</source>
@@ -666,20 +668,20 @@ Sigue en %3.</translation>
         <translation>%1: %2</translation>
     </message>
     <message id="IDD_SIZE_ZERO">
-        <source>must begin with a number other than 0</source>
-        <translation>debe empezar por un número distinto de 0</translation>
+        <source>must be a number greater than 0</source>
+        <translation>debe ser un número mayor que 0</translation>
     </message>
     <message id="IDD_SIZE_NEGATIVE">
         <source>must not be negative</source>
-        <translation>negativo, será rechazado</translation>
+        <translation>no puede ser negativo</translation>
     </message>
     <message id="IDD_SIZE_NOT_PLAIN">
-        <source>digits only, or it will be refused</source>
-        <translation>solo cifras, o será rechazado</translation>
+        <source>may contain digits only</source>
+        <translation>solo puede contener cifras</translation>
     </message>
     <message id="IDD_SIZE_TOO_LARGE">
         <source>65,535 pixels at most</source>
-        <translation>65 535 píxeles como máximo</translation>
+        <translation>65&#xa0;535 píxeles como máximo</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
         <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>

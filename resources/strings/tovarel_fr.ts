@@ -22,7 +22,7 @@
         <translation>Page d’accueil</translation>
     </message>
     <message id="IDD_COMPANY_PAGE">
-        <source>Maker's Page</source>
+        <source>About the Authors</source>
         <translation>À propos des auteurs</translation>
     </message>
     <message id="IDD_PRIVACY_POLICY">
@@ -99,7 +99,7 @@
     </message>
     <message id="IDD_NOTE">
         <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
-        <translation>C’est la fréquence mesurée pendant l’enregistrement qui compte ; elle peut être inférieure à celle que vous avez choisie.</translation>
+        <translation>C’est la fréquence mesurée pendant l’enregistrement qui compte&#x202f;; elle peut être inférieure à celle que vous avez choisie.</translation>
     </message>
     <message id="IDD_GENERATE_GIF">
         <source>Generate GIF</source>
@@ -107,7 +107,7 @@
     </message>
     <message id="IDD_LOW_FRAME_NUMBER">
         <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
-        <translation>La plage choisie contient trop peu d’images. Choisissez-en au moins trois dans l’onglet Couper.</translation>
+        <translation>La plage choisie contient trop peu d’images. Choisissez-en au moins trois dans l’onglet «&#xa0;Couper&#xa0;».</translation>
     </message>
     <message id="IDD_INVALID_DIMENSION">
         <source>Width and height must be whole numbers greater than 0.</source>
@@ -115,7 +115,7 @@
     </message>
     <message id="IDD_GIF_SAVED_OK">
         <source>The GIF has been saved.</source>
-        <translation>Le GIF a été enregistré.</translation>
+        <translation>Le GIF a été sauvegardé.</translation>
     </message>
     <message id="IDD_PLAY">
         <source>Play</source>
@@ -151,12 +151,12 @@
         <translation>Version %1</translation>
     </message>
     <message id="IDD_ABOUT_LICENCE">
-        <source>Free software under the %1 licence.</source>
+        <source>Free software under the %1 License.</source>
         <translation>Logiciel libre sous licence %1.</translation>
     </message>
     <message id="IDD_ABOUT_TOOLS">
         <source>Tools in use:</source>
-        <translation>Outils utilisés :</translation>
+        <translation>Outils utilisés&#xa0;:</translation>
     </message>
     <message id="IDD_ABOUT_TOOL_MISSING">
         <source>not found</source>
@@ -164,45 +164,45 @@
     </message>
     <message id="IDD_HELP_NOT_OPENED">
         <source>No program was found to show the help pages. Open this file in a browser:</source>
-        <translation>Aucun programme n’a été trouvé pour afficher les pages d’aide. Ouvrez ce fichier dans un navigateur :</translation>
+        <translation>Aucun programme n’a été trouvé pour afficher les pages d’aide. Ouvrez ce fichier dans un navigateur&#xa0;:</translation>
     </message>
     <message id="IDD_RECORD_PREVIEW">
         <source>Live preview</source>
         <translation>Aperçu en direct</translation>
     </message>
     <message id="IDD_KEYS_GRANTED">
-        <source>From any window, with %1: %2</source>
-        <translation>Depuis toute fenêtre, avec %1 : %2</translation>
+        <source>Shortcuts in any window, with %1: %2</source>
+        <translation>Depuis toute fenêtre, avec %1&#xa0;: %2</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
-        <source>Taken by another program, with %1: %2</source>
-        <translation>Pris par un autre programme, avec %1 : %2</translation>
+        <source>Used by another program, with %1: %2</source>
+        <translation>Pris par un autre programme, avec %1&#xa0;: %2</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">
         <source>The screen cannot be recorded: there is no display server.</source>
-        <translation>Impossible d’enregistrer l’écran : aucun serveur d’affichage n’est disponible.</translation>
+        <translation>Impossible d’enregistrer l’écran&#xa0;: aucun serveur d’affichage n’est disponible.</translation>
     </message>
     <message id="IDD_REASON_NO_COMPOSITE">
         <source>The screen cannot be recorded: this display server lacks the Composite extension, so the program could not leave out its own windows.</source>
-        <translation>Impossible d’enregistrer l’écran : ce serveur d’affichage n’a pas l’extension Composite, et le programme ne pourrait pas exclure ses propres fenêtres.</translation>
+        <translation>Impossible d’enregistrer l’écran&#xa0;: ce serveur d’affichage n’a pas l’extension Composite, et le programme ne pourrait pas exclure ses propres fenêtres.</translation>
     </message>
     <message id="IDD_REASON_MISSING_EXTENSION">
         <source>The screen cannot be recorded: this display server lacks one of the extensions Damage, XFixes, Render and Shape.</source>
-        <translation>Impossible d’enregistrer l’écran : il manque à ce serveur d’affichage l’une des extensions Damage, XFixes, Render et Shape.</translation>
+        <translation>Impossible d’enregistrer l’écran&#xa0;: il manque à ce serveur d’affichage l’une des extensions Damage, XFixes, Render et Shape.</translation>
     </message>
     <message id="IDD_REASON_PICTURE_FORMAT">
-        <source>The screen cannot be recorded: this display server does not use 24-bit colour.</source>
-        <translation>Impossible d’enregistrer l’écran : ce serveur d’affichage n’utilise pas d’images en couleurs 24 bits.</translation>
+        <source>The screen cannot be recorded: this display server does not use 24-bit color.</source>
+        <translation>Impossible d’enregistrer l’écran&#xa0;: ce serveur d’affichage n’utilise pas d’images en couleurs 24 bits.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
         <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
-        <translation>Impossible d’enregistrer l’écran dans une session Wayland ; ouvrez une session X11 pour enregistrer.</translation>
+        <translation>Impossible d’enregistrer l’écran dans une session Wayland&#x202f;; ouvrez une session X11 pour enregistrer.</translation>
     </message>
     <!-- record -->
     <message id="IDD_SAVING_RECORDING">
         <source>Saving the recording…</source>
-        <translation>Enregistrement des images…</translation>
+        <translation>Sauvegarde de l’enregistrement…</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
@@ -214,31 +214,31 @@
     </message>
     <message id="IDD_PAUSED_HINT">
         <source>Paused – press %1 to continue</source>
-        <translation>En pause – « %1 » pour continuer</translation>
+        <translation>En pause – «&#xa0;%1&#xa0;» pour continuer</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
-        <source>%1 · Frames: %2 · Frames per second: %3</source>
-        <translation>%1 · Images : %2 · Images par seconde : %3</translation>
+        <source>%1 · Frames: %2 · %3&#xa0;fps</source>
+        <translation>%1 · Images&#xa0;: %2 · %3&#xa0;i/s</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</source>
-        <translation>L’enregistrement a été mis en pause, car la mémoire s’épuise (il reste %1). Enregistrer le poursuit, Arrêter sauvegarde ce qui existe.</translation>
+        <source>Memory is running out (%1 left). Stop saves what has been recorded.</source>
+        <translation>Mémoire presque pleine (reste %1) – «&#xa0;Arrêter&#xa0;» pour sauvegarder</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
-        <translation>Mémoire : %1</translation>
+        <translation>Mémoire&#xa0;: %1</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
         <source>Memory: %1, enough for %2 more</source>
-        <translation>Mémoire : %1, suffit encore pour %2</translation>
+        <translation>Mémoire&#xa0;: %1, suffit encore pour %2</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
-        <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
-        <translation>L’enregistrement est terminé. Images : %1 · Images par seconde : %2</translation>
+        <source>The recording is complete. Frames: %1 · %2&#xa0;fps</source>
+        <translation>L’enregistrement est terminé. Images&#xa0;: %1 · %2&#xa0;i/s</translation>
     </message>
     <message id="IDD_RECORDING_BEHIND">
-        <source>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</source>
-        <translation>L’enregistrement est terminé. Images&#xa0;: %1 · %2&#xa0;images par seconde demandées, %3 obtenues</translation>
+        <source>The recording is complete. Frames: %1 · %3&#xa0;fps instead of %2&#xa0;fps</source>
+        <translation>L’enregistrement est terminé. Images&#xa0;: %1 · %3&#xa0;i/s au lieu de %2&#xa0;i/s</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
@@ -246,7 +246,7 @@
     </message>
     <message id="IDD_FRAMES_MISSING">
         <source>%1 of %2 frames could not be written to %3: %4</source>
-        <translation>%1 images sur %2 n’ont pas pu être écrites dans %3 : %4</translation>
+        <translation>Images non écrites dans %3&#xa0;: %1 sur %2 (%4)</translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
@@ -289,8 +289,8 @@
         <translation>Zone %1 × %2 à %3,&#xa0;%4</translation>
     </message>
     <message id="IDD_CAPTURE_RATE">
-        <source>%1 fps</source>
-        <translation>%1 images/s</translation>
+        <source>%1&#xa0;fps</source>
+        <translation>%1&#xa0;i/s</translation>
     </message>
     <message id="IDD_OK">
         <source>OK</source>
@@ -302,12 +302,12 @@
     </message>
     <!-- region -->
     <message id="IDD_REGION_OVERLAY">
-        <source>Select a region</source>
+        <source>Select a Region</source>
         <translation>Choisir une zone</translation>
     </message>
     <message id="IDD_REGION_TIP">
         <source>%1: %2 × %3 pixels at %4, %5</source>
-        <translation>%1 : %2 × %3 pixels à %4, %5</translation>
+        <translation>%1&#xa0;: %2 × %3 pixels à %4, %5</translation>
     </message>
     <message id="IDD_REGION_TOO_SMALL">
         <source>Too small: at least %1 × %1 pixels are needed</source>
@@ -330,7 +330,7 @@
         <translation>En haut à droite</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TITLE">
-        <source>How to select a region</source>
+        <source>How to Select a Region</source>
         <translation>Comment choisir une zone</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
@@ -339,22 +339,22 @@
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
-        <translation>Un rectangle sur un écran : un carré vert à chaque coin pour l’ajuster, un carré rouge au milieu pour valider.</translation>
+        <translation>Un rectangle sur un écran&#xa0;: un carré vert à chaque coin pour l’ajuster, un carré rouge au milieu pour valider.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_DRAG">
         <source>Drag a corner</source>
-        <translation>Glissez un coin</translation>
+        <translation>Faites glisser un coin</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_ACCEPT">
         <source>Click to accept</source>
         <translation>Cliquez pour valider</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
-        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</source>
-        <translation>Au clavier : les flèches déplacent un coin (plus vite avec Maj), Tab en choisit un autre, Entrée valide, Échap abandonne.</translation>
+        <source>With the keyboard: the arrow keys move a corner (faster with Shift), Tab selects the next one, Enter accepts, Esc cancels.</source>
+        <translation>Au clavier&#xa0;: les flèches déplacent un coin (plus vite avec Maj), Tab passe au suivant, Entrée valide, Échap annule.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>Don't show this again</source>
+        <source>Don’t show this again</source>
         <translation>Ne plus afficher ce message</translation>
     </message>
     <!-- trim -->
@@ -367,12 +367,12 @@
         <translation>Dernière image</translation>
     </message>
     <message id="IDD_RANGE_HOLDS">
-        <source>Frames %1 to %2: %3 frames, %4 s</source>
-        <translation>Images %1 à %2 : %3 images, %4 s</translation>
+        <source>Frames %1 to %2: %3 frames, %4&#xa0;s</source>
+        <translation>Images %1 à %2&#xa0;: %3 images, %4&#xa0;s</translation>
     </message>
     <message id="IDD_RANGE_ONE">
-        <source>Frame %1 only, %2 s</source>
-        <translation>Image %1 seulement, %2 s</translation>
+        <source>Frame %1 only, %2&#xa0;s</source>
+        <translation>Image %1 seulement, %2&#xa0;s</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>
@@ -388,7 +388,7 @@
     </message>
     <!-- export -->
     <message id="IDD_PROGRESS_GIF">
-        <source>Making the GIF…</source>
+        <source>Generating the GIF…</source>
         <translation>Création du GIF…</translation>
     </message>
     <message id="IDD_PROGRESS_WEBP">
@@ -396,8 +396,8 @@
         <translation>Création du WebP…</translation>
     </message>
     <message id="IDD_PROGRESS_PALETTE">
-        <source>Step 1 of 2: choosing the colours</source>
-        <translation>Étape 1 sur 2 : choix des couleurs</translation>
+        <source>Step 1 of 2: choosing the colors</source>
+        <translation>Étape 1 sur 2&#xa0;: choix des couleurs</translation>
     </message>
     <message id="IDD_PROGRESS_SCALING">
         <source>Step 1 of 2, scaling: %p%</source>
@@ -405,34 +405,34 @@
     </message>
     <message id="IDD_PROGRESS_PICTURES">
         <source>Step 2 of 2: %p%</source>
-        <translation>Étape 2 sur 2 : %p %</translation>
+        <translation>Étape 2 sur 2&#xa0;: %p&#x202f;%</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
         <source>The export was cancelled.</source>
         <translation>L’exportation a été annulée.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
-        <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
-        <translation>Le programme « %1 » manque : il n’a pas été trouvé au démarrage de Tovarel.</translation>
+        <source>The program “%1” is missing: it was not found when Tovarel started.</source>
+        <translation>Il manque le programme «&#xa0;%1&#xa0;»&#xa0;: il n’a pas été trouvé au démarrage de Tovarel.</translation>
     </message>
     <message id="IDD_TOOL_NOT_STARTED">
         <source>The program “%1” could not be started: %2</source>
-        <translation>Le programme « %1 » n’a pas pu être lancé : %2</translation>
+        <translation>Le programme «&#xa0;%1&#xa0;» n’a pas pu être lancé&#xa0;: %2</translation>
     </message>
     <message id="IDD_TOOL_CRASHED">
         <source>The program “%1” crashed (signal %2, %3).</source>
-        <translation>Le programme « %1 » s’est arrêté brutalement (signal %2, %3).</translation>
+        <translation>Le programme «&#xa0;%1&#xa0;» s’est arrêté brutalement (signal %2, %3).</translation>
     </message>
     <message id="IDD_TOOL_FAILED">
         <source>The program “%1” failed (exit status %2).</source>
-        <translation>Le programme « %1 » a échoué (code de sortie %2).</translation>
+        <translation>Le programme «&#xa0;%1&#xa0;» a échoué (code de sortie %2).</translation>
     </message>
     <message id="IDD_TOOL_NO_RESULT">
         <source>The program “%1” ended without writing its result, %2.</source>
-        <translation>Le programme « %1 » s’est terminé sans écrire son résultat, %2.</translation>
+        <translation>Le programme «&#xa0;%1&#xa0;» s’est terminé sans écrire son résultat, %2.</translation>
     </message>
     <message id="IDD_REFUSED_SIZE">
-        <source>The size asked for was %1 × %2.</source>
+        <source>The requested size was %1 × %2.</source>
         <translation>La taille demandée était %1 × %2.</translation>
     </message>
     <message id="IDD_GIF_TOO_LARGE">
@@ -458,32 +458,34 @@ L’enregistrement est toujours disponible.</translation>
         <translation>Impossible de lire les images de l’enregistrement dans %1.</translation>
     </message>
     <message id="IDD_MOVE_FAILED">
-        <source>The file could not be saved as %1. %2
+        <source>The file could not be saved as %1.
+%2
 
-It remains at %3.</source>
-        <translation>Le fichier n’a pas pu être enregistré sous %1. %2
+It is still at %3.</source>
+        <translation>Le fichier n’a pas pu être sauvegardé sous %1.
+%2
 
 Il reste à l’emplacement %3.</translation>
     </message>
     <message id="IDD_MOVE_IS_FOLDER">
-        <source>There is a folder with that name.</source>
-        <translation>Un dossier de ce nom s’y trouve.</translation>
+        <source>There is already a folder with that name.</source>
+        <translation>Un dossier portant ce nom existe déjà.</translation>
     </message>
     <message id="IDD_MOVE_NOT_A_FILE">
-        <source>There is something with that name that is not an ordinary file.</source>
-        <translation>Ce qui s’y trouve n’est pas un fichier ordinaire.</translation>
+        <source>There is already something with that name, and it is not a regular file.</source>
+        <translation>Un élément portant ce nom existe déjà et n’est pas un fichier ordinaire.</translation>
     </message>
     <message id="IDD_MOVE_SAME_FILE">
-        <source>That is the file itself.</source>
-        <translation>C’est le fichier lui-même.</translation>
+        <source>Source and destination are the same file.</source>
+        <translation>La source et la destination sont le même fichier.</translation>
     </message>
     <message id="IDD_MOVE_WORKING_FOLDER">
-        <source>Tovarel empties that folder itself: choose another one.</source>
-        <translation>Tovarel vide ce dossier de lui-même : choisissez-en un autre.</translation>
+        <source>Tovarel empties that folder automatically. Choose another one.</source>
+        <translation>Tovarel vide ce dossier automatiquement. Choisissez-en un autre.</translation>
     </message>
     <message id="IDD_STATUS_SAVED">
         <source>Saved: %1 (%2).</source>
-        <translation>Enregistré : %1 (%2).</translation>
+        <translation>Sauvegardé&#xa0;: %1 (%2).</translation>
     </message>
     <message id="IDD_STATUS_UNSAVED">
         <source>The %1 has not been saved, but it is still there.</source>
@@ -506,12 +508,12 @@ Il reste à l’emplacement %3.</translation>
         <translation>Abandonner</translation>
     </message>
     <message id="IDD_STATUS_GAP">
-        <source>The GIF holds %1 of %2 frames: the others were missing.</source>
-        <translation>Le GIF contient %1 images sur %2 : les autres manquaient.</translation>
+        <source>The GIF contains only %1 of %2 frames; the rest are missing.</source>
+        <translation>Images dans le GIF&#xa0;: %1 sur %2. Le reste manquait.</translation>
     </message>
     <message id="IDD_STATUS_WEBP_GAP">
-        <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
-        <translation>Le WebP contient %1 images sur %2 : la suivante manquait.</translation>
+        <source>The WebP contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>Images dans le WebP&#xa0;: %1 sur %2. La suivante manquait.</translation>
     </message>
     <message id="IDD_STATUS_STILL">
         <source>The GIF does not move: all its frames are the same.</source>
@@ -522,7 +524,7 @@ Il reste à l’emplacement %3.</translation>
         <translation>Qualité</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
         <translation>Qualité du GIF&#xa0;: «&#xa0;Optimale&#xa0;» garde les couleurs aussi exactes que possible, «&#xa0;Compacte&#xa0;» donne le plus petit fichier, «&#xa0;Classique&#xa0;» utilise ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -546,16 +548,16 @@ Il reste à l’emplacement %3.</translation>
         <translation>Vitesse</translation>
     </message>
     <message id="IDD_GIF_THINNED">
-        <source>GIF: thinned to 50&#xa0;fps</source>
+        <source>GIF: reduced to 50&#xa0;fps</source>
         <translation>GIF&#xa0;: réduit à 50&#xa0;i/s</translation>
     </message>
     <message id="IDD_FIT_UNDER">
         <source>Fit under</source>
-        <translation>Taille maximale</translation>
+        <translation>Taille max. du fichier</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</source>
-        <translation>Taille maximale du fichier GIF. Pour ne pas la dépasser, on réduit d’abord l’exactitude des couleurs, puis la fréquence d’images, puis la taille</translation>
+        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>Taille maximale du fichier GIF. Pour ne pas la dépasser, on réduit d’abord l’exactitude des couleurs, puis la fréquence d’images, puis la largeur et la hauteur</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -567,11 +569,11 @@ Il reste à l’emplacement %3.</translation>
     </message>
     <message id="IDD_LIMIT_NOT_NUMBER">
         <source>Type a file size in MB, such as 8, or choose “No limit”.</source>
-        <translation>Saisissez une taille de fichier en Mo, par exemple 8, ou choisissez « Sans limite ».</translation>
+        <translation>Saisissez une taille de fichier en Mo, par exemple 8, ou choisissez «&#xa0;Sans limite&#xa0;».</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
         <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
-        <translation>Le GIF ne tient pas dans %1 : même avec la fréquence d’images la plus basse et la moitié de la taille, il fait %2. Choisissez une limite plus élevée ou une taille plus petite, ou conservez une partie plus courte de l’enregistrement.</translation>
+        <translation>Le GIF ne tient pas dans %1&#xa0;: même avec la fréquence d’images la plus basse et la moitié de la taille, il fait %2. Choisissez une limite plus élevée ou une taille plus petite, ou conservez une partie plus courte de l’enregistrement.</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
@@ -590,12 +592,12 @@ Il reste à l’emplacement %3.</translation>
         <translation>Réduire</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</source>
-        <translation>Pour tenir dans %1, il fait %2 × %3 pixels à %4 images par seconde.</translation>
+        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <translation>Pour tenir dans %1, le GIF fait %2 × %3 pixels à %4&#xa0;i/s.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, its colors are less exact.</source>
-        <translation>Pour tenir dans %1, ses couleurs sont moins exactes.</translation>
+        <source>To fit under %1, the GIF has less exact colors.</source>
+        <translation>Pour tenir dans %1, le GIF a des couleurs moins exactes.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>About %1</source>
@@ -603,11 +605,11 @@ Il reste à l’emplacement %3.</translation>
     </message>
     <message id="IDD_PERCENT">
         <source>%1%</source>
-        <translation>%1&#xa0;%</translation>
+        <translation>%1&#x202f;%</translation>
     </message>
     <message id="IDD_PERCENT_TIP">
         <source>%1% of the recording’s width and height</source>
-        <translation>%1&#xa0;% de la largeur et de la hauteur de l’enregistrement</translation>
+        <translation>%1&#x202f;% de la largeur et de la hauteur de l’enregistrement</translation>
     </message>
     <message id="IDD_GENERATE_MP4">
         <source>Generate MP4</source>
@@ -618,7 +620,7 @@ Il reste à l’emplacement %3.</translation>
         <translation>Crée une vidéo MP4 avec la taille, la fréquence d’images et la vitesse choisies ici</translation>
     </message>
     <message id="IDD_PROGRESS_MP4">
-        <source>Making the MP4…</source>
+        <source>Generating the MP4…</source>
         <translation>Création du MP4…</translation>
     </message>
     <message id="IDD_MP4_NO_ENCODER">
@@ -626,8 +628,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>Ce ffmpeg n’a pas d’encodeur H.264 (libx264), nécessaire au MP4. Installez un ffmpeg qui en a un, ou créez un GIF ou un WebP.</translation>
     </message>
     <message id="IDD_STATUS_MP4_GAP">
-        <source>The MP4 holds %1 of %2 frames: the next one was missing.</source>
-        <translation>Le MP4 contient %1 images sur %2 : la suivante manquait.</translation>
+        <source>The MP4 contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>Images dans le MP4&#xa0;: %1 sur %2. La suivante manquait.</translation>
     </message>
     <message id="IDD_SIZE_ABOVE">
         <source>%1 pixels at most</source>
@@ -647,15 +649,15 @@ Il reste à l’emplacement %3.</translation>
     </message>
     <message id="IDD_WEBP_LOOPS_HINT">
         <source>0 = loop forever</source>
-        <translation>0 signifie sans fin</translation>
+        <translation>0 = sans fin</translation>
     </message>
     <message id="IDD_LOOPS_NOT_NUMBER">
-        <source>must be a whole number</source>
-        <translation>doit être un nombre entier</translation>
+        <source>Whole numbers only</source>
+        <translation>Nombres entiers uniquement</translation>
     </message>
     <message id="IDD_LOOPS_NEGATIVE">
-        <source>must not be negative</source>
-        <translation>ne doit pas être négatif</translation>
+        <source>No negative numbers</source>
+        <translation>Pas de nombre négatif</translation>
     </message>
     <message id="IDD_LOOPS_TOO_LARGE">
         <source>65,535 at most</source>
@@ -663,23 +665,23 @@ Il reste à l’emplacement %3.</translation>
     </message>
     <message id="IDD_SIZE_HINT">
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message id="IDD_SIZE_ZERO">
-        <source>must begin with a number other than 0</source>
-        <translation>doit commencer par un nombre autre que 0</translation>
+        <source>must be a number greater than 0</source>
+        <translation>doit être un nombre supérieur à 0</translation>
     </message>
     <message id="IDD_SIZE_NEGATIVE">
         <source>must not be negative</source>
-        <translation>négatif, sera refusé</translation>
+        <translation>ne doit pas être négative</translation>
     </message>
     <message id="IDD_SIZE_NOT_PLAIN">
-        <source>digits only, or it will be refused</source>
-        <translation>des chiffres seulement, sinon refus</translation>
+        <source>may contain digits only</source>
+        <translation>ne doit contenir que des chiffres</translation>
     </message>
     <message id="IDD_SIZE_TOO_LARGE">
         <source>65,535 pixels at most</source>
-        <translation>65 535 pixels au plus</translation>
+        <translation>65&#x202f;535 pixels au plus</translation>
     </message>
     <message id="IDD_GIF_SUMMARY">
         <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>

@@ -22,7 +22,7 @@
         <translation>ホームページ</translation>
     </message>
     <message id="IDD_COMPANY_PAGE">
-        <source>Maker's Page</source>
+        <source>About the Authors</source>
         <translation>開発者について</translation>
     </message>
     <message id="IDD_PRIVACY_POLICY">
@@ -63,7 +63,7 @@
     </message>
     <message id="IDD_FPS">
         <source>Frames per Second</source>
-        <translation>1 秒あたりのフレーム数</translation>
+        <translation>フレーム/秒</translation>
     </message>
     <message id="IDD_INSTRUCTIONS">
         <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
@@ -107,7 +107,7 @@
     </message>
     <message id="IDD_LOW_FRAME_NUMBER">
         <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
-        <translation>選択した範囲のフレームが足りません。「カット」タブで 3 フレーム以上を選択してください。</translation>
+        <translation>選択した区間のフレームが足りません。「カット」タブで 3 フレーム以上を選択してください。</translation>
     </message>
     <message id="IDD_INVALID_DIMENSION">
         <source>Width and height must be whole numbers greater than 0.</source>
@@ -151,7 +151,7 @@
         <translation>バージョン %1</translation>
     </message>
     <message id="IDD_ABOUT_LICENCE">
-        <source>Free software under the %1 licence.</source>
+        <source>Free software under the %1 License.</source>
         <translation>%1 ライセンスのフリーソフトウェアです。</translation>
     </message>
     <message id="IDD_ABOUT_TOOLS">
@@ -171,12 +171,12 @@
         <translation>ライブプレビュー</translation>
     </message>
     <message id="IDD_KEYS_GRANTED">
-        <source>From any window, with %1: %2</source>
-        <translation>どこからでも %1 と: %2</translation>
+        <source>Shortcuts in any window, with %1: %2</source>
+        <translation>どのウィンドウでも（%1 と同時押し）: %2</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
-        <source>Taken by another program, with %1: %2</source>
-        <translation>ほかのプログラムが使用中、%1 と: %2</translation>
+        <source>Used by another program, with %1: %2</source>
+        <translation>他のプログラムが使用中（%1 と同時押し）: %2</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">
@@ -192,7 +192,7 @@
         <translation>画面を録画できません。このディスプレイサーバーには Damage、XFixes、Render、Shape のいずれかの拡張がありません。</translation>
     </message>
     <message id="IDD_REASON_PICTURE_FORMAT">
-        <source>The screen cannot be recorded: this display server does not use 24-bit colour.</source>
+        <source>The screen cannot be recorded: this display server does not use 24-bit color.</source>
         <translation>画面を録画できません。このディスプレイサーバーは 24 ビットカラーの画像を扱っていません。</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -217,12 +217,12 @@
         <translation>一時停止中（「%1」で再開）</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
-        <source>%1 · Frames: %2 · Frames per second: %3</source>
-        <translation>%1 · フレーム数: %2 · 1 秒あたりのフレーム数: %3</translation>
+        <source>%1 · Frames: %2 · %3&#xa0;fps</source>
+        <translation>%1 · フレーム数: %2 · %3&#xa0;fps</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</source>
-        <translation>メモリが残り少ないため（残り %1）、録画を一時停止しました。録画で再開、停止で保存します。</translation>
+        <source>Memory is running out (%1 left). Stop saves what has been recorded.</source>
+        <translation>メモリが残り少なくなりました（残り %1）。「停止」を押すと録画を保存します。</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
@@ -230,15 +230,15 @@
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
         <source>Memory: %1, enough for %2 more</source>
-        <translation>メモリ: %1、あと %2</translation>
+        <translation>メモリ: %1（録画可能時間: あと %2）</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
-        <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
-        <translation>録画が完了しました。フレーム数: %1 · 1 秒あたりのフレーム数: %2</translation>
+        <source>The recording is complete. Frames: %1 · %2&#xa0;fps</source>
+        <translation>録画が完了しました。フレーム数: %1 · %2&#xa0;fps</translation>
     </message>
     <message id="IDD_RECORDING_BEHIND">
-        <source>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</source>
-        <translation>録画が完了しました。フレーム数: %1 · 指定: %2 fps、実際: %3 fps</translation>
+        <source>The recording is complete. Frames: %1 · %3&#xa0;fps instead of %2&#xa0;fps</source>
+        <translation>録画が完了しました。フレーム数: %1 · %3&#xa0;fps（指定: %2&#xa0;fps）</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
@@ -258,7 +258,7 @@
     </message>
     <message id="IDD_RECOVER_DETAIL">
         <source>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</source>
-        <translation>Tovarel は正しく終了しませんでした。%1 の録画は完全です: %2 フレーム、%3&#xa0;秒。「カット」タブで開くか、削除できます。</translation>
+        <translation>Tovarel は正しく終了しませんでした。%1 の録画はすべて残っています（%2 フレーム、%3&#xa0;秒）。「カット」タブで開くか、削除できます。</translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
         <source>Open</source>
@@ -289,8 +289,8 @@
         <translation>範囲 %1 × %2（位置 %3,&#xa0;%4）</translation>
     </message>
     <message id="IDD_CAPTURE_RATE">
-        <source>%1 fps</source>
-        <translation>%1 fps</translation>
+        <source>%1&#xa0;fps</source>
+        <translation>%1&#xa0;fps</translation>
     </message>
     <message id="IDD_OK">
         <source>OK</source>
@@ -302,7 +302,7 @@
     </message>
     <!-- region -->
     <message id="IDD_REGION_OVERLAY">
-        <source>Select a region</source>
+        <source>Select a Region</source>
         <translation>範囲の選択</translation>
     </message>
     <message id="IDD_REGION_TIP">
@@ -330,7 +330,7 @@
         <translation>右上</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TITLE">
-        <source>How to select a region</source>
+        <source>How to Select a Region</source>
         <translation>範囲の選び方</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
@@ -350,11 +350,11 @@
         <translation>クリックで確定</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
-        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</source>
-        <translation>キーボード操作: 矢印キーで角を移動（Shift で速く）、Tab で別の角を選択、Enter で確定、Esc で中止。</translation>
+        <source>With the keyboard: the arrow keys move a corner (faster with Shift), Tab selects the next one, Enter accepts, Esc cancels.</source>
+        <translation>キーボード操作: 矢印キーで角を移動（Shift で速く）、Tab で次の角を選択、Enter で確定、Esc でキャンセル。</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>Don't show this again</source>
+        <source>Don’t show this again</source>
         <translation>次回から表示しない</translation>
     </message>
     <!-- trim -->
@@ -367,12 +367,12 @@
         <translation>最後のフレーム</translation>
     </message>
     <message id="IDD_RANGE_HOLDS">
-        <source>Frames %1 to %2: %3 frames, %4 s</source>
-        <translation>フレーム %1～%2: %3 フレーム、%4 秒</translation>
+        <source>Frames %1 to %2: %3 frames, %4&#xa0;s</source>
+        <translation>フレーム %1～%2: %3 フレーム、%4&#xa0;秒</translation>
     </message>
     <message id="IDD_RANGE_ONE">
-        <source>Frame %1 only, %2 s</source>
-        <translation>フレーム %1 のみ、%2 秒</translation>
+        <source>Frame %1 only, %2&#xa0;s</source>
+        <translation>フレーム %1 のみ、%2&#xa0;秒</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>
@@ -384,11 +384,11 @@
     </message>
     <message id="IDD_RANGE_EMPTY">
         <source>No frame in this range</source>
-        <translation>この範囲にフレームはありません</translation>
+        <translation>この区間にフレームはありません</translation>
     </message>
     <!-- export -->
     <message id="IDD_PROGRESS_GIF">
-        <source>Making the GIF…</source>
+        <source>Generating the GIF…</source>
         <translation>GIF を作成しています…</translation>
     </message>
     <message id="IDD_PROGRESS_WEBP">
@@ -396,23 +396,23 @@
         <translation>WebP を作成しています…</translation>
     </message>
     <message id="IDD_PROGRESS_PALETTE">
-        <source>Step 1 of 2: choosing the colours</source>
-        <translation>1/2: 色を選んでいます</translation>
+        <source>Step 1 of 2: choosing the colors</source>
+        <translation>手順 1/2: 色を選択しています</translation>
     </message>
     <message id="IDD_PROGRESS_SCALING">
         <source>Step 1 of 2, scaling: %p%</source>
-        <translation>1/2: サイズを変更しています %p%</translation>
+        <translation>手順 1/2: サイズを変更しています %p%</translation>
     </message>
     <message id="IDD_PROGRESS_PICTURES">
         <source>Step 2 of 2: %p%</source>
-        <translation>2/2: %p%</translation>
+        <translation>手順 2/2: %p%</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
         <source>The export was cancelled.</source>
-        <translation>書き出しを中止しました。</translation>
+        <translation>書き出しをキャンセルしました。</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
-        <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
+        <source>The program “%1” is missing: it was not found when Tovarel started.</source>
         <translation>プログラム「%1」がありません。Tovarel の起動時に見つかりませんでした。</translation>
     </message>
     <message id="IDD_TOOL_NOT_STARTED">
@@ -421,18 +421,18 @@
     </message>
     <message id="IDD_TOOL_CRASHED">
         <source>The program “%1” crashed (signal %2, %3).</source>
-        <translation>プログラム「%1」が異常終了しました (シグナル %2、%3)。</translation>
+        <translation>プログラム「%1」が異常終了しました（シグナル %2、%3）。</translation>
     </message>
     <message id="IDD_TOOL_FAILED">
         <source>The program “%1” failed (exit status %2).</source>
-        <translation>プログラム「%1」が失敗しました (終了ステータス %2)。</translation>
+        <translation>プログラム「%1」がエラーで終了しました（終了ステータス %2）。</translation>
     </message>
     <message id="IDD_TOOL_NO_RESULT">
         <source>The program “%1” ended without writing its result, %2.</source>
         <translation>プログラム「%1」は結果 %2 を書き出さずに終了しました。</translation>
     </message>
     <message id="IDD_REFUSED_SIZE">
-        <source>The size asked for was %1 × %2.</source>
+        <source>The requested size was %1 × %2.</source>
         <translation>指定されたサイズは %1 × %2 です。</translation>
     </message>
     <message id="IDD_GIF_TOO_LARGE">
@@ -458,32 +458,34 @@ The recording is still there.</source>
         <translation>録画のフレームを %1 から読み込めませんでした。</translation>
     </message>
     <message id="IDD_MOVE_FAILED">
-        <source>The file could not be saved as %1. %2
+        <source>The file could not be saved as %1.
+%2
 
-It remains at %3.</source>
-        <translation>ファイルを %1 に保存できませんでした。%2
+It is still at %3.</source>
+        <translation>ファイルを %1 に保存できませんでした。
+%2
 
 ファイルは %3 に残っています。</translation>
     </message>
     <message id="IDD_MOVE_IS_FOLDER">
-        <source>There is a folder with that name.</source>
-        <translation>その名前のフォルダーがあります。</translation>
+        <source>There is already a folder with that name.</source>
+        <translation>同じ名前のフォルダーが既にあります。</translation>
     </message>
     <message id="IDD_MOVE_NOT_A_FILE">
-        <source>There is something with that name that is not an ordinary file.</source>
-        <translation>そこにあるのは通常のファイルではありません。</translation>
+        <source>There is already something with that name, and it is not a regular file.</source>
+        <translation>同じ名前の項目が既にあり、通常のファイルではありません。</translation>
     </message>
     <message id="IDD_MOVE_SAME_FILE">
-        <source>That is the file itself.</source>
-        <translation>それは元のファイルそのものです。</translation>
+        <source>Source and destination are the same file.</source>
+        <translation>保存元と保存先が同じファイルです。</translation>
     </message>
     <message id="IDD_MOVE_WORKING_FOLDER">
-        <source>Tovarel empties that folder itself: choose another one.</source>
-        <translation>そのフォルダーは Tovarel が空にします。別のフォルダーを選んでください。</translation>
+        <source>Tovarel empties that folder automatically. Choose another one.</source>
+        <translation>そのフォルダーの中身は Tovarel が自動的に削除します。別のフォルダーを選んでください。</translation>
     </message>
     <message id="IDD_STATUS_SAVED">
         <source>Saved: %1 (%2).</source>
-        <translation>保存しました: %1 (%2)</translation>
+        <translation>保存しました: %1（%2）</translation>
     </message>
     <message id="IDD_STATUS_UNSAVED">
         <source>The %1 has not been saved, but it is still there.</source>
@@ -499,19 +501,19 @@ It remains at %3.</source>
     </message>
     <message id="IDD_UNSAVED_DETAIL">
         <source>Save it before you continue? If you discard it, it is gone for good.</source>
-        <translation>続行する前に保存しますか? 破棄すると元に戻せません。</translation>
+        <translation>続行する前に保存しますか？破棄すると元に戻せません。</translation>
     </message>
     <message id="IDD_DISCARD">
         <source>Discard</source>
         <translation>破棄</translation>
     </message>
     <message id="IDD_STATUS_GAP">
-        <source>The GIF holds %1 of %2 frames: the others were missing.</source>
+        <source>The GIF contains only %1 of %2 frames; the rest are missing.</source>
         <translation>GIF に含まれるのは %2 フレーム中 %1 フレームです。残りは見つかりませんでした。</translation>
     </message>
     <message id="IDD_STATUS_WEBP_GAP">
-        <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
-        <translation>WebP に含まれるのは %2 フレーム中 %1 フレームです。次のフレームが見つかりませんでした。</translation>
+        <source>The WebP contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>WebP に含まれるのは %2 フレーム中、最初の %1 フレームです。次のフレームが見つかりませんでした。</translation>
     </message>
     <message id="IDD_STATUS_STILL">
         <source>The GIF does not move: all its frames are the same.</source>
@@ -522,7 +524,7 @@ It remains at %3.</source>
         <translation>画質</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
         <translation>GIF の画質: 「最高」は色をできるだけ正確に保ち、「小サイズ」はファイルが最小になり、「クラシック」は ffmpeg を使用します</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -546,16 +548,16 @@ It remains at %3.</source>
         <translation>速度</translation>
     </message>
     <message id="IDD_GIF_THINNED">
-        <source>GIF: thinned to 50&#xa0;fps</source>
-        <translation>GIF は 50 fps に間引かれます</translation>
+        <source>GIF: reduced to 50&#xa0;fps</source>
+        <translation>GIF は 50&#xa0;fps に間引かれます</translation>
     </message>
     <message id="IDD_FIT_UNDER">
         <source>Fit under</source>
-        <translation>サイズの上限</translation>
+        <translation>ファイルサイズの上限</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</source>
-        <translation>GIF のファイルサイズの上限です。収まるように、色の正確さ、フレームレート、サイズの順に下げます</translation>
+        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>GIF のファイルサイズの上限です。収まるように、色の正確さ、フレームレート、幅と高さの順に下げます</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -590,12 +592,12 @@ It remains at %3.</source>
         <translation>下げる</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</source>
-        <translation>%1 に収めるため、%2 × %3 ピクセル、%4 フレーム/秒にしました。</translation>
+        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <translation>%1 に収めるため、GIF を %2 × %3 ピクセル、%4&#xa0;fps にしました。</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, its colors are less exact.</source>
-        <translation>%1 に収めるため、色の正確さを下げました。</translation>
+        <source>To fit under %1, the GIF has less exact colors.</source>
+        <translation>%1 に収めるため、GIF の色の正確さを下げました。</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>About %1</source>
@@ -618,7 +620,7 @@ It remains at %3.</source>
         <translation>ここで選択したサイズ、フレームレート、速度で MP4 動画を作成します</translation>
     </message>
     <message id="IDD_PROGRESS_MP4">
-        <source>Making the MP4…</source>
+        <source>Generating the MP4…</source>
         <translation>MP4 を作成しています…</translation>
     </message>
     <message id="IDD_MP4_NO_ENCODER">
@@ -626,8 +628,8 @@ It remains at %3.</source>
         <translation>この ffmpeg には、MP4 に必要な H.264 エンコーダー（libx264）がありません。エンコーダーのある ffmpeg をインストールするか、GIF または WebP を作成してください。</translation>
     </message>
     <message id="IDD_STATUS_MP4_GAP">
-        <source>The MP4 holds %1 of %2 frames: the next one was missing.</source>
-        <translation>MP4 に含まれるのは %2 フレーム中 %1 フレームです。次のフレームが見つかりませんでした。</translation>
+        <source>The MP4 contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>MP4 に含まれるのは %2 フレーム中、最初の %1 フレームです。次のフレームが見つかりませんでした。</translation>
     </message>
     <message id="IDD_SIZE_ABOVE">
         <source>%1 pixels at most</source>
@@ -647,15 +649,15 @@ It remains at %3.</source>
     </message>
     <message id="IDD_WEBP_LOOPS_HINT">
         <source>0 = loop forever</source>
-        <translation>0 は無限</translation>
+        <translation>0 = 無限</translation>
     </message>
     <message id="IDD_LOOPS_NOT_NUMBER">
-        <source>must be a whole number</source>
+        <source>Whole numbers only</source>
         <translation>整数を入力してください</translation>
     </message>
     <message id="IDD_LOOPS_NEGATIVE">
-        <source>must not be negative</source>
-        <translation>負の数は使えません</translation>
+        <source>No negative numbers</source>
+        <translation>負の数は指定できません</translation>
     </message>
     <message id="IDD_LOOPS_TOO_LARGE">
         <source>65,535 at most</source>
@@ -666,16 +668,16 @@ It remains at %3.</source>
         <translation>%1: %2</translation>
     </message>
     <message id="IDD_SIZE_ZERO">
-        <source>must begin with a number other than 0</source>
-        <translation>0 以外の数で始めてください</translation>
+        <source>must be a number greater than 0</source>
+        <translation>0 より大きい数を入力してください</translation>
     </message>
     <message id="IDD_SIZE_NEGATIVE">
         <source>must not be negative</source>
-        <translation>負の数は拒否されます</translation>
+        <translation>負の数は指定できません</translation>
     </message>
     <message id="IDD_SIZE_NOT_PLAIN">
-        <source>digits only, or it will be refused</source>
-        <translation>数字以外があると拒否されます</translation>
+        <source>may contain digits only</source>
+        <translation>数字だけを入力してください</translation>
     </message>
     <message id="IDD_SIZE_TOO_LARGE">
         <source>65,535 pixels at most</source>
@@ -683,7 +685,7 @@ It remains at %3.</source>
     </message>
     <message id="IDD_GIF_SUMMARY">
         <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
-        <translation>%1 フレーム、%2 秒（%3 fps）</translation>
+        <translation>%1 フレーム、%2&#xa0;秒（%3&#xa0;fps）</translation>
     </message>
 </context>
 </TS>

@@ -22,7 +22,7 @@
         <translation>Página inicial</translation>
     </message>
     <message id="IDD_COMPANY_PAGE">
-        <source>Maker's Page</source>
+        <source>About the Authors</source>
         <translation>Sobre os autores</translation>
     </message>
     <message id="IDD_PRIVACY_POLICY">
@@ -107,7 +107,7 @@
     </message>
     <message id="IDD_LOW_FRAME_NUMBER">
         <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
-        <translation>O trecho escolhido tem poucos quadros. Escolha pelo menos três na aba Cortar.</translation>
+        <translation>O trecho escolhido não tem quadros suficientes. Escolha pelo menos três na aba “Cortar”.</translation>
     </message>
     <message id="IDD_INVALID_DIMENSION">
         <source>Width and height must be whole numbers greater than 0.</source>
@@ -151,7 +151,7 @@
         <translation>Versão %1</translation>
     </message>
     <message id="IDD_ABOUT_LICENCE">
-        <source>Free software under the %1 licence.</source>
+        <source>Free software under the %1 License.</source>
         <translation>Software livre sob a licença %1.</translation>
     </message>
     <message id="IDD_ABOUT_TOOLS">
@@ -171,12 +171,12 @@
         <translation>Prévia ao vivo</translation>
     </message>
     <message id="IDD_KEYS_GRANTED">
-        <source>From any window, with %1: %2</source>
+        <source>Shortcuts in any window, with %1: %2</source>
         <translation>De qualquer janela, com %1: %2</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
-        <source>Taken by another program, with %1: %2</source>
-        <translation>Ocupado por outro programa, com %1: %2</translation>
+        <source>Used by another program, with %1: %2</source>
+        <translation>Em uso por outro programa, com %1: %2</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">
@@ -192,7 +192,7 @@
         <translation>Não é possível gravar a tela: falta a este servidor gráfico uma das extensões Damage, XFixes, Render e Shape.</translation>
     </message>
     <message id="IDD_REASON_PICTURE_FORMAT">
-        <source>The screen cannot be recorded: this display server does not use 24-bit colour.</source>
+        <source>The screen cannot be recorded: this display server does not use 24-bit color.</source>
         <translation>Não é possível gravar a tela: este servidor gráfico não usa imagens em cores de 24 bits.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -217,12 +217,12 @@
         <translation>Em pausa – continue com “%1”</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
-        <source>%1 · Frames: %2 · Frames per second: %3</source>
-        <translation>%1 · Quadros: %2 · Quadros por segundo: %3</translation>
+        <source>%1 · Frames: %2 · %3&#xa0;fps</source>
+        <translation>%1 · Quadros: %2 · %3&#xa0;fps</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</source>
-        <translation>A gravação foi pausada porque a memória está acabando (restam %1). Gravar continua, Parar salva o que existe.</translation>
+        <source>Memory is running out (%1 left). Stop saves what has been recorded.</source>
+        <translation>A memória está acabando (restam %1). “Parar” salva o que já foi gravado.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
@@ -230,15 +230,15 @@
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
         <source>Memory: %1, enough for %2 more</source>
-        <translation>Memória: %1, dura mais %2</translation>
+        <translation>Memória: %1, suficiente para mais %2</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
-        <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
-        <translation>A gravação está completa. Quadros: %1 · Quadros por segundo: %2</translation>
+        <source>The recording is complete. Frames: %1 · %2&#xa0;fps</source>
+        <translation>A gravação terminou. Quadros: %1 · %2&#xa0;fps</translation>
     </message>
     <message id="IDD_RECORDING_BEHIND">
-        <source>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</source>
-        <translation>A gravação terminou. Quadros: %1 · Pedidos: %2 quadros por segundo; obtidos: %3</translation>
+        <source>The recording is complete. Frames: %1 · %3&#xa0;fps instead of %2&#xa0;fps</source>
+        <translation>A gravação terminou. Quadros: %1 · %3&#xa0;fps em vez de %2&#xa0;fps</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
@@ -246,7 +246,7 @@
     </message>
     <message id="IDD_FRAMES_MISSING">
         <source>%1 of %2 frames could not be written to %3: %4</source>
-        <translation>Não foi possível gravar %1 de %2 quadros em %3: %4</translation>
+        <translation>Quadros não salvos em %3: %1 de %2 (%4)</translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
@@ -289,8 +289,8 @@
         <translation>Área %1 × %2 em %3,&#xa0;%4</translation>
     </message>
     <message id="IDD_CAPTURE_RATE">
-        <source>%1 fps</source>
-        <translation>%1 qps</translation>
+        <source>%1&#xa0;fps</source>
+        <translation>%1&#xa0;fps</translation>
     </message>
     <message id="IDD_OK">
         <source>OK</source>
@@ -302,7 +302,7 @@
     </message>
     <!-- region -->
     <message id="IDD_REGION_OVERLAY">
-        <source>Select a region</source>
+        <source>Select a Region</source>
         <translation>Escolher uma área</translation>
     </message>
     <message id="IDD_REGION_TIP">
@@ -330,7 +330,7 @@
         <translation>Canto superior direito</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TITLE">
-        <source>How to select a region</source>
+        <source>How to Select a Region</source>
         <translation>Como escolher uma área</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
@@ -350,11 +350,11 @@
         <translation>Clique para confirmar</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
-        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</source>
-        <translation>Pelo teclado: as setas movem um canto (Shift: mais rápido), Tab escolhe outro, Enter confirma, Esc cancela.</translation>
+        <source>With the keyboard: the arrow keys move a corner (faster with Shift), Tab selects the next one, Enter accepts, Esc cancels.</source>
+        <translation>Pelo teclado: as setas movem um canto (mais rápido com Shift), Tab escolhe o seguinte, Enter confirma e Esc cancela.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>Don't show this again</source>
+        <source>Don’t show this again</source>
         <translation>Não mostrar novamente</translation>
     </message>
     <!-- trim -->
@@ -367,12 +367,12 @@
         <translation>Último quadro</translation>
     </message>
     <message id="IDD_RANGE_HOLDS">
-        <source>Frames %1 to %2: %3 frames, %4 s</source>
-        <translation>Quadros %1 a %2: %3 quadros, %4 s</translation>
+        <source>Frames %1 to %2: %3 frames, %4&#xa0;s</source>
+        <translation>Quadros %1 a %2: %3 quadros, %4&#xa0;s</translation>
     </message>
     <message id="IDD_RANGE_ONE">
-        <source>Frame %1 only, %2 s</source>
-        <translation>Só o quadro %1, %2 s</translation>
+        <source>Frame %1 only, %2&#xa0;s</source>
+        <translation>Só o quadro %1, %2&#xa0;s</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>
@@ -388,7 +388,7 @@
     </message>
     <!-- export -->
     <message id="IDD_PROGRESS_GIF">
-        <source>Making the GIF…</source>
+        <source>Generating the GIF…</source>
         <translation>Criando o GIF…</translation>
     </message>
     <message id="IDD_PROGRESS_WEBP">
@@ -396,7 +396,7 @@
         <translation>Criando o WebP…</translation>
     </message>
     <message id="IDD_PROGRESS_PALETTE">
-        <source>Step 1 of 2: choosing the colours</source>
+        <source>Step 1 of 2: choosing the colors</source>
         <translation>Etapa 1 de 2: escolha das cores</translation>
     </message>
     <message id="IDD_PROGRESS_SCALING">
@@ -412,7 +412,7 @@
         <translation>A exportação foi cancelada.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
-        <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
+        <source>The program “%1” is missing: it was not found when Tovarel started.</source>
         <translation>O programa “%1” está faltando: ele não foi encontrado quando o Tovarel foi iniciado.</translation>
     </message>
     <message id="IDD_TOOL_NOT_STARTED">
@@ -429,11 +429,11 @@
     </message>
     <message id="IDD_TOOL_NO_RESULT">
         <source>The program “%1” ended without writing its result, %2.</source>
-        <translation>O programa “%1” terminou sem gravar o resultado, %2.</translation>
+        <translation>O programa “%1” terminou sem salvar o resultado, %2.</translation>
     </message>
     <message id="IDD_REFUSED_SIZE">
-        <source>The size asked for was %1 × %2.</source>
-        <translation>O tamanho pedido era %1 × %2.</translation>
+        <source>The requested size was %1 × %2.</source>
+        <translation>O tamanho solicitado era %1 × %2.</translation>
     </message>
     <message id="IDD_GIF_TOO_LARGE">
         <source>A GIF of %1 × %2 pixels needs about %3 of memory. At most %4 may be used, half of what is free. Choose a smaller size.</source>
@@ -458,28 +458,30 @@ A gravação continua disponível.</translation>
         <translation>Não foi possível ler os quadros da gravação em %1.</translation>
     </message>
     <message id="IDD_MOVE_FAILED">
-        <source>The file could not be saved as %1. %2
+        <source>The file could not be saved as %1.
+%2
 
-It remains at %3.</source>
-        <translation>Não foi possível salvar o arquivo como %1. %2
+It is still at %3.</source>
+        <translation>Não foi possível salvar o arquivo como %1.
+%2
 
 Ele continua em %3.</translation>
     </message>
     <message id="IDD_MOVE_IS_FOLDER">
-        <source>There is a folder with that name.</source>
-        <translation>Já existe ali uma pasta com esse nome.</translation>
+        <source>There is already a folder with that name.</source>
+        <translation>Já existe uma pasta com esse nome.</translation>
     </message>
     <message id="IDD_MOVE_NOT_A_FILE">
-        <source>There is something with that name that is not an ordinary file.</source>
-        <translation>O que está ali não é um arquivo comum.</translation>
+        <source>There is already something with that name, and it is not a regular file.</source>
+        <translation>Já existe um item com esse nome que não é um arquivo comum.</translation>
     </message>
     <message id="IDD_MOVE_SAME_FILE">
-        <source>That is the file itself.</source>
-        <translation>Esse é o próprio arquivo.</translation>
+        <source>Source and destination are the same file.</source>
+        <translation>A origem e o destino são o mesmo arquivo.</translation>
     </message>
     <message id="IDD_MOVE_WORKING_FOLDER">
-        <source>Tovarel empties that folder itself: choose another one.</source>
-        <translation>O próprio Tovarel esvazia essa pasta: escolha outra.</translation>
+        <source>Tovarel empties that folder automatically. Choose another one.</source>
+        <translation>O Tovarel esvazia essa pasta automaticamente. Escolha outra.</translation>
     </message>
     <message id="IDD_STATUS_SAVED">
         <source>Saved: %1 (%2).</source>
@@ -506,12 +508,12 @@ Ele continua em %3.</translation>
         <translation>Descartar</translation>
     </message>
     <message id="IDD_STATUS_GAP">
-        <source>The GIF holds %1 of %2 frames: the others were missing.</source>
-        <translation>O GIF contém %1 de %2 quadros: os demais estavam faltando.</translation>
+        <source>The GIF contains only %1 of %2 frames; the rest are missing.</source>
+        <translation>O GIF contém apenas %1 de %2 quadros; o resto estava faltando.</translation>
     </message>
     <message id="IDD_STATUS_WEBP_GAP">
-        <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
-        <translation>O WebP contém %1 de %2 quadros: o seguinte estava faltando.</translation>
+        <source>The WebP contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>O WebP contém apenas %1 de %2 quadros; o seguinte estava faltando.</translation>
     </message>
     <message id="IDD_STATUS_STILL">
         <source>The GIF does not move: all its frames are the same.</source>
@@ -522,7 +524,7 @@ Ele continua em %3.</translation>
         <translation>Qualidade</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
         <translation>Qualidade do GIF: “Melhor” mantém as cores o mais exatas possível, “Compacta” dá o menor arquivo, “Clássica” usa o ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -546,16 +548,16 @@ Ele continua em %3.</translation>
         <translation>Velocidade</translation>
     </message>
     <message id="IDD_GIF_THINNED">
-        <source>GIF: thinned to 50&#xa0;fps</source>
+        <source>GIF: reduced to 50&#xa0;fps</source>
         <translation>GIF: reduzido a 50&#xa0;fps</translation>
     </message>
     <message id="IDD_FIT_UNDER">
         <source>Fit under</source>
-        <translation>Tamanho máximo</translation>
+        <translation>Tamanho máx. do arquivo</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</source>
-        <translation>Tamanho máximo do arquivo GIF. Para não ultrapassá-lo, reduz-se primeiro a exatidão das cores, depois a taxa de quadros e depois o tamanho</translation>
+        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>Tamanho máximo do arquivo GIF. Para não ultrapassá-lo, reduzem-se primeiro a exatidão das cores, depois a taxa de quadros e por fim a largura e a altura</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -590,12 +592,12 @@ Ele continua em %3.</translation>
         <translation>Reduzir</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</source>
-        <translation>Para caber em %1, ele tem %2 × %3 pixels e %4 quadros por segundo.</translation>
+        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <translation>Para caber em %1, o GIF tem %2 × %3 pixels e %4&#xa0;fps.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, its colors are less exact.</source>
-        <translation>Para caber em %1, suas cores são menos exatas.</translation>
+        <source>To fit under %1, the GIF has less exact colors.</source>
+        <translation>Para caber em %1, o GIF tem cores menos exatas.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>About %1</source>
@@ -618,7 +620,7 @@ Ele continua em %3.</translation>
         <translation>Cria um vídeo MP4 com o tamanho, a taxa de quadros e a velocidade escolhidos aqui</translation>
     </message>
     <message id="IDD_PROGRESS_MP4">
-        <source>Making the MP4…</source>
+        <source>Generating the MP4…</source>
         <translation>Criando o MP4…</translation>
     </message>
     <message id="IDD_MP4_NO_ENCODER">
@@ -626,8 +628,8 @@ Ele continua em %3.</translation>
         <translation>Este ffmpeg não tem o codificador H.264 (libx264) de que um MP4 precisa. Instale um ffmpeg que o tenha ou crie um GIF ou um WebP.</translation>
     </message>
     <message id="IDD_STATUS_MP4_GAP">
-        <source>The MP4 holds %1 of %2 frames: the next one was missing.</source>
-        <translation>O MP4 contém %1 de %2 quadros: o seguinte estava faltando.</translation>
+        <source>The MP4 contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>O MP4 contém apenas %1 de %2 quadros; o seguinte estava faltando.</translation>
     </message>
     <message id="IDD_SIZE_ABOVE">
         <source>%1 pixels at most</source>
@@ -647,15 +649,15 @@ Ele continua em %3.</translation>
     </message>
     <message id="IDD_WEBP_LOOPS_HINT">
         <source>0 = loop forever</source>
-        <translation>0 significa sem fim</translation>
+        <translation>0 = sem fim</translation>
     </message>
     <message id="IDD_LOOPS_NOT_NUMBER">
-        <source>must be a whole number</source>
-        <translation>deve ser um número inteiro</translation>
+        <source>Whole numbers only</source>
+        <translation>Somente números inteiros</translation>
     </message>
     <message id="IDD_LOOPS_NEGATIVE">
-        <source>must not be negative</source>
-        <translation>não deve ser negativo</translation>
+        <source>No negative numbers</source>
+        <translation>Sem números negativos</translation>
     </message>
     <message id="IDD_LOOPS_TOO_LARGE">
         <source>65,535 at most</source>
@@ -666,16 +668,16 @@ Ele continua em %3.</translation>
         <translation>%1: %2</translation>
     </message>
     <message id="IDD_SIZE_ZERO">
-        <source>must begin with a number other than 0</source>
-        <translation>deve começar com um número diferente de 0</translation>
+        <source>must be a number greater than 0</source>
+        <translation>deve ser um número maior que 0</translation>
     </message>
     <message id="IDD_SIZE_NEGATIVE">
         <source>must not be negative</source>
-        <translation>negativo, será recusado</translation>
+        <translation>não pode ser negativa</translation>
     </message>
     <message id="IDD_SIZE_NOT_PLAIN">
-        <source>digits only, or it will be refused</source>
-        <translation>só algarismos, ou será recusado</translation>
+        <source>may contain digits only</source>
+        <translation>só pode conter algarismos</translation>
     </message>
     <message id="IDD_SIZE_TOO_LARGE">
         <source>65,535 pixels at most</source>

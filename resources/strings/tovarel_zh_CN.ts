@@ -22,7 +22,7 @@
         <translation>主页</translation>
     </message>
     <message id="IDD_COMPANY_PAGE">
-        <source>Maker's Page</source>
+        <source>About the Authors</source>
         <translation>关于开发者</translation>
     </message>
     <message id="IDD_PRIVACY_POLICY">
@@ -151,7 +151,7 @@
         <translation>版本 %1</translation>
     </message>
     <message id="IDD_ABOUT_LICENCE">
-        <source>Free software under the %1 licence.</source>
+        <source>Free software under the %1 License.</source>
         <translation>基于 %1 许可证的自由软件。</translation>
     </message>
     <message id="IDD_ABOUT_TOOLS">
@@ -171,12 +171,12 @@
         <translation>实时预览</translation>
     </message>
     <message id="IDD_KEYS_GRANTED">
-        <source>From any window, with %1: %2</source>
-        <translation>在任意窗口中按 %1 加：%2</translation>
+        <source>Shortcuts in any window, with %1: %2</source>
+        <translation>任意窗口可用（与 %1 同时按）：%2</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
-        <source>Taken by another program, with %1: %2</source>
-        <translation>已被其他程序占用，%1 加：%2</translation>
+        <source>Used by another program, with %1: %2</source>
+        <translation>已被其他程序占用（与 %1 同时按）：%2</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">
@@ -192,7 +192,7 @@
         <translation>无法录制屏幕：此显示服务器缺少 Damage、XFixes、Render、Shape 扩展之一。</translation>
     </message>
     <message id="IDD_REASON_PICTURE_FORMAT">
-        <source>The screen cannot be recorded: this display server does not use 24-bit colour.</source>
+        <source>The screen cannot be recorded: this display server does not use 24-bit color.</source>
         <translation>无法录制屏幕：此显示服务器不使用 24 位色图像。</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -217,12 +217,12 @@
         <translation>已暂停（按“%1”继续）</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
-        <source>%1 · Frames: %2 · Frames per second: %3</source>
-        <translation>%1 · 帧数：%2 · 每秒帧数：%3</translation>
+        <source>%1 · Frames: %2 · %3&#xa0;fps</source>
+        <translation>%1 · 帧数：%2 · %3&#xa0;帧/秒</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>The recording was paused because memory is running out (%1 left). Press Record to continue, or Stop to save what has been recorded.</source>
-        <translation>内存即将耗尽（剩余 %1），录制已暂停。按“录制”继续，按“停止”保存已有内容。</translation>
+        <source>Memory is running out (%1 left). Stop saves what has been recorded.</source>
+        <translation>内存即将耗尽（剩余 %1）。按“停止”保存已录制的内容。</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
@@ -233,12 +233,12 @@
         <translation>内存：%1，还可录 %2</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
-        <source>The recording is complete. Frames: %1 · Frames per second: %2</source>
-        <translation>录制已完成。帧数：%1 · 每秒帧数：%2</translation>
+        <source>The recording is complete. Frames: %1 · %2&#xa0;fps</source>
+        <translation>录制已完成。帧数：%1 · %2&#xa0;帧/秒</translation>
     </message>
     <message id="IDD_RECORDING_BEHIND">
-        <source>The recording is complete. Frames: %1 · Frames per second: %3 instead of %2</source>
-        <translation>录制已完成。帧数：%1 · 要求 %2 帧/秒，实际 %3 帧/秒</translation>
+        <source>The recording is complete. Frames: %1 · %3&#xa0;fps instead of %2&#xa0;fps</source>
+        <translation>录制已完成。帧数：%1 · %3&#xa0;帧/秒（设定为 %2&#xa0;帧/秒）</translation>
     </message>
     <message id="IDD_NOTHING_RECORDED">
         <source>Nothing was recorded.</source>
@@ -289,8 +289,8 @@
         <translation>区域 %1 × %2，位于 %3,&#xa0;%4</translation>
     </message>
     <message id="IDD_CAPTURE_RATE">
-        <source>%1 fps</source>
-        <translation>%1 帧/秒</translation>
+        <source>%1&#xa0;fps</source>
+        <translation>%1&#xa0;帧/秒</translation>
     </message>
     <message id="IDD_OK">
         <source>OK</source>
@@ -302,7 +302,7 @@
     </message>
     <!-- region -->
     <message id="IDD_REGION_OVERLAY">
-        <source>Select a region</source>
+        <source>Select a Region</source>
         <translation>选择区域</translation>
     </message>
     <message id="IDD_REGION_TIP">
@@ -330,7 +330,7 @@
         <translation>右上角</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TITLE">
-        <source>How to select a region</source>
+        <source>How to Select a Region</source>
         <translation>如何选择区域</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
@@ -343,18 +343,18 @@
     </message>
     <message id="IDD_REGION_HOW_TO_DRAG">
         <source>Drag a corner</source>
-        <translation>拖动角落</translation>
+        <translation>拖动一个角</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_ACCEPT">
         <source>Click to accept</source>
         <translation>点击确认</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
-        <source>By keyboard: the arrow keys move a corner (Shift: faster), Tab chooses another one, Return accepts, Escape cancels.</source>
-        <translation>使用键盘：方向键移动一个角（按住 Shift 更快），Tab 键选择另一个角，回车键确认，Esc 键取消。</translation>
+        <source>With the keyboard: the arrow keys move a corner (faster with Shift), Tab selects the next one, Enter accepts, Esc cancels.</source>
+        <translation>使用键盘：方向键移动一个角（按住 Shift 更快），Tab 键选择下一个角，回车键确认，Esc 键取消。</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
-        <source>Don't show this again</source>
+        <source>Don’t show this again</source>
         <translation>不再显示</translation>
     </message>
     <!-- trim -->
@@ -367,12 +367,12 @@
         <translation>最后一帧</translation>
     </message>
     <message id="IDD_RANGE_HOLDS">
-        <source>Frames %1 to %2: %3 frames, %4 s</source>
-        <translation>第 %1 至 %2 帧：共 %3 帧，%4 秒</translation>
+        <source>Frames %1 to %2: %3 frames, %4&#xa0;s</source>
+        <translation>第 %1 至 %2 帧：共 %3 帧，%4&#xa0;秒</translation>
     </message>
     <message id="IDD_RANGE_ONE">
-        <source>Frame %1 only, %2 s</source>
-        <translation>仅第 %1 帧，%2 秒</translation>
+        <source>Frame %1 only, %2&#xa0;s</source>
+        <translation>仅第 %1 帧，%2&#xa0;秒</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>
@@ -388,7 +388,7 @@
     </message>
     <!-- export -->
     <message id="IDD_PROGRESS_GIF">
-        <source>Making the GIF…</source>
+        <source>Generating the GIF…</source>
         <translation>正在生成 GIF…</translation>
     </message>
     <message id="IDD_PROGRESS_WEBP">
@@ -396,7 +396,7 @@
         <translation>正在生成 WebP…</translation>
     </message>
     <message id="IDD_PROGRESS_PALETTE">
-        <source>Step 1 of 2: choosing the colours</source>
+        <source>Step 1 of 2: choosing the colors</source>
         <translation>第 1 步，共 2 步：选择颜色</translation>
     </message>
     <message id="IDD_PROGRESS_SCALING">
@@ -412,7 +412,7 @@
         <translation>导出已取消。</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
-        <source>The program “%1” is missing: it was not found when Tovarel was started.</source>
+        <source>The program “%1” is missing: it was not found when Tovarel started.</source>
         <translation>缺少程序“%1”：启动 Tovarel 时未找到它。</translation>
     </message>
     <message id="IDD_TOOL_NOT_STARTED">
@@ -432,8 +432,8 @@
         <translation>程序“%1”结束时没有写出结果 %2。</translation>
     </message>
     <message id="IDD_REFUSED_SIZE">
-        <source>The size asked for was %1 × %2.</source>
-        <translation>要求的尺寸为 %1 × %2。</translation>
+        <source>The requested size was %1 × %2.</source>
+        <translation>请求的尺寸为 %1 × %2。</translation>
     </message>
     <message id="IDD_GIF_TOO_LARGE">
         <source>A GIF of %1 × %2 pixels needs about %3 of memory. At most %4 may be used, half of what is free. Choose a smaller size.</source>
@@ -458,28 +458,30 @@ The recording is still there.</source>
         <translation>无法从 %1 读取录制内容的帧。</translation>
     </message>
     <message id="IDD_MOVE_FAILED">
-        <source>The file could not be saved as %1. %2
+        <source>The file could not be saved as %1.
+%2
 
-It remains at %3.</source>
-        <translation>无法将文件保存为 %1。%2
+It is still at %3.</source>
+        <translation>无法将文件保存为 %1。
+%2
 
 文件仍在 %3。</translation>
     </message>
     <message id="IDD_MOVE_IS_FOLDER">
-        <source>There is a folder with that name.</source>
-        <translation>那里已有同名文件夹。</translation>
+        <source>There is already a folder with that name.</source>
+        <translation>该位置已有同名文件夹。</translation>
     </message>
     <message id="IDD_MOVE_NOT_A_FILE">
-        <source>There is something with that name that is not an ordinary file.</source>
-        <translation>那里的不是普通文件。</translation>
+        <source>There is already something with that name, and it is not a regular file.</source>
+        <translation>该位置已有同名项目，但不是普通文件。</translation>
     </message>
     <message id="IDD_MOVE_SAME_FILE">
-        <source>That is the file itself.</source>
-        <translation>那就是该文件本身。</translation>
+        <source>Source and destination are the same file.</source>
+        <translation>源文件和目标文件是同一个文件。</translation>
     </message>
     <message id="IDD_MOVE_WORKING_FOLDER">
-        <source>Tovarel empties that folder itself: choose another one.</source>
-        <translation>Tovarel 会自行清空该文件夹：请选择其他文件夹。</translation>
+        <source>Tovarel empties that folder automatically. Choose another one.</source>
+        <translation>Tovarel 会自动清空该文件夹。请选择其他文件夹。</translation>
     </message>
     <message id="IDD_STATUS_SAVED">
         <source>Saved: %1 (%2).</source>
@@ -506,12 +508,12 @@ It remains at %3.</source>
         <translation>放弃</translation>
     </message>
     <message id="IDD_STATUS_GAP">
-        <source>The GIF holds %1 of %2 frames: the others were missing.</source>
-        <translation>GIF 包含 %2 帧中的 %1 帧：其余的缺失。</translation>
+        <source>The GIF contains only %1 of %2 frames; the rest are missing.</source>
+        <translation>GIF 仅包含 %2 帧中的 %1 帧，其余帧缺失。</translation>
     </message>
     <message id="IDD_STATUS_WEBP_GAP">
-        <source>The WebP holds %1 of %2 frames: the next one was missing.</source>
-        <translation>WebP 包含 %2 帧中的 %1 帧：下一帧缺失。</translation>
+        <source>The WebP contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>WebP 仅包含 %2 帧中的前 %1 帧，下一帧缺失。</translation>
     </message>
     <message id="IDD_STATUS_STILL">
         <source>The GIF does not move: all its frames are the same.</source>
@@ -522,7 +524,7 @@ It remains at %3.</source>
         <translation>质量</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colours as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
         <translation>GIF 的质量：“最佳”尽可能保持颜色准确，“小文件”生成最小的文件，“经典”使用 ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -546,16 +548,16 @@ It remains at %3.</source>
         <translation>速度</translation>
     </message>
     <message id="IDD_GIF_THINNED">
-        <source>GIF: thinned to 50&#xa0;fps</source>
-        <translation>GIF 将减至 50 帧/秒</translation>
+        <source>GIF: reduced to 50&#xa0;fps</source>
+        <translation>GIF 将减至 50&#xa0;帧/秒</translation>
     </message>
     <message id="IDD_FIT_UNDER">
         <source>Fit under</source>
-        <translation>大小上限</translation>
+        <translation>文件大小上限</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Largest size of the GIF file. To stay below it, exact colors are given up first, then the frame rate, then the size</source>
-        <translation>GIF 文件的大小上限。为不超过上限，依次降低颜色精度、帧率和尺寸</translation>
+        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>GIF 文件的大小上限。为不超过上限，依次降低颜色精度、帧率、宽度和高度</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -571,7 +573,7 @@ It remains at %3.</source>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
         <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
-        <translation>GIF 无法小于 %1：即使使用最低帧率和一半的尺寸，仍为 %2。请提高上限、减小尺寸，或保留更短的录制内容。</translation>
+        <translation>无法将 GIF 缩小到 %1 以内：即使使用最低帧率和一半的尺寸，文件仍有 %2。请提高上限、减小尺寸，或保留更短的录制内容。</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
@@ -590,12 +592,12 @@ It remains at %3.</source>
         <translation>降低</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, it has %2 × %3 pixels and %4 frames per second.</source>
-        <translation>为不超过 %1，尺寸为 %2 × %3 像素，每秒 %4 帧。</translation>
+        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <translation>为不超过 %1，GIF 的尺寸为 %2 × %3 像素，帧率为 %4&#xa0;帧/秒。</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, its colors are less exact.</source>
-        <translation>为不超过 %1，颜色精度有所降低。</translation>
+        <source>To fit under %1, the GIF has less exact colors.</source>
+        <translation>为不超过 %1，GIF 的颜色精度有所降低。</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>About %1</source>
@@ -618,7 +620,7 @@ It remains at %3.</source>
         <translation>按此处选择的尺寸、帧率和速度生成 MP4 视频</translation>
     </message>
     <message id="IDD_PROGRESS_MP4">
-        <source>Making the MP4…</source>
+        <source>Generating the MP4…</source>
         <translation>正在生成 MP4…</translation>
     </message>
     <message id="IDD_MP4_NO_ENCODER">
@@ -626,8 +628,8 @@ It remains at %3.</source>
         <translation>此 ffmpeg 没有 MP4 所需的 H.264 编码器（libx264）。请安装带有该编码器的 ffmpeg，或生成 GIF 或 WebP。</translation>
     </message>
     <message id="IDD_STATUS_MP4_GAP">
-        <source>The MP4 holds %1 of %2 frames: the next one was missing.</source>
-        <translation>MP4 包含 %2 帧中的 %1 帧：下一帧缺失。</translation>
+        <source>The MP4 contains only the first %1 of %2 frames; the next one is missing.</source>
+        <translation>MP4 仅包含 %2 帧中的前 %1 帧，下一帧缺失。</translation>
     </message>
     <message id="IDD_SIZE_ABOVE">
         <source>%1 pixels at most</source>
@@ -650,11 +652,11 @@ It remains at %3.</source>
         <translation>0 表示无限循环</translation>
     </message>
     <message id="IDD_LOOPS_NOT_NUMBER">
-        <source>must be a whole number</source>
-        <translation>必须是整数</translation>
+        <source>Whole numbers only</source>
+        <translation>只能输入整数</translation>
     </message>
     <message id="IDD_LOOPS_NEGATIVE">
-        <source>must not be negative</source>
+        <source>No negative numbers</source>
         <translation>不能为负数</translation>
     </message>
     <message id="IDD_LOOPS_TOO_LARGE">
@@ -666,16 +668,16 @@ It remains at %3.</source>
         <translation>%1：%2</translation>
     </message>
     <message id="IDD_SIZE_ZERO">
-        <source>must begin with a number other than 0</source>
-        <translation>必须以非 0 的数字开头</translation>
+        <source>must be a number greater than 0</source>
+        <translation>必须是大于 0 的数字</translation>
     </message>
     <message id="IDD_SIZE_NEGATIVE">
         <source>must not be negative</source>
-        <translation>负数会被拒绝</translation>
+        <translation>不能为负数</translation>
     </message>
     <message id="IDD_SIZE_NOT_PLAIN">
-        <source>digits only, or it will be refused</source>
-        <translation>只能是数字，否则会被拒绝</translation>
+        <source>may contain digits only</source>
+        <translation>只能包含数字</translation>
     </message>
     <message id="IDD_SIZE_TOO_LARGE">
         <source>65,535 pixels at most</source>
@@ -683,7 +685,7 @@ It remains at %3.</source>
     </message>
     <message id="IDD_GIF_SUMMARY">
         <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
-        <translation>%1 帧，%2 秒，%3 帧/秒</translation>
+        <translation>%1 帧，%2&#xa0;秒，%3&#xa0;帧/秒</translation>
     </message>
 </context>
 </TS>

@@ -273,7 +273,8 @@ TEST_F(Recording, isPausedForWantOfMemoryWithTheReasonAndLosesNothing) {
     memory.available = 90000;
     delegate->TimerDebug1SecondRoutine();
     EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_PAUSE);
-    EXPECT_TRUE(delegate->ui->labelStatus->text().contains(QStringLiteral("memory")))
+    EXPECT_TRUE(delegate->ui->labelStatus->text().startsWith(
+        qtTrId("IDD_PAUSED_FOR_MEMORY").section(QLatin1Char('%'), 0, 0)))
         << qPrintable(delegate->ui->labelStatus->text());
     EXPECT_EQ(delegate->recording.array_Images->size(), frames);
 

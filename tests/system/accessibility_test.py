@@ -86,7 +86,7 @@ class Accessibility(case.Case):
         self.program.wait_for("the dialog to close", lambda: not self.program.find("dialog"))
         self.session.xdotool("key", "ctrl+shift+r")
         self.program.button("OK")
-        self.check_order(("check box", "Don't show this again"), *self.buttons("OK"))
+        self.check_order(("check box", "Don’t show this again"), *self.buttons("OK"))
 
     def test_the_other_tabs_and_an_alert(self):
         self.program.record(1)
@@ -132,14 +132,14 @@ class Accessibility(case.Case):
         self.program.wait_for("About to close", lambda: not self.program.find("alert"))
         self.program.press("Region")
         self.program.press("OK")
-        overlay = self.program.await_control("dialog", "Select a region")
+        overlay = self.program.await_control("dialog", "Select a Region")
         self.program.wait_for("the corner in hand", overlay.get_description)
         first = overlay.get_description()
         self.session.xdotool("key", "Tab")
         self.program.wait_for("another corner", lambda: overlay.get_description() != first)
         self.session.xdotool("key", "Escape")
         self.program.wait_for("the overlay to close",
-                              lambda: not self.program.find("dialog", "Select a region"))
+                              lambda: not self.program.find("dialog", "Select a Region"))
         self.program.record(1)
         self.program.enter("GIF")
         # Switched without a click, too.
@@ -147,7 +147,7 @@ class Accessibility(case.Case):
         # A text that nobody typed is an edit, too: the other field follows.
         self.program.await_control("text", "Width").set_text_contents("400")
         self.program.press("Generate GIF")
-        self.program.await_control("progress bar", "Making the GIF…")
+        self.program.await_control("progress bar", "Generating the GIF…")
         self.assertEqual(content(self.program.await_control("text", "Height")), "300")
 
 

@@ -38,7 +38,7 @@ class DesktopKeys(case.Case):
 
     def test_they_record_pause_and_stop_from_another_window_whatever_locks_are_on(self):
         program = self.start()
-        self.assertIn("From any window, with Super+Ctrl: R Record · P Pause · S Stop",
+        self.assertIn("Shortcuts in any window, with Super+Ctrl: R Record · P Pause · S Stop",
                       program.labels())
         self.press("p")  # Nothing to pause yet.
         self.press("r")
@@ -63,8 +63,8 @@ class DesktopKeys(case.Case):
     def test_for_a_key_that_another_client_has_there_is_another_and_the_user_is_told(self):
         with self.taken("p"):
             program = self.start()
-            self.assertIn("From any window, with Super+Ctrl: R Record · A Pause · S Stop"
-                          " – Taken by another program, with Super+Ctrl: P", program.labels())
+            self.assertIn("Shortcuts in any window, with Super+Ctrl: R Record · A Pause · S Stop"
+                          " – Used by another program, with Super+Ctrl: P", program.labels())
             self.press("r")
             self.press("p")
             program.recording_for(1)

@@ -82,7 +82,7 @@ class Endings(case.Case):
         program.wait_for("the field", lambda: is_enabled(width))
         width.set_text_contents("5000")
         program.press("Generate GIF")
-        program.await_control("progress bar", "Making the GIF…")
+        program.await_control("progress bar", "Generating the GIF…")
         wait_for("the encoder", (self.session.documents / "PallomarExport/output.gif").exists)
         return program
 

@@ -16,7 +16,7 @@ from driver import Program, content, search, wait_for
 PAGES = {
     "Tovarel Help": "index.html",
     "Home Page": "index.html",
-    "Maker's Page": "maker.html",
+    "About the Authors": "maker.html",
     "Privacy Policy": "privacy.html",
     "Report a Problem": "ticket.html",
 }

@@ -14,8 +14,8 @@ import counter
 from driver import BINARY, PATIENCE, Late, Program, wait_for
 from region_screen import colour, cut_out
 
-OVERLAY = "^Select a region$"
-HOW_TO = "How to select a region"
+OVERLAY = "^Select a Region$"
+HOW_TO = "How to Select a Region"
 KEY = "MACBrenmoor_Lumsey_b_Show_Select_Region_How_To"
 PICOM = ["picom", "--backend", "xrender", "--config", "/dev/null"]
 ASIDE = (800, 0)
