@@ -16,8 +16,8 @@ const QString licence = QStringLiteral("MIT");
 
 /// Which tool is used, or that none was found: the first thing to know when an export fails.
 QString toolLine(const QString &name, const QString &path) {
-    return QStringLiteral("%1: %2").arg(name,
-                                        path.isEmpty() ? qtTrId("IDD_ABOUT_TOOL_MISSING") : path);
+    return qtTrId("IDD_ABOUT_TOOL")
+        .arg(name, path.isEmpty() ? qtTrId("IDD_ABOUT_TOOL_MISSING") : path);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/export_options.h"
 #include "export/exporter.h"
+#include "shell/number_text.h"
 #include "shell/settings.h"
 
 #include <QAbstractButton>
@@ -101,9 +102,8 @@ void ExportOptions::listen() {
     ui_.labelGIFEstimate->setFont(large);
     connect(&estimator_, &SizeEstimator::unknown, ui_.labelGIFEstimate, &QLabel::clear);
     connect(&estimator_, &SizeEstimator::estimated, this, [this](quint64 bytes, bool isExact) {
-        const QString size =
-            QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
-        ui_.labelGIFEstimate->setText(isExact ? size : qtTrId("IDD_ABOUT_SIZE").arg(size));
+        ui_.labelGIFEstimate->setText((isExact ? qtTrId("IDD_GIF_SIZE") : qtTrId("IDD_ABOUT_SIZE"))
+                                          .arg(number_text::bytes(bytes)));
     });
     for (const QComboBox *list : {ui_.comboGIFFPS, ui_.comboGIFSpeed})
         connect(list, &QComboBox::currentIndexChanged, this, &ExportOptions::updateGIFSummary);

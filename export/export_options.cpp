@@ -146,17 +146,13 @@ void ExportOptions::finishEditingGIFSize() {
 
 void ExportOptions::updateGIFDimensionHint() {
     QString hint;
-    const struct {
-        QLineEdit *field;
-        const QString &name;
-    } fields[] = {{ui_.textGIFWidth, exporter_.surroundings().texts.s_IDD_WIDTH()},
-                  {ui_.textGIFHeigth, exporter_.surroundings().texts.s_IDD_HEIGHT()}};
-    for (const auto &[field, name] : fields) {
+    for (const auto &[side, field] : {std::pair(PictureSide::Width, ui_.textGIFWidth),
+                                      {PictureSide::Height, ui_.textGIFHeigth}}) {
         const QString problem =
-            field->isEnabled() ? sizeProblemText(sizeTextProblem(field->text())) : QString();
+            field->isEnabled() ? sizeProblemText(side, sizeTextProblem(field->text())) : QString();
         field->setAccessibleDescription(problem);
-        if (hint.isEmpty() && !problem.isEmpty())
-            hint = qtTrId("IDD_SIZE_HINT").arg(name, problem);
+        if (hint.isEmpty())
+            hint = problem;
     }
     ui_.labelDimensionHint->setText(hint);
     ui_.labelDimensionHint->setToolTip(hint);

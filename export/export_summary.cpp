@@ -3,46 +3,20 @@
 #include "export/export_options.h"
 #include "export/exporter.h"
 #include "export/loops_text.h"
+#include "shell/number_text.h"
 #include "shell/surroundings.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
-
-#include <cmath>
 
 using namespace frame_timing;
 
 namespace {
 
-constexpr int decimals = 1;
-
-/// A rate with a decimal, where it has one.
-QString rateText(double rate) {
-    const double tenths = std::round(rate * 10.0);
-    return QLocale().toString(tenths / 10.0, 'f', std::fmod(tenths, 10.0) == 0.0 ? 0 : decimals);
-}
-
 QString summaryOf(std::span<const TimedFrame> frames, Ticks ticks) {
-    const QLocale locale;
-    return qtTrId("IDD_GIF_SUMMARY")
-        .arg(locale.toString(qulonglong{frames.size()}),
-             locale.toString(seconds(frames, ticks), 'f', decimals), rateText(rate(frames, ticks)));
-}
-
-QString problemText(LoopsTextProblem problem) {
-    switch (problem) {
-    case LoopsTextProblem::None:
-        break;
-    case LoopsTextProblem::NotNumber:
-        return qtTrId("IDD_LOOPS_NOT_NUMBER");
-    case LoopsTextProblem::Negative:
-        return qtTrId("IDD_LOOPS_NEGATIVE");
-    case LoopsTextProblem::TooLarge:
-        return qtTrId("IDD_LOOPS_TOO_LARGE");
-    }
-    return {};
+    return qtTrId("IDD_GIF_SUMMARY", static_cast<int>(frames.size()))
+        .arg(number_text::decimal(seconds(frames, ticks)), number_text::rate(rate(frames, ticks)));
 }
 
 } // namespace
@@ -64,14 +38,15 @@ void ExportOptions::updateGIFSummary() {
         ui_.labelGIFThinned->setText(qtTrId("IDD_GIF_THINNED"));
         // The WebP is thinned later, if at all.
         const std::vector<TimedFrame> webp = timedFrames(request, webpTicks);
-        summary = QStringLiteral("GIF: ") + summary + QStringLiteral(" · WebP: ") +
-                  summaryOf(webp, webpTicks);
+        summary = qtTrId("IDD_GIF_WEBP_SUMMARY").arg(summary, summaryOf(webp, webpTicks));
     }
     ui_.labelGIFSummary->setText(summary);
 }
 
 void ExportOptions::updateWebPLoopsHint() {
-    const QString problem = problemText(loopsTextProblem(ui_.txtWebPLoops->text()));
+    const bool isWrong = loopsTextProblem(ui_.txtWebPLoops->text()) != LoopsTextProblem::None;
+    const QString problem =
+        isWrong ? qtTrId("IDD_LOOPS_RANGE").arg(number_text::count(mostLoops)) : QString();
     ui_.txtWebPLoops->setAccessibleDescription(problem);
     const QString hint = problem.isEmpty() ? qtTrId("IDD_WEBP_LOOPS_HINT") : problem;
     ui_.labelWebPLoopsHint->setText(hint);

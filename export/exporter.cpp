@@ -5,19 +5,16 @@
 #include "export/size_text.h"
 #include "platform/text_number.h"
 #include "record/recorder.h"
+#include "shell/number_text.h"
 #include "shell/surroundings.h"
 #include "shell/working_folders.h"
 #include "trim/trim_editor.h"
 
 #include <QImageReader>
-#include <QLocale>
 
 namespace {
 
 constexpr std::uint64_t fewestFrames = 3; // fewer are no moving picture
-
-// GIF89a, 18 (Logical Screen Descriptor): 16 bits each.
-constexpr int longestGIFSide = 65535; // pixels
 
 constexpr std::uint64_t partOfMemory = 2; // of what is free: half may be taken
 
@@ -59,17 +56,13 @@ std::optional<QString> Exporter::refusal(const ExportChoices &choices) const {
 }
 
 std::optional<QString> Exporter::sizeRefusal(const ExportChoices &choices, int longestSide) const {
-    const struct {
-        const QString &typed;
-        const QString &name;
-    } fields[] = {{choices.width, surroundings_.texts.s_IDD_WIDTH()},
-                  {choices.height, surroundings_.texts.s_IDD_HEIGHT()}};
-    for (const auto &[typed, name] : fields) {
-        QString problem = sizeProblemText(sizeTextProblem(typed));
-        if (problem.isEmpty() && integerValue(typed) > longestSide)
-            problem = qtTrId("IDD_SIZE_ABOVE").arg(QLocale().toString(longestSide));
-        if (!problem.isEmpty())
-            return qtTrId("IDD_SIZE_HINT").arg(name, problem);
+    for (const auto &[side, typed] :
+         {std::pair(PictureSide::Width, &choices.width), {PictureSide::Height, &choices.height}}) {
+        SizeTextProblem problem = sizeTextProblem(*typed);
+        if (problem == SizeTextProblem::None && integerValue(*typed) > longestSide)
+            problem = SizeTextProblem::TooLarge;
+        if (problem != SizeTextProblem::None)
+            return sizeProblemText(side, problem, longestSide);
     }
     return std::nullopt;
 }
@@ -90,11 +83,7 @@ std::optional<QString> Exporter::GIFSizeRefusal(const ExportChoices &choices) co
     const std::uint64_t limit = memory->available / partOfMemory;
     if (needed <= limit)
         return std::nullopt;
-    const QLocale locale;
-    const auto amount = [&locale](std::uint64_t bytes) {
-        return locale.formattedDataSize(static_cast<qint64>(bytes));
-    };
     return qtTrId("IDD_GIF_TOO_LARGE")
-        .arg(QString::number(size.width()), QString::number(size.height()), amount(needed),
-             amount(limit));
+        .arg(QString::number(size.width()), QString::number(size.height()),
+             number_text::bytes(needed), number_text::bytes(limit));
 }

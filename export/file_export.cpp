@@ -4,9 +4,8 @@
 #include "export/exporter.h"
 #include "export/save_request.h"
 #include "export/staging.h"
+#include "shell/number_text.h"
 #include "shell/surroundings.h"
-
-#include <QLocale>
 
 void Exporter::makeFile(const FileFormat &format) {
     if (!mayExport())
@@ -30,10 +29,8 @@ void Exporter::makeFile(const FileFormat &format) {
         return;
     QString note;
     if (frames.size() < wanted.size()) {
-        const QLocale locale;
-        note = qtTrId(format.gap)
-                   .arg(locale.toString(qulonglong{frames.size()}),
-                        locale.toString(qulonglong{wanted.size()}));
+        note = qtTrId(format.gap, static_cast<int>(wanted.size()))
+                   .arg(number_text::count(frames.size()));
         surroundings_.showStatus(note);
     }
     saveResult({.file = format.file,

@@ -17,8 +17,9 @@ FitLimit fitLimitOf(QStringView text) {
     text = text.trimmed();
     if (text.isEmpty())
         return {};
-    if (text.endsWith(QLatin1String("MB"), Qt::CaseInsensitive))
-        text = text.chopped(2).trimmed();
+    for (const QLatin1String unit : {QLatin1String("MB"), QLatin1String("Mo")}) // octets in French
+        if (text.endsWith(unit, Qt::CaseInsensitive))
+            text = text.chopped(unit.size()).trimmed();
     bool isNumber = false;
     double number = QLocale().toDouble(text, &isNumber);
     if (!isNumber)

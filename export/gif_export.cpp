@@ -11,11 +11,11 @@
 #include "export/save_request.h"
 #include "platform/text_number.h"
 #include "record/recorder.h"
+#include "shell/number_text.h"
 #include "shell/surroundings.h"
 #include "shell/working_folders.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -29,10 +29,9 @@ constexpr double barSteps = 1000; // that the bar is moved in, at most
 
 /// What there is to say about the finished GIF, beside its place.
 QString noteAbout(const MadeGif &made, std::size_t wanted) {
-    const QLocale locale;
     if (made.frames < wanted)
-        return qtTrId("IDD_STATUS_GAP")
-            .arg(locale.toString(qulonglong{made.frames}), locale.toString(qulonglong{wanted}));
+        return qtTrId("IDD_STATUS_GAP", static_cast<int>(wanted))
+            .arg(number_text::count(made.frames));
     return made.moves ? QString() : qtTrId("IDD_STATUS_STILL");
 }
 

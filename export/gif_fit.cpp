@@ -7,10 +7,10 @@
 #include "export/gif_plan.h"
 #include "export/made_gif.h"
 #include "platform/text_number.h"
+#include "shell/number_text.h"
 #include "shell/surroundings.h"
 
 #include <QFile>
-#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -26,10 +26,6 @@ struct FittingGif {
 namespace {
 
 constexpr double sameRate = 0.999; // of another, but for rounding
-
-QString amount(std::uint64_t bytes) {
-    return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
-}
 
 /// The choices with what is given up.
 ExportChoices lowered(const ExportChoices &asked, const FitChoice &from, const FitChoice &to) {
@@ -51,10 +47,10 @@ QString noteAbout(const FittingGif &best, const FitChoice &asked, std::uint64_t 
     if (best.choice == asked)
         return {};
     if (best.choice.scale == 1.0 && best.choice.rate >= asked.rate * sameRate)
-        return qtTrId("IDD_STATUS_FITTED_COLORS").arg(amount(limit));
+        return qtTrId("IDD_STATUS_FITTED_COLORS").arg(number_text::bytes(limit));
     return qtTrId("IDD_STATUS_FITTED")
-        .arg(amount(limit), QString::number(best.size.width()), QString::number(best.size.height()),
-             QLocale().toString(best.choice.rate, 'f', 1));
+        .arg(number_text::bytes(limit), QString::number(best.size.width()),
+             QString::number(best.size.height()), number_text::rate(best.choice.rate));
 }
 
 } // namespace
@@ -116,18 +112,20 @@ MadeGif Exporter::makeFittingGIF(const ExportChoices &choices, bool mayLowerChos
         best.made.needsLowering = true;
     else
         best.made.failure =
-            qtTrId("IDD_FIT_IMPOSSIBLE").arg(amount(*choices.limit.bytes), amount(best.smallest));
+            qtTrId("IDD_FIT_IMPOSSIBLE")
+                .arg(number_text::bytes(*choices.limit.bytes), number_text::bytes(best.smallest));
     return best.made;
 }
 
 void Exporter::askToLower(const ExportChoices &choices) {
-    surroundings_.alerts.ask({.message = qtTrId("IDD_FIT_ASK").arg(amount(*choices.limit.bytes)),
-                              .detail = qtTrId("IDD_FIT_ASK_DETAIL"),
-                              .accept = qtTrId("IDD_FIT_KEEP"),
-                              .destroy = qtTrId("IDD_FIT_LOWER"),
-                              .cancel = {}},
-                             [this](Answer answer) {
-                                 if (answer == Answer::Destroy)
-                                     generateGIF(true);
-                             });
+    surroundings_.alerts.ask(
+        {.message = qtTrId("IDD_FIT_ASK").arg(number_text::bytes(*choices.limit.bytes)),
+         .detail = qtTrId("IDD_FIT_ASK_DETAIL"),
+         .accept = qtTrId("IDD_FIT_KEEP"),
+         .destroy = qtTrId("IDD_FIT_LOWER"),
+         .cancel = {}},
+        [this](Answer answer) {
+            if (answer == Answer::Destroy)
+                generateGIF(true);
+        });
 }

@@ -4,12 +4,7 @@
 
 #include "platform/text_number.h"
 
-#include <cstdint>
-
 namespace {
-
-/// WebP container, ANIM chunk: the loop count has 16 bits.
-constexpr std::int64_t mostLoops = 65535;
 
 /// The reading of numbers answers 0 to a text without one, too.
 bool beginsWithZero(QStringView text) {

@@ -4,6 +4,11 @@
 
 #include <QStringView>
 
+#include <cstdint>
+
+/// WebP container, ANIM chunk: the loop count has 16 bits.
+inline constexpr std::int64_t mostLoops = 65535;
+
 /// What is wrong with the text of the loop field. The field takes anything; the export reads the
 /// number that the text begins with, and the encoder judges that.
 enum class LoopsTextProblem {

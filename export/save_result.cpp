@@ -4,13 +4,13 @@
 #include "export/preset_name.h"
 #include "export/safe_move.h"
 #include "export/save_request.h"
+#include "shell/number_text.h"
 #include "shell/settings.h"
 #include "shell/surroundings.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLocale>
 #include <QMainWindow>
 #include <QStandardPaths>
 
@@ -84,10 +84,10 @@ void Exporter::chooseResultsPlace() {
     forgetResult();
     const QFileInfo saved(path);
     settings::writeLastSaveFolder(saved.absolutePath());
-    const QString size = QLocale().formattedDataSize(saved.size(), 1, QLocale::DataSizeSIFormat);
-    QString status = qtTrId("IDD_STATUS_SAVED").arg(path, size);
-    if (!request.note.isEmpty())
-        status += QLatin1Char(' ') + request.note;
+    const QString size = number_text::bytes(static_cast<std::uint64_t>(saved.size()));
+    const QString status = request.note.isEmpty()
+                               ? qtTrId("IDD_STATUS_SAVED").arg(path, size)
+                               : qtTrId("IDD_STATUS_SAVED_NOTE").arg(path, size, request.note);
     surroundings_.showStatus(status);
     surroundings_.alerts.run(AlertKind::Success, request.successText, status);
 }

@@ -3,13 +3,11 @@
 #include "export/size_text.h"
 
 #include "platform/text_number.h"
+#include "shell/number_text.h"
 
 #include <algorithm>
 
 namespace {
-
-/// GIF89a, 18 (Logical Screen Descriptor): width and height are 16 bits each.
-constexpr std::int64_t longestSide = 65535; // pixels
 
 bool isPlainNumber(QStringView text) {
     // The encoder skips blanks in front and takes a plus sign, like the reading above it.
@@ -31,21 +29,23 @@ SizeTextProblem sizeTextProblem(QStringView text) {
         return SizeTextProblem::Negative;
     if (!isPlainNumber(text))
         return SizeTextProblem::NotPlain;
-    return value > longestSide ? SizeTextProblem::TooLarge : SizeTextProblem::None;
+    return value > longestGIFSide ? SizeTextProblem::TooLarge : SizeTextProblem::None;
 }
 
-QString sizeProblemText(SizeTextProblem problem) {
+QString sizeProblemText(PictureSide side, SizeTextProblem problem, std::int64_t longest) {
+    const bool isWidth = side == PictureSide::Width;
     switch (problem) {
     case SizeTextProblem::None:
         break;
     case SizeTextProblem::Zero:
-        return qtTrId("IDD_SIZE_ZERO");
+        return isWidth ? qtTrId("IDD_WIDTH_ZERO") : qtTrId("IDD_HEIGHT_ZERO");
     case SizeTextProblem::Negative:
-        return qtTrId("IDD_SIZE_NEGATIVE");
+        return isWidth ? qtTrId("IDD_WIDTH_NEGATIVE") : qtTrId("IDD_HEIGHT_NEGATIVE");
     case SizeTextProblem::NotPlain:
-        return qtTrId("IDD_SIZE_NOT_PLAIN");
+        return isWidth ? qtTrId("IDD_WIDTH_NOT_PLAIN") : qtTrId("IDD_HEIGHT_NOT_PLAIN");
     case SizeTextProblem::TooLarge:
-        return qtTrId("IDD_SIZE_TOO_LARGE");
+        return (isWidth ? qtTrId("IDD_WIDTH_TOO_LARGE") : qtTrId("IDD_HEIGHT_TOO_LARGE"))
+            .arg(number_text::count(static_cast<std::uint64_t>(longest)));
     }
     return {};
 }

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "record/recorder.h"
 #include "region/region_chooser.h"
+#include "shell/number_text.h"
 #include "shell/surroundings.h"
-
-#include <QLocale>
 
 #include <algorithm>
 #include <optional>
@@ -37,12 +36,11 @@ void Recorder::showRecordingState() {
     // No rate is shown before there is one.
     const QString rate = counts.storedFrames == 0
                              ? QStringLiteral("–")
-                             : QString::number(shownRate(measuredRate(counts, recording.u_FPS())));
+                             : number_text::rate(measuredRate(counts, recording.u_FPS()));
     QString text = qtTrId("IDD_RECORDING_FIGURES")
                        .arg(minutesAndSeconds(counts.passedSeconds),
-                            QString::number(counts.storedFrames), rate);
-    const QString held =
-        QLocale().formattedDataSize(static_cast<qint64>(recording.store.bytesHeld()), 1);
+                            number_text::count(counts.storedFrames), rate);
+    const QString held = number_text::bytes(recording.store.bytesHeld());
     const auto memory = recording.memory();
     const auto left =
         memory ? recording.budget.secondsLeft(*memory, recording.growth) : std::optional<double>();
@@ -66,8 +64,7 @@ void Recorder::watchMemory() {
     }
     OnRecordPause();
     surroundings_.showStatus(
-        qtTrId("IDD_PAUSED_FOR_MEMORY")
-            .arg(QLocale().formattedDataSize(static_cast<qint64>(memory->available), 1)));
+        qtTrId("IDD_PAUSED_FOR_MEMORY").arg(number_text::bytes(memory->available)));
 }
 
 void Recorder::updateCaptureMode() {

@@ -4,6 +4,7 @@
 #include "record/log.h"
 #include "record/recorder.h"
 #include "record/recording_loader.h"
+#include "shell/number_text.h"
 #include "shell/surroundings.h"
 #include "shell/working_folders.h"
 
@@ -42,14 +43,12 @@ void Recorder::forgetRecording() {
 }
 
 void Recorder::offerRecording(const RecordingNote &note) {
-    const QLocale locale;
     const QDateTime saved =
         QFileInfo(left_recording::noteFile(surroundings_.shell.s_Output_Folder())).lastModified();
     surroundings_.alerts.ask({.message = qtTrId("IDD_RECOVER_QUESTION"),
-                              .detail = qtTrId("IDD_RECOVER_DETAIL")
-                                            .arg(locale.toString(saved, QLocale::ShortFormat),
-                                                 locale.toString(qulonglong{note.frames}),
-                                                 locale.toString(note.seconds, 'f', 1)),
+                              .detail = qtTrId("IDD_RECOVER_DETAIL", static_cast<int>(note.frames))
+                                            .arg(QLocale().toString(saved, QLocale::ShortFormat),
+                                                 number_text::decimal(note.seconds)),
                               .accept = qtTrId("IDD_RECOVER_OPEN"),
                               .destroy = qtTrId("IDD_RECOVER_DELETE"),
                               .cancel = {}},
@@ -97,5 +96,6 @@ void Recorder::takeRecording(std::vector<Image> frames, const RecordingNote &not
     recording.setU_number_of_seconds(0);
     recording.clock = clockThatCounted(note.seconds);
     surroundings_.showStatus(
-        qtTrId("IDD_RECORDING_SAVED").arg(note.frames).arg(recording.u_Record_Current_FPS()));
+        qtTrId("IDD_RECORDING_SAVED")
+            .arg(number_text::count(note.frames), number_text::rate(note.rate)));
 }

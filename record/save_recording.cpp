@@ -3,6 +3,7 @@
 #include "record/log.h"
 #include "record/recorder.h"
 #include "record/save/frame_saver.h"
+#include "shell/number_text.h"
 #include "shell/surroundings.h"
 #include "shell/working_folders.h"
 
@@ -58,19 +59,17 @@ void Recorder::frameReported(std::uint64_t done) {
 void Recorder::showSaveResult(const FrameSaver &saver) {
     if (saver.missing() == 0) {
         noteRecording();
-        QString text =
-            qtTrId("IDD_RECORDING_SAVED").arg(saver.count()).arg(recording.u_Record_Current_FPS());
-        if (fellBehind(recordingCounts(), recording.u_FPS()))
-            text = qtTrId("IDD_RECORDING_BEHIND")
-                       .arg(saver.count())
-                       .arg(recording.u_FPS())
-                       .arg(recording.u_Record_Current_FPS());
-        surroundings_.showStatus(text);
+        const QString frames = number_text::count(saver.count());
+        const QString rate = number_text::rate(recording.exactRate());
+        surroundings_.showStatus(fellBehind(recordingCounts(), recording.u_FPS())
+                                     ? qtTrId("IDD_RECORDING_BEHIND")
+                                           .arg(frames, QString::number(recording.u_FPS()), rate)
+                                     : qtTrId("IDD_RECORDING_SAVED").arg(frames, rate));
         return;
     }
     const QString text =
-        qtTrId("IDD_FRAMES_MISSING")
-            .arg(QString::number(saver.missing()), QString::number(saver.count()),
+        qtTrId("IDD_FRAMES_MISSING", static_cast<int>(saver.count()))
+            .arg(number_text::count(saver.missing()),
                  QDir::toNativeSeparators(surroundings_.shell.s_Output_Folder()), saver.reason());
     qCWarning(logRecord).noquote() << text;
     surroundings_.showStatus(text);

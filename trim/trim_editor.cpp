@@ -3,9 +3,8 @@
 #include "trim/trim_editor.h"
 
 #include "record/recorder.h"
+#include "shell/number_text.h"
 #include "shell/surroundings.h"
-
-#include <QLocale>
 
 namespace {
 
@@ -16,14 +15,13 @@ QString textOfKept(std::optional<range_rules::Kept> kept, double rate) {
     if (!kept)
         return qtTrId("IDD_RANGE_EMPTY");
     const QString seconds =
-        QLocale().toString(static_cast<double>(kept->count()) / rate, 'f', secondsDecimals);
+        number_text::decimal(static_cast<double>(kept->count()) / rate, secondsDecimals);
+    // People count from 1.
+    const QString first = number_text::count(kept->first + 1);
     if (kept->count() == 1)
-        return qtTrId("IDD_RANGE_ONE").arg(kept->first).arg(seconds);
-    return qtTrId("IDD_RANGE_HOLDS")
-        .arg(kept->first)
-        .arg(kept->last)
-        .arg(kept->count())
-        .arg(seconds);
+        return qtTrId("IDD_RANGE_ONE").arg(first, seconds);
+    return qtTrId("IDD_RANGE_HOLDS", static_cast<int>(kept->count()))
+        .arg(first, number_text::count(kept->last + 1), seconds);
 }
 
 } // namespace

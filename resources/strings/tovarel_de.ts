@@ -158,6 +158,10 @@
         <source>Tools in use:</source>
         <translation>Verwendete Werkzeuge:</translation>
     </message>
+    <message id="IDD_ABOUT_TOOL">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
     <message id="IDD_ABOUT_TOOL_MISSING">
         <source>not found</source>
         <translation>nicht gefunden</translation>
@@ -221,8 +225,8 @@
         <translation>%1 · Bilder: %2 · %3&#xa0;fps</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Memory is running out (%1 left). Stop saves what has been recorded.</source>
-        <translation>Arbeitsspeicher fast voll (noch %1 frei). „Stopp“ speichert die Aufnahme.</translation>
+        <source>Memory is running out (%1 left). Stop saves the recording.</source>
+        <translation>Arbeitsspeicher fast voll (%1 frei). Mit „Stopp“ speichern.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
@@ -244,9 +248,12 @@
         <source>Nothing was recorded.</source>
         <translation>Es wurde nichts aufgenommen.</translation>
     </message>
-    <message id="IDD_FRAMES_MISSING">
-        <source>%1 of %2 frames could not be written to %3: %4</source>
-        <translation>Nicht nach %3 geschrieben: %1 von %2 Bildern (%4)</translation>
+    <message id="IDD_FRAMES_MISSING" numerus="yes">
+        <source>%1 of %Ln frames could not be written to %2: %3</source>
+        <translation>
+            <numerusform>Nicht nach %2 geschrieben: %1 von %Ln Bild (%3)</numerusform>
+            <numerusform>Nicht nach %2 geschrieben: %1 von %Ln Bildern (%3)</numerusform>
+        </translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
@@ -256,9 +263,12 @@
         <source>An earlier recording is still there.</source>
         <translation>Eine frühere Aufnahme ist noch vorhanden.</translation>
     </message>
-    <message id="IDD_RECOVER_DETAIL">
-        <source>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</source>
-        <translation>Tovarel wurde nicht ordnungsgemäß beendet. Die Aufnahme vom %1 ist vollständig: %2 Bilder, %3&#xa0;s. Sie können sie im Reiter „Schneiden“ öffnen oder löschen.</translation>
+    <message id="IDD_RECOVER_DETAIL" numerus="yes">
+        <source>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <translation>
+            <numerusform>Tovarel wurde nicht ordnungsgemäß beendet. Die Aufnahme vom %1 ist vollständig: %Ln Bild, %2&#xa0;s. Sie können sie im Reiter „Schneiden“ öffnen oder löschen.</numerusform>
+            <numerusform>Tovarel wurde nicht ordnungsgemäß beendet. Die Aufnahme vom %1 ist vollständig: %Ln Bilder, %2&#xa0;s. Sie können sie im Reiter „Schneiden“ öffnen oder löschen.</numerusform>
+        </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
         <source>Open</source>
@@ -366,9 +376,12 @@
         <source>Last frame</source>
         <translation>Letztes Bild</translation>
     </message>
-    <message id="IDD_RANGE_HOLDS">
-        <source>Frames %1 to %2: %3 frames, %4&#xa0;s</source>
-        <translation>Bilder %1 bis %2: %3 Bilder, %4&#xa0;s</translation>
+    <message id="IDD_RANGE_HOLDS" numerus="yes">
+        <source>Frames %1 to %2: %Ln frames, %3&#xa0;s</source>
+        <translation>
+            <numerusform>Bilder %1 bis %2: %Ln Bild, %3&#xa0;s</numerusform>
+            <numerusform>Bilder %1 bis %2: %Ln Bilder, %3&#xa0;s</numerusform>
+        </translation>
     </message>
     <message id="IDD_RANGE_ONE">
         <source>Frame %1 only, %2&#xa0;s</source>
@@ -487,6 +500,10 @@ Sie liegt weiterhin unter %3.</translation>
         <source>Saved: %1 (%2).</source>
         <translation>Gespeichert: %1 (%2).</translation>
     </message>
+    <message id="IDD_STATUS_SAVED_NOTE">
+        <source>Saved: %1 (%2). %3</source>
+        <translation>Gespeichert: %1 (%2). %3</translation>
+    </message>
     <message id="IDD_STATUS_UNSAVED">
         <source>The %1 has not been saved, but it is still there.</source>
         <translation>Das %1 ist nicht gespeichert, aber noch vorhanden.</translation>
@@ -507,13 +524,19 @@ Sie liegt weiterhin unter %3.</translation>
         <source>Discard</source>
         <translation>Verwerfen</translation>
     </message>
-    <message id="IDD_STATUS_GAP">
-        <source>The GIF contains only %1 of %2 frames; the rest are missing.</source>
-        <translation>Das GIF enthält nur %1 von %2 Bildern; der Rest fehlte.</translation>
+    <message id="IDD_STATUS_GAP" numerus="yes">
+        <source>The GIF contains only %1 of %Ln frames; the rest are missing.</source>
+        <translation>
+            <numerusform>Das GIF enthält nur %1 von %Ln Bild; der Rest fehlte.</numerusform>
+            <numerusform>Das GIF enthält nur %1 von %Ln Bildern; der Rest fehlte.</numerusform>
+        </translation>
     </message>
-    <message id="IDD_STATUS_WEBP_GAP">
-        <source>The WebP contains only the first %1 of %2 frames; the next one is missing.</source>
-        <translation>Das WebP enthält nur %1 von %2 Bildern; das nächste fehlte.</translation>
+    <message id="IDD_STATUS_WEBP_GAP" numerus="yes">
+        <source>The WebP contains only the first %1 of %Ln frames; the next one is missing.</source>
+        <translation>
+            <numerusform>Das WebP enthält nur %1 von %Ln Bild; das nächste fehlte.</numerusform>
+            <numerusform>Das WebP enthält nur %1 von %Ln Bildern; das nächste fehlte.</numerusform>
+        </translation>
     </message>
     <message id="IDD_STATUS_STILL">
         <source>The GIF does not move: all its frames are the same.</source>
@@ -600,8 +623,12 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Für höchstens %1 hat das GIF weniger genaue Farben.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
-        <source>About %1</source>
-        <translation>Etwa %1</translation>
+        <source>GIF: about %1</source>
+        <translation>GIF: etwa %1</translation>
+    </message>
+    <message id="IDD_GIF_SIZE">
+        <source>GIF: %1</source>
+        <translation>GIF: %1</translation>
     </message>
     <message id="IDD_PERCENT">
         <source>%1%</source>
@@ -627,13 +654,12 @@ Sie liegt weiterhin unter %3.</translation>
         <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>
         <translation>Diesem ffmpeg fehlt der H.264-Encoder (libx264), den ein MP4 braucht. Installieren Sie ein ffmpeg, das ihn hat, oder erzeugen Sie ein GIF oder WebP.</translation>
     </message>
-    <message id="IDD_STATUS_MP4_GAP">
-        <source>The MP4 contains only the first %1 of %2 frames; the next one is missing.</source>
-        <translation>Das MP4 enthält nur %1 von %2 Bildern; das nächste fehlte.</translation>
-    </message>
-    <message id="IDD_SIZE_ABOVE">
-        <source>%1 pixels at most</source>
-        <translation>höchstens %1 Pixel</translation>
+    <message id="IDD_STATUS_MP4_GAP" numerus="yes">
+        <source>The MP4 contains only the first %1 of %Ln frames; the next one is missing.</source>
+        <translation>
+            <numerusform>Das MP4 enthält nur %1 von %Ln Bild; das nächste fehlte.</numerusform>
+            <numerusform>Das MP4 enthält nur %1 von %Ln Bildern; das nächste fehlte.</numerusform>
+        </translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
@@ -651,41 +677,52 @@ Sie liegt weiterhin unter %3.</translation>
         <source>0 = loop forever</source>
         <translation>0 = endlos</translation>
     </message>
-    <message id="IDD_LOOPS_NOT_NUMBER">
-        <source>Whole numbers only</source>
-        <translation>Nur ganze Zahlen</translation>
+    <message id="IDD_LOOPS_RANGE">
+        <source>0 to %1</source>
+        <translation>0 bis %1</translation>
     </message>
-    <message id="IDD_LOOPS_NEGATIVE">
-        <source>No negative numbers</source>
-        <translation>Keine negativen Zahlen</translation>
+    <message id="IDD_WIDTH_ZERO">
+        <source>The width must be a number greater than 0.</source>
+        <translation>Die Breite muss eine Zahl größer als 0 sein.</translation>
     </message>
-    <message id="IDD_LOOPS_TOO_LARGE">
-        <source>65,535 at most</source>
-        <translation>höchstens 65.535</translation>
+    <message id="IDD_WIDTH_NEGATIVE">
+        <source>The width must not be negative.</source>
+        <translation>Die Breite darf nicht negativ sein.</translation>
     </message>
-    <message id="IDD_SIZE_HINT">
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
+    <message id="IDD_WIDTH_NOT_PLAIN">
+        <source>The width may contain digits only.</source>
+        <translation>Die Breite darf nur Ziffern enthalten.</translation>
     </message>
-    <message id="IDD_SIZE_ZERO">
-        <source>must be a number greater than 0</source>
-        <translation>muss eine Zahl größer als 0 sein</translation>
+    <message id="IDD_WIDTH_TOO_LARGE">
+        <source>The width can be %1 pixels at most.</source>
+        <translation>Die Breite darf höchstens %1 Pixel betragen.</translation>
     </message>
-    <message id="IDD_SIZE_NEGATIVE">
-        <source>must not be negative</source>
-        <translation>darf nicht negativ sein</translation>
+    <message id="IDD_HEIGHT_ZERO">
+        <source>The height must be a number greater than 0.</source>
+        <translation>Die Höhe muss eine Zahl größer als 0 sein.</translation>
     </message>
-    <message id="IDD_SIZE_NOT_PLAIN">
-        <source>may contain digits only</source>
-        <translation>darf nur Ziffern enthalten</translation>
+    <message id="IDD_HEIGHT_NEGATIVE">
+        <source>The height must not be negative.</source>
+        <translation>Die Höhe darf nicht negativ sein.</translation>
     </message>
-    <message id="IDD_SIZE_TOO_LARGE">
-        <source>65,535 pixels at most</source>
-        <translation>höchstens 65.535 Pixel</translation>
+    <message id="IDD_HEIGHT_NOT_PLAIN">
+        <source>The height may contain digits only.</source>
+        <translation>Die Höhe darf nur Ziffern enthalten.</translation>
     </message>
-    <message id="IDD_GIF_SUMMARY">
-        <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
-        <translation>%1 Bilder, %2&#xa0;s bei %3&#xa0;fps</translation>
+    <message id="IDD_HEIGHT_TOO_LARGE">
+        <source>The height can be %1 pixels at most.</source>
+        <translation>Die Höhe darf höchstens %1 Pixel betragen.</translation>
+    </message>
+    <message id="IDD_GIF_SUMMARY" numerus="yes">
+        <source>%Ln frames, %1&#xa0;s at %2&#xa0;fps</source>
+        <translation>
+            <numerusform>%Ln Bild, %1&#xa0;s bei %2&#xa0;fps</numerusform>
+            <numerusform>%Ln Bilder, %1&#xa0;s bei %2&#xa0;fps</numerusform>
+        </translation>
+    </message>
+    <message id="IDD_GIF_WEBP_SUMMARY">
+        <source>GIF: %1 · WebP: %2</source>
+        <translation>GIF: %1 · WebP: %2</translation>
     </message>
 </context>
 </TS>

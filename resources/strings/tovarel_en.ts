@@ -158,6 +158,10 @@
         <source>Tools in use:</source>
         <translation>Tools in use:</translation>
     </message>
+    <message id="IDD_ABOUT_TOOL">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
     <message id="IDD_ABOUT_TOOL_MISSING">
         <source>not found</source>
         <translation>not found</translation>
@@ -221,8 +225,8 @@
         <translation>%1 · Frames: %2 · %3&#xa0;fps</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Memory is running out (%1 left). Stop saves what has been recorded.</source>
-        <translation>Memory is running out (%1 left). Stop saves what has been recorded.</translation>
+        <source>Memory is running out (%1 left). Stop saves the recording.</source>
+        <translation>Memory is running out (%1 left). Stop saves the recording.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
@@ -244,9 +248,12 @@
         <source>Nothing was recorded.</source>
         <translation>Nothing was recorded.</translation>
     </message>
-    <message id="IDD_FRAMES_MISSING">
-        <source>%1 of %2 frames could not be written to %3: %4</source>
-        <translation>%1 of %2 frames could not be written to %3: %4</translation>
+    <message id="IDD_FRAMES_MISSING" numerus="yes">
+        <source>%1 of %Ln frames could not be written to %2: %3</source>
+        <translation>
+            <numerusform>%1 of %Ln frame could not be written to %2: %3</numerusform>
+            <numerusform>%1 of %Ln frames could not be written to %2: %3</numerusform>
+        </translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
@@ -256,9 +263,12 @@
         <source>An earlier recording is still there.</source>
         <translation>An earlier recording is still there.</translation>
     </message>
-    <message id="IDD_RECOVER_DETAIL">
-        <source>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</source>
-        <translation>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</translation>
+    <message id="IDD_RECOVER_DETAIL" numerus="yes">
+        <source>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <translation>
+            <numerusform>Tovarel was not closed properly. The recording of %1 is complete: %Ln frame, %2&#xa0;s. You can open it on the Cut tab or delete it.</numerusform>
+            <numerusform>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</numerusform>
+        </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
         <source>Open</source>
@@ -366,9 +376,12 @@
         <source>Last frame</source>
         <translation>Last frame</translation>
     </message>
-    <message id="IDD_RANGE_HOLDS">
-        <source>Frames %1 to %2: %3 frames, %4&#xa0;s</source>
-        <translation>Frames %1 to %2: %3 frames, %4&#xa0;s</translation>
+    <message id="IDD_RANGE_HOLDS" numerus="yes">
+        <source>Frames %1 to %2: %Ln frames, %3&#xa0;s</source>
+        <translation>
+            <numerusform>Frames %1 to %2: %Ln frame, %3&#xa0;s</numerusform>
+            <numerusform>Frames %1 to %2: %Ln frames, %3&#xa0;s</numerusform>
+        </translation>
     </message>
     <message id="IDD_RANGE_ONE">
         <source>Frame %1 only, %2&#xa0;s</source>
@@ -487,6 +500,10 @@ It is still at %3.</translation>
         <source>Saved: %1 (%2).</source>
         <translation>Saved: %1 (%2).</translation>
     </message>
+    <message id="IDD_STATUS_SAVED_NOTE">
+        <source>Saved: %1 (%2). %3</source>
+        <translation>Saved: %1 (%2). %3</translation>
+    </message>
     <message id="IDD_STATUS_UNSAVED">
         <source>The %1 has not been saved, but it is still there.</source>
         <translation>The %1 has not been saved, but it is still there.</translation>
@@ -507,13 +524,19 @@ It is still at %3.</translation>
         <source>Discard</source>
         <translation>Discard</translation>
     </message>
-    <message id="IDD_STATUS_GAP">
-        <source>The GIF contains only %1 of %2 frames; the rest are missing.</source>
-        <translation>The GIF contains only %1 of %2 frames; the rest are missing.</translation>
+    <message id="IDD_STATUS_GAP" numerus="yes">
+        <source>The GIF contains only %1 of %Ln frames; the rest are missing.</source>
+        <translation>
+            <numerusform>The GIF contains only %1 of %Ln frame; the rest are missing.</numerusform>
+            <numerusform>The GIF contains only %1 of %Ln frames; the rest are missing.</numerusform>
+        </translation>
     </message>
-    <message id="IDD_STATUS_WEBP_GAP">
-        <source>The WebP contains only the first %1 of %2 frames; the next one is missing.</source>
-        <translation>The WebP contains only the first %1 of %2 frames; the next one is missing.</translation>
+    <message id="IDD_STATUS_WEBP_GAP" numerus="yes">
+        <source>The WebP contains only the first %1 of %Ln frames; the next one is missing.</source>
+        <translation>
+            <numerusform>The WebP contains only the first %1 of %Ln frame; the next one is missing.</numerusform>
+            <numerusform>The WebP contains only the first %1 of %Ln frames; the next one is missing.</numerusform>
+        </translation>
     </message>
     <message id="IDD_STATUS_STILL">
         <source>The GIF does not move: all its frames are the same.</source>
@@ -600,8 +623,12 @@ It is still at %3.</translation>
         <translation>To fit under %1, the GIF has less exact colors.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
-        <source>About %1</source>
-        <translation>About %1</translation>
+        <source>GIF: about %1</source>
+        <translation>GIF: about %1</translation>
+    </message>
+    <message id="IDD_GIF_SIZE">
+        <source>GIF: %1</source>
+        <translation>GIF: %1</translation>
     </message>
     <message id="IDD_PERCENT">
         <source>%1%</source>
@@ -627,13 +654,12 @@ It is still at %3.</translation>
         <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>
         <translation>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</translation>
     </message>
-    <message id="IDD_STATUS_MP4_GAP">
-        <source>The MP4 contains only the first %1 of %2 frames; the next one is missing.</source>
-        <translation>The MP4 contains only the first %1 of %2 frames; the next one is missing.</translation>
-    </message>
-    <message id="IDD_SIZE_ABOVE">
-        <source>%1 pixels at most</source>
-        <translation>%1 pixels at most</translation>
+    <message id="IDD_STATUS_MP4_GAP" numerus="yes">
+        <source>The MP4 contains only the first %1 of %Ln frames; the next one is missing.</source>
+        <translation>
+            <numerusform>The MP4 contains only the first %1 of %Ln frame; the next one is missing.</numerusform>
+            <numerusform>The MP4 contains only the first %1 of %Ln frames; the next one is missing.</numerusform>
+        </translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
@@ -651,41 +677,52 @@ It is still at %3.</translation>
         <source>0 = loop forever</source>
         <translation>0 = loop forever</translation>
     </message>
-    <message id="IDD_LOOPS_NOT_NUMBER">
-        <source>Whole numbers only</source>
-        <translation>Whole numbers only</translation>
+    <message id="IDD_LOOPS_RANGE">
+        <source>0 to %1</source>
+        <translation>0 to %1</translation>
     </message>
-    <message id="IDD_LOOPS_NEGATIVE">
-        <source>No negative numbers</source>
-        <translation>No negative numbers</translation>
+    <message id="IDD_WIDTH_ZERO">
+        <source>The width must be a number greater than 0.</source>
+        <translation>The width must be a number greater than 0.</translation>
     </message>
-    <message id="IDD_LOOPS_TOO_LARGE">
-        <source>65,535 at most</source>
-        <translation>65,535 at most</translation>
+    <message id="IDD_WIDTH_NEGATIVE">
+        <source>The width must not be negative.</source>
+        <translation>The width must not be negative.</translation>
     </message>
-    <message id="IDD_SIZE_HINT">
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
+    <message id="IDD_WIDTH_NOT_PLAIN">
+        <source>The width may contain digits only.</source>
+        <translation>The width may contain digits only.</translation>
     </message>
-    <message id="IDD_SIZE_ZERO">
-        <source>must be a number greater than 0</source>
-        <translation>must be a number greater than 0</translation>
+    <message id="IDD_WIDTH_TOO_LARGE">
+        <source>The width can be %1 pixels at most.</source>
+        <translation>The width can be %1 pixels at most.</translation>
     </message>
-    <message id="IDD_SIZE_NEGATIVE">
-        <source>must not be negative</source>
-        <translation>must not be negative</translation>
+    <message id="IDD_HEIGHT_ZERO">
+        <source>The height must be a number greater than 0.</source>
+        <translation>The height must be a number greater than 0.</translation>
     </message>
-    <message id="IDD_SIZE_NOT_PLAIN">
-        <source>may contain digits only</source>
-        <translation>may contain digits only</translation>
+    <message id="IDD_HEIGHT_NEGATIVE">
+        <source>The height must not be negative.</source>
+        <translation>The height must not be negative.</translation>
     </message>
-    <message id="IDD_SIZE_TOO_LARGE">
-        <source>65,535 pixels at most</source>
-        <translation>65,535 pixels at most</translation>
+    <message id="IDD_HEIGHT_NOT_PLAIN">
+        <source>The height may contain digits only.</source>
+        <translation>The height may contain digits only.</translation>
     </message>
-    <message id="IDD_GIF_SUMMARY">
-        <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
-        <translation>%1 frames, %2&#xa0;s at %3&#xa0;fps</translation>
+    <message id="IDD_HEIGHT_TOO_LARGE">
+        <source>The height can be %1 pixels at most.</source>
+        <translation>The height can be %1 pixels at most.</translation>
+    </message>
+    <message id="IDD_GIF_SUMMARY" numerus="yes">
+        <source>%Ln frames, %1&#xa0;s at %2&#xa0;fps</source>
+        <translation>
+            <numerusform>%Ln frame, %1&#xa0;s at %2&#xa0;fps</numerusform>
+            <numerusform>%Ln frames, %1&#xa0;s at %2&#xa0;fps</numerusform>
+        </translation>
+    </message>
+    <message id="IDD_GIF_WEBP_SUMMARY">
+        <source>GIF: %1 · WebP: %2</source>
+        <translation>GIF: %1 · WebP: %2</translation>
     </message>
 </context>
 </TS>

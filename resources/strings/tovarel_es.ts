@@ -158,6 +158,10 @@
         <source>Tools in use:</source>
         <translation>Herramientas en uso:</translation>
     </message>
+    <message id="IDD_ABOUT_TOOL">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
     <message id="IDD_ABOUT_TOOL_MISSING">
         <source>not found</source>
         <translation>no encontrada</translation>
@@ -221,8 +225,8 @@
         <translation>%1 · Fotogramas: %2 · %3&#xa0;fps</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Memory is running out (%1 left). Stop saves what has been recorded.</source>
-        <translation>Queda poca memoria (%1). «Detener» guarda lo grabado hasta ahora.</translation>
+        <source>Memory is running out (%1 left). Stop saves the recording.</source>
+        <translation>Queda poca memoria (%1). «Detener» guarda todo.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
@@ -244,9 +248,12 @@
         <source>Nothing was recorded.</source>
         <translation>No se ha grabado nada.</translation>
     </message>
-    <message id="IDD_FRAMES_MISSING">
-        <source>%1 of %2 frames could not be written to %3: %4</source>
-        <translation>Fotogramas sin escribir en %3: %1 de %2 (%4)</translation>
+    <message id="IDD_FRAMES_MISSING" numerus="yes">
+        <source>%1 of %Ln frames could not be written to %2: %3</source>
+        <translation>
+            <numerusform>Fotograma sin escribir en %2: %1 de %Ln (%3)</numerusform>
+            <numerusform>Fotogramas sin escribir en %2: %1 de %Ln (%3)</numerusform>
+        </translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
@@ -256,9 +263,12 @@
         <source>An earlier recording is still there.</source>
         <translation>Aún existe una grabación anterior.</translation>
     </message>
-    <message id="IDD_RECOVER_DETAIL">
-        <source>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</source>
-        <translation>Tovarel no se cerró correctamente. La grabación del %1 está completa: %2 fotogramas, %3&#xa0;s. Puede abrirla en la pestaña «Recortar» o eliminarla.</translation>
+    <message id="IDD_RECOVER_DETAIL" numerus="yes">
+        <source>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <translation>
+            <numerusform>Tovarel no se cerró correctamente. La grabación del %1 está completa: %Ln fotograma, %2&#xa0;s. Puede abrirla en la pestaña «Recortar» o eliminarla.</numerusform>
+            <numerusform>Tovarel no se cerró correctamente. La grabación del %1 está completa: %Ln fotogramas, %2&#xa0;s. Puede abrirla en la pestaña «Recortar» o eliminarla.</numerusform>
+        </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
         <source>Open</source>
@@ -366,9 +376,12 @@
         <source>Last frame</source>
         <translation>Último fotograma</translation>
     </message>
-    <message id="IDD_RANGE_HOLDS">
-        <source>Frames %1 to %2: %3 frames, %4&#xa0;s</source>
-        <translation>Fotogramas %1 a %2: %3 fotogramas, %4&#xa0;s</translation>
+    <message id="IDD_RANGE_HOLDS" numerus="yes">
+        <source>Frames %1 to %2: %Ln frames, %3&#xa0;s</source>
+        <translation>
+            <numerusform>Fotogramas %1 a %2: %Ln fotograma, %3&#xa0;s</numerusform>
+            <numerusform>Fotogramas %1 a %2: %Ln fotogramas, %3&#xa0;s</numerusform>
+        </translation>
     </message>
     <message id="IDD_RANGE_ONE">
         <source>Frame %1 only, %2&#xa0;s</source>
@@ -487,6 +500,10 @@ Sigue en %3.</translation>
         <source>Saved: %1 (%2).</source>
         <translation>Guardado: %1 (%2).</translation>
     </message>
+    <message id="IDD_STATUS_SAVED_NOTE">
+        <source>Saved: %1 (%2). %3</source>
+        <translation>Guardado: %1 (%2). %3</translation>
+    </message>
     <message id="IDD_STATUS_UNSAVED">
         <source>The %1 has not been saved, but it is still there.</source>
         <translation>El %1 no se ha guardado, pero sigue disponible.</translation>
@@ -507,13 +524,19 @@ Sigue en %3.</translation>
         <source>Discard</source>
         <translation>Descartar</translation>
     </message>
-    <message id="IDD_STATUS_GAP">
-        <source>The GIF contains only %1 of %2 frames; the rest are missing.</source>
-        <translation>El GIF contiene solo %1 de %2 fotogramas; faltaba el resto.</translation>
+    <message id="IDD_STATUS_GAP" numerus="yes">
+        <source>The GIF contains only %1 of %Ln frames; the rest are missing.</source>
+        <translation>
+            <numerusform>El GIF contiene solo %1 de %Ln fotograma; faltaba el resto.</numerusform>
+            <numerusform>El GIF contiene solo %1 de %Ln fotogramas; faltaba el resto.</numerusform>
+        </translation>
     </message>
-    <message id="IDD_STATUS_WEBP_GAP">
-        <source>The WebP contains only the first %1 of %2 frames; the next one is missing.</source>
-        <translation>El WebP contiene solo %1 de %2 fotogramas; faltaba el siguiente.</translation>
+    <message id="IDD_STATUS_WEBP_GAP" numerus="yes">
+        <source>The WebP contains only the first %1 of %Ln frames; the next one is missing.</source>
+        <translation>
+            <numerusform>El WebP contiene solo %1 de %Ln fotograma; faltaba el siguiente.</numerusform>
+            <numerusform>El WebP contiene solo %1 de %Ln fotogramas; faltaba el siguiente.</numerusform>
+        </translation>
     </message>
     <message id="IDD_STATUS_STILL">
         <source>The GIF does not move: all its frames are the same.</source>
@@ -600,8 +623,12 @@ Sigue en %3.</translation>
         <translation>Para caber en %1, el GIF tiene colores menos exactos.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
-        <source>About %1</source>
-        <translation>Aproximadamente %1</translation>
+        <source>GIF: about %1</source>
+        <translation>GIF: aproximadamente %1</translation>
+    </message>
+    <message id="IDD_GIF_SIZE">
+        <source>GIF: %1</source>
+        <translation>GIF: %1</translation>
     </message>
     <message id="IDD_PERCENT">
         <source>%1%</source>
@@ -627,13 +654,12 @@ Sigue en %3.</translation>
         <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>
         <translation>Este ffmpeg no tiene el codificador H.264 (libx264) que necesita un MP4. Instale un ffmpeg que lo tenga, o cree un GIF o un WebP.</translation>
     </message>
-    <message id="IDD_STATUS_MP4_GAP">
-        <source>The MP4 contains only the first %1 of %2 frames; the next one is missing.</source>
-        <translation>El MP4 contiene solo %1 de %2 fotogramas; faltaba el siguiente.</translation>
-    </message>
-    <message id="IDD_SIZE_ABOVE">
-        <source>%1 pixels at most</source>
-        <translation>%1 píxeles como máximo</translation>
+    <message id="IDD_STATUS_MP4_GAP" numerus="yes">
+        <source>The MP4 contains only the first %1 of %Ln frames; the next one is missing.</source>
+        <translation>
+            <numerusform>El MP4 contiene solo %1 de %Ln fotograma; faltaba el siguiente.</numerusform>
+            <numerusform>El MP4 contiene solo %1 de %Ln fotogramas; faltaba el siguiente.</numerusform>
+        </translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
@@ -651,41 +677,52 @@ Sigue en %3.</translation>
         <source>0 = loop forever</source>
         <translation>0 = sin fin</translation>
     </message>
-    <message id="IDD_LOOPS_NOT_NUMBER">
-        <source>Whole numbers only</source>
-        <translation>Solo números enteros</translation>
+    <message id="IDD_LOOPS_RANGE">
+        <source>0 to %1</source>
+        <translation>0 a %1</translation>
     </message>
-    <message id="IDD_LOOPS_NEGATIVE">
-        <source>No negative numbers</source>
-        <translation>Sin números negativos</translation>
+    <message id="IDD_WIDTH_ZERO">
+        <source>The width must be a number greater than 0.</source>
+        <translation>El ancho debe ser un número mayor que 0.</translation>
     </message>
-    <message id="IDD_LOOPS_TOO_LARGE">
-        <source>65,535 at most</source>
-        <translation>65&#xa0;535 como máximo</translation>
+    <message id="IDD_WIDTH_NEGATIVE">
+        <source>The width must not be negative.</source>
+        <translation>El ancho no puede ser negativo.</translation>
     </message>
-    <message id="IDD_SIZE_HINT">
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
+    <message id="IDD_WIDTH_NOT_PLAIN">
+        <source>The width may contain digits only.</source>
+        <translation>El ancho solo puede contener cifras.</translation>
     </message>
-    <message id="IDD_SIZE_ZERO">
-        <source>must be a number greater than 0</source>
-        <translation>debe ser un número mayor que 0</translation>
+    <message id="IDD_WIDTH_TOO_LARGE">
+        <source>The width can be %1 pixels at most.</source>
+        <translation>El ancho puede ser de %1 píxeles como máximo.</translation>
     </message>
-    <message id="IDD_SIZE_NEGATIVE">
-        <source>must not be negative</source>
-        <translation>no puede ser negativo</translation>
+    <message id="IDD_HEIGHT_ZERO">
+        <source>The height must be a number greater than 0.</source>
+        <translation>El alto debe ser un número mayor que 0.</translation>
     </message>
-    <message id="IDD_SIZE_NOT_PLAIN">
-        <source>may contain digits only</source>
-        <translation>solo puede contener cifras</translation>
+    <message id="IDD_HEIGHT_NEGATIVE">
+        <source>The height must not be negative.</source>
+        <translation>El alto no puede ser negativo.</translation>
     </message>
-    <message id="IDD_SIZE_TOO_LARGE">
-        <source>65,535 pixels at most</source>
-        <translation>65&#xa0;535 píxeles como máximo</translation>
+    <message id="IDD_HEIGHT_NOT_PLAIN">
+        <source>The height may contain digits only.</source>
+        <translation>El alto solo puede contener cifras.</translation>
     </message>
-    <message id="IDD_GIF_SUMMARY">
-        <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
-        <translation>%1 fotogramas, %2&#xa0;s a %3&#xa0;fps</translation>
+    <message id="IDD_HEIGHT_TOO_LARGE">
+        <source>The height can be %1 pixels at most.</source>
+        <translation>El alto puede ser de %1 píxeles como máximo.</translation>
+    </message>
+    <message id="IDD_GIF_SUMMARY" numerus="yes">
+        <source>%Ln frames, %1&#xa0;s at %2&#xa0;fps</source>
+        <translation>
+            <numerusform>%Ln fotograma, %1&#xa0;s a %2&#xa0;fps</numerusform>
+            <numerusform>%Ln fotogramas, %1&#xa0;s a %2&#xa0;fps</numerusform>
+        </translation>
+    </message>
+    <message id="IDD_GIF_WEBP_SUMMARY">
+        <source>GIF: %1 · WebP: %2</source>
+        <translation>GIF: %1 · WebP: %2</translation>
     </message>
 </context>
 </TS>

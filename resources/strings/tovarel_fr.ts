@@ -158,6 +158,10 @@
         <source>Tools in use:</source>
         <translation>Outils utilisés&#xa0;:</translation>
     </message>
+    <message id="IDD_ABOUT_TOOL">
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
     <message id="IDD_ABOUT_TOOL_MISSING">
         <source>not found</source>
         <translation>introuvable</translation>
@@ -221,8 +225,8 @@
         <translation>%1 · Images&#xa0;: %2 · %3&#xa0;i/s</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Memory is running out (%1 left). Stop saves what has been recorded.</source>
-        <translation>Mémoire presque pleine (reste %1) – «&#xa0;Arrêter&#xa0;» pour sauvegarder</translation>
+        <source>Memory is running out (%1 left). Stop saves the recording.</source>
+        <translation>Plus que %1 de mémoire&#xa0;: «&#xa0;Arrêter&#xa0;» sauvegarde</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
@@ -230,7 +234,7 @@
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
         <source>Memory: %1, enough for %2 more</source>
-        <translation>Mémoire&#xa0;: %1, suffit encore pour %2</translation>
+        <translation>Mémoire&#xa0;: %1, suffit pour %2</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
         <source>The recording is complete. Frames: %1 · %2&#xa0;fps</source>
@@ -244,9 +248,12 @@
         <source>Nothing was recorded.</source>
         <translation>Rien n’a été enregistré.</translation>
     </message>
-    <message id="IDD_FRAMES_MISSING">
-        <source>%1 of %2 frames could not be written to %3: %4</source>
-        <translation>Images non écrites dans %3&#xa0;: %1 sur %2 (%4)</translation>
+    <message id="IDD_FRAMES_MISSING" numerus="yes">
+        <source>%1 of %Ln frames could not be written to %2: %3</source>
+        <translation>
+            <numerusform>Image non écrite dans %2&#xa0;: %1 sur %Ln (%3)</numerusform>
+            <numerusform>Images non écrites dans %2&#xa0;: %1 sur %Ln (%3)</numerusform>
+        </translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
@@ -256,9 +263,12 @@
         <source>An earlier recording is still there.</source>
         <translation>Un enregistrement précédent existe toujours.</translation>
     </message>
-    <message id="IDD_RECOVER_DETAIL">
-        <source>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</source>
-        <translation>Tovarel n’a pas été fermé correctement. L’enregistrement du %1 est complet&#xa0;: %2 images, %3&#xa0;s. Vous pouvez l’ouvrir dans l’onglet «&#xa0;Couper&#xa0;» ou le supprimer.</translation>
+    <message id="IDD_RECOVER_DETAIL" numerus="yes">
+        <source>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <translation>
+            <numerusform>Tovarel n’a pas été fermé correctement. L’enregistrement du %1 est complet&#xa0;: %Ln image, %2&#xa0;s. Vous pouvez l’ouvrir dans l’onglet «&#xa0;Couper&#xa0;» ou le supprimer.</numerusform>
+            <numerusform>Tovarel n’a pas été fermé correctement. L’enregistrement du %1 est complet&#xa0;: %Ln images, %2&#xa0;s. Vous pouvez l’ouvrir dans l’onglet «&#xa0;Couper&#xa0;» ou le supprimer.</numerusform>
+        </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
         <source>Open</source>
@@ -366,9 +376,12 @@
         <source>Last frame</source>
         <translation>Dernière image</translation>
     </message>
-    <message id="IDD_RANGE_HOLDS">
-        <source>Frames %1 to %2: %3 frames, %4&#xa0;s</source>
-        <translation>Images %1 à %2&#xa0;: %3 images, %4&#xa0;s</translation>
+    <message id="IDD_RANGE_HOLDS" numerus="yes">
+        <source>Frames %1 to %2: %Ln frames, %3&#xa0;s</source>
+        <translation>
+            <numerusform>Images %1 à %2&#xa0;: %Ln image, %3&#xa0;s</numerusform>
+            <numerusform>Images %1 à %2&#xa0;: %Ln images, %3&#xa0;s</numerusform>
+        </translation>
     </message>
     <message id="IDD_RANGE_ONE">
         <source>Frame %1 only, %2&#xa0;s</source>
@@ -487,6 +500,10 @@ Il reste à l’emplacement %3.</translation>
         <source>Saved: %1 (%2).</source>
         <translation>Sauvegardé&#xa0;: %1 (%2).</translation>
     </message>
+    <message id="IDD_STATUS_SAVED_NOTE">
+        <source>Saved: %1 (%2). %3</source>
+        <translation>Sauvegardé&#xa0;: %1 (%2). %3</translation>
+    </message>
     <message id="IDD_STATUS_UNSAVED">
         <source>The %1 has not been saved, but it is still there.</source>
         <translation>Le fichier %1 n’est pas sauvegardé, mais il existe toujours.</translation>
@@ -507,13 +524,19 @@ Il reste à l’emplacement %3.</translation>
         <source>Discard</source>
         <translation>Abandonner</translation>
     </message>
-    <message id="IDD_STATUS_GAP">
-        <source>The GIF contains only %1 of %2 frames; the rest are missing.</source>
-        <translation>Images dans le GIF&#xa0;: %1 sur %2. Le reste manquait.</translation>
+    <message id="IDD_STATUS_GAP" numerus="yes">
+        <source>The GIF contains only %1 of %Ln frames; the rest are missing.</source>
+        <translation>
+            <numerusform>Image dans le GIF&#xa0;: %1 sur %Ln. Le reste manquait.</numerusform>
+            <numerusform>Images dans le GIF&#xa0;: %1 sur %Ln. Le reste manquait.</numerusform>
+        </translation>
     </message>
-    <message id="IDD_STATUS_WEBP_GAP">
-        <source>The WebP contains only the first %1 of %2 frames; the next one is missing.</source>
-        <translation>Images dans le WebP&#xa0;: %1 sur %2. La suivante manquait.</translation>
+    <message id="IDD_STATUS_WEBP_GAP" numerus="yes">
+        <source>The WebP contains only the first %1 of %Ln frames; the next one is missing.</source>
+        <translation>
+            <numerusform>Image dans le WebP&#xa0;: %1 sur %Ln. La suivante manquait.</numerusform>
+            <numerusform>Images dans le WebP&#xa0;: %1 sur %Ln. La suivante manquait.</numerusform>
+        </translation>
     </message>
     <message id="IDD_STATUS_STILL">
         <source>The GIF does not move: all its frames are the same.</source>
@@ -600,8 +623,12 @@ Il reste à l’emplacement %3.</translation>
         <translation>Pour tenir dans %1, le GIF a des couleurs moins exactes.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
-        <source>About %1</source>
-        <translation>Environ %1</translation>
+        <source>GIF: about %1</source>
+        <translation>GIF&#xa0;: environ %1</translation>
+    </message>
+    <message id="IDD_GIF_SIZE">
+        <source>GIF: %1</source>
+        <translation>GIF&#xa0;: %1</translation>
     </message>
     <message id="IDD_PERCENT">
         <source>%1%</source>
@@ -627,13 +654,12 @@ Il reste à l’emplacement %3.</translation>
         <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>
         <translation>Ce ffmpeg n’a pas d’encodeur H.264 (libx264), nécessaire au MP4. Installez un ffmpeg qui en a un, ou créez un GIF ou un WebP.</translation>
     </message>
-    <message id="IDD_STATUS_MP4_GAP">
-        <source>The MP4 contains only the first %1 of %2 frames; the next one is missing.</source>
-        <translation>Images dans le MP4&#xa0;: %1 sur %2. La suivante manquait.</translation>
-    </message>
-    <message id="IDD_SIZE_ABOVE">
-        <source>%1 pixels at most</source>
-        <translation>%1 pixels au plus</translation>
+    <message id="IDD_STATUS_MP4_GAP" numerus="yes">
+        <source>The MP4 contains only the first %1 of %Ln frames; the next one is missing.</source>
+        <translation>
+            <numerusform>Image dans le MP4&#xa0;: %1 sur %Ln. La suivante manquait.</numerusform>
+            <numerusform>Images dans le MP4&#xa0;: %1 sur %Ln. La suivante manquait.</numerusform>
+        </translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
@@ -651,41 +677,52 @@ Il reste à l’emplacement %3.</translation>
         <source>0 = loop forever</source>
         <translation>0 = sans fin</translation>
     </message>
-    <message id="IDD_LOOPS_NOT_NUMBER">
-        <source>Whole numbers only</source>
-        <translation>Nombres entiers uniquement</translation>
+    <message id="IDD_LOOPS_RANGE">
+        <source>0 to %1</source>
+        <translation>0 à %1</translation>
     </message>
-    <message id="IDD_LOOPS_NEGATIVE">
-        <source>No negative numbers</source>
-        <translation>Pas de nombre négatif</translation>
+    <message id="IDD_WIDTH_ZERO">
+        <source>The width must be a number greater than 0.</source>
+        <translation>La largeur doit être un nombre supérieur à 0.</translation>
     </message>
-    <message id="IDD_LOOPS_TOO_LARGE">
-        <source>65,535 at most</source>
-        <translation>65&#xa0;535 au plus</translation>
+    <message id="IDD_WIDTH_NEGATIVE">
+        <source>The width must not be negative.</source>
+        <translation>La largeur ne doit pas être négative.</translation>
     </message>
-    <message id="IDD_SIZE_HINT">
-        <source>%1: %2</source>
-        <translation>%1&#xa0;: %2</translation>
+    <message id="IDD_WIDTH_NOT_PLAIN">
+        <source>The width may contain digits only.</source>
+        <translation>La largeur ne doit contenir que des chiffres.</translation>
     </message>
-    <message id="IDD_SIZE_ZERO">
-        <source>must be a number greater than 0</source>
-        <translation>doit être un nombre supérieur à 0</translation>
+    <message id="IDD_WIDTH_TOO_LARGE">
+        <source>The width can be %1 pixels at most.</source>
+        <translation>La largeur peut être de %1 pixels au plus.</translation>
     </message>
-    <message id="IDD_SIZE_NEGATIVE">
-        <source>must not be negative</source>
-        <translation>ne doit pas être négative</translation>
+    <message id="IDD_HEIGHT_ZERO">
+        <source>The height must be a number greater than 0.</source>
+        <translation>La hauteur doit être un nombre supérieur à 0.</translation>
     </message>
-    <message id="IDD_SIZE_NOT_PLAIN">
-        <source>may contain digits only</source>
-        <translation>ne doit contenir que des chiffres</translation>
+    <message id="IDD_HEIGHT_NEGATIVE">
+        <source>The height must not be negative.</source>
+        <translation>La hauteur ne doit pas être négative.</translation>
     </message>
-    <message id="IDD_SIZE_TOO_LARGE">
-        <source>65,535 pixels at most</source>
-        <translation>65&#x202f;535 pixels au plus</translation>
+    <message id="IDD_HEIGHT_NOT_PLAIN">
+        <source>The height may contain digits only.</source>
+        <translation>La hauteur ne doit contenir que des chiffres.</translation>
     </message>
-    <message id="IDD_GIF_SUMMARY">
-        <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
-        <translation>%1 images, %2&#xa0;s à %3&#xa0;i/s</translation>
+    <message id="IDD_HEIGHT_TOO_LARGE">
+        <source>The height can be %1 pixels at most.</source>
+        <translation>La hauteur peut être de %1 pixels au plus.</translation>
+    </message>
+    <message id="IDD_GIF_SUMMARY" numerus="yes">
+        <source>%Ln frames, %1&#xa0;s at %2&#xa0;fps</source>
+        <translation>
+            <numerusform>%Ln image, %1&#xa0;s à %2&#xa0;i/s</numerusform>
+            <numerusform>%Ln images, %1&#xa0;s à %2&#xa0;i/s</numerusform>
+        </translation>
+    </message>
+    <message id="IDD_GIF_WEBP_SUMMARY">
+        <source>GIF: %1 · WebP: %2</source>
+        <translation>GIF&#xa0;: %1 · WebP&#xa0;: %2</translation>
     </message>
 </context>
 </TS>

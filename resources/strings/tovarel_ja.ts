@@ -158,6 +158,10 @@
         <source>Tools in use:</source>
         <translation>使用するツール:</translation>
     </message>
+    <message id="IDD_ABOUT_TOOL">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
     <message id="IDD_ABOUT_TOOL_MISSING">
         <source>not found</source>
         <translation>見つかりません</translation>
@@ -221,8 +225,8 @@
         <translation>%1 · フレーム数: %2 · %3&#xa0;fps</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Memory is running out (%1 left). Stop saves what has been recorded.</source>
-        <translation>メモリが残り少なくなりました（残り %1）。「停止」を押すと録画を保存します。</translation>
+        <source>Memory is running out (%1 left). Stop saves the recording.</source>
+        <translation>メモリが残り少なくなりました（残り %1）。「停止」で録画を保存します。</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
@@ -244,9 +248,11 @@
         <source>Nothing was recorded.</source>
         <translation>何も録画されませんでした。</translation>
     </message>
-    <message id="IDD_FRAMES_MISSING">
-        <source>%1 of %2 frames could not be written to %3: %4</source>
-        <translation>%2 フレームのうち %1 フレームを %3 に書き込めませんでした: %4</translation>
+    <message id="IDD_FRAMES_MISSING" numerus="yes">
+        <source>%1 of %Ln frames could not be written to %2: %3</source>
+        <translation>
+            <numerusform>%Ln フレームのうち %1 フレームを %2 に書き込めませんでした: %3</numerusform>
+        </translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
@@ -256,9 +262,11 @@
         <source>An earlier recording is still there.</source>
         <translation>以前の録画が残っています。</translation>
     </message>
-    <message id="IDD_RECOVER_DETAIL">
-        <source>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</source>
-        <translation>Tovarel は正しく終了しませんでした。%1 の録画はすべて残っています（%2 フレーム、%3&#xa0;秒）。「カット」タブで開くか、削除できます。</translation>
+    <message id="IDD_RECOVER_DETAIL" numerus="yes">
+        <source>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <translation>
+            <numerusform>Tovarel は正しく終了しませんでした。%1 の録画はすべて残っています（%Ln フレーム、%2&#xa0;秒）。「カット」タブで開くか、削除できます。</numerusform>
+        </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
         <source>Open</source>
@@ -366,9 +374,11 @@
         <source>Last frame</source>
         <translation>最後のフレーム</translation>
     </message>
-    <message id="IDD_RANGE_HOLDS">
-        <source>Frames %1 to %2: %3 frames, %4&#xa0;s</source>
-        <translation>フレーム %1～%2: %3 フレーム、%4&#xa0;秒</translation>
+    <message id="IDD_RANGE_HOLDS" numerus="yes">
+        <source>Frames %1 to %2: %Ln frames, %3&#xa0;s</source>
+        <translation>
+            <numerusform>フレーム %1～%2: %Ln フレーム、%3&#xa0;秒</numerusform>
+        </translation>
     </message>
     <message id="IDD_RANGE_ONE">
         <source>Frame %1 only, %2&#xa0;s</source>
@@ -487,6 +497,10 @@ It is still at %3.</source>
         <source>Saved: %1 (%2).</source>
         <translation>保存しました: %1（%2）</translation>
     </message>
+    <message id="IDD_STATUS_SAVED_NOTE">
+        <source>Saved: %1 (%2). %3</source>
+        <translation>保存しました: %1（%2）。%3</translation>
+    </message>
     <message id="IDD_STATUS_UNSAVED">
         <source>The %1 has not been saved, but it is still there.</source>
         <translation>%1 は保存されていませんが、まだ残っています。</translation>
@@ -507,13 +521,17 @@ It is still at %3.</source>
         <source>Discard</source>
         <translation>破棄</translation>
     </message>
-    <message id="IDD_STATUS_GAP">
-        <source>The GIF contains only %1 of %2 frames; the rest are missing.</source>
-        <translation>GIF に含まれるのは %2 フレーム中 %1 フレームです。残りは見つかりませんでした。</translation>
+    <message id="IDD_STATUS_GAP" numerus="yes">
+        <source>The GIF contains only %1 of %Ln frames; the rest are missing.</source>
+        <translation>
+            <numerusform>GIF に含まれるのは %Ln フレーム中 %1 フレームです。残りは見つかりませんでした。</numerusform>
+        </translation>
     </message>
-    <message id="IDD_STATUS_WEBP_GAP">
-        <source>The WebP contains only the first %1 of %2 frames; the next one is missing.</source>
-        <translation>WebP に含まれるのは %2 フレーム中、最初の %1 フレームです。次のフレームが見つかりませんでした。</translation>
+    <message id="IDD_STATUS_WEBP_GAP" numerus="yes">
+        <source>The WebP contains only the first %1 of %Ln frames; the next one is missing.</source>
+        <translation>
+            <numerusform>WebP に含まれるのは %Ln フレーム中、最初の %1 フレームです。次のフレームが見つかりませんでした。</numerusform>
+        </translation>
     </message>
     <message id="IDD_STATUS_STILL">
         <source>The GIF does not move: all its frames are the same.</source>
@@ -600,8 +618,12 @@ It is still at %3.</source>
         <translation>%1 に収めるため、GIF の色の正確さを下げました。</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
-        <source>About %1</source>
-        <translation>約 %1</translation>
+        <source>GIF: about %1</source>
+        <translation>GIF: 約 %1</translation>
+    </message>
+    <message id="IDD_GIF_SIZE">
+        <source>GIF: %1</source>
+        <translation>GIF: %1</translation>
     </message>
     <message id="IDD_PERCENT">
         <source>%1%</source>
@@ -627,13 +649,11 @@ It is still at %3.</source>
         <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>
         <translation>この ffmpeg には、MP4 に必要な H.264 エンコーダー（libx264）がありません。エンコーダーのある ffmpeg をインストールするか、GIF または WebP を作成してください。</translation>
     </message>
-    <message id="IDD_STATUS_MP4_GAP">
-        <source>The MP4 contains only the first %1 of %2 frames; the next one is missing.</source>
-        <translation>MP4 に含まれるのは %2 フレーム中、最初の %1 フレームです。次のフレームが見つかりませんでした。</translation>
-    </message>
-    <message id="IDD_SIZE_ABOVE">
-        <source>%1 pixels at most</source>
-        <translation>%1 ピクセルまでです</translation>
+    <message id="IDD_STATUS_MP4_GAP" numerus="yes">
+        <source>The MP4 contains only the first %1 of %Ln frames; the next one is missing.</source>
+        <translation>
+            <numerusform>MP4 に含まれるのは %Ln フレーム中、最初の %1 フレームです。次のフレームが見つかりませんでした。</numerusform>
+        </translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
@@ -651,41 +671,51 @@ It is still at %3.</source>
         <source>0 = loop forever</source>
         <translation>0 = 無限</translation>
     </message>
-    <message id="IDD_LOOPS_NOT_NUMBER">
-        <source>Whole numbers only</source>
-        <translation>整数を入力してください</translation>
+    <message id="IDD_LOOPS_RANGE">
+        <source>0 to %1</source>
+        <translation>0～%1</translation>
     </message>
-    <message id="IDD_LOOPS_NEGATIVE">
-        <source>No negative numbers</source>
-        <translation>負の数は指定できません</translation>
+    <message id="IDD_WIDTH_ZERO">
+        <source>The width must be a number greater than 0.</source>
+        <translation>幅には 0 より大きい数を入力してください。</translation>
     </message>
-    <message id="IDD_LOOPS_TOO_LARGE">
-        <source>65,535 at most</source>
-        <translation>65,535 までです</translation>
+    <message id="IDD_WIDTH_NEGATIVE">
+        <source>The width must not be negative.</source>
+        <translation>幅に負の数は指定できません。</translation>
     </message>
-    <message id="IDD_SIZE_HINT">
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
+    <message id="IDD_WIDTH_NOT_PLAIN">
+        <source>The width may contain digits only.</source>
+        <translation>幅には数字だけを入力してください。</translation>
     </message>
-    <message id="IDD_SIZE_ZERO">
-        <source>must be a number greater than 0</source>
-        <translation>0 より大きい数を入力してください</translation>
+    <message id="IDD_WIDTH_TOO_LARGE">
+        <source>The width can be %1 pixels at most.</source>
+        <translation>幅は %1 ピクセルまでです。</translation>
     </message>
-    <message id="IDD_SIZE_NEGATIVE">
-        <source>must not be negative</source>
-        <translation>負の数は指定できません</translation>
+    <message id="IDD_HEIGHT_ZERO">
+        <source>The height must be a number greater than 0.</source>
+        <translation>高さには 0 より大きい数を入力してください。</translation>
     </message>
-    <message id="IDD_SIZE_NOT_PLAIN">
-        <source>may contain digits only</source>
-        <translation>数字だけを入力してください</translation>
+    <message id="IDD_HEIGHT_NEGATIVE">
+        <source>The height must not be negative.</source>
+        <translation>高さに負の数は指定できません。</translation>
     </message>
-    <message id="IDD_SIZE_TOO_LARGE">
-        <source>65,535 pixels at most</source>
-        <translation>65,535 ピクセルまでです</translation>
+    <message id="IDD_HEIGHT_NOT_PLAIN">
+        <source>The height may contain digits only.</source>
+        <translation>高さには数字だけを入力してください。</translation>
     </message>
-    <message id="IDD_GIF_SUMMARY">
-        <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
-        <translation>%1 フレーム、%2&#xa0;秒（%3&#xa0;fps）</translation>
+    <message id="IDD_HEIGHT_TOO_LARGE">
+        <source>The height can be %1 pixels at most.</source>
+        <translation>高さは %1 ピクセルまでです。</translation>
+    </message>
+    <message id="IDD_GIF_SUMMARY" numerus="yes">
+        <source>%Ln frames, %1&#xa0;s at %2&#xa0;fps</source>
+        <translation>
+            <numerusform>%Ln フレーム、%1&#xa0;秒（%2&#xa0;fps）</numerusform>
+        </translation>
+    </message>
+    <message id="IDD_GIF_WEBP_SUMMARY">
+        <source>GIF: %1 · WebP: %2</source>
+        <translation>GIF: %1 · WebP: %2</translation>
     </message>
 </context>
 </TS>

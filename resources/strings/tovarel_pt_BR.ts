@@ -158,6 +158,10 @@
         <source>Tools in use:</source>
         <translation>Ferramentas em uso:</translation>
     </message>
+    <message id="IDD_ABOUT_TOOL">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
     <message id="IDD_ABOUT_TOOL_MISSING">
         <source>not found</source>
         <translation>não encontrada</translation>
@@ -221,8 +225,8 @@
         <translation>%1 · Quadros: %2 · %3&#xa0;fps</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Memory is running out (%1 left). Stop saves what has been recorded.</source>
-        <translation>A memória está acabando (restam %1). “Parar” salva o que já foi gravado.</translation>
+        <source>Memory is running out (%1 left). Stop saves the recording.</source>
+        <translation>Pouca memória (restam %1). “Parar” salva a gravação.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
@@ -244,9 +248,12 @@
         <source>Nothing was recorded.</source>
         <translation>Nada foi gravado.</translation>
     </message>
-    <message id="IDD_FRAMES_MISSING">
-        <source>%1 of %2 frames could not be written to %3: %4</source>
-        <translation>Quadros não salvos em %3: %1 de %2 (%4)</translation>
+    <message id="IDD_FRAMES_MISSING" numerus="yes">
+        <source>%1 of %Ln frames could not be written to %2: %3</source>
+        <translation>
+            <numerusform>Quadro não salvo em %2: %1 de %Ln (%3)</numerusform>
+            <numerusform>Quadros não salvos em %2: %1 de %Ln (%3)</numerusform>
+        </translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
         <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
@@ -256,9 +263,12 @@
         <source>An earlier recording is still there.</source>
         <translation>Uma gravação anterior ainda existe.</translation>
     </message>
-    <message id="IDD_RECOVER_DETAIL">
-        <source>Tovarel was not closed properly. The recording of %1 is complete: %2 frames, %3&#xa0;s. You can open it on the Cut tab or delete it.</source>
-        <translation>O Tovarel não foi fechado corretamente. A gravação de %1 está completa: %2 quadros, %3&#xa0;s. Você pode abri-la na aba “Cortar” ou excluí-la.</translation>
+    <message id="IDD_RECOVER_DETAIL" numerus="yes">
+        <source>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <translation>
+            <numerusform>O Tovarel não foi fechado corretamente. A gravação de %1 está completa: %Ln quadro, %2&#xa0;s. Você pode abri-la na aba “Cortar” ou excluí-la.</numerusform>
+            <numerusform>O Tovarel não foi fechado corretamente. A gravação de %1 está completa: %Ln quadros, %2&#xa0;s. Você pode abri-la na aba “Cortar” ou excluí-la.</numerusform>
+        </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
         <source>Open</source>
@@ -366,9 +376,12 @@
         <source>Last frame</source>
         <translation>Último quadro</translation>
     </message>
-    <message id="IDD_RANGE_HOLDS">
-        <source>Frames %1 to %2: %3 frames, %4&#xa0;s</source>
-        <translation>Quadros %1 a %2: %3 quadros, %4&#xa0;s</translation>
+    <message id="IDD_RANGE_HOLDS" numerus="yes">
+        <source>Frames %1 to %2: %Ln frames, %3&#xa0;s</source>
+        <translation>
+            <numerusform>Quadros %1 a %2: %Ln quadro, %3&#xa0;s</numerusform>
+            <numerusform>Quadros %1 a %2: %Ln quadros, %3&#xa0;s</numerusform>
+        </translation>
     </message>
     <message id="IDD_RANGE_ONE">
         <source>Frame %1 only, %2&#xa0;s</source>
@@ -487,6 +500,10 @@ Ele continua em %3.</translation>
         <source>Saved: %1 (%2).</source>
         <translation>Salvo: %1 (%2).</translation>
     </message>
+    <message id="IDD_STATUS_SAVED_NOTE">
+        <source>Saved: %1 (%2). %3</source>
+        <translation>Salvo: %1 (%2). %3</translation>
+    </message>
     <message id="IDD_STATUS_UNSAVED">
         <source>The %1 has not been saved, but it is still there.</source>
         <translation>O %1 não foi salvo, mas ainda está disponível.</translation>
@@ -507,13 +524,19 @@ Ele continua em %3.</translation>
         <source>Discard</source>
         <translation>Descartar</translation>
     </message>
-    <message id="IDD_STATUS_GAP">
-        <source>The GIF contains only %1 of %2 frames; the rest are missing.</source>
-        <translation>O GIF contém apenas %1 de %2 quadros; o resto estava faltando.</translation>
+    <message id="IDD_STATUS_GAP" numerus="yes">
+        <source>The GIF contains only %1 of %Ln frames; the rest are missing.</source>
+        <translation>
+            <numerusform>O GIF contém apenas %1 de %Ln quadro; o resto estava faltando.</numerusform>
+            <numerusform>O GIF contém apenas %1 de %Ln quadros; o resto estava faltando.</numerusform>
+        </translation>
     </message>
-    <message id="IDD_STATUS_WEBP_GAP">
-        <source>The WebP contains only the first %1 of %2 frames; the next one is missing.</source>
-        <translation>O WebP contém apenas %1 de %2 quadros; o seguinte estava faltando.</translation>
+    <message id="IDD_STATUS_WEBP_GAP" numerus="yes">
+        <source>The WebP contains only the first %1 of %Ln frames; the next one is missing.</source>
+        <translation>
+            <numerusform>O WebP contém apenas %1 de %Ln quadro; o seguinte estava faltando.</numerusform>
+            <numerusform>O WebP contém apenas %1 de %Ln quadros; o seguinte estava faltando.</numerusform>
+        </translation>
     </message>
     <message id="IDD_STATUS_STILL">
         <source>The GIF does not move: all its frames are the same.</source>
@@ -600,8 +623,12 @@ Ele continua em %3.</translation>
         <translation>Para caber em %1, o GIF tem cores menos exatas.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
-        <source>About %1</source>
-        <translation>Cerca de %1</translation>
+        <source>GIF: about %1</source>
+        <translation>GIF: cerca de %1</translation>
+    </message>
+    <message id="IDD_GIF_SIZE">
+        <source>GIF: %1</source>
+        <translation>GIF: %1</translation>
     </message>
     <message id="IDD_PERCENT">
         <source>%1%</source>
@@ -627,13 +654,12 @@ Ele continua em %3.</translation>
         <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>
         <translation>Este ffmpeg não tem o codificador H.264 (libx264) de que um MP4 precisa. Instale um ffmpeg que o tenha ou crie um GIF ou um WebP.</translation>
     </message>
-    <message id="IDD_STATUS_MP4_GAP">
-        <source>The MP4 contains only the first %1 of %2 frames; the next one is missing.</source>
-        <translation>O MP4 contém apenas %1 de %2 quadros; o seguinte estava faltando.</translation>
-    </message>
-    <message id="IDD_SIZE_ABOVE">
-        <source>%1 pixels at most</source>
-        <translation>no máximo %1 pixels</translation>
+    <message id="IDD_STATUS_MP4_GAP" numerus="yes">
+        <source>The MP4 contains only the first %1 of %Ln frames; the next one is missing.</source>
+        <translation>
+            <numerusform>O MP4 contém apenas %1 de %Ln quadro; o seguinte estava faltando.</numerusform>
+            <numerusform>O MP4 contém apenas %1 de %Ln quadros; o seguinte estava faltando.</numerusform>
+        </translation>
     </message>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
@@ -645,47 +671,58 @@ Ele continua em %3.</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
         <source>WebP loops</source>
-        <translation>Repetições do WebP</translation>
+        <translation>Repetições WebP</translation>
     </message>
     <message id="IDD_WEBP_LOOPS_HINT">
         <source>0 = loop forever</source>
         <translation>0 = sem fim</translation>
     </message>
-    <message id="IDD_LOOPS_NOT_NUMBER">
-        <source>Whole numbers only</source>
-        <translation>Somente números inteiros</translation>
+    <message id="IDD_LOOPS_RANGE">
+        <source>0 to %1</source>
+        <translation>0 a %1</translation>
     </message>
-    <message id="IDD_LOOPS_NEGATIVE">
-        <source>No negative numbers</source>
-        <translation>Sem números negativos</translation>
+    <message id="IDD_WIDTH_ZERO">
+        <source>The width must be a number greater than 0.</source>
+        <translation>A largura deve ser um número maior que 0.</translation>
     </message>
-    <message id="IDD_LOOPS_TOO_LARGE">
-        <source>65,535 at most</source>
-        <translation>no máximo 65.535</translation>
+    <message id="IDD_WIDTH_NEGATIVE">
+        <source>The width must not be negative.</source>
+        <translation>A largura não pode ser negativa.</translation>
     </message>
-    <message id="IDD_SIZE_HINT">
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
+    <message id="IDD_WIDTH_NOT_PLAIN">
+        <source>The width may contain digits only.</source>
+        <translation>A largura só pode conter algarismos.</translation>
     </message>
-    <message id="IDD_SIZE_ZERO">
-        <source>must be a number greater than 0</source>
-        <translation>deve ser um número maior que 0</translation>
+    <message id="IDD_WIDTH_TOO_LARGE">
+        <source>The width can be %1 pixels at most.</source>
+        <translation>A largura pode ser de no máximo %1 pixels.</translation>
     </message>
-    <message id="IDD_SIZE_NEGATIVE">
-        <source>must not be negative</source>
-        <translation>não pode ser negativa</translation>
+    <message id="IDD_HEIGHT_ZERO">
+        <source>The height must be a number greater than 0.</source>
+        <translation>A altura deve ser um número maior que 0.</translation>
     </message>
-    <message id="IDD_SIZE_NOT_PLAIN">
-        <source>may contain digits only</source>
-        <translation>só pode conter algarismos</translation>
+    <message id="IDD_HEIGHT_NEGATIVE">
+        <source>The height must not be negative.</source>
+        <translation>A altura não pode ser negativa.</translation>
     </message>
-    <message id="IDD_SIZE_TOO_LARGE">
-        <source>65,535 pixels at most</source>
-        <translation>no máximo 65.535 pixels</translation>
+    <message id="IDD_HEIGHT_NOT_PLAIN">
+        <source>The height may contain digits only.</source>
+        <translation>A altura só pode conter algarismos.</translation>
     </message>
-    <message id="IDD_GIF_SUMMARY">
-        <source>%1 frames, %2&#xa0;s at %3&#xa0;fps</source>
-        <translation>%1 quadros, %2&#xa0;s a %3&#xa0;fps</translation>
+    <message id="IDD_HEIGHT_TOO_LARGE">
+        <source>The height can be %1 pixels at most.</source>
+        <translation>A altura pode ser de no máximo %1 pixels.</translation>
+    </message>
+    <message id="IDD_GIF_SUMMARY" numerus="yes">
+        <source>%Ln frames, %1&#xa0;s at %2&#xa0;fps</source>
+        <translation>
+            <numerusform>%Ln quadro, %1&#xa0;s a %2&#xa0;fps</numerusform>
+            <numerusform>%Ln quadros, %1&#xa0;s a %2&#xa0;fps</numerusform>
+        </translation>
+    </message>
+    <message id="IDD_GIF_WEBP_SUMMARY">
+        <source>GIF: %1 · WebP: %2</source>
+        <translation>GIF: %1 · WebP: %2</translation>
     </message>
 </context>
 </TS>

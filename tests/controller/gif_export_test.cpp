@@ -216,8 +216,7 @@ TEST_F(GifExport, SaysHowManyFramesTheGifHoldsWhenOneIsMissing) {
     ui.btnGIFExport->click();
     const int held = QImageReader(answers.savePath).imageCount();
     EXPECT_EQ(held, 3);
-    EXPECT_TRUE(ui.labelStatus->text().contains(
-        qtTrId("IDD_STATUS_GAP").arg(QString::number(held), QStringLiteral("6"))));
+    EXPECT_TRUE(ui.labelStatus->text().contains(qtTrId("IDD_STATUS_GAP", 6).arg(held)));
 }
 
 TEST_F(GifExport, AndTheWebPRefuseTooFewFramesAndAnEmptySizeBeforeTheyTouchAnything) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/frame_timing.h"
 #include "export/gif_preset.h"
+#include "shell/number_text.h"
 #include "shell/window_progress.h"
 #include "tests/controller/export_fixture.h"
 
@@ -171,8 +172,7 @@ TEST_F(GifQuality, EndsAtAFileThatIsMissingOrBrokenWhereThereIsNoStore) {
         ASSERT_EQ(gif.imageCount(), 3);
         for (int frame = 0; frame < 3; ++frame)
             EXPECT_EQ(gif.read().pixel(5, 5), colourOf(frame).rgb());
-        EXPECT_TRUE(ui.labelStatus->text().contains(
-            qtTrId("IDD_STATUS_GAP").arg(QStringLiteral("3"), QStringLiteral("6"))));
+        EXPECT_TRUE(ui.labelStatus->text().contains(qtTrId("IDD_STATUS_GAP", 6).arg(3)));
     }
     answers.alerts.clear();
     put(frameFile(0), "no picture");
@@ -243,12 +243,12 @@ TEST_F(GifQuality, RefusesSizesBeforeItTouchesAnything) {
         const char *width;
         const char *height;
         QString words;
-    } cases[] = {{"320px", "48", qtTrId("IDD_SIZE_NOT_PLAIN")},
-                 {"1.5", "48", qtTrId("IDD_SIZE_NOT_PLAIN")},
-                 {"64", "-5", qtTrId("IDD_SIZE_NEGATIVE")},
-                 {"64", "65536", qtTrId("IDD_SIZE_TOO_LARGE")},
+    } cases[] = {{"320px", "48", qtTrId("IDD_WIDTH_NOT_PLAIN")},
+                 {"1.5", "48", qtTrId("IDD_WIDTH_NOT_PLAIN")},
+                 {"64", "-5", qtTrId("IDD_HEIGHT_NEGATIVE")},
+                 {"64", "65536", qtTrId("IDD_HEIGHT_TOO_LARGE").arg(QStringLiteral("65,535"))},
                  {"0", "48", controller.texts.s_IDD_INVALID_DIMENSION()},
-                 {"65535", "65535", QStringLiteral("76.29 MiB")},
+                 {"65535", "65535", QStringLiteral("80.0\u00a0MB")},
                  {"1200", "1000", QStringLiteral("1200 × 1000")}};
     for (const auto &[width, height, words] : cases) {
         SCOPED_TRACE(testing::Message() << width << 'x' << height);
@@ -304,7 +304,6 @@ TEST_F(GifQuality, BeginsWithBalancedAndIsRemembered) {
 TEST_F(GifQuality, TellsHowLargeItWillBe) {
     recordInMemory(12);
     choose(GifPreset::Best);
-    const QLocale locale;
     const auto said = [&] {
         QString last;
         // The exact size is the one that does not change any more.
@@ -323,8 +322,8 @@ TEST_F(GifQuality, TellsHowLargeItWillBe) {
         sizes[half] = said();
         answers.savePath = place(half ? "half.gif" : "whole.gif");
         ui.btnGIFExport->click();
-        EXPECT_EQ(sizes[half], locale.formattedDataSize(QFileInfo(answers.savePath).size(), 1,
-                                                        QLocale::DataSizeSIFormat));
+        const auto bytes = static_cast<std::uint64_t>(QFileInfo(answers.savePath).size());
+        EXPECT_EQ(sizes[half], qtTrId("IDD_GIF_SIZE").arg(number_text::bytes(bytes)));
     }
     EXPECT_NE(sizes[0], sizes[1]);
     choose(GifPreset::Classic);
@@ -368,7 +367,7 @@ TEST_F(GifQuality, FitsUnderALimitAndKeepsWhatWasChosen) {
     EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
     EXPECT_TRUE(exported().isEmpty());
     // What is said to be the smallest does fit.
-    static const QRegularExpression smallest(QStringLiteral("([0-9.]+) kB[^0-9]*$"));
+    static const QRegularExpression smallest(QStringLiteral("([0-9.]+)\u00a0kB[^0-9]*$"));
     const QRegularExpressionMatch said = smallest.match(answers.alerts[0].text);
     ASSERT_TRUE(said.hasMatch()) << answers.alerts[0].text.toStdString();
     const double least = said.captured(1).toDouble();

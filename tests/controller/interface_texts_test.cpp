@@ -2,13 +2,20 @@
 // SPDX-License-Identifier: MIT
 #include "record/window_fps.h"
 #include "region/window_region_how_it_works.h"
+#include "shell/number_text.h"
 #include "tests/controller/controller_fixture.h"
 
 #include <QAction>
 #include <QComboBox>
+#include <QFontInfo>
+#include <QGroupBox>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
+#include <QTest>
 #include <QTimer>
 #include <QTranslator>
 
@@ -118,6 +125,190 @@ TEST_F(InterfaceTexts, ofDialogsComeFromTheTable) {
     checkAll(Window_Region_How_It_Works(window(), delegate->region));
     checkAll(Window_FPS(window(), delegate->recorder));
 }
+
+/// What a text needs against what its place has, on widgets as they are laid out.
+class Places {
+public:
+    explicit Places(QString where) : where_(std::move(where)) {}
+
+    /// Everything that `root` shows now.
+    void check(QWidget &root) {
+        for (const QWidget *each : root.findChildren<QWidget *>()) {
+            if (!each->isVisibleTo(&root))
+                continue;
+            if (const auto *label = qobject_cast<const QLabel *>(each))
+                checkLabel(*label);
+            else if (const auto *button = qobject_cast<const QAbstractButton *>(each))
+                checkWidth(*each, button->text(), button->sizeHint().width());
+            else if (const auto *list = qobject_cast<const QComboBox *>(each))
+                checkList(*list);
+            else if (const auto *group = qobject_cast<const QGroupBox *>(each))
+                checkWidth(*each, group->title(), widthOf(*group, group->title()));
+            else if (const auto *bar = qobject_cast<const QTabBar *>(each))
+                checkWidth(*each, bar->tabText(0), bar->sizeHint().width());
+            else if (const auto *area = qobject_cast<const QScrollArea *>(each))
+                checkWidth(*area->viewport(), area->objectName(),
+                           area->widget()->minimumSizeHint().width());
+        }
+    }
+
+    void checkLabel(const QLabel &label) {
+        if (!label.wordWrap()) {
+            checkWidth(label, label.text(), label.sizeHint().width());
+            return;
+        }
+        checkWidth(label, label.text(), label.minimumSizeHint().width());
+        if (!label.text().isEmpty()) {
+            EXPECT_LE(label.heightForWidth(label.width()), label.height()) << said(label.text());
+        }
+    }
+
+    qsizetype seen = 0;
+
+private:
+    static int widthOf(const QWidget &widget, const QString &text) {
+        return widget.fontMetrics().horizontalAdvance(text);
+    }
+    std::string said(const QString &text) const { return (where_ + text).toStdString(); }
+
+    void checkWidth(const QWidget &widget, const QString &text, int needed) {
+        if (text.isEmpty())
+            return;
+        ++seen;
+        EXPECT_LE(needed, widget.width()) << said(text);
+    }
+
+    void checkList(const QComboBox &list) {
+        QStyleOptionComboBox option;
+        option.initFrom(&list);
+        option.editable = list.isEditable();
+        const int room =
+            list.style()
+                ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &list)
+                .width();
+        for (int item = 0; item < list.count(); ++item)
+            EXPECT_LE(widthOf(list, list.itemText(item)), room) << said(list.itemText(item));
+    }
+
+    QString where_;
+};
+
+/// A language's table, and a font that has its letters, for as long as this lives.
+struct InLanguage {
+    explicit InLanguage(QString language, double points) {
+        TestController::installTexts();
+        EXPECT_TRUE(table.load(QStringLiteral(":/strings/tovarel_%1.qm")
+                                   .arg(language.replace(QLatin1Char('-'), QLatin1Char('_')))));
+        QCoreApplication::installTranslator(&table);
+        QLocale::setDefault(QLocale(language));
+        QFont font(language == QLatin1String("ja")      ? QStringLiteral("Noto Sans CJK JP")
+                   : language == QLatin1String("zh_CN") ? QStringLiteral("Noto Sans CJK SC")
+                                                        : QStringLiteral("DejaVu Sans"));
+        font.setPointSizeF(points);
+        EXPECT_EQ(QFontInfo(font).family(), font.family()) << "the font is not installed";
+        QApplication::setFont(font);
+    }
+    ~InLanguage() {
+        QCoreApplication::removeTranslator(&table);
+        QLocale::setDefault(QLocale(QStringLiteral("en_US")));
+        QApplication::setFont(before);
+    }
+    QFont before = QApplication::font();
+    QTranslator table;
+};
+
+/// The longest texts that usual work brings, with usual figures.
+void fillIn(const Ui::MainWindow &ui) {
+    using namespace number_text;
+    ui.labelCaptureMode->setText(qtTrId("IDD_MODE_REGION").arg(1920).arg(1080).arg(1234).arg(567));
+    ui.labelCutRange->setText(
+        qtTrId("IDD_RANGE_HOLDS", 1234).arg(count(123), count(1356), decimal(123.4, 2)));
+    const QString summary = qtTrId("IDD_GIF_SUMMARY", 1234).arg(decimal(123.4), rate(12.4));
+    ui.labelGIFSummary->setText(qtTrId("IDD_GIF_WEBP_SUMMARY").arg(summary, summary));
+    ui.labelGIFThinned->setText(qtTrId("IDD_GIF_THINNED"));
+    ui.labelWebPLoopsHint->setText(qtTrId("IDD_LOOPS_RANGE").arg(count(65535)));
+    ui.labelGIFEstimate->setText(qtTrId("IDD_ABOUT_SIZE").arg(bytes(123'400'000)));
+}
+
+/// What the status line says while and after a recording, in the window's first width. A path does
+/// not fit: it is cut, and whole in the tip.
+void checkStatusLine(const Ui::MainWindow &ui, Places &places) {
+    using namespace number_text;
+    const QString figures =
+        qtTrId("IDD_RECORDING_FIGURES").arg(QStringLiteral("12:34"), count(12345), rate(59.9));
+    const QString memory =
+        qtTrId("IDD_RECORDING_MEMORY_LASTS").arg(bytes(123'400'000), QStringLiteral("12:34"));
+    const struct {
+        RecordStatus state;
+        QString text;
+        QPushButton *button;
+    } cases[] = {
+        {RECORD_STATUS_RECORD, figures + QStringLiteral(" · ") + memory, nullptr},
+        {RECORD_STATUS_PAUSE, qtTrId("IDD_PAUSED_FOR_MEMORY").arg(bytes(123'400'000)), nullptr},
+        {RECORD_STATUS_STOP, qtTrId("IDD_RECORDING_SAVED").arg(count(12345), rate(59.9)), nullptr},
+        {RECORD_STATUS_STOP,
+         qtTrId("IDD_RECORDING_BEHIND").arg(count(12345), QStringLiteral("60"), rate(12.4)),
+         nullptr},
+        {RECORD_STATUS_STOP, qtTrId("IDD_STATUS_UNSAVED").arg(QStringLiteral("WebP")),
+         ui.btnSaveResult},
+        {RECORD_STATUS_STOP, qtTrId("IDD_NOTHING_RECORDED"), nullptr},
+        {RECORD_STATUS_STOP, qtTrId("IDD_EXPORT_CANCELLED"), nullptr},
+        {RECORD_STATUS_STOP, qtTrId("IDD_CLOSE_WAITS"), nullptr},
+        {RECORD_STATUS_STOP,
+         qtTrId("IDD_KEYS_GRANTED")
+             .arg(QStringLiteral("Super+Ctrl"),
+                  QStringLiteral("R %1 · P %2 · S %3")
+                      .arg(qtTrId("IDD_RECORD"), qtTrId("IDD_PAUSE"), qtTrId("IDD_STOP"))),
+         nullptr},
+    };
+    for (const auto &[state, text, button] : cases) {
+        ui.recordingIndicator->setState(state);
+        ui.labelStatus->setText(text);
+        if (button)
+            button->show();
+        TestController::settle();
+        places.checkLabel(*ui.labelStatus);
+        if (button)
+            button->hide();
+    }
+}
+
+class InterfaceTextsFit : public testing::TestWithParam<double> {};
+
+TEST_P(InterfaceTextsFit, theirPlacesInEveryLanguage) {
+    for (const QString &language : strings_table::available()) {
+        const InLanguage in(language, GetParam());
+        TestController controller;
+        QMainWindow &window = *controller.window();
+        const Ui::MainWindow &ui = controller.ui();
+        Places places(language + QStringLiteral(": "));
+        checkStatusLine(ui, places);
+        const QSize smallest = AppDelegate::windowWillResizeToSize({0, 0}).toSize();
+        window.resize(smallest);
+        for (int tab = 0; tab < ui.tabBar->count(); ++tab) {
+            ui.tabBar->setCurrentIndex(tab);
+            fillIn(ui);
+            TestController::settle();
+            places.check(window);
+            EXPECT_EQ(window.size(), smallest) << language.toStdString();
+        }
+        EXPECT_GT(places.seen, 40);
+        for (QDialog *dialog :
+             {static_cast<QDialog *>(new Window_FPS(&window, controller.delegate->recorder)),
+              static_cast<QDialog *>(
+                  new Window_Region_How_It_Works(&window, controller.delegate->region))}) {
+            dialog->show();
+            TestController::settle();
+            places.check(*dialog);
+            EXPECT_EQ(dialog->size(), dialog->size().boundedTo({640, 480}))
+                << language.toStdString();
+            dialog->close();
+        }
+    }
+}
+
+// The sizes of the usual desktops' fonts.
+INSTANTIATE_TEST_SUITE_P(Points, InterfaceTextsFit, testing::Values(9.0, 10.0));
 
 TEST(InterfaceTextsRule, whatIsNotFromTheTableIsFound) {
     EXPECT_EQ(foreign(QStringLiteral("«IDD_FPS»: 12 Tovarel /usr/bin/ffmpeg")), QString());

@@ -74,8 +74,7 @@ TEST_F(MP4Export, EndsAtAGapAndWithOneAlertWhateverGoesWrong) {
     ASSERT_TRUE(QFile::remove(frameFile(5)));
     answers.savePath = place("gap.mp4");
     ui.btnMP4Generate->click();
-    EXPECT_TRUE(ui.labelStatus->text().contains(
-        qtTrId("IDD_STATUS_MP4_GAP").arg(QStringLiteral("5"), QStringLiteral("8"))));
+    EXPECT_TRUE(ui.labelStatus->text().contains(qtTrId("IDD_STATUS_MP4_GAP", 8).arg(5)));
     const struct {
         QString tool;
         QString reason;

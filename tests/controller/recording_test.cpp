@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "record/window_fps.h"
+#include "shell/number_text.h"
 #include "shell/tab_view.h"
 #include "shell/window_progress.h"
 #include "tests/controller/controller_fixture.h"
@@ -128,9 +129,10 @@ TEST_F(Recording, hasTheRateThatItsOwnClockMeasuresAndLeavesTheChosenOneAlone) {
     record(86, std::chrono::seconds(2));
     EXPECT_EQ(delegate->recording.u_Record_Current_FPS(), 43u);
     EXPECT_NEAR(delegate->recording.exactRate(), 43.0, 0.4);
-    EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_RECORDING_BEHIND").arg(86).arg(60).arg(43));
+    const auto rate = [this] { return number_text::rate(delegate->recording.exactRate()); };
+    EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_RECORDING_BEHIND").arg(86).arg(60).arg(rate()));
     record(120, std::chrono::seconds(2));
-    EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_RECORDING_SAVED").arg(120).arg(60));
+    EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_RECORDING_SAVED").arg(120).arg(rate()));
     // Too short to be measured: it is taken to have had the rate that was chosen.
     record(3, std::chrono::milliseconds(300));
     EXPECT_EQ(delegate->recording.exactRate(), 60.0);
@@ -163,8 +165,8 @@ TEST_F(Recording, savesTheVeryFramesAgainWhenSomethingStoodInTheWay) {
     delegate->OnRecordStop(nullptr);
     ASSERT_TRUE(waitForSave());
     EXPECT_EQ(ui().labelStatus->text(),
-              qtTrId("IDD_FRAMES_MISSING")
-                  .arg(QStringLiteral("1"), QStringLiteral("4"), delegate->shell.s_Output_Folder(),
+              qtTrId("IDD_FRAMES_MISSING", 4)
+                  .arg(QStringLiteral("1"), delegate->shell.s_Output_Folder(),
                        QString::fromLocal8Bit(strerror(EISDIR))));
     ui().btnSaveAgain->click();
     ASSERT_TRUE(waitForSave());

@@ -30,13 +30,14 @@ class Trim(case.Case):
         move("mousemove", "--sync", goal, y, "mouseup", 1)
 
     def held(self):
-        """First and last frame of what the line under the preview says an export would hold."""
+        """First and last frame of what the line under the preview says an export would hold, which
+        is said to people, who count from 1; the files' numbers begin with 0."""
         found = [match for text in self.program.labels() if (match := HELD.search(text))]
         if not found:
             return None
         first, last, count = map(int, found[0].groups())
         self.assertEqual(count, last - first + 1)
-        return first, last
+        return first - 1, last - 1
 
     def value(self, name):
         return int(self.handle(name).get_value_iface().get_current_value())

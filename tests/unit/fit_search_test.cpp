@@ -75,6 +75,7 @@ TEST(FitSearch, GivesUpColoursThenRateThenSizeAndNoMoreThanItMust) {
 
 TEST(FitLimit, IsANumberOfMegabytesOrNone) {
     EXPECT_EQ(fitLimitOf(u"5 MB").bytes, 5'000'000);
+    EXPECT_EQ(fitLimitOf(u"5\u00a0Mo").bytes, 5'000'000);
     EXPECT_EQ(fitLimitOf(u" 2.5mb ").bytes, 2'500'000);
     EXPECT_FALSE(fitLimitOf(u"").bytes || fitLimitOf(u"").isWrong);
     for (const char16_t *text : {u"0", u"-1", u"abc", u"5 GB", u"inf", u"nan", u"0.0000001"})

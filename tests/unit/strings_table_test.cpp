@@ -18,7 +18,8 @@ const QStringList languages = {
     QStringLiteral("de"), QStringLiteral("en"),    QStringLiteral("es"),   QStringLiteral("fr"),
     QStringLiteral("ja"), QStringLiteral("pt-BR"), QStringLiteral("zh-CN")};
 
-using Texts = QMap<QString, QString>; // by key
+/// The forms of each text by its key: one, or those that the language has for numbers.
+using Texts = QMap<QString, QStringList>;
 
 /// The table of a language as it stands in the source. Empty when it is no table.
 Texts read(QString language) {
@@ -29,21 +30,31 @@ Texts read(QString language) {
     QXmlStreamReader xml(&file);
     Texts texts;
     QString key;
+    bool counts = false;
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
         if (xml.name() == QLatin1String("message")) {
             key = xml.attributes().value(QLatin1String("id")).toString();
+            counts = xml.attributes().value(QLatin1String("numerus")) == QLatin1String("yes");
             EXPECT_FALSE(texts.contains(key)) << qPrintable(language + QLatin1Char(' ') + key);
         } else if (xml.name() == QLatin1String("translation")) {
             // An unfinished entry would show its source text instead.
             EXPECT_TRUE(xml.attributes().isEmpty())
                 << qPrintable(language + QLatin1Char(' ') + key);
-            texts[key] = xml.readElementText();
+            while (counts && xml.readNextStartElement())
+                texts[key] << xml.readElementText();
+            if (!counts)
+                texts[key] << xml.readElementText();
         }
     }
     EXPECT_FALSE(xml.hasError()) << qPrintable(xml.errorString());
     return texts;
+}
+
+/// How many forms a language has for numbers.
+qsizetype formsOf(const QString &language) {
+    return language == QLatin1String("ja") || language == QLatin1String("zh-CN") ? 1 : 2;
 }
 
 QStringList matches(const QString &text, const char *pattern) {
@@ -130,16 +141,66 @@ TEST(StringsTable, everyTableSaysEverythingThatEnglishSays) {
                   english.keys().join(QLatin1Char('\n')).toStdString())
             << qPrintable(language);
         for (const QString &key : texts.keys()) {
-            const QString where = language + QLatin1Char(' ') + key;
-            const QString &text = texts[key];
-            EXPECT_FALSE(text.trimmed().isEmpty()) << qPrintable(where);
-            EXPECT_EQ(text, text.trimmed()) << qPrintable(where);
-            EXPECT_EQ(matches(text, "%L?[1-9n]"), matches(english[key], "%L?[1-9n]"))
-                << qPrintable(where);
-            // Mnemonics are chosen by the program, where it knows a text's neighbours.
-            EXPECT_FALSE(text.contains(QLatin1Char('&'))) << qPrintable(where);
+            SCOPED_TRACE(qPrintable(language + QLatin1Char(' ') + key));
+            const QStringList wanted = matches(english[key].last(), "%L?[1-9np]");
+            // How many forms a language has is what the texts with a number must agree in.
+            const bool counts = wanted.contains(QLatin1String("%Ln"));
+            EXPECT_EQ(texts[key].size(), counts ? formsOf(language) : 1);
+            for (const QString &text : texts[key]) {
+                EXPECT_FALSE(text.trimmed().isEmpty());
+                EXPECT_EQ(text, text.trimmed());
+                EXPECT_EQ(matches(text, "%L?[1-9np]"), wanted);
+                // Mnemonics are chosen by the program, where it knows a text's neighbours.
+                EXPECT_FALSE(text.contains(QLatin1Char('&')));
+            }
         }
     }
+}
+
+TEST(StringsTable, everyTextIsTranslated) {
+    // Names, units and words that are the same in several languages.
+    static const QRegularExpression same(
+        QStringLiteral("%L?[1-9n]|GIF|WebP|MP4|MB|fps|\\bs\\b|OK|Pause|Action|Version"));
+    static const QRegularExpression word(QStringLiteral("\\p{L}"));
+    const Texts english = read(QStringLiteral("en"));
+    for (const QString &language : languages) {
+        const Texts texts = read(language);
+        for (const QString &key : texts.keys()) {
+            if (language == QLatin1String("en") || texts[key] != english[key])
+                continue;
+            EXPECT_FALSE(texts[key].join(QString()).remove(same).contains(word))
+                << qPrintable(language + QLatin1Char(' ') + key);
+        }
+    }
+}
+
+TEST(StringsTable, marksAndUnitsStandAsTheLanguageHasThem) {
+    // Kana and kanji; %1 and its like are Latin.
+#define CJK "\u3041-\u3096\u30a1-\u30fa\u4e00-\u9fff"
+    const struct {
+        const char *languages;
+        const char *wrong;
+    } rules[] = {
+        // Typewriters' marks, blanks that are not meant, a unit that can part from its number.
+        {"de en es fr ja pt-BR zh-CN", "['\"]|\\.\\.\\.|  |%L?[1-9n] (s|fps|i/s|秒|帧/秒)(?!\\w)"},
+        {"en", "colour|licence|behaviour"},
+        {"de", "(?<!\u00a0)…|(?<!\u00a0)%$"},
+        {"es", "« | »|(?<!\u00a0)%$"},
+        {"fr", "(?<!\u202f)[;!?]|(?<!\u00a0)[:»]|«(?!\u00a0)|(?<!\u202f)%$"},
+        {"ja", "[()!?;]|[,.](?=[" CJK "])|[" CJK "][a-zA-Z0-9%]|[a-zA-Z0-9%][" CJK "]"},
+        {"zh-CN", "[():!?;]|[,.](?=[" CJK "])|[" CJK "][a-zA-Z0-9%]|[a-zA-Z0-9%][" CJK "]"},
+    };
+#undef CJK
+    for (const auto &[where, wrong] : rules)
+        for (const QString &language : QString::fromLatin1(where).split(QLatin1Char(' '))) {
+            const Texts texts = read(language);
+            const QRegularExpression pattern(QString::fromUtf8(wrong));
+            ASSERT_TRUE(pattern.isValid()) << wrong;
+            for (const QString &key : texts.keys())
+                for (const QString &text : texts[key])
+                    EXPECT_FALSE(text.contains(pattern))
+                        << qPrintable(language + QLatin1Char(' ') + key + QLatin1Char(' ') + text);
+        }
 }
 
 } // namespace
