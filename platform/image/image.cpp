@@ -3,8 +3,10 @@
 #include "platform/image/image.h"
 
 #include "platform/image/image_storage.h"
+#include "platform/image/regions.h"
 
 #include <atomic>
+#include <cstring>
 #include <utility>
 
 namespace {
@@ -22,6 +24,13 @@ QImage lookInto(const QImage &picture, const QRect &part) {
                   release, std::make_unique<QImage>(picture).release());
 }
 
+void copyPixels(const QImage &from, const QRect &part, QImage &to, const QPoint &corner) {
+    const auto bytes = static_cast<std::size_t>(part.width()) * sizeof(std::uint32_t);
+    for (int row = 0; row < part.height(); ++row)
+        std::memcpy(to.scanLine(corner.y() + row) + std::ptrdiff_t{4} * corner.x(),
+                    from.constScanLine(part.y() + row) + std::ptrdiff_t{4} * part.x(), bytes);
+}
+
 } // namespace
 
 Image Image::fromQImage(QImage pixels, Change change) {
@@ -31,8 +40,18 @@ Image Image::fromQImage(QImage pixels, Change change) {
     pixels.setDevicePixelRatio(1.0);
     pixels.convertTo(alpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     const QSize size = pixels.size();
-    return Image(std::make_shared<const Storage>(
-        Storage{nextIdentity(), size, alpha, std::move(change), std::move(pixels), nullptr}));
+    return Image(std::make_shared<const Storage>(Storage{
+        nextIdentity(), size, alpha, std::move(change), std::move(pixels), {}, {}, {}, {}}));
+}
+
+Image Image::withPatches(std::vector<ImagePatch> patches) const {
+    if (isEmpty())
+        return {};
+    QRegion places;
+    for (const ImagePatch &patch : patches)
+        places = united(places, QRect(patch.corner, patch.pixels.size()));
+    return Image(std::make_shared<const Storage>(Storage{
+        nextIdentity(), size(), hasAlpha(), {}, {}, {}, *this, places, std::move(patches)}));
 }
 
 QSize Image::size() const { return storage_ ? storage_->size : QSize(0, 0); }
@@ -51,16 +70,46 @@ std::optional<QRegion> Image::changesSince(const Image &earlier) const {
         return storage_->change.region;
     if (storage_->tiles && earlier.storage_->tiles)
         return storage_->tiles->differsFrom(*earlier.storage_->tiles);
-    return {};
+    if (storage_->beneath.isEmpty() && earlier.storage_->beneath.isEmpty())
+        return {};
+    const Image &under = storage_->beneath.isEmpty() ? *this : storage_->beneath;
+    const Image &underEarlier =
+        earlier.storage_->beneath.isEmpty() ? earlier : earlier.storage_->beneath;
+    auto changes = under.changesSince(underEarlier);
+    if (changes)
+        changes = united(united(*changes, storage_->patched), earlier.storage_->patched);
+    return changes;
 }
 
 QImage Image::toQImage() const {
-    if (!storage_ || !storage_->tiles)
+    if (!storage_ || !storage_->whole.isNull())
         return storage_ ? storage_->whole : QImage();
     QImage pixels(storage_->size, storage_->format());
     if (!pixels.isNull())
-        storage_->tiles->read(pixels, pixels.rect());
+        storage_->read(pixels, pixels.rect());
     return pixels;
+}
+
+void Image::Storage::read(QImage &picture, const QRegion &where) const {
+    if (tiles) {
+        tiles->read(picture, where);
+        return;
+    }
+    if (beneath.isEmpty()) {
+        for (const QRect &part : where.intersected(whole.rect()))
+            copyPixels(whole, part, picture, part.topLeft());
+        return;
+    }
+    beneath.storage_->read(picture, where);
+    // Tiles beneath are read whole: whatever lies on one of them has to be put back.
+    QRegion touched = where;
+    if (beneath.storage_->tiles)
+        touched = patched;
+    for (const ImagePatch &patch : patches) {
+        const QRect place(patch.corner, patch.pixels.size());
+        for (const QRect &part : touched.intersected(place))
+            copyPixels(patch.pixels, part.translated(-patch.corner), picture, part.topLeft());
+    }
 }
 
 Image Image::cut(const QRect &part, Change change) const {

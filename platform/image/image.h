@@ -3,18 +3,26 @@
 #pragma once
 
 #include <QImage>
+#include <QPoint>
 #include <QRegion>
 #include <QSize>
 
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
 
 /// How a picture came out of an earlier one of the same size, whose identity is `since`: it differs
 /// from it at most within `region` (pixels, upper left origin).
 struct ImageChange {
     std::uint64_t since = 0;
     QRegion region;
+};
+
+/// A small picture that takes the place of a part of a larger one.
+struct ImagePatch {
+    QPoint corner; ///< Where its upper left pixel goes, in pixels from the larger one's upper left.
+    QImage pixels; ///< In the format that the larger one's `toQImage` has.
 };
 
 /// An immutable picture, as a grab yields it and a recording keeps it.
@@ -61,6 +69,11 @@ public:
     /// null picture for the empty image, and when memory has run out. The picture may share memory
     /// with this image and keeps it alive; writing to it detaches, as always with QImage.
     QImage toQImage() const;
+
+    /// A new picture that differs from this one only by these patches, which lie within it. It
+    /// shares all other pixels with this one, and costs no more than the patches until somebody
+    /// asks for all of them. Changes are those of this one and the places of the patches.
+    Image withPatches(std::vector<ImagePatch> patches) const;
 
     /// The part inside `part` (pixels, upper left origin, within the image and not empty), sharing
     /// pixels with this image where that can be had.

@@ -14,18 +14,18 @@ const QImage &ImageReader::read(const Image &image) {
         pixels_ = QImage();
         return pixels_;
     }
-    if (!image.storage_->tiles) {
+    if (!image.storage_->whole.isNull()) {
         // Looked into where it is: nothing is copied.
         pixels_ = image.toQImage();
         return pixels_;
     }
-    // Ours to write to, and of the right size, when it came out of tiles the last time too.
-    const bool ours = !before.isEmpty() && before.storage_->tiles && !pixels_.isNull() &&
+    // Ours to write to, and of the right size, when it was put together the last time too.
+    const bool ours = !before.isEmpty() && before.storage_->whole.isNull() && !pixels_.isNull() &&
                       pixels_.size() == image.size() &&
                       pixels_.format() == image.storage_->format();
     if (!ours)
         pixels_ = QImage(image.size(), image.storage_->format());
     if (!pixels_.isNull())
-        image.storage_->tiles->read(pixels_, ours ? changed_ : QRegion(pixels_.rect()));
+        image.storage_->read(pixels_, ours ? changed_ : QRegion(pixels_.rect()));
     return pixels_;
 }

@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace {
@@ -90,10 +91,37 @@ public:
             if (!rows.back())
                 return nullptr;
         }
-        return counted(TileTable(pixels_.size(), std::move(rows)),
-                       static_cast<std::ptrdiff_t>(
-                           sizeof(TileTable) + static_cast<std::size_t>(grid.height()) *
-                                                   sizeof(std::shared_ptr<const TileTable::Row>)));
+        return tableOf(pixels_.size(), std::move(rows));
+    }
+
+    /// The tiles of a picture that consists of patches on another one, whose tiles are `beneath`.
+    /// Null when memory has run out.
+    std::shared_ptr<const TileTable> patchedTable(const TileTable &beneath,
+                                                  const Image::Storage &picture) {
+        auto rows = beneath.rows();
+        QImage room(Tile::side, Tile::side, picture.format());
+        if (room.isNull())
+            return nullptr;
+        for (std::size_t y = 0; y < rows.size(); ++y) {
+            const QRect band(0, static_cast<int>(y) * Tile::side, picture.size.width(), Tile::side);
+            if (!picture.patched.intersects(band))
+                continue;
+            TileTable::Row tiles = *rows[y];
+            for (std::size_t x = 0; x < tiles.size(); ++x) {
+                const QRect place =
+                    TileTable::placeOf(picture.size, static_cast<int>(x), static_cast<int>(y));
+                if (!picture.patched.intersects(place))
+                    continue;
+                tiles[x]->read(room, QRect(QPoint(), place.size()));
+                paste(picture.patches, place, room);
+                const auto *old = before_ ? &(*before_->rows()[y])[x] : nullptr;
+                tiles[x] = tile(room, QRect(QPoint(), place.size()), old);
+                if (!tiles[x])
+                    return nullptr;
+            }
+            rows[y] = rowOf(std::move(tiles));
+        }
+        return tableOf(picture.size, std::move(rows));
     }
 
     /// The tiles that were made again.
@@ -108,24 +136,52 @@ private:
         tiles.reserve(static_cast<std::size_t>(columns));
         for (int x = 0; x < columns; ++x) {
             const auto *old = before ? &(**before)[static_cast<std::size_t>(x)] : nullptr;
-            tiles.push_back(tile(TileTable::placeOf(pixels_.size(), x, y), old));
+            const QRect place = TileTable::placeOf(pixels_.size(), x, y);
+            const bool unchanged = old && changes_ && !changes_->intersects(place);
+            tiles.push_back(unchanged ? *old : tile(pixels_, place, old));
             if (!tiles.back())
                 return nullptr;
         }
         if (before && **before == tiles)
             return *before;
-        const auto cost = static_cast<std::ptrdiff_t>(sizeof(decltype(tiles)) +
-                                                      tiles.size() * sizeof tiles.front());
-        return counted(std::move(tiles), cost);
+        return rowOf(std::move(tiles));
     }
 
-    std::shared_ptr<const Tile> tile(const QRect &place, const std::shared_ptr<const Tile> *old) {
-        if (old && ((changes_ && !changes_->intersects(place)) || (*old)->equals(pixels_, place)))
+    std::shared_ptr<const Tile> tile(const QImage &pixels, const QRect &place,
+                                     const std::shared_ptr<const Tile> *old) {
+        if (old && (*old)->equals(pixels, place))
             return *old;
-        auto made = Tile::make(memory_, pixels_, place);
+        auto made = Tile::make(memory_, pixels, place);
         if (made)
             fresh.push_back(made);
         return made;
+    }
+
+    /// Puts those pixels of the patches that lie within `place` to where they belong in `room`,
+    /// which holds that place.
+    static void paste(const std::vector<ImagePatch> &patches, const QRect &place, QImage &room) {
+        for (const ImagePatch &patch : patches) {
+            const QRect part = QRect(patch.corner, patch.pixels.size()).intersected(place);
+            const QPoint from = part.topLeft() - patch.corner,
+                         to = part.topLeft() - place.topLeft();
+            const auto bytes = static_cast<std::size_t>(part.width()) * sizeof(std::uint32_t);
+            for (int row = 0; row < part.height(); ++row)
+                std::memcpy(room.scanLine(to.y() + row) + std::ptrdiff_t{4} * to.x(),
+                            patch.pixels.constScanLine(from.y() + row) +
+                                std::ptrdiff_t{4} * from.x(),
+                            bytes);
+        }
+    }
+
+    std::shared_ptr<const TileTable::Row> rowOf(TileTable::Row tiles) const {
+        const auto cost = sizeof tiles + tiles.size() * sizeof tiles.front();
+        return counted(std::move(tiles), static_cast<std::ptrdiff_t>(cost));
+    }
+
+    std::shared_ptr<const TileTable>
+    tableOf(QSize size, std::vector<std::shared_ptr<const TileTable::Row>> rows) const {
+        const auto cost = sizeof(TileTable) + rows.size() * sizeof rows.front();
+        return counted(TileTable(size, std::move(rows)), static_cast<std::ptrdiff_t>(cost));
     }
 
     QRect rowPlace(int y) const { return {0, y * Tile::side, pixels_.width(), Tile::side}; }
@@ -151,6 +207,17 @@ Image TileStore::keep(const Image &image, const Image &previous) {
         return previous;
     if (image.isEmpty() || image.storage_->tiles)
         return image;
+    if (!image.storage_->beneath.isEmpty())
+        return keepPatched(image, previous);
+    const Image &before = previous.isEmpty() || previous.storage_->beneath.isEmpty()
+                              ? previous
+                              : previous.storage_->beneath;
+    if (image.sameAs(before))
+        return before;
+    return keepWhole(image, before);
+}
+
+Image TileStore::keepWhole(const Image &image, const Image &previous) {
     const bool related = !previous.isEmpty() && previous.storage_->tiles &&
                          previous.size() == image.size() && previous.hasAlpha() == image.hasAlpha();
     const QImage pixels = image.toQImage();
@@ -161,6 +228,29 @@ Image TileStore::keep(const Image &image, const Image &previous) {
     kept->size = image.size();
     kept->alpha = image.hasAlpha();
     kept->tiles = builder.table();
+    if (!kept->tiles)
+        return image;
+    enqueue(builder.fresh);
+    return Image(std::move(kept));
+}
+
+// What the patches lie on is kept once for as long as it stays the same, so that a place which they
+// have left costs nothing.
+Image TileStore::keepPatched(const Image &image, const Image &previous) {
+    const Image::Storage &patched = *image.storage_;
+    const Image beneath = keep(patched.beneath, previous);
+    if (beneath.isEmpty() || !beneath.storage_->tiles)
+        return image;
+    const bool related = !previous.isEmpty() && previous.storage_->tiles &&
+                         previous.size() == image.size() && previous.hasAlpha() == image.hasAlpha();
+    auto kept = std::make_shared<Image::Storage>();
+    kept->identity = image.identity();
+    kept->size = image.size();
+    kept->alpha = image.hasAlpha();
+    kept->beneath = beneath;
+    kept->patched = patched.patched;
+    Builder builder(memory_, {}, related ? previous.storage_->tiles.get() : nullptr, {});
+    kept->tiles = builder.patchedTable(*beneath.storage_->tiles, patched);
     if (!kept->tiles)
         return image;
     enqueue(builder.fresh);

@@ -42,6 +42,8 @@ private:
     class Worth;
     class Builder;
 
+    Image keepWhole(const Image &image, const Image &previous);
+    Image keepPatched(const Image &image, const Image &previous);
     void enqueue(const std::vector<std::weak_ptr<Tile>> &tiles);
     void compressAll(const std::stop_token &stop);
 
