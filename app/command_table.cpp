@@ -7,6 +7,18 @@
 
 namespace {
 
+/// What a switch for what hands do says: what it is for, or why it cannot be used.
+QString handsTip(const QString &tip, HandAccess access) {
+    switch (access) {
+    case HandAccess::Granted:
+    case HandAccess::NothingRecorded:
+        return tip;
+    case HandAccess::NotOffered:
+        return qtTrId("IDD_HANDS_NOT_OFFERED");
+    }
+    return tip;
+}
+
 /// The commands that make and change a recording.
 std::vector<Command> recordCommands(AppDelegate &controller) {
     const Ui::MainWindow &ui = *controller.ui;
@@ -38,6 +50,16 @@ std::vector<Command> recordCommands(AppDelegate &controller) {
          .action = [&controller] { controller.OnMenuActionRecordFPS(); },
          .enabled = stopped,
          .opensDialog = true},
+        {.button = ui.btnRecordPointer,
+         .text = qtTrId("IDD_POINTER"),
+         .tip = handsTip(qtTrId("IDD_POINTER_TIP"), recorder.hands.pointerAccess()),
+         .icon = "pointer",
+         .action = [&controller] { controller.recorder.OnRecordPointer(); },
+         .enabled =
+             [stopped, &recorder] {
+                 return stopped() && recorder.hands.pointerAccess() == HandAccess::Granted;
+             },
+         .checked = [&recorder] { return recorder.hands.isPointerShown(); }},
         {.item = ui.menuitemActionRecordRecord,
          .button = ui.btnRecordRecord,
          .text = texts.s_IDD_RECORD(),

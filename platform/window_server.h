@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/image/image.h"
+#include "platform/pointer_watch.h"
 
 #include <QRect>
 #include <QRectF>
@@ -48,6 +49,13 @@ enum class Obstacle {
     WaylandSession,   ///< An X server may answer, but it shows the windows of X clients only.
 };
 
+/// Whether what hands do can be had beside the picture of the windows, which shows none of it.
+enum class HandAccess {
+    Granted,
+    NothingRecorded, ///< Without a picture there is nothing to show it in.
+    NotOffered,      ///< The display does not tell.
+};
+
 /// What a back end is able to do.
 struct WindowServerCapabilities {
     /// It can list the single windows on the screen.
@@ -56,6 +64,8 @@ struct WindowServerCapabilities {
     bool canLeaveOut = false;
     /// It learns what changed, so that a grab costs what changed.
     bool knowsDamage = false;
+    /// It can tell where the pointer is and what it looks like.
+    HandAccess pointer = HandAccess::NothingRecorded;
 };
 
 /// The window server: the list of the windows on screen, and one picture of those that are asked
@@ -87,6 +97,9 @@ public:
     /// before. Two calls for one part between which nothing changed in it yield the same picture.
     virtual std::optional<Image> composite(std::span<const std::uint32_t> numbers,
                                            const std::optional<QRect> &part) = 0;
+
+    /// Follows the pointer from now on; null when that cannot be had. Ends before the server does.
+    virtual std::unique_ptr<PointerWatch> watchPointer() { return nullptr; }
 
     /// The whole of it.
     std::optional<Image> composite(std::span<const std::uint32_t> numbers) {

@@ -49,8 +49,10 @@ Recorder::newWindowListFromSelection(std::span<const WindowEntry> selection) {
 void Recorder::createMultiWindowShot(std::span<const WindowEntry> selection) {
     const std::optional<QRect> part = chooser_.place().partInUse;
     const auto grab = windowServer().composite(newWindowListFromSelection(selection), part);
-    if (grab)
+    if (grab) {
         capture.setGrabbedPart(part);
+        capture.marks = hands.look(capture.windowsOnScreen);
+    }
     setOutputImage(grab);
 }
 
@@ -75,6 +77,13 @@ void Recorder::setOutputImage(const std::optional<Image> &grab) {
     capture.setImgScreenCapture(
         Scale_Image_By_Percentage(halvedFrom->isNull() ? *grab : grab->cut(halved, {}), halfSize));
     grabPlaceChanged();
+}
+
+Image Recorder::withMarks(const Image &frame, QPoint corner) {
+    FramePlace place{.origin = corner};
+    if (!capture.grabBeforeHalving().isEmpty())
+        place = {.origin = capture.halvedFrom() + corner * 2, .density = 2};
+    return marks_.over(frame, place, capture.marks);
 }
 
 void Recorder::grabPlaceChanged() {

@@ -4,6 +4,7 @@
 
 #include "platform/image/image.h"
 #include "platform/window_server.h"
+#include "record/marks/marks.h"
 #include "record/window_entry.h"
 
 #include <QPoint>
@@ -58,7 +59,12 @@ public:
     QPoint halvedFrom() const { return halvedFrom_; }
     void setHalvedFrom(QPoint pixel) { halvedFrom_ = pixel; }
 
-    /// The image that the record preview drew last: the whole grab, or the region cut out of it.
+    /// What hands did when the latest grab was taken, as far as it is to be shown. It is not in
+    /// `imgScreenCapture`.
+    MarksShown marks;
+
+    /// The image that the record preview drew last: the whole grab or the region cut out of it, and
+    /// over it what hands did.
     const Image &imageScreenCaptureFinal() const { return imageScreenCaptureFinal_; }
     void setImageScreenCaptureFinal(const Image &image) { imageScreenCaptureFinal_ = image; }
 

@@ -40,6 +40,7 @@ void Recorder::start() {
     recording.setU_FPS(defaultFramesPerSecond);
     recording.setM_RecordStatus(RECORD_STATUS_STOP);
     recording.setI_debug_number_of_view_refresh(0);
+    hands.start();
     updateCaptureMode();
     showRecordingState();
 }
@@ -129,7 +130,13 @@ void Recorder::TimerDebug1SecondRoutine() {
     watchMemory();
 }
 
+void Recorder::OnRecordPointer() {
+    hands.showPointer(!hands.isPointerShown());
+    Q_EMIT stateChanged();
+}
+
 void Recorder::restartCaptureTimer() {
+    hands.follow();
     recording.timerVideoRefresh.reset();
     recording.timerVideoRefresh = std::make_unique<RepeatingTimer>(
         captureInterval(recording.u_FPS()), [this] { TimerRefreshVideoRoutine(); });
@@ -144,6 +151,7 @@ void Recorder::restartOneSecondTimer() {
 void Recorder::stopRecordTimers() {
     recording.timerdebug1Second.reset();
     recording.timerVideoRefresh.reset();
+    hands.rest();
 }
 
 void Recorder::storeFrame() {

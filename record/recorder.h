@@ -4,6 +4,8 @@
 
 #include "record/capture_fields.h"
 #include "record/capture_mode.h"
+#include "record/marks/hands.h"
+#include "record/marks/marks.h"
 #include "record/rates.h"
 #include "record/recording_fields.h"
 
@@ -39,8 +41,16 @@ public:
              std::unique_ptr<WindowServer> windowServer);
     ~Recorder() override;
 
+private:
+    Surroundings &surroundings_;
+    RegionChooser &chooser_;
+    std::unique_ptr<WindowServer> windowServer_; // before what watches it
+
+public:
     CaptureFields capture;
     RecordingFields recording;
+    /// What of the user's hands is shown.
+    Hands hands{*windowServer_};
 
     /// Without one nothing is asked.
     void setGate(Gate gate) { gate_ = std::move(gate); }
@@ -62,6 +72,9 @@ public:
     /// Stores a grab in `imgScreenCapture`, halved on a double-density screen; none keeps the
     /// previous one.
     void setOutputImage(const std::optional<Image> &grab);
+    /// A frame with what hands did over it; `corner` is where its upper left pixel is in
+    /// `imgScreenCapture`.
+    Image withMarks(const Image &frame, QPoint corner);
     /// The image scaled smoothly to whole pixels, at least one each way; its ratio is kept in
     /// single precision. The empty image stays so.
     static Image Scale_Image_By_Percentage(const Image &image, float percentage);
@@ -83,6 +96,8 @@ public:
     void OnRecordPause();
     /// Measures the rate and starts the save. A recording without frames ends here.
     void OnRecordStop();
+    /// Shows the mouse pointer in recordings from now on, or no longer.
+    void OnRecordPointer();
     /// Lets the user choose the capture rate; returns when the dialog is closed.
     void OnRecordFPS();
     /// Saves the last recording once more from memory: for when frames were missing and there is
@@ -150,10 +165,8 @@ private:
     void frameLoaded(std::uint64_t done);
     void takeRecording(std::vector<Image> frames, const RecordingNote &note);
 
-    Surroundings &surroundings_;
-    RegionChooser &chooser_;
-    std::unique_ptr<WindowServer> windowServer_;
     Gate gate_;
+    Marks marks_;
     CaptureMode mode_;
     bool saveDue_ = false; ///< A save is about to begin.
     bool hasMissingFrames_ = false;

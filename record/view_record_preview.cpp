@@ -60,7 +60,10 @@ void View_Record_Preview::drawFrame() {
     const Image previous = shown_;
     refreshGrab();
     const Image &grab = recorder_->capture.imgScreenCapture();
-    shown_ = chooser.isRegionRecorded() ? cutRegion(grab, chooser.place().inGrab) : grab;
+    const QRect region = chooser.place().inGrab;
+    shown_ = chooser.isRegionRecorded()
+                 ? recorder_->withMarks(cutRegion(grab, region), region.topLeft())
+                 : recorder_->withMarks(grab, {});
     recorder_->capture.setImageScreenCaptureFinal(shown_);
     frame_ = bestFitFrame(shown_.width(), shown_.height(), width(), height());
     recorder_->updateCaptureMode();

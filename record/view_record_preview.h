@@ -32,7 +32,7 @@ public:
     /// The desk, borrowed, whose grabs it shows; without one it stays black.
     void setRecorder(Recorder &recorder);
 
-    /// The draw step: cuts the region out of the latest grab, fits it into the view, sets
+    /// The draw step: cuts the region out of the latest grab, draws what hands do over it, sets
     /// `imageScreenCaptureFinal`, stores the frame while recording, and asks to be painted.
     void drawFrame();
 

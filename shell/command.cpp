@@ -18,6 +18,7 @@ void setUpButton(const Command &command, QObject *context, Qt::ConnectionType ty
     } else {
         button.setText(command.text);
     }
+    button.setCheckable(command.checked != nullptr);
     button.setToolTip(command.tip.isEmpty() ? command.text : command.tip);
     QObject::connect(
         &button, &QAbstractButton::clicked, context, [action = command.action] { action(); }, type);
@@ -45,6 +46,8 @@ void setUp(const std::vector<Command> &commands, QObject *context) {
 
 void refresh(const std::vector<Command> &commands) {
     for (const Command &command : commands) {
+        if (command.checked)
+            command.button->setChecked(command.checked());
         if (!command.enabled)
             continue;
         const bool enabled = command.enabled();

@@ -27,6 +27,8 @@ struct Command {
     std::function<void()> action;
     /// Whether it can be used now. Without one it always can.
     std::function<bool()> enabled = {};
+    /// Of a switch, which stays pressed while it is on: whether it is.
+    std::function<bool()> checked = {};
     /// It runs a dialog, so it is started from the event loop: assistive technology waits for the
     /// answer to its press, and would wait until the dialog ends.
     bool opensDialog = false;
@@ -36,5 +38,5 @@ struct Command {
 /// as long as `context` lives.
 void setUp(const std::vector<Command> &commands, QObject *context);
 
-/// Enables what can be used now and disables the rest.
+/// Enables what can be used now and disables the rest; presses the switches that are on.
 void refresh(const std::vector<Command> &commands);

@@ -14,6 +14,7 @@ const QString howToKey = QStringLiteral("MACBrenmoor_Lumsey_b_Show_Select_Region
 
 const QString lastSaveFolderKey = QStringLiteral("LastSaveFolder");
 const QString qualityKey = QStringLiteral("GIFQuality");
+const QString showPointerKey = QStringLiteral("ShowPointer");
 
 void sync(QSettings &store) {
     store.sync();
@@ -28,6 +29,13 @@ void write(const QString &key, const QString &text) {
     store.setValue(key, text);
     sync(store);
 }
+
+bool readSwitch(const QString &key, bool otherwise) {
+    const QString stored = QSettings().value(key).toString();
+    return stored.isEmpty() ? otherwise : integerValue(stored) != 0;
+}
+
+void writeSwitch(const QString &key, bool on) { write(key, QString::number(on ? 1 : 0)); }
 
 } // namespace
 
@@ -52,6 +60,10 @@ void writeLastSaveFolder(const QString &folder) { write(lastSaveFolderKey, folde
 QString readGIFQuality() { return QSettings().value(qualityKey).toString(); }
 
 void writeGIFQuality(const QString &word) { write(qualityKey, word); }
+
+bool readShowPointer() { return readSwitch(showPointerKey, true); }
+
+void writeShowPointer(bool shown) { writeSwitch(showPointerKey, shown); }
 
 void flush() {
     QSettings store;

@@ -28,6 +28,10 @@ void writeLastSaveFolder(const QString &folder);
 QString readGIFQuality();
 void writeGIFQuality(const QString &word);
 
+/// Whether the mouse pointer is shown in recordings; it is, as long as nothing else was stored.
+bool readShowPointer();
+void writeShowPointer(bool shown);
+
 /// Writes what is not on disk yet.
 void flush();
 

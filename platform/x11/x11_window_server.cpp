@@ -5,6 +5,7 @@
 #include "platform/image/regions.h"
 #include "platform/x11/surface.h"
 #include "platform/x11/tile_comparison.h"
+#include "platform/x11/x11_pointer_watch.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
@@ -78,7 +79,13 @@ void X11WindowServer::watchWhileIdle() {
 }
 
 WindowServerCapabilities X11WindowServer::capabilities() const {
-    return {.canList = true, .canLeaveOut = true, .knowsDamage = true};
+    return {
+        .canList = true, .canLeaveOut = true, .knowsDamage = true, .pointer = HandAccess::Granted};
+}
+
+std::unique_ptr<PointerWatch> X11WindowServer::watchPointer() {
+    auto own = connection_->another();
+    return own ? std::make_unique<x11::X11PointerWatch>(std::move(own)) : nullptr;
 }
 
 std::vector<WindowDescription> X11WindowServer::listWindows() {

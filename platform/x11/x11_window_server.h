@@ -53,6 +53,8 @@ public:
     std::optional<Image> composite(std::span<const std::uint32_t> numbers,
                                    const std::optional<QRect> &part) override;
 
+    std::unique_ptr<PointerWatch> watchPointer() override;
+
     /// How pixels come over; none before the first composite.
     std::optional<x11::TransferMethod> method() const { return ring_.method(); }
 

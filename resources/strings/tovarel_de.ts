@@ -224,6 +224,18 @@
         <source>%1 · Frames: %2 · %3&#xa0;fps</source>
         <translation>%1 · Bilder: %2 · %3&#xa0;fps</translation>
     </message>
+    <message id="IDD_POINTER">
+        <source>Pointer</source>
+        <translation>Mauszeiger</translation>
+    </message>
+    <message id="IDD_POINTER_TIP">
+        <source>Pointer: shows the mouse pointer in the recording</source>
+        <translation>Mauszeiger: zeigt den Mauszeiger in der Aufnahme</translation>
+    </message>
+    <message id="IDD_HANDS_NOT_OFFERED">
+        <source>Not possible on this display: it does not report mouse buttons and keys</source>
+        <translation>Auf dieser Anzeige nicht möglich: Sie meldet weder Maustasten noch Tasten</translation>
+    </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
         <translation>Arbeitsspeicher fast voll (%1 frei). Mit „Stopp“ speichern.</translation>

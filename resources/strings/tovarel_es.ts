@@ -224,6 +224,18 @@
         <source>%1 · Frames: %2 · %3&#xa0;fps</source>
         <translation>%1 · Fotogramas: %2 · %3&#xa0;fps</translation>
     </message>
+    <message id="IDD_POINTER">
+        <source>Pointer</source>
+        <translation>Puntero</translation>
+    </message>
+    <message id="IDD_POINTER_TIP">
+        <source>Pointer: shows the mouse pointer in the recording</source>
+        <translation>Puntero: muestra el puntero del ratón en la grabación</translation>
+    </message>
+    <message id="IDD_HANDS_NOT_OFFERED">
+        <source>Not possible on this display: it does not report mouse buttons and keys</source>
+        <translation>No es posible en esta pantalla: no informa de los botones del ratón ni de las teclas</translation>
+    </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
         <translation>Queda poca memoria (%1). «Detener» guarda todo.</translation>

@@ -224,6 +224,18 @@
         <source>%1 · Frames: %2 · %3&#xa0;fps</source>
         <translation>%1 · Images&#xa0;: %2 · %3&#xa0;i/s</translation>
     </message>
+    <message id="IDD_POINTER">
+        <source>Pointer</source>
+        <translation>Pointeur</translation>
+    </message>
+    <message id="IDD_POINTER_TIP">
+        <source>Pointer: shows the mouse pointer in the recording</source>
+        <translation>Pointeur&#xa0;: montre le pointeur de la souris dans l’enregistrement</translation>
+    </message>
+    <message id="IDD_HANDS_NOT_OFFERED">
+        <source>Not possible on this display: it does not report mouse buttons and keys</source>
+        <translation>Impossible sur cet affichage&#xa0;: il ne signale ni les boutons de la souris ni les touches</translation>
+    </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
         <translation>Plus que %1 de mémoire&#xa0;: «&#xa0;Arrêter&#xa0;» sauvegarde</translation>

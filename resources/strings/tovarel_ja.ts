@@ -224,6 +224,18 @@
         <source>%1 · Frames: %2 · %3&#xa0;fps</source>
         <translation>%1 · フレーム数: %2 · %3&#xa0;fps</translation>
     </message>
+    <message id="IDD_POINTER">
+        <source>Pointer</source>
+        <translation>マウスポインター</translation>
+    </message>
+    <message id="IDD_POINTER_TIP">
+        <source>Pointer: shows the mouse pointer in the recording</source>
+        <translation>マウスポインター: 録画にマウスポインターを表示します</translation>
+    </message>
+    <message id="IDD_HANDS_NOT_OFFERED">
+        <source>Not possible on this display: it does not report mouse buttons and keys</source>
+        <translation>このディスプレイでは使用できません: マウスボタンとキーの操作が通知されません</translation>
+    </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
         <translation>メモリが残り少なくなりました（残り %1）。「停止」で録画を保存します。</translation>

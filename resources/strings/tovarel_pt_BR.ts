@@ -224,6 +224,18 @@
         <source>%1 · Frames: %2 · %3&#xa0;fps</source>
         <translation>%1 · Quadros: %2 · %3&#xa0;fps</translation>
     </message>
+    <message id="IDD_POINTER">
+        <source>Pointer</source>
+        <translation>Ponteiro</translation>
+    </message>
+    <message id="IDD_POINTER_TIP">
+        <source>Pointer: shows the mouse pointer in the recording</source>
+        <translation>Ponteiro: mostra o ponteiro do mouse na gravação</translation>
+    </message>
+    <message id="IDD_HANDS_NOT_OFFERED">
+        <source>Not possible on this display: it does not report mouse buttons and keys</source>
+        <translation>Não é possível nesta tela: ela não informa os botões do mouse nem as teclas</translation>
+    </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
         <translation>Pouca memória (restam %1). “Parar” salva a gravação.</translation>

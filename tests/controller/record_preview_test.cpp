@@ -122,6 +122,51 @@ TEST_F(RecordPreview, paintsTheLastFrameFittedOverBlack) {
     EXPECT_EQ(shown.pixel(200, 310), qRgb(0, 0, 0));
 }
 
+TEST_F(RecordPreview, showsThePointerOfTheGrabButNotOverOurWindowNorWhenSwitchedOff) {
+    QImage shape(3, 3, QImage::Format_ARGB32_Premultiplied);
+    shape.fill(qRgb(250, 0, 0));
+    server->pointer = Pointer{.place = {11, 12}, .shape = shape, .hotSpot = {1, 2}, .window = 7};
+    server->windows = {{.number = 6, .ownerName = QStringLiteral("Tovarel"), .bounds = {}},
+                       {.number = 7, .ownerName = QStringLiteral("Other"), .bounds = {}}};
+    const auto shown = [this] {
+        delegate->TimerRefreshVideoRoutine();
+        return delegate->recording.array_Images->back();
+    };
+    EXPECT_TRUE(shown().sameAs(*server->picture)) << "nobody follows it off the Record tab";
+    delegate->recorder.hands.follow();
+    const Image marked = shown();
+    EXPECT_TRUE(shown().sameAs(marked));
+    EXPECT_EQ(marked.changesSince(delegate->capture.imgScreenCapture()), QRegion(10, 10, 3, 3));
+    EXPECT_EQ(marked.toQImage().pixel(12, 12), qRgb(250, 0, 0));
+
+    delegate->region.setI_Type_Screen_Capture(CAPTURE_REGION);
+    delegate->region.setRect_Screen_Region({8, 26, 4, 12}); // up to row 10 from the top
+    delegate->region.setScreenOfRegion(coordinates::Screen{.height = 48});
+    const QImage cut = shown().toQImage();
+    EXPECT_EQ(cut.size(), QSize(4, 12));
+    EXPECT_EQ(cut.pixel(2, 0), qRgb(250, 0, 0));
+    EXPECT_EQ(cut.pixel(1, 0), qRgb(10, 20, 30));
+    EXPECT_EQ(cut.pixel(3, 3), qRgb(10, 20, 30));
+    delegate->region.setI_Type_Screen_Capture(CAPTURE_FULL_SCREEN);
+
+    server->pointer->window = 6;
+    EXPECT_TRUE(shown().sameAs(*server->picture));
+    server->pointer->window = 0;
+    EXPECT_FALSE(shown().sameAs(*server->picture));
+
+    EXPECT_FALSE(ui().btnRecordPointer->isEnabled());
+    delegate->OnRecordStop(nullptr);
+    EXPECT_TRUE(ui().btnRecordPointer->isChecked());
+    ui().btnRecordPointer->click();
+    EXPECT_FALSE(ui().btnRecordPointer->isChecked());
+    delegate->TimerRefreshVideoRoutine();
+    EXPECT_TRUE(delegate->capture.imageScreenCaptureFinal().sameAs(*server->picture));
+    delegate->recorder.start();
+    EXPECT_FALSE(delegate->recorder.hands.isPointerShown()) << "remembered";
+    delegate->recorder.OnRecordPointer();
+    EXPECT_TRUE(ui().btnRecordPointer->isChecked());
+}
+
 TEST_F(RecordPreview, cutsTheRegionFromTheLowerLeftAndLeavesTheOutsideTransparent) {
     QImage pixels(64, 48, QImage::Format_RGB32);
     pixels.fill(qRgb(0, 0, 200));

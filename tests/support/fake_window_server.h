@@ -7,6 +7,7 @@
 #include <QImage>
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <vector>
@@ -20,7 +21,20 @@ public:
     /// The numbers of the last grab.
     std::vector<std::uint32_t> asked;
 
-    WindowServerCapabilities capabilities() const override { return {true, true, true}; }
+    /// Where the pointer is, for whoever watches it.
+    std::optional<Pointer> pointer;
+
+    WindowServerCapabilities capabilities() const override {
+        return {true, true, true, HandAccess::Granted};
+    }
+    std::unique_ptr<PointerWatch> watchPointer() override {
+        struct Watch : PointerWatch {
+            explicit Watch(FakeWindowServer &fake) : server(fake) {}
+            std::optional<Pointer> now() override { return server.pointer; }
+            FakeWindowServer &server;
+        };
+        return std::make_unique<Watch>(*this);
+    }
     std::optional<Obstacle> obstacle() const override { return why; }
     std::vector<WindowDescription> listWindows() override { return windows; }
     using WindowServer::composite;

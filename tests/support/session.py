@@ -40,6 +40,7 @@ class Session:
         self.build = pathlib.Path(build).resolve()
         self.width, self.height, self.depth = width * SCALE, height * SCALE, depth
         self.quality = quality
+        self.pointer = False  # whether recordings show the pointer: `picture` doesn't
         self.display_options = []
         self.with_window_manager = True
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="tovarel-"))
@@ -70,6 +71,7 @@ class Session:
         self.runtime.mkdir(mode=0o700)
         if self.quality:
             self.remember_quality(self.quality)
+        self.remember("ShowPointer", int(self.pointer))
         self.environment = {
             "HOME": str(self.home),
             "LC_ALL": os.environ.get("TOVAREL_TEST_LOCALE", "C.UTF-8"),
@@ -100,11 +102,15 @@ class Session:
 
     def remember_quality(self, quality):
         """Sets what the next start finds to be the GIF's quality, which every choice changes."""
+        self.remember("GIFQuality", quality)
+
+    def remember(self, key, value):
+        """Sets what the next start finds in the user's settings."""
         settings = self.home / ".config" / "Tovarel" / "Tovarel.conf"
         settings.parent.mkdir(parents=True, exist_ok=True)
         lines = settings.read_text().splitlines() if settings.exists() else ["[General]"]
-        lines = [line for line in lines if not line.startswith("GIFQuality=")]
-        lines.insert(lines.index("[General]") + 1, f"GIFQuality={quality}")
+        lines = [line for line in lines if not line.startswith(f"{key}=")]
+        lines.insert(lines.index("[General]") + 1, f"{key}={value}")
         settings.write_text("\n".join(lines) + "\n")
 
     def start_display(self, name):

@@ -78,7 +78,8 @@ class Accessibility(case.Case):
     def test_the_record_tab_and_its_dialogs(self):
         self.program.await_control("image", "Live preview")
         self.check_order((BAR, "Record"),
-                         *self.buttons("Full Screen", "Region", "Frames per Second", "Record"))
+                         *self.buttons("Full Screen", "Region", "Frames per Second"),
+                         ("check box", "Pointer"), *self.buttons("Record"))
         self.session.xdotool("key", "ctrl+f")
         self.program.button("Cancel")
         self.check_order(("combo box", "Frames per Second"), *self.buttons("Cancel", "OK"))

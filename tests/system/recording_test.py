@@ -8,6 +8,7 @@ import time
 
 import case
 import counter
+from accessibility import SCALE
 from driver import Program, in_picture
 
 RATE = 20  # steps of the counter a second
@@ -58,6 +59,65 @@ class Recording(case.Case):
         rate = int(program.list_of(str.isdigit).get_name())
         self.assertIn(rate, range(1, CHOSEN_RATE + 2))
         self.check_export(program, numbers, took, place)
+
+    def test_every_frame_and_the_gif_show_the_pointer_where_it_was(self):
+        self.session.remember("ShowPointer", 1)
+        program = Program(self.session)
+        self.session.remember("ShowPointer", 0)
+        # A desktop that is black above our window.
+        window, top = program.window(), 200 * SCALE
+        self.session.xdotool("windowmove", "--sync", window, 40, top)
+        path = [(20 + 38 * step, 30 + 4 * step) for step in range(18)]
+        self.session.xdotool("mousemove", *path[0])
+        program.press("Record")
+        program.recording_for(0.3)
+        for number, place in enumerate(path):
+            self.session.xdotool("mousemove", *place)
+            time.sleep(0.15)
+            if number == len(path) // 2:
+                program.press("Pause")
+                time.sleep(0.5)
+                self.session.xdotool("mousemove", 300, top + 150)  # over our window
+                program.press("Record")
+                program.recording_for(0.5)
+        program.press("Stop")
+        program.await_tab("Cut")
+        frames = counter.decode(str(self.session.frames / "frame%08d.png"), pattern=True)
+        seen = [self.pointer_in(frame) for frame in frames]
+        self.assertIn(None, seen, "none over our window")
+        shown = [found for found in seen if found]
+        self.assertEqual(len({shape for _, shape in shown}), 1, "the shape is always the same")
+        # The first frames tell where the shape lies about the place that it points to.
+        corner = [at - place // SCALE for at, place in zip(shown[0][0], path[0])]
+        places = [tuple((at - by) for at, by in zip(found, corner)) for found, _ in shown]
+        wanted = [tuple(at // SCALE for at in place) for place in path]
+        steps = [wanted.index(place) for place in places]
+        self.assertEqual(steps, sorted(steps))
+        self.assertGreater(len(set(steps)), 6)
+
+        program.enter("GIF")
+        target = self.session.home / "pointer.gif"
+        program.choose_quality("Best")
+        program.press("Generate GIF")
+        program.save_panel(target)
+        program.dismiss_alert("Success")
+        in_gif = [self.pointer_in(picture) for picture in counter.decode(str(target))]
+        self.assertEqual([found for found, _ in itertools.groupby(in_gif)],
+                         [found for found, _ in itertools.groupby(seen)])
+
+    def pointer_in(self, picture):
+        """Place and pixels of all that is not black; None where everything is."""
+        row = picture.width * 3
+        lines = [picture.data[at : at + row] for at in range(0, len(picture.data), row)]
+        rows = [number for number, line in enumerate(lines) if max(line) > 16]
+        if not rows:
+            return None
+        columns = [at // 3 for number in rows for at, value in enumerate(lines[number])
+                   if value > 16]
+        left, right = min(columns), max(columns)
+        shape = tuple(bytes(lines[number][left * 3 : right * 3 + 3])
+                      for number in range(rows[0], rows[-1] + 1))
+        return (left, rows[0]), shape
 
     def cover(self, program, place):
         """Puts the program's window over the counter and makes sure that it is in front."""

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/window_server.h"
+#include "record/marks/marks.h"
+
+#include <memory>
+#include <span>
+
+/// Follows what the user's hands do, as far as it is to be shown: what is switched off is not
+/// followed, and costs nothing. Everything runs on the main thread.
+class Hands {
+public:
+    /// `server` is borrowed and outlives it.
+    explicit Hands(WindowServer &server) : server_(server) {}
+
+    /// The switches as they were left, and at the first start the pointer alone.
+    void start();
+
+    /// Whether it can be shown here at all, or why not.
+    HandAccess pointerAccess() const { return server_.capabilities().pointer; }
+    /// Whether it is shown; remembered from one start to the next.
+    bool isPointerShown() const { return pointerShown_; }
+    void showPointer(bool shown);
+
+    /// Follows what is switched on, and no longer: for as long as grabs are taken.
+    void follow();
+    void rest();
+
+    /// What is to be shown at this moment, when a grab has just been taken of these windows.
+    /// Nothing of what hands do in the program's own windows, which the grab does not show either.
+    MarksShown look(std::span<const WindowDescription> windows);
+
+private:
+    WindowServer &server_;
+    bool pointerShown_ = false;
+    bool following_ = false;
+    std::unique_ptr<PointerWatch> pointer_;
+};
