@@ -11,11 +11,12 @@
 #include <stop_token>
 
 /// The kind of run that the progress sheet follows: the GIF's last one, one that only prepares an
-/// export, the WebP's.
+/// export, the WebP's, one of those that look for a WebP that fits under a limit.
 enum ProgressType : std::uint64_t {
     PROGRESS_TYPE_GIF = 0,
     PROGRESS_TYPE_PREPARATION = 1,
     PROGRESS_TYPE_WEBP = 2,
+    PROGRESS_TYPE_WEBP_TRIAL = 3,
 };
 
 /// State of the exports. `export/` owns the behaviour.

@@ -16,16 +16,16 @@
 #include <optional>
 #include <span>
 
-class FitLadder;
-class FitSearch;
 class Recorder;
 class Surroundings;
 class TrimEditor;
-struct FittingGif;
+struct FitAttempt;
+struct FitChoice;
+struct FitLaw;
 struct GifFileJob;
 struct GifFileResult;
 struct GifPlan;
-struct MadeGif;
+struct MadeFile;
 struct ToolExit;
 struct ToolRun;
 
@@ -140,36 +140,63 @@ private:
         const char *gap;
         QString file;
         QString panelTitle;
-        /// Makes the file of these frames: why there is none, or none.
-        std::optional<QString> (Exporter::*encode)(Frames frames, const ExportChoices &choices);
+        /// Makes the file of these frames.
+        std::function<MadeFile(Frames frames, const ExportChoices &choices)> encode;
+        /// Makes all of it again with what the user chose lowered; none where no limit is heeded.
+        std::function<void()> makeLowered = {};
     };
     /// Makes such a file and lets the user choose its place; see `OnGIFExport`.
     void makeFile(const FileFormat &format);
 
+    /// How a file is made to fit under the limit of the choices.
+    struct Fitting {
+        QString file;
+        const FitChoice &asked; ///< What the choices ask for.
+        const FitLaw &law;
+        int mostAttempts;
+        bool mayLowerChosen; ///< Whether a rate and a size that the user chose may be lowered.
+        /// Makes the file `trial` with these choices, of which the colours are those of `choice`.
+        /// It may be given up above `sizeLimit` bytes, where there is such a limit.
+        std::function<FitAttempt(const ExportChoices &choices, const FitChoice &choice,
+                                 const QString &trial, std::optional<std::uint64_t> sizeLimit)>
+            attempt;
+    };
+    /// Makes the file with more and more given up until it fits.
+    MadeFile makeFitting(const ExportChoices &choices, const Fitting &fitting);
+    /// Asks whether the rate and the size that the user chose may be lowered; `makeAgain` is called
+    /// if so.
+    void askToLower(const ExportChoices &choices, std::function<void()> makeAgain);
+
     /// Makes the GIF with the program's own encoder, in threads of its own, while events are
     /// processed.
-    MadeGif makeGIF(Frames frames, const ExportChoices &choices);
+    MadeFile makeGIF(Frames frames, const ExportChoices &choices);
     /// Likewise so that it fits under the limit, whatever must be given up for that.
-    MadeGif makeFittingGIF(const ExportChoices &choices, bool mayLowerChosen);
-    /// Asks whether the rate and the size that the user chose may be lowered, and makes the GIF
-    /// if so.
-    void askToLower(const ExportChoices &choices);
-    /// Makes it with what is given up at each depth that the search asks for; the best that fits
-    /// stays. Whether the search came to its end.
-    bool search(FitSearch &search, const FitLadder &ladder, const ExportChoices &choices,
-                FittingGif &best);
+    MadeFile makeFittingGIF(const ExportChoices &choices, bool mayLowerChosen);
     GifFileResult runEncoder(GifFileJob &job);
     GifFileJob jobFor(Frames frames, const ExportChoices &choices) const;
     /// Stages the frames and makes the GIF by three runs of `ffmpeg`.
-    MadeGif makeClassicGIF(Frames frames, const ExportChoices &choices);
+    MadeFile makeClassicGIF(Frames frames, const ExportChoices &choices);
     /// The three runs and the look at their result: why there is no GIF, or none.
     std::optional<QString> runClassicEncoder(Frames frames, const ExportChoices &choices);
-    /// Likewise for the WebP.
-    std::optional<QString> encodeWebP(Frames frames, const ExportChoices &choices);
-    /// The coding that makes the smaller WebP, tried on some of the pictures.
-    encoder_arguments::WebPCoding
-    betterCoding(const ExportChoices &choices,
-                 std::span<const encoder_arguments::WebPFrame> pictures);
+    void generateWebP(bool mayLowerChosen);
+    /// A WebP that is to be made, and how.
+    struct WebPJob {
+        Frames frames;
+        const ExportChoices &choices;
+        std::optional<int> lossyQuality; ///< Also tried; none for one that is exact.
+        QString file;
+        ProgressType type = PROGRESS_TYPE_WEBP;
+    };
+    /// Likewise for the WebP: why there is none, or none.
+    std::optional<QString> encodeWebP(const WebPJob &job);
+    /// Likewise so that it fits under the limit.
+    MadeFile makeFittingWebP(Frames frames, const ExportChoices &choices, bool mayLowerChosen);
+    /// How the size of the WebP follows what is given up, by what some of the pictures take.
+    FitLaw lawOfWebP(Frames frames, const ExportChoices &choices, float tolerance);
+    /// Bytes of these pictures as a WebP; 0 where there is none.
+    qint64 sizeOfWebP(const ExportChoices &choices,
+                      std::span<const encoder_arguments::WebPFrame> pictures,
+                      const encoder_arguments::WebPCoding &coding);
     ToolExit runWebPEncoder(const ExportChoices &choices,
                             std::span<const encoder_arguments::WebPFrame> pictures,
                             const encoder_arguments::WebPCoding &coding, const QString &output,

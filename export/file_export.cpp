@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/export_mark.h"
 #include "export/exporter.h"
+#include "export/made_file.h"
 #include "export/save_request.h"
 #include "export/staging.h"
 #include "shell/number_text.h"
@@ -15,6 +16,8 @@ void Exporter::makeFile(const FileFormat &format) {
     std::optional<QString> reason = refusal(asked);
     if (!reason)
         reason = sizeRefusal(asked, format.longestSide);
+    if (!reason && format.makeLowered && asked.preset != GifPreset::Classic && asked.limit.isWrong)
+        reason = qtTrId("IDD_LIMIT_NOT_NUMBER");
     if (reason) {
         surroundings_.alerts.run(AlertKind::Error, *reason);
         return;
@@ -25,14 +28,19 @@ void Exporter::makeFile(const FileFormat &format) {
     const std::vector<frame_timing::TimedFrame> wanted =
         frame_timing::timedFrames(timingRequest(asked), format.ticks);
     const Frames frames = framesUpToGap(surroundings_.shell.s_Output_Folder(), wanted);
-    if (endedWithoutResult((this->*format.encode)(frames, asked)))
+    const MadeFile made = format.encode(frames, asked);
+    if (endedWithoutResult(made.failure))
         return;
-    QString note;
+    if (made.needsLowering) {
+        askToLower(asked, format.makeLowered);
+        return;
+    }
+    QString note = made.fitNote;
     if (frames.size() < wanted.size()) {
         note = qtTrId(format.gap, static_cast<int>(wanted.size()))
                    .arg(number_text::count(frames.size()));
-        surroundings_.showStatus(note);
     }
+    surroundings_.showStatus(note);
     saveResult({.file = format.file,
                 .panelTitle = format.panelTitle,
                 .successText = QStringLiteral("Success"),

@@ -9,22 +9,17 @@
 
 namespace {
 
-// Measured on recordings of interfaces: what the greatest tolerance saves, and how the size follows
-// the rate and the number of pixels. They only say where to look first.
-constexpr double fallByTolerance = 0.35;
-constexpr double powerOfRate = 0.8;
-constexpr double powerOfPixels = 0.8;
-
 const double aim = std::log(0.94);        // of the limit
 const double goodEnough = std::log(0.86); // likewise
-constexpr int mostTrials = 6;
 constexpr int trialsBeforeTheEnd = 3;
-constexpr double closest = 0.01; // two depths of which none in between is worth a trial
+constexpr double leastFall = 0.02; // by the whole tolerance, that is worth any
+constexpr double closest = 0.01;   // two depths of which none in between is worth a trial
 
 } // namespace
 
-FitLadder::FitLadder(const FitChoice &asked, bool mayLowerRate, bool mayShrink) : asked_(asked) {
-    if (asked.tolerance < gif::smallTolerance)
+FitLadder::FitLadder(const FitChoice &asked, bool mayLowerRate, bool mayShrink, const FitLaw &law)
+    : asked_(asked), law_(law) {
+    if (asked.tolerance < gif::smallTolerance && fallOf(Step::Colours).whole() > leastFall)
         steps_.push_back(Step::Colours);
     if (mayLowerRate && asked.rate > lowestRate)
         steps_.push_back(Step::Rate);
@@ -53,22 +48,25 @@ FitChoice FitLadder::at(double depth) const {
     return choice;
 }
 
-double FitLadder::falls(Step step) const {
+FitLadder::Fall FitLadder::fallOf(Step step) const {
     switch (step) {
     case Step::Colours:
-        return fallByTolerance * (1 - asked_.tolerance / gif::smallTolerance);
+        return {law_.jumpByTolerance,
+                law_.fallByTolerance * (1 - asked_.tolerance / gif::smallTolerance)};
     case Step::Rate:
-        return powerOfRate * std::log(asked_.rate / lowestRate);
+        return {0, law_.powerOfRate * std::log(asked_.rate / lowestRate)};
     case Step::Size:
         break;
     }
-    return -2 * powerOfPixels * std::log(smallestScale);
+    return {0, -2 * law_.powerOfPixels * std::log(smallestScale)};
 }
 
 double FitLadder::likelySize(double depth) const {
     double size = 0;
     for (const Step step : steps_) {
-        size -= std::clamp(depth, 0.0, 1.0) * falls(step);
+        const Fall fall = fallOf(step);
+        if (depth > 0)
+            size -= fall.jump + std::min(depth, 1.0) * fall.slope;
         depth -= 1;
     }
     return size;
@@ -77,17 +75,18 @@ double FitLadder::likelySize(double depth) const {
 double FitLadder::depthOf(double size) const {
     double depth = 0;
     for (const Step step : steps_) {
-        const double fall = falls(step);
-        if (-size <= fall)
-            return depth + std::max(-size, 0.0) / fall;
-        size += fall;
+        const Fall fall = fallOf(step);
+        if (-size <= fall.whole())
+            return depth + std::max(-size - fall.jump, 0.0) / std::max(fall.slope, leastFall);
+        size += fall.whole();
         depth += 1;
     }
     return end();
 }
 
-FitSearch::FitSearch(FitLadder ladder, std::uint64_t limit)
-    : ladder_(std::move(ladder)), mostBytes_(limit), limit_(std::log(static_cast<double>(limit))) {}
+FitSearch::FitSearch(FitLadder ladder, std::uint64_t limit, int mostTrials)
+    : ladder_(std::move(ladder)), mostBytes_(limit), limit_(std::log(static_cast<double>(limit))),
+      mostTrials_(mostTrials) {}
 
 std::optional<double> FitSearch::next() const {
     if (trials_ == 0)
@@ -101,7 +100,7 @@ std::optional<double> FitSearch::next() const {
             ladder_.depthOf(ladder_.likelySize(over_->depth) + limit_ + aim - over_->size),
             std::min(over_->depth + closest, ladder_.end()));
     }
-    if (!over_ || fits_->size >= limit_ + goodEnough || trials_ >= mostTrials ||
+    if (!over_ || fits_->size >= limit_ + goodEnough || trials_ >= mostTrials_ ||
         fits_->depth - over_->depth <= closest)
         return std::nullopt;
     // Between the two, on the line that goes through both and bends as sizes are likely to.

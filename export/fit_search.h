@@ -19,10 +19,20 @@ struct FitChoice {
     bool operator==(const FitChoice &) const = default;
 };
 
+/// How the size of a file follows what is given up; it only says where to look first. The defaults
+/// were measured on recordings of interfaces, as GIFs.
+struct FitLaw {
+    double jumpByTolerance = 0;    ///< What the least tolerance saves at once, as a logarithm.
+    double fallByTolerance = 0.35; ///< What the greatest saves beyond, likewise.
+    double powerOfRate = 0.8;
+    double powerOfPixels = 0.8;
+};
+
 class FitLadder {
 public:
     /// From what was asked for; its scale is 1. Whether the rate and the size may be lowered.
-    FitLadder(const FitChoice &asked, bool mayLowerRate, bool mayShrink);
+    /// Where tolerance saves nothing, none is taken.
+    FitLadder(const FitChoice &asked, bool mayLowerRate, bool mayShrink, const FitLaw &law = {});
 
     double end() const { return static_cast<double>(steps_.size()); }
     FitChoice at(double depth) const;
@@ -38,16 +48,23 @@ public:
 private:
     enum class Step { Colours, Rate, Size };
 
-    double falls(Step step) const; // the logarithm by which the whole step makes the file smaller
+    /// The logarithms by which a step makes the file smaller, at once and then as a whole.
+    struct Fall {
+        double jump;
+        double slope;
+        double whole() const { return jump + slope; }
+    };
+    Fall fallOf(Step step) const;
 
     FitChoice asked_;
+    FitLaw law_;
     std::vector<Step> steps_;
 };
 
 class FitSearch {
 public:
-    /// `limit` in bytes.
-    FitSearch(FitLadder ladder, std::uint64_t limit);
+    /// `limit` in bytes. After `mostTrials`, at least 3, it ends.
+    FitSearch(FitLadder ladder, std::uint64_t limit, int mostTrials = 6);
 
     /// The depth to try next; none when the search is over.
     std::optional<double> next() const;
@@ -67,6 +84,7 @@ private:
     FitLadder ladder_;
     std::uint64_t mostBytes_;
     double limit_; // its logarithm
+    int mostTrials_;
     int trials_ = 0;
     std::optional<Trial> over_; // the deepest that does not fit
     std::optional<Trial> fits_; // the least deep that does

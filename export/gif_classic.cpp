@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/encoder_arguments.h"
 #include "export/exporter.h"
-#include "export/made_gif.h"
+#include "export/made_file.h"
 #include "export/staging.h"
 #include "export/tool_failure.h"
 #include "export/tool_run.h"
@@ -19,7 +19,7 @@ const QString encoder = QStringLiteral("ffmpeg");
 
 } // namespace
 
-MadeGif Exporter::makeClassicGIF(Frames frames, const ExportChoices &choices) {
+MadeFile Exporter::makeClassicGIF(Frames frames, const ExportChoices &choices) {
     surroundings_.progress.setText(qtTrId("IDD_PROGRESS_PALETTE"));
     const std::uint64_t staged = stageFrames(surroundings_.shell.s_Output_Folder(), frames,
                                              surroundings_.shell.s_Export_Folder());
@@ -27,7 +27,7 @@ MadeGif Exporter::makeClassicGIF(Frames frames, const ExportChoices &choices) {
         surroundings_.shell.s_Output_Folder(),
         frames.first(std::min<std::size_t>(frames.size(), encoder_arguments::paletteFrames)),
         surroundings_.shell.s_Pallete_Folder());
-    MadeGif made{.failure = runClassicEncoder(frames, choices), .frames = frames.size()};
+    MadeFile made{.failure = runClassicEncoder(frames, choices), .frames = frames.size()};
     // The input ends at a gap, or begins after it: only the file knows what it holds.
     if (!made.failure && staged < frames.size()) {
         const QImageReader gif(encoder_arguments::gifFile(surroundings_.shell.s_Export_Folder()));

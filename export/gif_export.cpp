@@ -7,7 +7,7 @@
 #include "export/frame_store_source.h"
 #include "export/gif_failure.h"
 #include "export/gif_plan.h"
-#include "export/made_gif.h"
+#include "export/made_file.h"
 #include "export/save_request.h"
 #include "platform/text_number.h"
 #include "record/recorder.h"
@@ -28,7 +28,7 @@ namespace {
 constexpr double barSteps = 1000; // that the bar is moved in, at most
 
 /// What there is to say about the finished GIF, beside its place.
-QString noteAbout(const MadeGif &made, std::size_t wanted) {
+QString noteAbout(const MadeFile &made, std::size_t wanted) {
     if (made.frames < wanted)
         return qtTrId("IDD_STATUS_GAP", static_cast<int>(wanted))
             .arg(number_text::count(made.frames));
@@ -95,7 +95,7 @@ void Exporter::generateGIF(bool mayLowerChosen) {
     working_folders::ensureFolder(surroundings_.shell.s_Pallete_Folder());
     const std::vector<TimedFrame> frames =
         frame_timing::timedFrames(timingRequest(wanted), frame_timing::gifTicks);
-    MadeGif made;
+    MadeFile made;
     if (wanted.preset == GifPreset::Classic)
         made = makeClassicGIF(frames, wanted);
     else if (wanted.limit.bytes)
@@ -105,7 +105,7 @@ void Exporter::generateGIF(bool mayLowerChosen) {
     if (endedWithoutResult(made.failure))
         return;
     if (made.needsLowering) {
-        askToLower(wanted);
+        askToLower(wanted, [this] { generateGIF(true); });
         return;
     }
     const QString note = made.fitNote.isEmpty() ? noteAbout(made, frames.size()) : made.fitNote;
@@ -147,7 +147,7 @@ GifPlan Exporter::planGIF(const ExportChoices &choices) const {
     return plan;
 }
 
-MadeGif Exporter::makeGIF(Frames frames, const ExportChoices &choices) {
+MadeFile Exporter::makeGIF(Frames frames, const ExportChoices &choices) {
     GifFileJob job = jobFor(frames, choices);
     job.file = encoder_arguments::gifFile(surroundings_.shell.s_Export_Folder());
     const GifFileResult result = runEncoder(job);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/encoder_arguments.h"
 #include "export/exporter.h"
+#include "export/made_file.h"
 #include "export/staging.h"
 #include "export/tool_failure.h"
 #include "export/tool_run.h"
@@ -30,7 +31,9 @@ void Exporter::Generate_MP4() {
               .gap = "IDD_STATUS_MP4_GAP",
               .file = encoder_arguments::mp4File(surroundings_.shell.s_Export_Folder()),
               .panelTitle = QStringLiteral("Select a folder to save the MP4 video"),
-              .encode = &Exporter::encodeMP4});
+              .encode = [this](Frames frames, const ExportChoices &choices) {
+                  return MadeFile{.failure = encodeMP4(frames, choices)};
+              }});
 }
 
 std::optional<QString> Exporter::encodeMP4(Frames frames, const ExportChoices &choices) {

@@ -5,6 +5,7 @@
 #include "shell/file_calls.h"
 #include "shell/working_folders.h"
 
+#include <QDir>
 #include <QFile>
 
 namespace {
@@ -27,6 +28,12 @@ std::uint64_t stageFrames(const QString &recordingFolder,
                   working_folders::stagedFile(folder, number++)))
             ++staged;
     return staged;
+}
+
+void removeStaged(const QString &folder) {
+    QDir staged(folder);
+    for (const QString &name : staged.entryList({QStringLiteral("*.png")}, QDir::Files))
+        staged.remove(name);
 }
 
 std::span<const frame_timing::TimedFrame>

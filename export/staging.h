@@ -15,6 +15,9 @@
 std::uint64_t stageFrames(const QString &recordingFolder,
                           std::span<const frame_timing::TimedFrame> frames, const QString &folder);
 
+/// Removes the staged frames of a folder, and pictures that were made of them.
+void removeStaged(const QString &folder);
+
 /// The frames up to the first one whose file is missing in the recording's folder.
 std::span<const frame_timing::TimedFrame>
 framesUpToGap(const QString &recordingFolder, std::span<const frame_timing::TimedFrame> frames);

@@ -92,9 +92,9 @@ void Exporter::errData(const QByteArray &data) {
             .last(std::min(exporting.toolErrors.size() + data.size(), errorTail));
     if (data.isEmpty() || exporting.terminated())
         return;
-    const std::optional<double> seconds = exporting.u_Type_Progress() == PROGRESS_TYPE_WEBP
-                                              ? secondsOfAddedFrame(data)
-                                              : secondsInChunk(data);
+    const ProgressType type = exporting.u_Type_Progress();
+    const bool isWebP = type == PROGRESS_TYPE_WEBP || type == PROGRESS_TYPE_WEBP_TRIAL;
+    const std::optional<double> seconds = isWebP ? secondsOfAddedFrame(data) : secondsInChunk(data);
     if (seconds)
         surroundings_.progress.setValue(
             progressPercentage(*seconds, exporting.i_Orig_Duration_in_Seconds()));
@@ -105,6 +105,8 @@ void Exporter::terminated(int, QProcess::ExitStatus) {
         watchedTool_->disconnect(this);
     watchedTool_ = nullptr;
     exporting.setTerminated(true);
-    if (exporting.u_Type_Progress() != PROGRESS_TYPE_PREPARATION)
+    const ProgressType type = exporting.u_Type_Progress();
+    // Others are followed by another run.
+    if (type == PROGRESS_TYPE_GIF || type == PROGRESS_TYPE_WEBP)
         surroundings_.progress.close();
 }

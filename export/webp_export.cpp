@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "export/encoder_arguments.h"
 #include "export/exporter.h"
+#include "export/made_file.h"
 #include "export/size_text.h"
 #include "export/staging.h"
 #include "export/tool_failure.h"
 #include "export/tool_run.h"
+#include "export/webp_sample.h"
 #include "platform/text_number.h"
 #include "shell/surroundings.h"
 #include "shell/working_folders.h"
@@ -20,8 +22,6 @@ using encoder_arguments::WebPFrame;
 using frame_timing::TimedFrame;
 
 namespace {
-
-constexpr std::size_t sampled = 6; // pictures that show which coding is smaller
 
 // WebP container, VP8X: 24 bits each, but the picture itself has 14.
 constexpr int longestSide = 16383; // pixels
@@ -49,17 +49,28 @@ bool asksForAnotherSize(const QString &picture, const QString &width, const QStr
 
 } // namespace
 
-void Exporter::Generate_WebP() {
+void Exporter::Generate_WebP() { generateWebP(false); }
+
+void Exporter::generateWebP(bool mayLowerChosen) {
+    const QString file = encoder_arguments::webpFile(surroundings_.shell.s_Export_Folder());
     makeFile({.longestSide = longestSide,
               .ticks = frame_timing::webpTicks,
               .caption = "IDD_PROGRESS_WEBP",
               .gap = "IDD_STATUS_WEBP_GAP",
-              .file = encoder_arguments::webpFile(surroundings_.shell.s_Export_Folder()),
+              .file = file,
               .panelTitle = QStringLiteral("Select a folder to save the WebP image"),
-              .encode = &Exporter::encodeWebP});
+              .encode =
+                  [this, file, mayLowerChosen](Frames frames, const ExportChoices &choices) {
+                      if (choices.limit.bytes && choices.preset != GifPreset::Classic)
+                          return makeFittingWebP(frames, choices, mayLowerChosen);
+                      const auto quality = encoder_arguments::lossyQuality(choices.preset);
+                      return MadeFile{.failure = encodeWebP({frames, choices, quality, file})};
+                  },
+              .makeLowered = [this] { generateWebP(true); }});
 }
 
-std::optional<QString> Exporter::encodeWebP(Frames frames, const ExportChoices &choices) {
+std::optional<QString> Exporter::encodeWebP(const WebPJob &job) {
+    const auto &[frames, choices, lossyQuality, output, type] = job;
     const bool scaled =
         !frames.empty() &&
         asksForAnotherSize(working_folders::frameFile(surroundings_.shell.s_Output_Folder(),
@@ -82,11 +93,18 @@ std::optional<QString> Exporter::encodeWebP(Frames frames, const ExportChoices &
                                                          frames[at].source),
              .milliseconds = frames[at].delay});
     }
-    const QString output = encoder_arguments::webpFile(surroundings_.shell.s_Export_Folder());
+    WebPCoding coding;
+    if (lossyQuality) {
+        const WebPCoding lossy{.lossy = true, .quality = *lossyQuality};
+        const auto sample = webpSample(std::span<const WebPFrame>(pictures));
+        const qint64 exact = sizeOfWebP(choices, sample, {});
+        // Where even that fails, the run that counts says why.
+        if (exact > 0 && sizeOfWebP(choices, sample, lossy) < exact)
+            coding = lossy;
+    }
     exporting.setI_Orig_Duration_in_Seconds(
         frame_timing::beginOfLast(frames, frame_timing::webpTicks));
-    const ToolExit exit = runWebPEncoder(choices, pictures, betterCoding(choices, pictures), output,
-                                         PROGRESS_TYPE_WEBP);
+    const ToolExit exit = runWebPEncoder(choices, pictures, coding, output, type);
     if (!exit.succeeded())
         return toolFailureText(encoder, exit);
     if (QFileInfo(output).size() == 0)
@@ -94,26 +112,14 @@ std::optional<QString> Exporter::encodeWebP(Frames frames, const ExportChoices &
     return std::nullopt;
 }
 
-WebPCoding Exporter::betterCoding(const ExportChoices &choices,
-                                  std::span<const WebPFrame> pictures) {
-    const std::optional<int> quality = encoder_arguments::lossyQuality(choices.preset);
-    if (!quality)
-        return {};
-    // A few pictures in a row, so that what changes between them counts as it will.
-    const std::size_t from = (pictures.size() - std::min(pictures.size(), sampled)) / 2;
-    const auto sample = pictures.subspan(from, std::min(pictures.size() - from, sampled));
+qint64 Exporter::sizeOfWebP(const ExportChoices &choices, std::span<const WebPFrame> pictures,
+                            const WebPCoding &coding) {
     const QString file = surroundings_.shell.s_Export_Folder() + QStringLiteral("/sample.webp");
-    const auto bytesOf = [&](const WebPCoding &coding) {
-        const ToolExit exit =
-            runWebPEncoder(choices, sample, coding, file, PROGRESS_TYPE_PREPARATION);
-        const qint64 bytes = exit.succeeded() ? QFileInfo(file).size() : 0;
-        QFile::remove(file);
-        return bytes;
-    };
-    const WebPCoding lossy{.lossy = true, .quality = *quality};
-    const qint64 lossless = bytesOf({});
-    // Where even that fails, the run that counts says why.
-    return lossless > 0 && bytesOf(lossy) < lossless ? lossy : WebPCoding();
+    const ToolExit exit =
+        runWebPEncoder(choices, pictures, coding, file, PROGRESS_TYPE_PREPARATION);
+    const qint64 bytes = exit.succeeded() ? QFileInfo(file).size() : 0;
+    QFile::remove(file);
+    return bytes;
 }
 
 ToolExit Exporter::runWebPEncoder(const ExportChoices &choices, std::span<const WebPFrame> pictures,
@@ -142,6 +148,8 @@ ToolExit Exporter::runWebPEncoder(const ExportChoices &choices, std::span<const 
 
 std::optional<QString> Exporter::scaleForWebP(Frames frames, const ExportChoices &choices) {
     const std::vector<TimedFrame> each = withoutRepeats(frames);
+    // An attempt before this one, at another size or rate, may have left more of them.
+    removeStaged(surroundings_.shell.s_Export_Folder());
     stageFrames(surroundings_.shell.s_Output_Folder(), each, surroundings_.shell.s_Export_Folder());
     surroundings_.progress.setText(qtTrId("IDD_PROGRESS_SCALING"));
     // One a second, see `scalingArguments`; this encoder's stamps tell where a picture ends.

@@ -80,6 +80,19 @@ void ExportTest::record(int count) {
     controller.trim.setULastFrame(static_cast<std::uint64_t>(count - 1));
 }
 
+std::vector<QImage> ExportTest::noise(int count, QSize size) {
+    std::vector<QImage> pictures;
+    std::uint32_t seed = 1;
+    for (int frame = 0; frame < count; ++frame) {
+        QImage picture(size, QImage::Format_RGB32);
+        for (int y = 0; y < size.height(); ++y)
+            for (int x = 0; x < size.width(); ++x)
+                picture.setPixel(x, y, (seed = seed * 1664525 + 1013904223) >> 8);
+        pictures.push_back(picture);
+    }
+    return pictures;
+}
+
 bool ExportTest::finish() {
     return QTest::qWaitFor(
         [this] {

@@ -49,6 +49,8 @@ protected:
     /// and enters the GIF tab.
     void record(int count);
     static QColor colourOf(int frame);
+    /// Pictures of which no two pixels are alike, so that they cost an encoder time and bytes.
+    static std::vector<QImage> noise(int count, QSize size);
     void choose(GifPreset preset);
     /// An executable shell script that stands in for a tool; its last argument is `$last`.
     QString standIn(const QByteArray &script);

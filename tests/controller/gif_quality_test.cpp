@@ -55,14 +55,8 @@ protected:
     void recordNoise(int count, QSize size) {
         record(3);
         std::vector<Image> store;
-        std::uint32_t seed = 1;
-        for (int frame = 0; frame < count; ++frame) {
-            QImage picture(size, QImage::Format_RGB32);
-            for (int y = 0; y < size.height(); ++y)
-                for (int x = 0; x < size.width(); ++x)
-                    picture.setPixel(x, y, (seed = seed * 1664525 + 1013904223) >> 8);
+        for (const QImage &picture : noise(count, size))
             store.push_back(Image::fromQImage(picture));
-        }
         controller.recording.setU_Record_Current_Frame(static_cast<std::uint64_t>(count));
         controller.trim.setULastFrame(static_cast<std::uint64_t>(count - 1));
         controller.recording.array_Images = std::move(store);

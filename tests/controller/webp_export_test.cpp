@@ -3,8 +3,12 @@
 #include "export/frame_timing.h"
 #include "tests/controller/export_fixture.h"
 
+#include <QDir>
+#include <QImageReader>
+#include <QLabel>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QTest>
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -13,6 +17,13 @@ namespace {
 
 class WebPExport : public ExportTest {
 protected:
+    void recordNoise(int count, QSize size) {
+        record(count);
+        const std::vector<QImage> pictures = noise(count, size);
+        for (int frame = 0; frame < count; ++frame)
+            ASSERT_TRUE(pictures[static_cast<std::size_t>(frame)].save(frameFile(frame)));
+        controller.exportOptions->resetGIFOptions();
+    }
     QString output() const {
         return controller.shell.s_Export_Folder() + QStringLiteral("/output.webp");
     }
@@ -124,15 +135,7 @@ TEST_F(WebPExport, HoldsMoreFramesThanFitOnACommandLine) {
 
 TEST_F(WebPExport, TakesTheSmallerCodingUnlessItMustBeExact) {
     record(5);
-    // Noise that one coding takes many bytes for, the other few.
-    std::uint32_t seed = 1;
-    for (int frame = 0; frame < 5; ++frame) {
-        QImage noise(64, 48, QImage::Format_RGB32);
-        for (int y = 0; y < noise.height(); ++y)
-            for (int x = 0; x < noise.width(); ++x)
-                noise.setPixel(x, y, (seed = seed * 1664525 + 1013904223) >> 8);
-        ASSERT_TRUE(noise.save(frameFile(frame)));
-    }
+    recordNoise(5, {64, 48}); // one coding takes many bytes for it, the other few
     qint64 bytes[2] = {};
     for (const bool exact : {true, false}) {
         choose(exact ? GifPreset::Best : GifPreset::Small);
@@ -150,6 +153,46 @@ TEST_F(WebPExport, TakesTheSmallerCodingUnlessItMustBeExact) {
     ui.btnWebPGenerate->click();
     ASSERT_EQ(answers.alerts.size(), 1u);
     EXPECT_EQ(answers.alerts[0].text, qtTrId("IDD_WIDTH_TOO_LARGE").arg(QStringLiteral("16,383")));
+}
+
+TEST_F(WebPExport, FitsUnderALimit) {
+    recordNoise(9, {120, 80});
+    controller.recording.setExactRate(20);
+    const auto limited = [&](qint64 bytes) {
+        ui.comboFitUnder->setEditText(
+            bytes > 0 ? QString::number(static_cast<double>(bytes) / 1e6, 'f', 6) : QString());
+        answers.savePath = place("fits.webp");
+        QFile::remove(answers.savePath);
+        answers.alerts.clear();
+        ui.btnWebPGenerate->click();
+        EXPECT_TRUE(finish());
+        QTest::qWait(50); // what an answer leads to begins when its question has gone
+        EXPECT_TRUE(finish());
+        return QFileInfo(answers.savePath).size();
+    };
+    const auto expectWithin = [](qint64 bytes, qint64 limit) {
+        EXPECT_LE(bytes, limit);
+        EXPECT_GE(bytes, limit * 85 / 100);
+    };
+    choose(GifPreset::Best);
+    const qint64 exact = limited(0);
+    expectWithin(limited(exact / 3), exact / 3);   // colours
+    expectWithin(limited(exact / 20), exact / 20); // and size
+    EXPECT_LT(QImageReader(answers.savePath).size().width(), 120);
+    EXPECT_TRUE(ui.labelStatus->text().contains(QStringLiteral("×")));
+
+    ui.radioGIFCustomDimension->click();
+    answers.choice = QMessageBox::AcceptRole;
+    EXPECT_EQ(limited(exact / 20), 0) << "a size that was chosen is kept";
+    EXPECT_EQ(answers.questions, 1);
+    answers.choice = QMessageBox::DestructiveRole;
+    expectWithin(limited(exact / 20), exact / 20);
+    EXPECT_EQ(answers.questions, 2);
+    EXPECT_EQ(limited(200), 0);
+    ASSERT_EQ(answers.alerts.size(), 1u);
+    EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
+    EXPECT_TRUE(
+        QDir(controller.shell.s_Export_Folder()).entryList({QStringLiteral("*.webp*")}).isEmpty());
 }
 
 TEST_F(WebPExport, HasTheSizeTheRateAndTheSpeedThatWereChosen) {

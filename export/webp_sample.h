@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <span>
+
+/// A few of the pictures, in a row, so that what changes between them counts as it will: enough to
+/// see how a coding deals with them.
+template <typename Picture> std::span<Picture> webpSample(std::span<Picture> pictures) {
+    constexpr std::size_t most = 6;
+    const std::size_t count = std::min(pictures.size(), most);
+    return pictures.subspan((pictures.size() - count) / 2, count);
+}
