@@ -122,6 +122,7 @@ ExportControls exportControls(const Ui::MainWindow &ui) {
             .labelGIFEstimate = ui.labelGIFEstimate,
             .labelGIFSummary = ui.labelGIFSummary,
             .labelGIFThinned = ui.labelGIFThinned,
+            .btnWebPGenerate = ui.btnWebPGenerate,
             .txtWebPLoops = ui.txtWebPLoops,
             .labelWebPLoopsHint = ui.labelWebPLoopsHint,
             .menuitemActionGIFExport = ui.menuitemActionGIFExport};

@@ -100,10 +100,17 @@ void ExportOptions::listen() {
     large.setPointSizeF(large.pointSizeF() * largeType);
     large.setBold(true);
     ui_.labelGIFEstimate->setFont(large);
-    connect(&estimator_, &SizeEstimator::unknown, ui_.labelGIFEstimate, &QLabel::clear);
+    connect(&estimator_, &SizeEstimator::unknown, this, [this] {
+        ui_.labelGIFEstimate->clear();
+        ui_.btnWebPGenerate->setToolTip(qtTrId("IDD_GENERATE_WEBP_TIP"));
+    });
     connect(&estimator_, &SizeEstimator::estimated, this, [this](quint64 bytes, bool isExact) {
         ui_.labelGIFEstimate->setText((isExact ? qtTrId("IDD_GIF_SIZE") : qtTrId("IDD_ABOUT_SIZE"))
                                           .arg(number_text::bytes(bytes)));
+    });
+    connect(&estimator_, &SizeEstimator::webpEstimated, this, [this](quint64 bytes) {
+        ui_.btnWebPGenerate->setToolTip(qtTrId("IDD_GENERATE_WEBP_TIP") + u'\n' +
+                                        qtTrId("IDD_WEBP_ABOUT").arg(number_text::bytes(bytes)));
     });
     for (const QComboBox *list : {ui_.comboGIFFPS, ui_.comboGIFSpeed})
         connect(list, &QComboBox::currentIndexChanged, this, &ExportOptions::updateGIFSummary);

@@ -42,6 +42,7 @@ struct ExportControls {
     QLabel *labelGIFEstimate;
     QLabel *labelGIFSummary;
     QLabel *labelGIFThinned;
+    QAbstractButton *btnWebPGenerate;
     QLineEdit *txtWebPLoops;
     QLabel *labelWebPLoopsHint;
     const QAction *menuitemActionGIFExport; ///< Its shortcut works while a field has the focus.

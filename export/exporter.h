@@ -28,6 +28,7 @@ struct GifPlan;
 struct MadeFile;
 struct ToolExit;
 struct ToolRun;
+struct WebPPlan;
 
 /// The desk of the exports: makes the GIF and the WebP of what is kept of the recording, runs and
 /// watches the encoders, and sees to it that a finished file gets its place. What the user chose
@@ -92,6 +93,8 @@ public:
     /// What the GIF's encoder would be given, and what there is to know of the size beforehand.
     /// Nothing is written: the job has no file.
     GifPlan planGIF(const ExportChoices &choices) const;
+    /// Likewise the WebP's.
+    WebPPlan planWebP(const ExportChoices &choices) const;
 
     // A finished file without a place -----------------------------------------------------------
 

@@ -35,7 +35,7 @@ MadeFile Exporter::makeFittingGIF(const ExportChoices &choices, bool mayLowerCho
                         .frames = static_cast<std::uint64_t>(result.outcome.frames),
                         .moves = result.outcome.pictures > 1};
         if (!made.failure && !result.isComplete() && sizeLimit) {
-            SizeForecast forecast = forecastOf(plan);
+            SizeForecast forecast = forecastOf(plan.job.frames, plan.images);
             forecast.add(1, std::min(made.bytes, result.firstFrame));
             forecast.add(result.outcome.frames - 1, made.bytes);
             made.bytes = std::max(forecast.bytes(), *sizeLimit + 1);

@@ -22,10 +22,10 @@ double changedPixels(const Image &earlier, const Image &later) {
 
 } // namespace
 
-SizeForecast forecastOf(const GifPlan &plan) {
-    std::vector changes(plan.job.frames, 1.0);
-    for (std::size_t frame = 1; frame < plan.images.size(); ++frame)
-        changes[frame] = changedPixels(plan.images[frame - 1], plan.images[frame]);
+SizeForecast forecastOf(std::size_t frames, std::span<const Image> images) {
+    std::vector changes(frames, 1.0);
+    for (std::size_t frame = 1; frame < images.size(); ++frame)
+        changes[frame] = changedPixels(images[frame - 1], images[frame]);
     return SizeForecast(std::move(changes));
 }
 

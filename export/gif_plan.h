@@ -7,6 +7,7 @@
 #include "platform/image/image.h"
 
 #include <cstddef>
+#include <span>
 #include <vector>
 
 /// A GIF that could be made of what is kept and chosen now. Made on the main thread; what takes
@@ -16,8 +17,9 @@ struct GifPlan {
     std::vector<Image> images; ///< Of each frame; none of them where there are only files.
 };
 
-/// What can be said of the size by how much each frame changes against the one before.
-SizeForecast forecastOf(const GifPlan &plan);
+/// What can be said of the size of a file of so many frames by how much each changes against the
+/// one before; all of them alike where there are no images.
+SizeForecast forecastOf(std::size_t frames, std::span<const Image> images);
 
 /// The making of one frame after the one before it. The plan has images; `frame` is not the first.
 GifFileJob sampleOf(const GifPlan &plan, std::size_t frame);

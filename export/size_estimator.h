@@ -15,7 +15,8 @@
 class Exporter;
 
 /// Finds out how large the GIF will be, by making it in a thread of low priority and counting its
-/// bytes; nothing is written. Until the count is complete, it says what is likely.
+/// bytes; nothing is written. Until the count is complete, it says what is likely. After that,
+/// about how large the WebP will be.
 class SizeEstimator : public QObject {
     Q_OBJECT
 
@@ -33,6 +34,8 @@ public:
 Q_SIGNALS:
     /// The GIF will have that many bytes: exactly, or about.
     void estimated(quint64 bytes, bool isExact);
+    /// The WebP will have about that many bytes.
+    void webpEstimated(quint64 bytes);
     /// Nothing is known yet, or cannot be.
     void unknown();
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <utility>
 
 SizeForecast::SizeForecast(std::vector<double> changes) : changes_(std::move(changes)) {
@@ -31,6 +32,14 @@ void SizeForecast::addSample(std::size_t frame, std::uint64_t bytes) {
     Group &group = groups_[groupOf(changes_[frame])];
     group.tried += changes_[frame];
     group.bytes += static_cast<double>(bytes);
+}
+
+void SizeForecast::addSamples(std::size_t frame, std::size_t count, std::uint64_t bytes) {
+    const auto from = changes_.begin() + static_cast<std::ptrdiff_t>(frame);
+    const double changed = std::accumulate(from, from + static_cast<std::ptrdiff_t>(count), 0.0);
+    for (std::size_t each = frame; changed > 0.0 && each < frame + count; ++each)
+        addSample(each, static_cast<std::uint64_t>(
+                            std::llround(static_cast<double>(bytes) * changes_[each] / changed)));
 }
 
 void SizeForecast::add(std::int64_t frames, std::uint64_t bytes) {

@@ -22,6 +22,8 @@ public:
     std::optional<std::size_t> weightiestFrame() const;
     /// That frame takes about so many bytes.
     void addSample(std::size_t frame, std::uint64_t bytes);
+    /// Those from `frame` on take about so many together.
+    void addSamples(std::size_t frame, std::size_t count, std::uint64_t bytes);
 
     /// The first `frames` frames take `bytes` bytes together. To be called with growing numbers.
     void add(std::int64_t frames, std::uint64_t bytes);

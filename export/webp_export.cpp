@@ -7,8 +7,10 @@
 #include "export/staging.h"
 #include "export/tool_failure.h"
 #include "export/tool_run.h"
+#include "export/webp_estimate.h"
 #include "export/webp_sample.h"
 #include "platform/text_number.h"
+#include "record/recorder.h"
 #include "shell/surroundings.h"
 #include "shell/working_folders.h"
 
@@ -67,6 +69,28 @@ void Exporter::generateWebP(bool mayLowerChosen) {
                       return MadeFile{.failure = encodeWebP({frames, choices, quality, file})};
                   },
               .makeLowered = [this] { generateWebP(true); }});
+}
+
+WebPPlan Exporter::planWebP(const ExportChoices &choices) const {
+    WebPPlan plan{.encoder = surroundings_.shell.simg2webpPath(),
+                  .frames = {},
+                  .images = {},
+                  .lossyQuality = encoder_arguments::lossyQuality(choices.preset)};
+    const auto &store = recorder_.recording.array_Images;
+    for (const TimedFrame &frame : timedFrames(timingRequest(choices), frame_timing::webpTicks)) {
+        plan.frames.push_back(
+            {working_folders::frameFile(surroundings_.shell.s_Output_Folder(), frame.source),
+             frame.delay});
+        if (store && frame.source < store->size())
+            plan.images.push_back((*store)[frame.source]);
+    }
+    if (plan.images.size() < plan.frames.size())
+        plan.images.clear();
+    if (const std::optional<QSize> size = originalSize())
+        plan.pixels =
+            static_cast<double>(integerValue(choices.width) * integerValue(choices.height)) /
+            (static_cast<double>(size->width()) * size->height());
+    return plan;
 }
 
 std::optional<QString> Exporter::encodeWebP(const WebPJob &job) {

@@ -591,8 +591,8 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Max. Dateigröße</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
-        <translation>Maximale Größe der GIF-Datei. Um sie einzuhalten, werden zuerst die Farbgenauigkeit, dann die Bildrate und dann Breite und Höhe verringert</translation>
+        <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>Maximale Größe der GIF- oder WebP-Datei. Um sie einzuhalten, werden zuerst die Farbgenauigkeit, dann die Bildrate und dann Breite und Höhe verringert</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -607,8 +607,8 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Geben Sie eine Dateigröße in MB ein, zum Beispiel 8, oder wählen Sie „Unbegrenzt“.</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
-        <translation>Das GIF lässt sich nicht auf %1 verkleinern: Selbst mit der niedrigsten Bildrate und halber Größe ist die Datei %2 groß. Wählen Sie eine höhere Grenze oder eine kleinere Größe, oder behalten Sie weniger von der Aufnahme.</translation>
+        <source>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>Die Datei lässt sich nicht auf %1 verkleinern: Selbst mit der niedrigsten Bildrate und halber Größe ist sie %2 groß. Wählen Sie eine höhere Grenze oder eine kleinere Größe, oder behalten Sie weniger von der Aufnahme.</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
@@ -631,8 +631,8 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Für höchstens %1 hat das GIF %2 × %3 Pixel und %4&#xa0;fps.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, the GIF has less exact colors.</source>
-        <translation>Für höchstens %1 hat das GIF weniger genaue Farben.</translation>
+        <source>To fit under %1, the file has less exact colors.</source>
+        <translation>Für höchstens %1 hat die Datei weniger genaue Farben.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>GIF: about %1</source>
@@ -676,6 +676,10 @@ Sie liegt weiterhin unter %3.</translation>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>WebP erzeugen</translation>
+    </message>
+    <message id="IDD_WEBP_ABOUT">
+        <source>About %1</source>
+        <translation>Etwa %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>

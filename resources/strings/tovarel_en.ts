@@ -591,8 +591,8 @@ It is still at %3.</translation>
         <translation>Fit under</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
-        <translation>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</translation>
+        <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -607,8 +607,8 @@ It is still at %3.</translation>
         <translation>Type a file size in MB, such as 8, or choose “No limit”.</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
-        <translation>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</translation>
+        <source>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
@@ -631,8 +631,8 @@ It is still at %3.</translation>
         <translation>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, the GIF has less exact colors.</source>
-        <translation>To fit under %1, the GIF has less exact colors.</translation>
+        <source>To fit under %1, the file has less exact colors.</source>
+        <translation>To fit under %1, the file has less exact colors.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>GIF: about %1</source>
@@ -676,6 +676,10 @@ It is still at %3.</translation>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>Generate WebP</translation>
+    </message>
+    <message id="IDD_WEBP_ABOUT">
+        <source>About %1</source>
+        <translation>About %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>

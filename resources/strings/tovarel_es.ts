@@ -591,8 +591,8 @@ Sigue en %3.</translation>
         <translation>Tamaño máx. del archivo</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
-        <translation>Tamaño máximo del archivo GIF. Para no superarlo se reducen primero la exactitud de los colores, luego la frecuencia de fotogramas y por último el ancho y el alto</translation>
+        <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>Tamaño máximo del archivo GIF o WebP. Para no superarlo se reducen primero la exactitud de los colores, luego la frecuencia de fotogramas y por último el ancho y el alto</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -607,8 +607,8 @@ Sigue en %3.</translation>
         <translation>Escriba un tamaño de archivo en MB, por ejemplo 8, o elija «Sin límite».</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
-        <translation>El GIF no cabe en %1: incluso con la menor frecuencia de fotogramas y la mitad del tamaño ocupa %2. Elija un límite mayor o un tamaño menor, o conserve menos de la grabación.</translation>
+        <source>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>El archivo no cabe en %1: incluso con la menor frecuencia de fotogramas y la mitad del tamaño ocupa %2. Elija un límite mayor o un tamaño menor, o conserve menos de la grabación.</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
@@ -628,11 +628,11 @@ Sigue en %3.</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
         <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
-        <translation>Para caber en %1, el GIF tiene %2 × %3 píxeles y %4&#xa0;fps.</translation>
+        <translation>Para caber en %1, el archivo tiene %2 × %3 píxeles y %4&#xa0;fps.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, the GIF has less exact colors.</source>
-        <translation>Para caber en %1, el GIF tiene colores menos exactos.</translation>
+        <source>To fit under %1, the file has less exact colors.</source>
+        <translation>Para caber en %1, el archivo tiene colores menos exactos.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>GIF: about %1</source>
@@ -676,6 +676,10 @@ Sigue en %3.</translation>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>Crear WebP</translation>
+    </message>
+    <message id="IDD_WEBP_ABOUT">
+        <source>About %1</source>
+        <translation>Aproximadamente %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>

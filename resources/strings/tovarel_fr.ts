@@ -591,8 +591,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>Taille max. du fichier</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
-        <translation>Taille maximale du fichier GIF. Pour ne pas la dépasser, on réduit d’abord l’exactitude des couleurs, puis la fréquence d’images, puis la largeur et la hauteur</translation>
+        <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>Taille maximale du fichier GIF ou WebP. Pour ne pas la dépasser, on réduit d’abord l’exactitude des couleurs, puis la fréquence d’images, puis la largeur et la hauteur</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -607,8 +607,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>Saisissez une taille de fichier en Mo, par exemple 8, ou choisissez «&#xa0;Sans limite&#xa0;».</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
-        <translation>Le GIF ne tient pas dans %1&#xa0;: même avec la fréquence d’images la plus basse et la moitié de la taille, il fait %2. Choisissez une limite plus élevée ou une taille plus petite, ou conservez une partie plus courte de l’enregistrement.</translation>
+        <source>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>Le fichier ne tient pas dans %1&#xa0;: même avec la fréquence d’images la plus basse et la moitié de la taille, il fait %2. Choisissez une limite plus élevée ou une taille plus petite, ou conservez une partie plus courte de l’enregistrement.</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
@@ -631,8 +631,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>Pour tenir dans %1, le GIF fait %2 × %3 pixels à %4&#xa0;i/s.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, the GIF has less exact colors.</source>
-        <translation>Pour tenir dans %1, le GIF a des couleurs moins exactes.</translation>
+        <source>To fit under %1, the file has less exact colors.</source>
+        <translation>Pour tenir dans %1, le fichier a des couleurs moins exactes.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>GIF: about %1</source>
@@ -676,6 +676,10 @@ Il reste à l’emplacement %3.</translation>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>Créer le WebP</translation>
+    </message>
+    <message id="IDD_WEBP_ABOUT">
+        <source>About %1</source>
+        <translation>Environ %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>

@@ -586,8 +586,8 @@ It is still at %3.</source>
         <translation>ファイルサイズの上限</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
-        <translation>GIF のファイルサイズの上限です。収まるように、色の正確さ、フレームレート、幅と高さの順に下げます</translation>
+        <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>GIF または WebP のファイルサイズの上限です。収まるように、色の正確さ、フレームレート、幅と高さの順に下げます</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -602,8 +602,8 @@ It is still at %3.</source>
         <translation>ファイルサイズを MB 単位で入力するか（例: 8）、「制限なし」を選択してください。</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
-        <translation>GIF は %1 に収まりません。フレームレートを最低にし、サイズを半分にしても %2 になります。上限を大きくするか、サイズを小さくするか、残す区間を短くしてください。</translation>
+        <source>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>ファイルは %1 に収まりません。フレームレートを最低にし、サイズを半分にしても %2 になります。上限を大きくするか、サイズを小さくするか、残す区間を短くしてください。</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
@@ -626,8 +626,8 @@ It is still at %3.</source>
         <translation>%1 に収めるため、GIF を %2 × %3 ピクセル、%4&#xa0;fps にしました。</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, the GIF has less exact colors.</source>
-        <translation>%1 に収めるため、GIF の色の正確さを下げました。</translation>
+        <source>To fit under %1, the file has less exact colors.</source>
+        <translation>%1 に収めるため、色の正確さを下げました。</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>GIF: about %1</source>
@@ -670,6 +670,10 @@ It is still at %3.</source>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>WebP を作成</translation>
+    </message>
+    <message id="IDD_WEBP_ABOUT">
+        <source>About %1</source>
+        <translation>約 %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>

@@ -591,8 +591,8 @@ Ele continua em %3.</translation>
         <translation>Tamanho máx. do arquivo</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
-        <translation>Tamanho máximo do arquivo GIF. Para não ultrapassá-lo, reduzem-se primeiro a exatidão das cores, depois a taxa de quadros e por fim a largura e a altura</translation>
+        <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>Tamanho máximo do arquivo GIF ou WebP. Para não ultrapassá-lo, reduzem-se primeiro a exatidão das cores, depois a taxa de quadros e por fim a largura e a altura</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -607,8 +607,8 @@ Ele continua em %3.</translation>
         <translation>Digite um tamanho de arquivo em MB, por exemplo 8, ou escolha “Sem limite”.</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
-        <translation>O GIF não cabe em %1: mesmo com a menor taxa de quadros e metade do tamanho, ele ocupa %2. Escolha um limite maior ou um tamanho menor, ou mantenha menos da gravação.</translation>
+        <source>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>O arquivo não cabe em %1: mesmo com a menor taxa de quadros e metade do tamanho, ele ocupa %2. Escolha um limite maior ou um tamanho menor, ou mantenha menos da gravação.</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
@@ -628,11 +628,11 @@ Ele continua em %3.</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
         <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
-        <translation>Para caber em %1, o GIF tem %2 × %3 pixels e %4&#xa0;fps.</translation>
+        <translation>Para caber em %1, o arquivo tem %2 × %3 pixels e %4&#xa0;fps.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, the GIF has less exact colors.</source>
-        <translation>Para caber em %1, o GIF tem cores menos exatas.</translation>
+        <source>To fit under %1, the file has less exact colors.</source>
+        <translation>Para caber em %1, o arquivo tem cores menos exatas.</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>GIF: about %1</source>
@@ -676,6 +676,10 @@ Ele continua em %3.</translation>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>Criar WebP</translation>
+    </message>
+    <message id="IDD_WEBP_ABOUT">
+        <source>About %1</source>
+        <translation>Cerca de %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>

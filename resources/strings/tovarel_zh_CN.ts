@@ -586,8 +586,8 @@ It is still at %3.</source>
         <translation>文件大小上限</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
-        <source>Maximum size of the GIF file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
-        <translation>GIF 文件的大小上限。为不超过上限，依次降低颜色精度、帧率、宽度和高度</translation>
+        <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
+        <translation>GIF 或 WebP 文件的大小上限。为不超过上限，依次降低颜色精度、帧率、宽度和高度</translation>
     </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
@@ -602,8 +602,8 @@ It is still at %3.</source>
         <translation>请输入以 MB 为单位的文件大小（例如 8），或选择“不限”。</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
-        <source>The GIF does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
-        <translation>无法将 GIF 缩小到 %1 以内：即使使用最低帧率和一半的尺寸，文件仍有 %2。请提高上限、减小尺寸，或保留更短的录制内容。</translation>
+        <source>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
+        <translation>无法将文件缩小到 %1 以内：即使使用最低帧率和一半的尺寸，仍有 %2。请提高上限、减小尺寸，或保留更短的录制内容。</translation>
     </message>
     <message id="IDD_FIT_ASK">
         <source>To fit under %1, the frame rate or the size that you chose must be lowered.</source>
@@ -626,8 +626,8 @@ It is still at %3.</source>
         <translation>为不超过 %1，GIF 的尺寸为 %2 × %3 像素，帧率为 %4&#xa0;帧/秒。</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
-        <source>To fit under %1, the GIF has less exact colors.</source>
-        <translation>为不超过 %1，GIF 的颜色精度有所降低。</translation>
+        <source>To fit under %1, the file has less exact colors.</source>
+        <translation>为不超过 %1，文件的颜色精度有所降低。</translation>
     </message>
     <message id="IDD_ABOUT_SIZE">
         <source>GIF: about %1</source>
@@ -670,6 +670,10 @@ It is still at %3.</source>
     <message id="IDD_GENERATE_WEBP">
         <source>Generate WebP</source>
         <translation>生成 WebP</translation>
+    </message>
+    <message id="IDD_WEBP_ABOUT">
+        <source>About %1</source>
+        <translation>约 %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>

@@ -155,6 +155,19 @@ TEST_F(WebPExport, TakesTheSmallerCodingUnlessItMustBeExact) {
     EXPECT_EQ(answers.alerts[0].text, qtTrId("IDD_WIDTH_TOO_LARGE").arg(QStringLiteral("16,383")));
 }
 
+TEST_F(WebPExport, SaysAboutHowLargeItWillBe) {
+    recordNoise(20, {120, 80});
+    const QString plain = ui.btnWebPGenerate->toolTip();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return ui.btnWebPGenerate->toolTip() != plain; }, 20'000));
+    static const QRegularExpression size(QStringLiteral("([0-9]+)[.,][0-9].kB$"));
+    const double kilobytes = size.match(ui.btnWebPGenerate->toolTip()).captured(1).toDouble();
+    answers.savePath = place("told.webp");
+    ui.btnWebPGenerate->click();
+    EXPECT_NEAR(1000 * kilobytes / double(QFileInfo(answers.savePath).size()), 1, 0.3);
+    ui.btnGIFSize75->click();
+    EXPECT_EQ(ui.btnWebPGenerate->toolTip(), plain) << "not known yet";
+}
+
 TEST_F(WebPExport, FitsUnderALimit) {
     recordNoise(9, {120, 80});
     controller.recording.setExactRate(20);
