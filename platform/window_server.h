@@ -37,6 +37,15 @@ struct WindowDescription {
     bool opaque = false;
 };
 
+/// A window as its user knows it.
+struct TitledWindow {
+    /// As its title bar has it; may be empty.
+    QString title;
+    /// What is seen of it, its title bar included and shadows left out, in the desktop's pixels
+    /// from its upper left. It may reach beyond the desktop.
+    QRect frame;
+};
+
 /// The owner name of this program's own windows.
 inline constexpr QLatin1StringView ownWindowsName("Tovarel");
 
@@ -85,6 +94,10 @@ public:
     /// is the last entry. Windows that vanish meanwhile are left out; an empty list when the server
     /// cannot list.
     virtual std::vector<WindowDescription> listWindows() = 0;
+
+    /// The windows on screen that a user would point at, front to back: no menus, no panels,
+    /// nothing of this program or of what may not be shared. Empty when the server cannot tell.
+    virtual std::vector<TitledWindow> titledWindows() { return {}; }
 
     /// One picture of the whole desktop (all displays, in pixels, upper left origin) that shows
     /// exactly the windows with these numbers, front to back in the order given; what none of them

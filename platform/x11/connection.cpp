@@ -128,6 +128,7 @@ void Connection::internAtoms(int screenNumber) {
         {&Atoms::gtkFrameExtents, "_GTK_FRAME_EXTENTS"},
         {&Atoms::iconGeometry, "_NET_WM_ICON_GEOMETRY"},
         {&Atoms::netWmDesktop, "_NET_WM_DESKTOP"},
+        {&Atoms::netWmName, "_NET_WM_NAME"},
         {&Atoms::netWmPid, "_NET_WM_PID"},
         {&Atoms::netWmState, "_NET_WM_STATE"},
         {&Atoms::netWmStateAbove, "_NET_WM_STATE_ABOVE"},

@@ -60,6 +60,7 @@ struct Atoms {
     xcb_atom_t gtkFrameExtents = 0; ///< the shadow in a client's own window, by custom of GTK
     xcb_atom_t iconGeometry = 0;
     xcb_atom_t netWmDesktop = 0;
+    xcb_atom_t netWmName = 0;
     xcb_atom_t netWmPid = 0;
     xcb_atom_t netWmState = 0;
     xcb_atom_t netWmStateAbove = 0;

@@ -42,6 +42,9 @@ public:
     /// The windows on screen as `WindowServer::listWindows` describes them.
     const std::vector<WindowDescription> &windows();
 
+    /// Likewise as `WindowServer::titledWindows` does.
+    std::vector<TitledWindow> titledWindows();
+
     /// The layers of all windows that are shown, front to back, the background last. Valid until
     /// the next `drain`.
     const std::vector<Layer> &layers();
@@ -101,6 +104,7 @@ private:
     QRegion cutToFrame(const StackedWindow &window, QRegion region) const;
     Layer layerOf(const StackedWindow &window) const;
     std::vector<const StackedWindow *> shownFrontToBack();
+    QRect visibleFrame(const StackedWindow &window, const WindowOwner &owner) const;
     WindowDescription describe(const StackedWindow &window) const;
 
     Connection &connection_;

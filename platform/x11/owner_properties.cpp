@@ -171,6 +171,7 @@ WindowOwner awaitOwner(Connection &connection, const OwnerQuestion &question, st
     if (!sharing.empty() && sharing.front() == 0)
         owner.sharingState = 0;
     owner.layer = layerOf(connection.atoms(), types, states);
+    owner.isPanel = std::ranges::find(types, connection.atoms().windowTypeDock) != types.end();
     awaitAppearance(connection, question, states, owner);
     return owner;
 }

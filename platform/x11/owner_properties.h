@@ -29,6 +29,8 @@ struct WindowOwner {
     std::int32_t sharingState = 1;
     /// 0 ordinary, below for desktop windows, above for docks and what is kept on top.
     std::int32_t layer = 0;
+    /// It is a panel of the desktop.
+    bool isPanel = false;
     /// It is minimised (ICCCM 4.1.3.1, EWMH _NET_WM_STATE_HIDDEN); window managers may leave it
     /// mapped all the same.
     bool minimised = false;

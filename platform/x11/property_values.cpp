@@ -12,16 +12,18 @@ std::optional<QString> classFromProperty(QByteArrayView both) {
     const qsizetype instance = both.indexOf('\0');
     if (instance < 0)
         return {};
-    QByteArrayView name = both.sliced(instance + 1);
-    if (const qsizetype end = name.indexOf('\0'); end >= 0)
-        name = name.first(end);
-    if (name.isEmpty())
-        return {};
+    const QString name = textFromProperty(both.sliced(instance + 1));
+    return name.isEmpty() ? std::nullopt : std::optional(name);
+}
+
+QString textFromProperty(QByteArrayView bytes) {
+    if (const qsizetype end = bytes.indexOf('\0'); end >= 0)
+        bytes = bytes.first(end);
     // Latin-1 by the convention, UTF-8 by the habit of most.
     using Flag = QStringDecoder::Flag;
     QStringDecoder utf8(QStringDecoder::Utf8, Flag::Stateless | Flag::ConvertInitialBom);
-    const QString text = utf8(name);
-    return utf8.hasError() ? QString::fromLatin1(name) : text;
+    const QString text = utf8(bytes);
+    return utf8.hasError() ? QString::fromLatin1(bytes) : text;
 }
 
 std::vector<std::uint32_t> wordsFromProperty(QByteArrayView bytes) {

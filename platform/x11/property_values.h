@@ -17,6 +17,10 @@ namespace x11 {
 /// when there is no second one or it is empty.
 std::optional<QString> classFromProperty(QByteArrayView both);
 
+/// The text of a property of 8 bits a value, up to the first zero: UTF-8, or Latin-1 where it is
+/// none.
+QString textFromProperty(QByteArrayView bytes);
+
 /// The values of a property of 32 bits a value; bytes at the end that make no whole one are left.
 std::vector<std::uint32_t> wordsFromProperty(QByteArrayView bytes);
 

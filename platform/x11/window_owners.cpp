@@ -24,6 +24,11 @@ const WindowOwner *WindowOwners::find(xcb_window_t window) const {
     return found != entries_.end() && found->second.known ? &found->second.owner : nullptr;
 }
 
+xcb_window_t WindowOwners::clientOf(xcb_window_t window) const {
+    const auto found = entries_.find(window);
+    return found != entries_.end() ? found->second.client : 0;
+}
+
 bool WindowOwners::isManaged(xcb_window_t window) const {
     const auto found = entries_.find(window);
     return found != entries_.end() && found->second.managed;

@@ -38,6 +38,8 @@ public:
 
     /// Null before `settle`, and for windows that vanished meanwhile.
     const WindowOwner *find(xcb_window_t window) const;
+    /// The client in it, or itself; 0 before `settle`.
+    xcb_window_t clientOf(xcb_window_t window) const;
     /// Whether a window manager looks after the window.
     bool isManaged(xcb_window_t window) const;
 

@@ -95,6 +95,13 @@ std::vector<WindowDescription> X11WindowServer::listWindows() {
     return model_.windows();
 }
 
+std::vector<TitledWindow> X11WindowServer::titledWindows() {
+    model_.drain();
+    if (connection_->broken())
+        return {};
+    return model_.titledWindows();
+}
+
 std::optional<Image> X11WindowServer::composite(std::span<const std::uint32_t> numbers,
                                                 const std::optional<QRect> &part) {
     model_.drain();

@@ -49,6 +49,7 @@ public:
     WindowServerCapabilities capabilities() const override;
     std::optional<Obstacle> obstacle() const override { return {}; }
     std::vector<WindowDescription> listWindows() override;
+    std::vector<TitledWindow> titledWindows() override;
     using WindowServer::composite;
     std::optional<Image> composite(std::span<const std::uint32_t> numbers,
                                    const std::optional<QRect> &part) override;

@@ -131,6 +131,28 @@ TEST_F(WindowList, tellsWhichWindowsOptedOutOfSharing) {
 }
 
 // The frame is made by this process, its client by another: the client's owner is the window's.
+TEST_F(WindowList, knowsTitlesAndWhatIsSeenOfOthersWindows) {
+    const ForeignProgram program(QStringLiteral("editor"));
+    const ForeignProgram panel(QStringLiteral("panel"));
+    client.setText(program.window, XCB_ATOM_WM_NAME, "old name");
+    client.setText(program.window, client.atom("_NET_WM_NAME"), "m\xc3\xbc.txt");
+    client.setProperty(program.window, "_GTK_FRAME_EXTENTS", XCB_ATOM_CARDINAL, {5, 6, 7, 8});
+    client.setProperty(panel.window, "_NET_WM_WINDOW_TYPE", XCB_ATOM_ATOM,
+                       {client.atom("_NET_WM_WINDOW_TYPE_DOCK")});
+    client.show({.place = {10, 20, 100, 80}});
+    client.sync();
+    const auto titled = [this] {
+        const auto all = server->titledWindows();
+        return all.size() == 1 && !all.front().title.isEmpty() ? std::optional(all.front())
+                                                               : std::nullopt;
+    };
+    ASSERT_TRUE(eventually([&] { return described(program.window) && titled(); }))
+        << "neither the panel nor what is ours";
+    EXPECT_EQ(titled()->title, QStringLiteral("m\u00fc.txt"));
+    const QRectF bounds = described(program.window)->bounds;
+    EXPECT_EQ(QRectF(titled()->frame), bounds.adjusted(5, 7, -6, -8)) << "without its shadow";
+}
+
 TEST_F(WindowList, looksThroughFramesForTheirClient) {
     const ForeignProgram editor(QStringLiteral("Editor"));
     if (client.windowManagerRuns())
