@@ -3,15 +3,16 @@
 #include "app/app_delegate.h"
 #include "app/application.h"
 #include "app/single_instance.h"
+#include "app/wishes.h"
 #include "platform/display.h"
-#include "platform/window_activation.h"
 #include "platform/window_server.h"
+#include "script/command_line.h"
+#include "script/scripted_recording.h"
 #include "shell/strings_table.h"
 #include "shell/termination_notice.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>
-#include <QMainWindow>
 #include <QStandardPaths>
 #include <QThread>
 
@@ -20,6 +21,8 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
+#include <variant>
 #include <vector>
 
 namespace {
@@ -61,13 +64,6 @@ QString parentOfWorkingFolders() {
                                                       : QStandardPaths::DocumentsLocation);
 }
 
-void bringForward(QWidget &window) {
-    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-    window.show();
-    window.raise();
-    bringToFront(window.winId());
-}
-
 /// Whether this process is the only one. If not, the first one has come forward, or keeps us
 /// waiting for too long: one that does not answer may be on its way out, its lock not yet given
 /// back.
@@ -83,23 +79,85 @@ bool isOrBecomesFirst(SingleInstance &instance) {
     return instance.isFirst();
 }
 
+void nameApplication() {
+    QCoreApplication::setApplicationName(QStringLiteral("Tovarel"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Tovarel"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TOVAREL_VERSION));
+}
+
+QString runtimeFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+}
+
+void complain(const QString &text) {
+    std::fputs(qPrintable(QStringLiteral("tovarel: ") + text + QLatin1Char('\n')), stderr);
+}
+
+int tellRunning(const QString &wish) {
+    const std::optional<bool> answer = SingleInstance::tell(runtimeFolder(), wish);
+    if (answer.value_or(false))
+        return command_line::done;
+    complain(answer ? qtTrId("IDD_CLI_NOT_NOW") : qtTrId("IDD_CLI_NOBODY"));
+    return command_line::cannotRecord;
+}
+
+/// What is asked for on the command line. The program ends here with what needs no display.
+command_line::Command readCommandLine(int argc, char **argv) {
+    if (argc <= 1)
+        return command_line::ShowWindow{};
+    // The texts and the socket need an application object; the real one needs a display.
+    char name[] = "tovarel";
+    char *only[] = {name, nullptr};
+    int one = 1;
+    const QCoreApplication texts(one, only);
+    nameApplication();
+    strings_table::install();
+    QStringList arguments;
+    for (int at = 0; at < argc; ++at)
+        arguments << QString::fromLocal8Bit(argv[at]);
+    command_line::Command command =
+        command_line::read(arguments, QCoreApplication::applicationVersion());
+    if (const auto *say = std::get_if<command_line::Say>(&command)) {
+        std::fputs(qPrintable(say->text), stdout);
+        std::exit(command_line::done);
+    }
+    if (const auto *mistake = std::get_if<command_line::Mistake>(&command)) {
+        complain(mistake->text);
+        complain(qtTrId("IDD_CLI_SEE_HELP"));
+        std::exit(command_line::wrongUse);
+    }
+    if (const auto *tell = std::get_if<command_line::Tell>(&command))
+        std::exit(tellRunning(tell->wish));
+    return command;
+}
+
+int recordWithoutWindow(const command_line::Recording &wanted) {
+    ScriptedRecording recording(wanted, makeWindowServer());
+    const TerminationNotice notice([&recording] { recording.interrupt(); });
+    return recording.run();
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
+    const command_line::Command command = readCommandLine(argc, argv);
+    const auto *scripted = std::get_if<command_line::Recording>(&command);
     detachStandardInput();
     if (!displayIsReachable()) {
         std::fputs("Tovarel needs a desktop: no display can be reached (is DISPLAY set?).\n",
                    stderr);
-        return EXIT_FAILURE;
+        return scripted ? command_line::cannotRecord : EXIT_FAILURE;
     }
     WindowName name(argc, argv);
     Application application(name.argc, name.argv.data());
-    Application::setApplicationName(QStringLiteral("Tovarel"));
-    Application::setOrganizationName(QStringLiteral("Tovarel"));
-    Application::setApplicationVersion(QStringLiteral(TOVAREL_VERSION));
+    nameApplication();
     Application::setDesktopFileName(QStringLiteral(TOVAREL_APP_ID));
+    if (scripted) {
+        strings_table::install();
+        return recordWithoutWindow(*scripted);
+    }
 
-    SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+    SingleInstance instance(runtimeFolder());
     if (!isOrBecomesFirst(instance))
         return EXIT_SUCCESS;
 
@@ -113,7 +171,7 @@ int main(int argc, char **argv) {
     if (!delegate.applicationDidFinishLaunching())
         return EXIT_SUCCESS;
     delegate.listenToDesktopKeys();
-    instance.listen([&delegate] { bringForward(*delegate.shell.window()); });
+    instance.listen([&delegate](const QString &wish) { return fulfil(wish, delegate); });
     Application::exec();
     delegate.Terminate_App();
 }

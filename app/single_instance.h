@@ -6,9 +6,23 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
+
+class QLocalSocket;
+
+/// What the first instance can be wished to do.
+namespace wishes {
+inline constexpr QLatin1StringView comeForward("come-forward");
+inline constexpr QLatin1StringView toggle("toggle"); ///< Record, or stop what is recorded.
+inline constexpr QLatin1StringView pause("pause");   ///< Pause what is recorded, or go on with it.
+inline constexpr QLatin1StringView stop("stop");
+} // namespace wishes
 
 /// One instance per user. The first one holds a lock in the user's runtime folder and listens
 /// beside it; a second one asks the first to come forward, and ends before it has touched anything.
+///
+/// What is said over the socket: a wish, which is a word and the end of the line, and one character
+/// in answer. A connection that says nothing wants the first one to come forward.
 class SingleInstance {
 public:
     /// Claims the instance in `folder`, the user's own runtime folder.
@@ -25,13 +39,23 @@ public:
     /// at most. False when none came: it is busy, or on its way out.
     bool askFirstToComeForward() const;
 
+    /// Tells whoever is the first in `folder` what is wished, without becoming it. True when it was
+    /// done, false when it could not be done now; none when nobody answers.
+    static std::optional<bool> tell(const QString &folder, const QString &wish);
+
     /// Claims the instance once more: one that was killed gives it back a little later.
     void claim();
 
-    /// In the first instance: calls `comeForward` whenever another start asks for it.
-    void listen(std::function<void()> comeForward);
+    /// In the first instance: calls `fulfil` whenever somebody has a wish. It is false for a wish
+    /// that cannot be fulfilled now.
+    using Fulfil = std::function<bool(const QString &wish)>;
+    void listen(Fulfil fulfil);
 
 private:
+    static QString socketIn(const QString &folder);
+    void hear(QLocalSocket &caller);
+
+    Fulfil fulfil_;
     QString socketPath_;
     QLocalServer server_;
     int lock_ = -1;

@@ -49,6 +49,10 @@ public:
     /// Where an export learns what it is to make; without it, the defaults.
     void setChoices(Choices choices) { choices_ = std::move(choices); }
 
+    /// Who gives finished files their place; without one, the user is asked for it.
+    using ResultTaker = std::function<void(const SaveRequest &made)>;
+    void setResultTaker(ResultTaker taker) { takeResult_ = std::move(taker); }
+
     Surroundings &surroundings() const { return surroundings_; }
     const Recorder &recorder() const { return recorder_; }
 
@@ -229,5 +233,6 @@ private:
     Recorder &recorder_;
     TrimEditor &editor_;
     Choices choices_;
+    ResultTaker takeResult_;
     QProcess *watchedTool_ = nullptr; // while a run is waited for
 };

@@ -61,6 +61,10 @@ QString runSavePanel(QWidget *parent, const SaveRequest &request, const QString 
 } // namespace
 
 void Exporter::saveResult(const SaveRequest &request) {
+    if (takeResult_) {
+        takeResult_(request);
+        return;
+    }
     exporting.unsaved = request;
     chooseResultsPlace();
 }

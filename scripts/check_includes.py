@@ -12,7 +12,7 @@ import re
 import sys
 
 # From the top down; docs/architecture.md says what each is for.
-FOLDERS = ("app", "export", "trim", "record", "region", "shell", "platform")
+FOLDERS = ("app", "script", "export", "trim", "record", "region", "shell", "platform")
 
 # What only one folder may include, by the beginning of the included name.
 RESERVED = {"ui_MainWindow": "app", "xcb/": "platform/x11", "X11/": "platform/x11"}

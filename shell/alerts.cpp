@@ -44,6 +44,10 @@ void widen(QGridLayout &grid) {
 } // namespace
 
 void Alerts::run(AlertKind kind, const QString &informativeText, const QString &detail) {
+    if (teller_) {
+        teller_(kind, informativeText);
+        return;
+    }
     const bool error = kind == AlertKind::Error;
     QMessageBox alert(shell_.window());
     alert.setObjectName(QStringLiteral("alert"));

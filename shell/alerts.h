@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <functional>
+#include <utility>
 
 class ShellFields;
 
@@ -25,6 +26,11 @@ public:
     /// `shell` is borrowed: it knows the main window and the program's name.
     explicit Alerts(const ShellFields &shell) : shell_(shell) {}
 
+    /// Where there is no window: alerts go to `teller`, and nobody is shown any.
+    void setTeller(std::function<void(AlertKind, const QString &informativeText)> teller) {
+        teller_ = std::move(teller);
+    }
+
     /// An application-modal alert with one button "Close"; returns when it is dismissed. `detail`
     /// is a text of its own beneath, for a path that somebody may want to copy.
     void run(AlertKind kind, const QString &informativeText, const QString &detail = {});
@@ -37,5 +43,6 @@ public:
 
 private:
     const ShellFields &shell_;
+    std::function<void(AlertKind, const QString &)> teller_;
     QPointer<QMessageBox> question_; // while it waits for its answer
 };

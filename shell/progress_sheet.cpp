@@ -40,6 +40,7 @@ void ProgressSheet::setRange(double minimum, double maximum) {
 void ProgressSheet::setValue(double value) {
     if (windowProgress_)
         windowProgress_->setDoubleValue(value);
+    Q_EMIT valueChanged(value);
 }
 
 void ProgressSheet::setText(const QString &format) {

@@ -9,7 +9,8 @@ class QWidget;
 class Window_Progress;
 
 /// The progress sheet of the job that is under way: at most one, on the main window. The job shows
-/// it, moves its bar and takes it down. Where there is none, everything but `show` does nothing.
+/// it, moves its bar and takes it down. Where there is none, everything but `show` does nothing,
+/// apart from what `valueChanged` tells.
 class ProgressSheet : public QObject {
     Q_OBJECT
 
@@ -38,6 +39,8 @@ public:
     void close();
 
 Q_SIGNALS:
+    /// The job has come that far, with a sheet or without.
+    void valueChanged(double value);
     /// The user asked the window manager to close the window beneath the sheet.
     void parentCloseRequested();
     /// The user asked for the job to be cancelled: at most once for each sheet.

@@ -38,7 +38,13 @@ TerminationNotice::TerminationNotice(std::function<void()> notify) {
     }
     notifier = std::make_unique<QSocketNotifier>(wakeUp[0], QSocketNotifier::Read);
     QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(),
-                     [notify = std::move(notify)] { notify(); });
+                     [notify = std::move(notify)] {
+                         // Once for each time that the loop turns, however many have arrived.
+                         std::array<char, 16> bytes{};
+                         while (read(wakeUp[0], bytes.data(), bytes.size()) > 0)
+                             continue;
+                         notify();
+                     });
     struct sigaction action {};
     action.sa_handler = onSignal;
     sigemptyset(&action.sa_mask);

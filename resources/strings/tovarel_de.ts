@@ -492,6 +492,158 @@ It is still at %3.</source>
 
 Sie liegt weiterhin unter %3.</translation>
     </message>
+    <message id="IDD_CLI_ABOUT">
+        <source>Records the screen and makes an animated GIF, WebP or MP4 of it. Without arguments it shows its window.</source>
+        <translation>Nimmt den Bildschirm auf und macht ein animiertes GIF, WebP oder MP4 daraus. Ohne Argumente zeigt es sein Fenster.</translation>
+    </message>
+    <message id="IDD_CLI_RECORD_ABOUT">
+        <source>Records without showing a window and writes the file. Say what to record with one of --region, --screen and --window.</source>
+        <translation>Nimmt auf, ohne ein Fenster zu zeigen, und schreibt die Datei. Was aufgenommen wird, sagt eine der Optionen --region, --screen und --window.</translation>
+    </message>
+    <message id="IDD_CLI_RECORD">
+        <source>Record without a window</source>
+        <translation>Ohne Fenster aufnehmen</translation>
+    </message>
+    <message id="IDD_CLI_TOGGLE">
+        <source>Start a recording in the Tovarel that is running, or stop the one in progress</source>
+        <translation>Im laufenden Tovarel eine Aufnahme beginnen oder die begonnene stoppen</translation>
+    </message>
+    <message id="IDD_CLI_PAUSE">
+        <source>Pause the recording in progress, or continue it</source>
+        <translation>Die laufende Aufnahme pausieren oder fortsetzen</translation>
+    </message>
+    <message id="IDD_CLI_STOP">
+        <source>Stop the recording in progress</source>
+        <translation>Die laufende Aufnahme stoppen</translation>
+    </message>
+    <message id="IDD_CLI_HELP">
+        <source>Show this help</source>
+        <translation>Diese Hilfe anzeigen</translation>
+    </message>
+    <message id="IDD_CLI_VERSION">
+        <source>Show the version</source>
+        <translation>Die Version anzeigen</translation>
+    </message>
+    <message id="IDD_CLI_REGION">
+        <source>Record W × H pixels of the desktop, X to the right and Y down from its upper left corner</source>
+        <translation>W × H Pixel des Desktops aufnehmen, X nach rechts und Y nach unten von seiner linken oberen Ecke aus</translation>
+    </message>
+    <message id="IDD_CLI_SCREEN">
+        <source>Record monitor number N, counted from 1; without N all monitors</source>
+        <translation>Den Monitor mit der Nummer N aufnehmen, ab 1 gezählt; ohne N alle Monitore</translation>
+    </message>
+    <message id="IDD_CLI_WINDOW">
+        <source>Record the place of the window whose title contains TITLE</source>
+        <translation>Den Platz des Fensters aufnehmen, dessen Titel TITLE enthält</translation>
+    </message>
+    <message id="IDD_CLI_SECONDS">
+        <source>Record for S seconds; Ctrl+C stops earlier</source>
+        <translation>S Sekunden lang aufnehmen; Strg+C stoppt früher</translation>
+    </message>
+    <message id="IDD_CLI_RATE">
+        <source>Frames per second, 1 to 60; 15 if not given</source>
+        <translation>Bilder pro Sekunde, 1 bis 60; sonst 15</translation>
+    </message>
+    <message id="IDD_CLI_DELAY">
+        <source>Wait S seconds before recording</source>
+        <translation>Vor der Aufnahme S Sekunden warten</translation>
+    </message>
+    <message id="IDD_CLI_QUALITY">
+        <source>best, balanced, small or classic; balanced if not given</source>
+        <translation>best, balanced, small oder classic; sonst balanced</translation>
+    </message>
+    <message id="IDD_CLI_OUTPUT">
+        <source>Write to FILE, which ends in .gif, .webp or .mp4; if not given, to a GIF here, named after the time</source>
+        <translation>In die Datei FILE schreiben, die auf .gif, .webp oder .mp4 endet; sonst hier in ein GIF, das nach der Zeit benannt ist</translation>
+    </message>
+    <message id="IDD_CLI_FORCE">
+        <source>Replace the file if it exists</source>
+        <translation>Die Datei ersetzen, falls es sie gibt</translation>
+    </message>
+    <message id="IDD_CLI_SEE_HELP">
+        <source>“tovarel --help” and “tovarel record --help” say more.</source>
+        <translation>Mehr dazu sagen „tovarel --help“ und „tovarel record --help“.</translation>
+    </message>
+    <message id="IDD_CLI_ONE_TARGET">
+        <source>Give exactly one of --region, --screen and --window.</source>
+        <translation>Geben Sie genau eine der Optionen --region, --screen und --window an.</translation>
+    </message>
+    <message id="IDD_CLI_ONE_WISH">
+        <source>Give only one of --toggle, --pause and --stop.</source>
+        <translation>Geben Sie nur eine der Optionen --toggle, --pause und --stop an.</translation>
+    </message>
+    <message id="IDD_CLI_UNKNOWN">
+        <source>“%1” is not a command of Tovarel.</source>
+        <translation>„%1“ ist kein Befehl von Tovarel.</translation>
+    </message>
+    <message id="IDD_CLI_NEEDS_SECONDS">
+        <source>Say how long to record with --seconds.</source>
+        <translation>Geben Sie mit --seconds an, wie lange aufgenommen wird.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_NUMBER">
+        <source>%1 takes a number from %2 to %3.</source>
+        <translation>%1 verlangt eine Zahl von %2 bis %3.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_REGION">
+        <source>“%1” is not a region. --region takes width, height and place in pixels, as in 640x480+100+80.</source>
+        <translation>„%1“ ist kein Bereich. --region verlangt Breite, Höhe und Platz in Pixeln wie in 640x480+100+80.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_QUALITY">
+        <source>“%1” is not a quality. --quality takes best, balanced, small or classic.</source>
+        <translation>„%1“ ist keine Qualität. --quality verlangt best, balanced, small oder classic.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_FORMAT">
+        <source>The name of the file must end in .gif, .webp or .mp4: “%1”</source>
+        <translation>Der Name der Datei muss auf .gif, .webp oder .mp4 enden: „%1“</translation>
+    </message>
+    <message id="IDD_CLI_NO_PLACE">
+        <source>No file can be written there: %1</source>
+        <translation>Dort kann keine Datei geschrieben werden: %1</translation>
+    </message>
+    <message id="IDD_CLI_EXISTS">
+        <source>There is already a file %1. --force replaces it.</source>
+        <translation>Die Datei %1 gibt es bereits. --force ersetzt sie.</translation>
+    </message>
+    <message id="IDD_CLI_TOO_SHORT">
+        <source>The recording is too short: an animation needs at least three frames.</source>
+        <translation>Die Aufnahme ist zu kurz: Eine Animation braucht mindestens drei Bilder.</translation>
+    </message>
+    <message id="IDD_CLI_NOBODY">
+        <source>No Tovarel is running.</source>
+        <translation>Es läuft kein Tovarel.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_NOW">
+        <source>The Tovarel that is running cannot do that now.</source>
+        <translation>Das laufende Tovarel kann das jetzt nicht tun.</translation>
+    </message>
+    <message id="IDD_CLI_NO_PICTURE">
+        <source>The display server provides no picture of the screen.</source>
+        <translation>Der Anzeigeserver liefert kein Bild des Bildschirms.</translation>
+    </message>
+    <message id="IDD_CLI_REGION_OUTSIDE">
+        <source>That is not on the desktop, which has %1 × %2 pixels.</source>
+        <translation>Das liegt nicht auf dem Desktop, der %1 × %2 Pixel hat.</translation>
+    </message>
+    <message id="IDD_CLI_NO_SCREEN">
+        <source>There is no monitor number %1. Monitors: %2</source>
+        <translation>Es gibt keinen Monitor mit der Nummer %1. Monitore: %2</translation>
+    </message>
+    <message id="IDD_CLI_NO_WINDOW">
+        <source>No window on the screen has “%1” in its title.</source>
+        <translation>Kein Fenster auf dem Bildschirm hat „%1“ im Titel.</translation>
+    </message>
+    <message id="IDD_CLI_STARTS">
+        <source>Recording starts in %1&#xa0;s</source>
+        <translation>Die Aufnahme beginnt in %1&#xa0;s</translation>
+    </message>
+    <message id="IDD_CLI_RECORDING">
+        <source>Recording: %1 of %2&#xa0;s · Frames: %3</source>
+        <translation>Aufnahme: %1 von %2&#xa0;s · Bilder: %3</translation>
+    </message>
+    <message id="IDD_CLI_ENCODING">
+        <source>Generating the file: %1%</source>
+        <translation>Datei wird erzeugt: %1&#xa0;%</translation>
+    </message>
     <message id="IDD_MOVE_IS_FOLDER">
         <source>There is already a folder with that name.</source>
         <translation>Dort gibt es bereits einen Ordner mit diesem Namen.</translation>

@@ -492,6 +492,158 @@ It is still at %3.</source>
 
 It is still at %3.</translation>
     </message>
+    <message id="IDD_CLI_ABOUT">
+        <source>Records the screen and makes an animated GIF, WebP or MP4 of it. Without arguments it shows its window.</source>
+        <translation>Records the screen and makes an animated GIF, WebP or MP4 of it. Without arguments it shows its window.</translation>
+    </message>
+    <message id="IDD_CLI_RECORD_ABOUT">
+        <source>Records without showing a window and writes the file. Say what to record with one of --region, --screen and --window.</source>
+        <translation>Records without showing a window and writes the file. Say what to record with one of --region, --screen and --window.</translation>
+    </message>
+    <message id="IDD_CLI_RECORD">
+        <source>Record without a window</source>
+        <translation>Record without a window</translation>
+    </message>
+    <message id="IDD_CLI_TOGGLE">
+        <source>Start a recording in the Tovarel that is running, or stop the one in progress</source>
+        <translation>Start a recording in the Tovarel that is running, or stop the one in progress</translation>
+    </message>
+    <message id="IDD_CLI_PAUSE">
+        <source>Pause the recording in progress, or continue it</source>
+        <translation>Pause the recording in progress, or continue it</translation>
+    </message>
+    <message id="IDD_CLI_STOP">
+        <source>Stop the recording in progress</source>
+        <translation>Stop the recording in progress</translation>
+    </message>
+    <message id="IDD_CLI_HELP">
+        <source>Show this help</source>
+        <translation>Show this help</translation>
+    </message>
+    <message id="IDD_CLI_VERSION">
+        <source>Show the version</source>
+        <translation>Show the version</translation>
+    </message>
+    <message id="IDD_CLI_REGION">
+        <source>Record W × H pixels of the desktop, X to the right and Y down from its upper left corner</source>
+        <translation>Record W × H pixels of the desktop, X to the right and Y down from its upper left corner</translation>
+    </message>
+    <message id="IDD_CLI_SCREEN">
+        <source>Record monitor number N, counted from 1; without N all monitors</source>
+        <translation>Record monitor number N, counted from 1; without N all monitors</translation>
+    </message>
+    <message id="IDD_CLI_WINDOW">
+        <source>Record the place of the window whose title contains TITLE</source>
+        <translation>Record the place of the window whose title contains TITLE</translation>
+    </message>
+    <message id="IDD_CLI_SECONDS">
+        <source>Record for S seconds; Ctrl+C stops earlier</source>
+        <translation>Record for S seconds; Ctrl+C stops earlier</translation>
+    </message>
+    <message id="IDD_CLI_RATE">
+        <source>Frames per second, 1 to 60; 15 if not given</source>
+        <translation>Frames per second, 1 to 60; 15 if not given</translation>
+    </message>
+    <message id="IDD_CLI_DELAY">
+        <source>Wait S seconds before recording</source>
+        <translation>Wait S seconds before recording</translation>
+    </message>
+    <message id="IDD_CLI_QUALITY">
+        <source>best, balanced, small or classic; balanced if not given</source>
+        <translation>best, balanced, small or classic; balanced if not given</translation>
+    </message>
+    <message id="IDD_CLI_OUTPUT">
+        <source>Write to FILE, which ends in .gif, .webp or .mp4; if not given, to a GIF here, named after the time</source>
+        <translation>Write to FILE, which ends in .gif, .webp or .mp4; if not given, to a GIF here, named after the time</translation>
+    </message>
+    <message id="IDD_CLI_FORCE">
+        <source>Replace the file if it exists</source>
+        <translation>Replace the file if it exists</translation>
+    </message>
+    <message id="IDD_CLI_SEE_HELP">
+        <source>“tovarel --help” and “tovarel record --help” say more.</source>
+        <translation>“tovarel --help” and “tovarel record --help” say more.</translation>
+    </message>
+    <message id="IDD_CLI_ONE_TARGET">
+        <source>Give exactly one of --region, --screen and --window.</source>
+        <translation>Give exactly one of --region, --screen and --window.</translation>
+    </message>
+    <message id="IDD_CLI_ONE_WISH">
+        <source>Give only one of --toggle, --pause and --stop.</source>
+        <translation>Give only one of --toggle, --pause and --stop.</translation>
+    </message>
+    <message id="IDD_CLI_UNKNOWN">
+        <source>“%1” is not a command of Tovarel.</source>
+        <translation>“%1” is not a command of Tovarel.</translation>
+    </message>
+    <message id="IDD_CLI_NEEDS_SECONDS">
+        <source>Say how long to record with --seconds.</source>
+        <translation>Say how long to record with --seconds.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_NUMBER">
+        <source>%1 takes a number from %2 to %3.</source>
+        <translation>%1 takes a number from %2 to %3.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_REGION">
+        <source>“%1” is not a region. --region takes width, height and place in pixels, as in 640x480+100+80.</source>
+        <translation>“%1” is not a region. --region takes width, height and place in pixels, as in 640x480+100+80.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_QUALITY">
+        <source>“%1” is not a quality. --quality takes best, balanced, small or classic.</source>
+        <translation>“%1” is not a quality. --quality takes best, balanced, small or classic.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_FORMAT">
+        <source>The name of the file must end in .gif, .webp or .mp4: “%1”</source>
+        <translation>The name of the file must end in .gif, .webp or .mp4: “%1”</translation>
+    </message>
+    <message id="IDD_CLI_NO_PLACE">
+        <source>No file can be written there: %1</source>
+        <translation>No file can be written there: %1</translation>
+    </message>
+    <message id="IDD_CLI_EXISTS">
+        <source>There is already a file %1. --force replaces it.</source>
+        <translation>There is already a file %1. --force replaces it.</translation>
+    </message>
+    <message id="IDD_CLI_TOO_SHORT">
+        <source>The recording is too short: an animation needs at least three frames.</source>
+        <translation>The recording is too short: an animation needs at least three frames.</translation>
+    </message>
+    <message id="IDD_CLI_NOBODY">
+        <source>No Tovarel is running.</source>
+        <translation>No Tovarel is running.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_NOW">
+        <source>The Tovarel that is running cannot do that now.</source>
+        <translation>The Tovarel that is running cannot do that now.</translation>
+    </message>
+    <message id="IDD_CLI_NO_PICTURE">
+        <source>The display server provides no picture of the screen.</source>
+        <translation>The display server provides no picture of the screen.</translation>
+    </message>
+    <message id="IDD_CLI_REGION_OUTSIDE">
+        <source>That is not on the desktop, which has %1 × %2 pixels.</source>
+        <translation>That is not on the desktop, which has %1 × %2 pixels.</translation>
+    </message>
+    <message id="IDD_CLI_NO_SCREEN">
+        <source>There is no monitor number %1. Monitors: %2</source>
+        <translation>There is no monitor number %1. Monitors: %2</translation>
+    </message>
+    <message id="IDD_CLI_NO_WINDOW">
+        <source>No window on the screen has “%1” in its title.</source>
+        <translation>No window on the screen has “%1” in its title.</translation>
+    </message>
+    <message id="IDD_CLI_STARTS">
+        <source>Recording starts in %1&#xa0;s</source>
+        <translation>Recording starts in %1&#xa0;s</translation>
+    </message>
+    <message id="IDD_CLI_RECORDING">
+        <source>Recording: %1 of %2&#xa0;s · Frames: %3</source>
+        <translation>Recording: %1 of %2&#xa0;s · Frames: %3</translation>
+    </message>
+    <message id="IDD_CLI_ENCODING">
+        <source>Generating the file: %1%</source>
+        <translation>Generating the file: %1%</translation>
+    </message>
     <message id="IDD_MOVE_IS_FOLDER">
         <source>There is already a folder with that name.</source>
         <translation>There is already a folder with that name.</translation>

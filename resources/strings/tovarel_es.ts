@@ -492,6 +492,158 @@ It is still at %3.</source>
 
 Sigue en %3.</translation>
     </message>
+    <message id="IDD_CLI_ABOUT">
+        <source>Records the screen and makes an animated GIF, WebP or MP4 of it. Without arguments it shows its window.</source>
+        <translation>Graba la pantalla y crea un GIF animado, un WebP o un MP4. Sin argumentos, muestra su ventana.</translation>
+    </message>
+    <message id="IDD_CLI_RECORD_ABOUT">
+        <source>Records without showing a window and writes the file. Say what to record with one of --region, --screen and --window.</source>
+        <translation>Graba sin mostrar ninguna ventana y escribe el archivo. Indique qué grabar con --region, --screen o --window.</translation>
+    </message>
+    <message id="IDD_CLI_RECORD">
+        <source>Record without a window</source>
+        <translation>Grabar sin ventana</translation>
+    </message>
+    <message id="IDD_CLI_TOGGLE">
+        <source>Start a recording in the Tovarel that is running, or stop the one in progress</source>
+        <translation>Iniciar una grabación en el Tovarel en ejecución, o detener la que está en curso</translation>
+    </message>
+    <message id="IDD_CLI_PAUSE">
+        <source>Pause the recording in progress, or continue it</source>
+        <translation>Pausar la grabación en curso, o continuarla</translation>
+    </message>
+    <message id="IDD_CLI_STOP">
+        <source>Stop the recording in progress</source>
+        <translation>Detener la grabación en curso</translation>
+    </message>
+    <message id="IDD_CLI_HELP">
+        <source>Show this help</source>
+        <translation>Mostrar esta ayuda</translation>
+    </message>
+    <message id="IDD_CLI_VERSION">
+        <source>Show the version</source>
+        <translation>Mostrar la versión</translation>
+    </message>
+    <message id="IDD_CLI_REGION">
+        <source>Record W × H pixels of the desktop, X to the right and Y down from its upper left corner</source>
+        <translation>Grabar W × H píxeles del escritorio, a X hacia la derecha y a Y hacia abajo desde su esquina superior izquierda</translation>
+    </message>
+    <message id="IDD_CLI_SCREEN">
+        <source>Record monitor number N, counted from 1; without N all monitors</source>
+        <translation>Grabar el monitor número N, contando desde 1; sin N, todos los monitores</translation>
+    </message>
+    <message id="IDD_CLI_WINDOW">
+        <source>Record the place of the window whose title contains TITLE</source>
+        <translation>Grabar el lugar de la ventana cuyo título contiene TITLE</translation>
+    </message>
+    <message id="IDD_CLI_SECONDS">
+        <source>Record for S seconds; Ctrl+C stops earlier</source>
+        <translation>Grabar durante S segundos; Ctrl+C detiene antes</translation>
+    </message>
+    <message id="IDD_CLI_RATE">
+        <source>Frames per second, 1 to 60; 15 if not given</source>
+        <translation>Fotogramas por segundo, de 1 a 60; 15 si no se indica</translation>
+    </message>
+    <message id="IDD_CLI_DELAY">
+        <source>Wait S seconds before recording</source>
+        <translation>Esperar S segundos antes de grabar</translation>
+    </message>
+    <message id="IDD_CLI_QUALITY">
+        <source>best, balanced, small or classic; balanced if not given</source>
+        <translation>best, balanced, small o classic; balanced si no se indica</translation>
+    </message>
+    <message id="IDD_CLI_OUTPUT">
+        <source>Write to FILE, which ends in .gif, .webp or .mp4; if not given, to a GIF here, named after the time</source>
+        <translation>Escribir en FILE, que termina en .gif, .webp o .mp4; si no se indica, en un GIF aquí con la hora como nombre</translation>
+    </message>
+    <message id="IDD_CLI_FORCE">
+        <source>Replace the file if it exists</source>
+        <translation>Reemplazar el archivo si existe</translation>
+    </message>
+    <message id="IDD_CLI_SEE_HELP">
+        <source>“tovarel --help” and “tovarel record --help” say more.</source>
+        <translation>Vea «tovarel --help» y «tovarel record --help».</translation>
+    </message>
+    <message id="IDD_CLI_ONE_TARGET">
+        <source>Give exactly one of --region, --screen and --window.</source>
+        <translation>Indique exactamente una de las opciones --region, --screen y --window.</translation>
+    </message>
+    <message id="IDD_CLI_ONE_WISH">
+        <source>Give only one of --toggle, --pause and --stop.</source>
+        <translation>Indique solo una de las opciones --toggle, --pause y --stop.</translation>
+    </message>
+    <message id="IDD_CLI_UNKNOWN">
+        <source>“%1” is not a command of Tovarel.</source>
+        <translation>«%1» no es una orden de Tovarel.</translation>
+    </message>
+    <message id="IDD_CLI_NEEDS_SECONDS">
+        <source>Say how long to record with --seconds.</source>
+        <translation>Indique con --seconds cuánto tiempo se graba.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_NUMBER">
+        <source>%1 takes a number from %2 to %3.</source>
+        <translation>%1 requiere un número del %2 al %3.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_REGION">
+        <source>“%1” is not a region. --region takes width, height and place in pixels, as in 640x480+100+80.</source>
+        <translation>«%1» no es una región. --region requiere ancho, alto y posición en píxeles, como 640x480+100+80.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_QUALITY">
+        <source>“%1” is not a quality. --quality takes best, balanced, small or classic.</source>
+        <translation>«%1» no es una calidad. --quality requiere best, balanced, small o classic.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_FORMAT">
+        <source>The name of the file must end in .gif, .webp or .mp4: “%1”</source>
+        <translation>El nombre del archivo debe terminar en .gif, .webp o .mp4: «%1»</translation>
+    </message>
+    <message id="IDD_CLI_NO_PLACE">
+        <source>No file can be written there: %1</source>
+        <translation>No se puede escribir ningún archivo ahí: %1</translation>
+    </message>
+    <message id="IDD_CLI_EXISTS">
+        <source>There is already a file %1. --force replaces it.</source>
+        <translation>El archivo %1 ya existe. --force lo reemplaza.</translation>
+    </message>
+    <message id="IDD_CLI_TOO_SHORT">
+        <source>The recording is too short: an animation needs at least three frames.</source>
+        <translation>La grabación es demasiado corta: una animación necesita al menos tres fotogramas.</translation>
+    </message>
+    <message id="IDD_CLI_NOBODY">
+        <source>No Tovarel is running.</source>
+        <translation>No hay ningún Tovarel en ejecución.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_NOW">
+        <source>The Tovarel that is running cannot do that now.</source>
+        <translation>El Tovarel en ejecución no puede hacerlo ahora.</translation>
+    </message>
+    <message id="IDD_CLI_NO_PICTURE">
+        <source>The display server provides no picture of the screen.</source>
+        <translation>El servidor gráfico no entrega ninguna imagen de la pantalla.</translation>
+    </message>
+    <message id="IDD_CLI_REGION_OUTSIDE">
+        <source>That is not on the desktop, which has %1 × %2 pixels.</source>
+        <translation>Eso no está en el escritorio, que tiene %1 × %2 píxeles.</translation>
+    </message>
+    <message id="IDD_CLI_NO_SCREEN">
+        <source>There is no monitor number %1. Monitors: %2</source>
+        <translation>No hay ningún monitor número %1. Monitores: %2</translation>
+    </message>
+    <message id="IDD_CLI_NO_WINDOW">
+        <source>No window on the screen has “%1” in its title.</source>
+        <translation>Ninguna ventana de la pantalla tiene «%1» en su título.</translation>
+    </message>
+    <message id="IDD_CLI_STARTS">
+        <source>Recording starts in %1&#xa0;s</source>
+        <translation>La grabación empieza en %1&#xa0;s</translation>
+    </message>
+    <message id="IDD_CLI_RECORDING">
+        <source>Recording: %1 of %2&#xa0;s · Frames: %3</source>
+        <translation>Grabación: %1 de %2&#xa0;s · Fotogramas: %3</translation>
+    </message>
+    <message id="IDD_CLI_ENCODING">
+        <source>Generating the file: %1%</source>
+        <translation>Creando el archivo: %1&#xa0;%</translation>
+    </message>
     <message id="IDD_MOVE_IS_FOLDER">
         <source>There is already a folder with that name.</source>
         <translation>Ya existe una carpeta con ese nombre.</translation>

@@ -492,6 +492,158 @@ It is still at %3.</source>
 
 Il reste à l’emplacement %3.</translation>
     </message>
+    <message id="IDD_CLI_ABOUT">
+        <source>Records the screen and makes an animated GIF, WebP or MP4 of it. Without arguments it shows its window.</source>
+        <translation>Enregistre l’écran et en fait un GIF animé, un WebP ou un MP4. Sans argument, la fenêtre s’affiche.</translation>
+    </message>
+    <message id="IDD_CLI_RECORD_ABOUT">
+        <source>Records without showing a window and writes the file. Say what to record with one of --region, --screen and --window.</source>
+        <translation>Enregistre sans afficher de fenêtre et écrit le fichier. Indiquez quoi enregistrer avec --region, --screen ou --window.</translation>
+    </message>
+    <message id="IDD_CLI_RECORD">
+        <source>Record without a window</source>
+        <translation>Enregistrer sans fenêtre</translation>
+    </message>
+    <message id="IDD_CLI_TOGGLE">
+        <source>Start a recording in the Tovarel that is running, or stop the one in progress</source>
+        <translation>Commencer un enregistrement dans le Tovarel en cours d’exécution, ou arrêter celui en cours</translation>
+    </message>
+    <message id="IDD_CLI_PAUSE">
+        <source>Pause the recording in progress, or continue it</source>
+        <translation>Mettre en pause l’enregistrement en cours, ou le reprendre</translation>
+    </message>
+    <message id="IDD_CLI_STOP">
+        <source>Stop the recording in progress</source>
+        <translation>Arrêter l’enregistrement en cours</translation>
+    </message>
+    <message id="IDD_CLI_HELP">
+        <source>Show this help</source>
+        <translation>Afficher cette aide</translation>
+    </message>
+    <message id="IDD_CLI_VERSION">
+        <source>Show the version</source>
+        <translation>Afficher la version</translation>
+    </message>
+    <message id="IDD_CLI_REGION">
+        <source>Record W × H pixels of the desktop, X to the right and Y down from its upper left corner</source>
+        <translation>Enregistrer W × H pixels du bureau, à X vers la droite et Y vers le bas de son coin supérieur gauche</translation>
+    </message>
+    <message id="IDD_CLI_SCREEN">
+        <source>Record monitor number N, counted from 1; without N all monitors</source>
+        <translation>Enregistrer le moniteur numéro N, à partir de 1&#x202f;; sans N, tous les moniteurs</translation>
+    </message>
+    <message id="IDD_CLI_WINDOW">
+        <source>Record the place of the window whose title contains TITLE</source>
+        <translation>Enregistrer l’emplacement de la fenêtre dont le titre contient TITLE</translation>
+    </message>
+    <message id="IDD_CLI_SECONDS">
+        <source>Record for S seconds; Ctrl+C stops earlier</source>
+        <translation>Enregistrer pendant S secondes&#x202f;; Ctrl+C arrête avant</translation>
+    </message>
+    <message id="IDD_CLI_RATE">
+        <source>Frames per second, 1 to 60; 15 if not given</source>
+        <translation>Images par seconde, de 1 à 60&#x202f;; 15 par défaut</translation>
+    </message>
+    <message id="IDD_CLI_DELAY">
+        <source>Wait S seconds before recording</source>
+        <translation>Attendre S secondes avant d’enregistrer</translation>
+    </message>
+    <message id="IDD_CLI_QUALITY">
+        <source>best, balanced, small or classic; balanced if not given</source>
+        <translation>best, balanced, small ou classic&#x202f;; balanced par défaut</translation>
+    </message>
+    <message id="IDD_CLI_OUTPUT">
+        <source>Write to FILE, which ends in .gif, .webp or .mp4; if not given, to a GIF here, named after the time</source>
+        <translation>Écrire dans FILE, qui se termine par .gif, .webp ou .mp4&#x202f;; par défaut dans un GIF ici, nommé d’après l’heure</translation>
+    </message>
+    <message id="IDD_CLI_FORCE">
+        <source>Replace the file if it exists</source>
+        <translation>Remplacer le fichier s’il existe</translation>
+    </message>
+    <message id="IDD_CLI_SEE_HELP">
+        <source>“tovarel --help” and “tovarel record --help” say more.</source>
+        <translation>Voir «&#xa0;tovarel --help&#xa0;» et «&#xa0;tovarel record --help&#xa0;».</translation>
+    </message>
+    <message id="IDD_CLI_ONE_TARGET">
+        <source>Give exactly one of --region, --screen and --window.</source>
+        <translation>Indiquez exactement une des options --region, --screen et --window.</translation>
+    </message>
+    <message id="IDD_CLI_ONE_WISH">
+        <source>Give only one of --toggle, --pause and --stop.</source>
+        <translation>Indiquez une seule des options --toggle, --pause et --stop.</translation>
+    </message>
+    <message id="IDD_CLI_UNKNOWN">
+        <source>“%1” is not a command of Tovarel.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une commande de Tovarel.</translation>
+    </message>
+    <message id="IDD_CLI_NEEDS_SECONDS">
+        <source>Say how long to record with --seconds.</source>
+        <translation>Indiquez la durée de l’enregistrement avec --seconds.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_NUMBER">
+        <source>%1 takes a number from %2 to %3.</source>
+        <translation>%1 attend un nombre de %2 à %3.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_REGION">
+        <source>“%1” is not a region. --region takes width, height and place in pixels, as in 640x480+100+80.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une zone. --region attend la largeur, la hauteur et la position en pixels, comme 640x480+100+80.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_QUALITY">
+        <source>“%1” is not a quality. --quality takes best, balanced, small or classic.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une qualité. --quality attend best, balanced, small ou classic.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_FORMAT">
+        <source>The name of the file must end in .gif, .webp or .mp4: “%1”</source>
+        <translation>Le nom du fichier doit se terminer par .gif, .webp ou .mp4&#xa0;: «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message id="IDD_CLI_NO_PLACE">
+        <source>No file can be written there: %1</source>
+        <translation>Aucun fichier ne peut y être écrit&#xa0;: %1</translation>
+    </message>
+    <message id="IDD_CLI_EXISTS">
+        <source>There is already a file %1. --force replaces it.</source>
+        <translation>Le fichier %1 existe déjà. --force le remplace.</translation>
+    </message>
+    <message id="IDD_CLI_TOO_SHORT">
+        <source>The recording is too short: an animation needs at least three frames.</source>
+        <translation>L’enregistrement est trop court&#xa0;: une animation demande au moins trois images.</translation>
+    </message>
+    <message id="IDD_CLI_NOBODY">
+        <source>No Tovarel is running.</source>
+        <translation>Aucun Tovarel n’est en cours d’exécution.</translation>
+    </message>
+    <message id="IDD_CLI_NOT_NOW">
+        <source>The Tovarel that is running cannot do that now.</source>
+        <translation>Le Tovarel en cours d’exécution ne peut pas le faire maintenant.</translation>
+    </message>
+    <message id="IDD_CLI_NO_PICTURE">
+        <source>The display server provides no picture of the screen.</source>
+        <translation>Le serveur d’affichage ne fournit aucune image de l’écran.</translation>
+    </message>
+    <message id="IDD_CLI_REGION_OUTSIDE">
+        <source>That is not on the desktop, which has %1 × %2 pixels.</source>
+        <translation>Cela dépasse le bureau, qui mesure %1 × %2 pixels.</translation>
+    </message>
+    <message id="IDD_CLI_NO_SCREEN">
+        <source>There is no monitor number %1. Monitors: %2</source>
+        <translation>Il n’y a pas de moniteur numéro %1. Moniteurs&#xa0;: %2</translation>
+    </message>
+    <message id="IDD_CLI_NO_WINDOW">
+        <source>No window on the screen has “%1” in its title.</source>
+        <translation>Aucune fenêtre à l’écran n’a «&#xa0;%1&#xa0;» dans son titre.</translation>
+    </message>
+    <message id="IDD_CLI_STARTS">
+        <source>Recording starts in %1&#xa0;s</source>
+        <translation>L’enregistrement commence dans %1&#xa0;s</translation>
+    </message>
+    <message id="IDD_CLI_RECORDING">
+        <source>Recording: %1 of %2&#xa0;s · Frames: %3</source>
+        <translation>Enregistrement&#xa0;: %1 sur %2&#xa0;s · Images&#xa0;: %3</translation>
+    </message>
+    <message id="IDD_CLI_ENCODING">
+        <source>Generating the file: %1%</source>
+        <translation>Création du fichier&#xa0;: %1&#x202f;%</translation>
+    </message>
     <message id="IDD_MOVE_IS_FOLDER">
         <source>There is already a folder with that name.</source>
         <translation>Un dossier portant ce nom existe déjà.</translation>

@@ -489,6 +489,158 @@ It is still at %3.</source>
 
 ファイルは %3 に残っています。</translation>
     </message>
+    <message id="IDD_CLI_ABOUT">
+        <source>Records the screen and makes an animated GIF, WebP or MP4 of it. Without arguments it shows its window.</source>
+        <translation>画面を録画し、アニメーション GIF、WebP、MP4 を作成します。引数がなければウィンドウを表示します。</translation>
+    </message>
+    <message id="IDD_CLI_RECORD_ABOUT">
+        <source>Records without showing a window and writes the file. Say what to record with one of --region, --screen and --window.</source>
+        <translation>ウィンドウを表示せずに録画し、ファイルに書き込みます。録画する対象は --region、--screen、--window のいずれかで指定します。</translation>
+    </message>
+    <message id="IDD_CLI_RECORD">
+        <source>Record without a window</source>
+        <translation>ウィンドウなしで録画</translation>
+    </message>
+    <message id="IDD_CLI_TOGGLE">
+        <source>Start a recording in the Tovarel that is running, or stop the one in progress</source>
+        <translation>起動中の Tovarel で録画を開始、または録画中なら停止</translation>
+    </message>
+    <message id="IDD_CLI_PAUSE">
+        <source>Pause the recording in progress, or continue it</source>
+        <translation>録画を一時停止、または再開</translation>
+    </message>
+    <message id="IDD_CLI_STOP">
+        <source>Stop the recording in progress</source>
+        <translation>録画を停止</translation>
+    </message>
+    <message id="IDD_CLI_HELP">
+        <source>Show this help</source>
+        <translation>このヘルプを表示</translation>
+    </message>
+    <message id="IDD_CLI_VERSION">
+        <source>Show the version</source>
+        <translation>バージョンを表示</translation>
+    </message>
+    <message id="IDD_CLI_REGION">
+        <source>Record W × H pixels of the desktop, X to the right and Y down from its upper left corner</source>
+        <translation>デスクトップの左上から右へ X、下へ Y の位置にある W × H ピクセルを録画</translation>
+    </message>
+    <message id="IDD_CLI_SCREEN">
+        <source>Record monitor number N, counted from 1; without N all monitors</source>
+        <translation>N 番目（1 から数える）のモニターを録画。N がなければすべてのモニター</translation>
+    </message>
+    <message id="IDD_CLI_WINDOW">
+        <source>Record the place of the window whose title contains TITLE</source>
+        <translation>タイトルに TITLE を含むウィンドウの場所を録画</translation>
+    </message>
+    <message id="IDD_CLI_SECONDS">
+        <source>Record for S seconds; Ctrl+C stops earlier</source>
+        <translation>S 秒間録画（Ctrl+C で途中停止）</translation>
+    </message>
+    <message id="IDD_CLI_RATE">
+        <source>Frames per second, 1 to 60; 15 if not given</source>
+        <translation>フレーム/秒（1～60、既定値 15）</translation>
+    </message>
+    <message id="IDD_CLI_DELAY">
+        <source>Wait S seconds before recording</source>
+        <translation>録画の前に S 秒待つ</translation>
+    </message>
+    <message id="IDD_CLI_QUALITY">
+        <source>best, balanced, small or classic; balanced if not given</source>
+        <translation>best、balanced、small、classic のいずれか（既定値 balanced）</translation>
+    </message>
+    <message id="IDD_CLI_OUTPUT">
+        <source>Write to FILE, which ends in .gif, .webp or .mp4; if not given, to a GIF here, named after the time</source>
+        <translation>FILE に書き込む（末尾は .gif、.webp、.mp4 のいずれか）。なければ、時刻を名前にした GIF をここに作成</translation>
+    </message>
+    <message id="IDD_CLI_FORCE">
+        <source>Replace the file if it exists</source>
+        <translation>ファイルが既にあれば置き換える</translation>
+    </message>
+    <message id="IDD_CLI_SEE_HELP">
+        <source>“tovarel --help” and “tovarel record --help” say more.</source>
+        <translation>詳しくは「tovarel --help」と「tovarel record --help」をご覧ください。</translation>
+    </message>
+    <message id="IDD_CLI_ONE_TARGET">
+        <source>Give exactly one of --region, --screen and --window.</source>
+        <translation>--region、--screen、--window のうち 1 つだけを指定してください。</translation>
+    </message>
+    <message id="IDD_CLI_ONE_WISH">
+        <source>Give only one of --toggle, --pause and --stop.</source>
+        <translation>--toggle、--pause、--stop は 1 つだけ指定してください。</translation>
+    </message>
+    <message id="IDD_CLI_UNKNOWN">
+        <source>“%1” is not a command of Tovarel.</source>
+        <translation>「%1」は Tovarel のコマンドではありません。</translation>
+    </message>
+    <message id="IDD_CLI_NEEDS_SECONDS">
+        <source>Say how long to record with --seconds.</source>
+        <translation>録画する長さを --seconds で指定してください。</translation>
+    </message>
+    <message id="IDD_CLI_NOT_NUMBER">
+        <source>%1 takes a number from %2 to %3.</source>
+        <translation>%1 には %2～%3 の数を指定してください。</translation>
+    </message>
+    <message id="IDD_CLI_NOT_REGION">
+        <source>“%1” is not a region. --region takes width, height and place in pixels, as in 640x480+100+80.</source>
+        <translation>「%1」は範囲ではありません。--region には 640x480+100+80 のように幅、高さ、位置をピクセルで指定してください。</translation>
+    </message>
+    <message id="IDD_CLI_NOT_QUALITY">
+        <source>“%1” is not a quality. --quality takes best, balanced, small or classic.</source>
+        <translation>「%1」という画質はありません。--quality には best、balanced、small、classic のいずれかを指定してください。</translation>
+    </message>
+    <message id="IDD_CLI_NOT_FORMAT">
+        <source>The name of the file must end in .gif, .webp or .mp4: “%1”</source>
+        <translation>ファイル名の末尾は .gif、.webp、.mp4 のいずれかにしてください: 「%1」</translation>
+    </message>
+    <message id="IDD_CLI_NO_PLACE">
+        <source>No file can be written there: %1</source>
+        <translation>そこにはファイルを書き込めません: %1</translation>
+    </message>
+    <message id="IDD_CLI_EXISTS">
+        <source>There is already a file %1. --force replaces it.</source>
+        <translation>ファイル %1 は既にあります。--force で置き換えられます。</translation>
+    </message>
+    <message id="IDD_CLI_TOO_SHORT">
+        <source>The recording is too short: an animation needs at least three frames.</source>
+        <translation>録画が短すぎます。アニメーションには 3 フレーム以上が必要です。</translation>
+    </message>
+    <message id="IDD_CLI_NOBODY">
+        <source>No Tovarel is running.</source>
+        <translation>Tovarel は起動していません。</translation>
+    </message>
+    <message id="IDD_CLI_NOT_NOW">
+        <source>The Tovarel that is running cannot do that now.</source>
+        <translation>起動中の Tovarel は今それを実行できません。</translation>
+    </message>
+    <message id="IDD_CLI_NO_PICTURE">
+        <source>The display server provides no picture of the screen.</source>
+        <translation>ディスプレイサーバーから画面の画像を取得できません。</translation>
+    </message>
+    <message id="IDD_CLI_REGION_OUTSIDE">
+        <source>That is not on the desktop, which has %1 × %2 pixels.</source>
+        <translation>デスクトップ（%1 × %2 ピクセル）の外です。</translation>
+    </message>
+    <message id="IDD_CLI_NO_SCREEN">
+        <source>There is no monitor number %1. Monitors: %2</source>
+        <translation>%1 番目のモニターはありません。モニター数: %2</translation>
+    </message>
+    <message id="IDD_CLI_NO_WINDOW">
+        <source>No window on the screen has “%1” in its title.</source>
+        <translation>タイトルに「%1」を含むウィンドウが画面にありません。</translation>
+    </message>
+    <message id="IDD_CLI_STARTS">
+        <source>Recording starts in %1&#xa0;s</source>
+        <translation>録画開始まで %1&#xa0;秒</translation>
+    </message>
+    <message id="IDD_CLI_RECORDING">
+        <source>Recording: %1 of %2&#xa0;s · Frames: %3</source>
+        <translation>録画中: %1/%2&#xa0;秒 · フレーム数: %3</translation>
+    </message>
+    <message id="IDD_CLI_ENCODING">
+        <source>Generating the file: %1%</source>
+        <translation>ファイルを作成中: %1%</translation>
+    </message>
     <message id="IDD_MOVE_IS_FOLDER">
         <source>There is already a folder with that name.</source>
         <translation>同じ名前のフォルダーが既にあります。</translation>

@@ -106,7 +106,8 @@ TEST(StringsTable, theFirstPreferenceThatCanBeReadWins) {
 /// The keys that stand in quotes in the program's sources: those asked for while it runs.
 QStringList keysInSources() {
     QStringList keys;
-    for (const char *folder : {"app", "export", "trim", "record", "region", "shell", "platform"}) {
+    for (const char *folder :
+         {"app", "script", "export", "trim", "record", "region", "shell", "platform"}) {
         QDirIterator files(QStringLiteral(TOVAREL_SOURCE_DIR "/%1").arg(QLatin1String(folder)),
                            {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
                            QDirIterator::Subdirectories);
