@@ -4,15 +4,24 @@
 
 #include "platform/bundle.h"
 #include "shell/alerts.h"
+#include "shell/strings_table.h"
 
 #include <QDesktopServices>
+#include <QFileInfo>
 #include <QUrl>
 
 namespace help {
 
 namespace {
 
-QString pathOf(const char *page) { return bundle::pathForHelp(QString::fromLatin1(page)); }
+/// The page in the language of the texts. English, which has no folder of its own, serves where a
+/// page was not translated.
+QString pathOf(const char *page) {
+    const QString name = QString::fromLatin1(page);
+    const QString translated =
+        bundle::pathForHelp(strings_table::chosen() + QLatin1Char('/') + name);
+    return QFileInfo::exists(translated) ? translated : bundle::pathForHelp(name);
+}
 
 } // namespace
 

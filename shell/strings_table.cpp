@@ -49,10 +49,12 @@ QString bestMatch(const QStringList &preferred, const QStringList &tables) {
     return fallback;
 }
 
+QString chosen() { return bestMatch(QLocale().uiLanguages(), available()); }
+
 void install() {
     // Never removed: the texts serve until the process ends.
     auto *translator = new QTranslator(QCoreApplication::instance());
-    QString file = bestMatch(QLocale().uiLanguages(), available());
+    QString file = chosen();
     file.replace(QLatin1Char('-'), QLatin1Char('_'));
     if (translator->load(QStringLiteral("tovarel_%1.qm").arg(file), tablesFolder))
         QCoreApplication::installTranslator(translator);

@@ -16,8 +16,11 @@ QStringList available();
 /// language, wins; English when none has one.
 QString bestMatch(const QStringList &preferred, const QStringList &tables);
 
-/// Installs the best table for the user's locale in the application object, and beside it Qt's own
-/// texts in that language where the system has them.
+/// The table that serves best for the user's locale.
+QString chosen();
+
+/// Installs that table in the application object, and beside it Qt's own texts in that language
+/// where the system has them.
 void install();
 
 } // namespace strings_table

@@ -40,7 +40,16 @@ class Help(case.Case):
         browser.parent.mkdir(exist_ok=True)
         browser.write_text(f'#!/bin/sh\necho "$1" >> "{self.opened}"\n')
         browser.chmod(0o755)
+        self.opened.unlink(missing_ok=True)
         self.browser = {"PATH": f"{browser.parent}:{self.session.environment['PATH']}"}
+
+    def page(self, wanted):
+        """The page that the browser was given."""
+        url = wait_for(f"the browser to get {wanted}",
+                       lambda: self.opened.exists() and self.opened.read_text().strip())
+        path = pathlib.Path(urllib.parse.unquote(urllib.parse.urlparse(url).path))
+        self.assertEqual(path.resolve(), wanted.resolve())
+        return path
 
     def read_everything(self, folder):
         """Opens every page from the menu; each must come from `folder`."""
@@ -48,10 +57,7 @@ class Help(case.Case):
         for item, page in PAGES.items():
             self.opened.unlink(missing_ok=True)
             program.choose("Help", item)
-            url = wait_for(f"the browser to get {page}",
-                           lambda: self.opened.exists() and self.opened.read_text().strip())
-            path = pathlib.Path(urllib.parse.unquote(urllib.parse.urlparse(url).path))
-            self.assertEqual(path.resolve(), (folder / page).resolve())
+            path = self.page(folder / page)
             links = Links(path).found
             self.assertGreater(len(links), 4)
             for link in links:
@@ -60,6 +66,14 @@ class Help(case.Case):
 
     def test_the_pages_open_from_the_build(self):
         self.read_everything(self.session.build / "help")
+
+    def test_the_pages_open_in_the_users_language(self):
+        program = Program(self.session, {**self.browser, "LANGUAGE": "de"})
+        program.choose("Hilfe", "Tovarel – Hilfe")
+        page = self.page(self.session.build / "help" / "de" / "index.html")
+        for link in Links(page).found:
+            self.assertTrue((page.parent / link).is_file(), link)
+        self.assertEqual(program.end(), 0)
 
     def test_the_pages_open_from_an_installed_tree_that_was_moved(self):
         session = self.session

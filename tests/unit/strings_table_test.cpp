@@ -158,6 +158,32 @@ TEST(StringsTable, everyTableSaysEverythingThatEnglishSays) {
     }
 }
 
+/// The tags of a help page in their order, without those inside sentences, whose order is a
+/// language's own.
+QStringList structureOf(const QString &page) {
+    QFile file(QStringLiteral(TOVAREL_SOURCE_DIR "/resources/help/") + page);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(page);
+    QStringList tags;
+    static const QRegularExpression tag(QStringLiteral("<(?!/?(em|strong|code|kbd)\\b)[^> ]+"));
+    QRegularExpressionMatchIterator each = tag.globalMatch(QString::fromUtf8(file.readAll()));
+    while (each.hasNext())
+        tags << each.next().captured();
+    return tags;
+}
+
+TEST(HelpPages, sayTheSameInEveryLanguage) {
+    for (const char *page : {"index", "maker", "privacy", "ticket"}) {
+        const QString name = QString::fromLatin1(page) + QStringLiteral(".html");
+        const QStringList english = structureOf(name);
+        EXPECT_GT(english.size(), 30);
+        for (const QString &language : languages)
+            if (language != QLatin1String("en")) {
+                EXPECT_EQ(structureOf(language + QLatin1Char('/') + name), english)
+                    << qPrintable(language) << ' ' << page;
+            }
+    }
+}
+
 TEST(StringsTable, everyTextIsTranslated) {
     // Names, units and words that are the same in several languages.
     static const QRegularExpression same(
