@@ -147,6 +147,7 @@ private:
         const char *gap;
         QString file;
         QString panelTitle;
+        QString successText;
         /// Makes the file of these frames.
         std::function<MadeFile(Frames frames, const ExportChoices &choices)> encode;
         /// Makes all of it again with what the user chose lowered; none where no limit is heeded.

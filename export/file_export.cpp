@@ -43,6 +43,6 @@ void Exporter::makeFile(const FileFormat &format) {
     surroundings_.showStatus(note);
     saveResult({.file = format.file,
                 .panelTitle = format.panelTitle,
-                .successText = QStringLiteral("Success"),
+                .successText = format.successText,
                 .note = note});
 }

@@ -61,6 +61,7 @@ void Exporter::generateWebP(bool mayLowerChosen) {
               .gap = "IDD_STATUS_WEBP_GAP",
               .file = file,
               .panelTitle = QStringLiteral("Select a folder to save the WebP image"),
+              .successText = QStringLiteral("Success"),
               .encode =
                   [this, file, mayLowerChosen](Frames frames, const ExportChoices &choices) {
                       if (choices.limit.bytes && choices.preset != GifPreset::Classic)

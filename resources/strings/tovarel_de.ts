@@ -433,7 +433,7 @@
         <translation>Schritt 2 von 2: %p&#xa0;%</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
-        <source>The export was cancelled.</source>
+        <source>The export was canceled.</source>
         <translation>Der Export wurde abgebrochen.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
@@ -813,6 +813,14 @@ Sie liegt weiterhin unter %3.</translation>
     <message id="IDD_PROGRESS_MP4">
         <source>Generating the MP4…</source>
         <translation>Das MP4 wird erzeugt&#xa0;…</translation>
+    </message>
+    <message id="IDD_MP4_PANEL">
+        <source>Select a folder to save the MP4 video</source>
+        <translation>Ordner zum Speichern des MP4-Videos wählen</translation>
+    </message>
+    <message id="IDD_MP4_SAVED_OK">
+        <source>The MP4 has been saved.</source>
+        <translation>Das MP4 wurde gespeichert.</translation>
     </message>
     <message id="IDD_MP4_NO_ENCODER">
         <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>

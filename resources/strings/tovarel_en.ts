@@ -433,8 +433,8 @@
         <translation>Step 2 of 2: %p%</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
-        <source>The export was cancelled.</source>
-        <translation>The export was cancelled.</translation>
+        <source>The export was canceled.</source>
+        <translation>The export was canceled.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
         <source>The program “%1” is missing: it was not found when Tovarel started.</source>
@@ -813,6 +813,14 @@ It is still at %3.</translation>
     <message id="IDD_PROGRESS_MP4">
         <source>Generating the MP4…</source>
         <translation>Generating the MP4…</translation>
+    </message>
+    <message id="IDD_MP4_PANEL">
+        <source>Select a folder to save the MP4 video</source>
+        <translation>Select a folder to save the MP4 video</translation>
+    </message>
+    <message id="IDD_MP4_SAVED_OK">
+        <source>The MP4 has been saved.</source>
+        <translation>The MP4 has been saved.</translation>
     </message>
     <message id="IDD_MP4_NO_ENCODER">
         <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>

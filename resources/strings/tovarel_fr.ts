@@ -433,7 +433,7 @@
         <translation>Étape 2 sur 2&#xa0;: %p&#x202f;%</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
-        <source>The export was cancelled.</source>
+        <source>The export was canceled.</source>
         <translation>L’exportation a été annulée.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
@@ -813,6 +813,14 @@ Il reste à l’emplacement %3.</translation>
     <message id="IDD_PROGRESS_MP4">
         <source>Generating the MP4…</source>
         <translation>Création du MP4…</translation>
+    </message>
+    <message id="IDD_MP4_PANEL">
+        <source>Select a folder to save the MP4 video</source>
+        <translation>Choisir un dossier où sauvegarder la vidéo MP4</translation>
+    </message>
+    <message id="IDD_MP4_SAVED_OK">
+        <source>The MP4 has been saved.</source>
+        <translation>Le MP4 a été sauvegardé.</translation>
     </message>
     <message id="IDD_MP4_NO_ENCODER">
         <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>

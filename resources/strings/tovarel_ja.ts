@@ -430,7 +430,7 @@
         <translation>手順 2/2: %p%</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
-        <source>The export was cancelled.</source>
+        <source>The export was canceled.</source>
         <translation>書き出しをキャンセルしました。</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
@@ -808,6 +808,14 @@ It is still at %3.</source>
     <message id="IDD_PROGRESS_MP4">
         <source>Generating the MP4…</source>
         <translation>MP4 を作成しています…</translation>
+    </message>
+    <message id="IDD_MP4_PANEL">
+        <source>Select a folder to save the MP4 video</source>
+        <translation>MP4 動画の保存先の選択</translation>
+    </message>
+    <message id="IDD_MP4_SAVED_OK">
+        <source>The MP4 has been saved.</source>
+        <translation>MP4 を保存しました。</translation>
     </message>
     <message id="IDD_MP4_NO_ENCODER">
         <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>

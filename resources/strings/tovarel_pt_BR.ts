@@ -433,7 +433,7 @@
         <translation>Etapa 2 de 2: %p%</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
-        <source>The export was cancelled.</source>
+        <source>The export was canceled.</source>
         <translation>A exportação foi cancelada.</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
@@ -813,6 +813,14 @@ Ele continua em %3.</translation>
     <message id="IDD_PROGRESS_MP4">
         <source>Generating the MP4…</source>
         <translation>Criando o MP4…</translation>
+    </message>
+    <message id="IDD_MP4_PANEL">
+        <source>Select a folder to save the MP4 video</source>
+        <translation>Escolher uma pasta para salvar o vídeo MP4</translation>
+    </message>
+    <message id="IDD_MP4_SAVED_OK">
+        <source>The MP4 has been saved.</source>
+        <translation>O MP4 foi salvo.</translation>
     </message>
     <message id="IDD_MP4_NO_ENCODER">
         <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>

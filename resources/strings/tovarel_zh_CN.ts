@@ -430,7 +430,7 @@
         <translation>第 2 步，共 2 步：%p%</translation>
     </message>
     <message id="IDD_EXPORT_CANCELLED">
-        <source>The export was cancelled.</source>
+        <source>The export was canceled.</source>
         <translation>导出已取消。</translation>
     </message>
     <message id="IDD_TOOL_MISSING">
@@ -808,6 +808,14 @@ It is still at %3.</source>
     <message id="IDD_PROGRESS_MP4">
         <source>Generating the MP4…</source>
         <translation>正在生成 MP4…</translation>
+    </message>
+    <message id="IDD_MP4_PANEL">
+        <source>Select a folder to save the MP4 video</source>
+        <translation>选择保存 MP4 视频的文件夹</translation>
+    </message>
+    <message id="IDD_MP4_SAVED_OK">
+        <source>The MP4 has been saved.</source>
+        <translation>MP4 已保存。</translation>
     </message>
     <message id="IDD_MP4_NO_ENCODER">
         <source>This ffmpeg has no H.264 encoder (libx264), which an MP4 needs. Install an ffmpeg that has one, or generate a GIF or a WebP.</source>

@@ -3,6 +3,7 @@
 #include "record/window_fps.h"
 #include "region/window_region_how_it_works.h"
 #include "shell/number_text.h"
+#include "shell/window_progress.h"
 #include "tests/controller/controller_fixture.h"
 
 #include <QAction>
@@ -11,6 +12,7 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -144,6 +146,8 @@ public:
                 checkList(*list);
             else if (const auto *group = qobject_cast<const QGroupBox *>(each))
                 checkWidth(*each, group->title(), widthOf(*group, group->title()));
+            else if (const auto *progress = qobject_cast<const QProgressBar *>(each))
+                checkWidth(*each, progress->text(), widthOf(*each, progress->text()));
             else if (const auto *bar = qobject_cast<const QTabBar *>(each))
                 checkWidth(*each, bar->tabText(0), bar->sizeHint().width());
             else if (const auto *area = qobject_cast<const QScrollArea *>(each))
@@ -273,6 +277,21 @@ void checkStatusLine(const Ui::MainWindow &ui, Places &places) {
     }
 }
 
+/// What the sheet says while something is made.
+void checkSheet(AppDelegate &controller, Places &places) {
+    ProgressSheet &sheet = controller.surroundings.progress;
+    for (const char *step :
+         {"IDD_PROGRESS_PALETTE", "IDD_PROGRESS_SCALING", "IDD_PROGRESS_PICTURES"}) {
+        sheet.show(qtTrId("IDD_SAVING_RECORDING"));
+        sheet.offerCancel();
+        sheet.setText(qtTrId(step));
+        sheet.setValue(100);
+        TestController::settle();
+        places.check(*sheet.windowProgress());
+        sheet.close();
+    }
+}
+
 class InterfaceTextsFit : public testing::TestWithParam<double> {};
 
 TEST_P(InterfaceTextsFit, theirPlacesInEveryLanguage) {
@@ -292,7 +311,8 @@ TEST_P(InterfaceTextsFit, theirPlacesInEveryLanguage) {
             places.check(window);
             EXPECT_EQ(window.size(), smallest) << language.toStdString();
         }
-        EXPECT_GT(places.seen, 40);
+        checkSheet(*controller.delegate, places);
+        EXPECT_GT(places.seen, 50);
         for (QDialog *dialog :
              {static_cast<QDialog *>(new Window_FPS(&window, controller.delegate->recorder)),
               static_cast<QDialog *>(

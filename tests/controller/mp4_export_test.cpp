@@ -30,8 +30,8 @@ TEST_F(MP4Export, PlaysTheFramesInAnySizeForAsLongAsTheyTook) {
         answers.alerts.clear();
         ui.btnMP4Generate->click();
         ASSERT_EQ(answers.alerts.size(), 1u);
-        EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Success"))
-            << answers.alerts[0].text.toStdString();
+        EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Success"));
+        EXPECT_EQ(answers.alerts[0].text, qtTrId("IDD_MP4_SAVED_OK"));
         const int wide = width + width % 2;
         const int high = height + height % 2;
         const QList<QByteArray> said =

@@ -210,7 +210,7 @@ TEST(StringsTable, marksAndUnitsStandAsTheLanguageHasThem) {
     } rules[] = {
         // Typewriters' marks, blanks that are not meant, a unit that can part from its number.
         {"de en es fr ja pt-BR zh-CN", "['\"]|\\.\\.\\.|  |%L?[1-9n] (s|fps|i/s|秒|帧/秒)(?!\\w)"},
-        {"en", "colour|licence|behaviour"},
+        {"en", "colour|licence|behaviour|cancelled"},
         {"de", "(?<!\u00a0)…|(?<!\u00a0)%$"},
         {"es", "« | »|(?<!\u00a0)%$"},
         {"fr", "(?<!\u202f)[;!?]|(?<!\u00a0)[:»]|«(?!\u00a0)|(?<!\u202f)%$"},
