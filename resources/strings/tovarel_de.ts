@@ -233,8 +233,8 @@
         <translation>Mauszeiger: zeigt den Mauszeiger in der Aufnahme</translation>
     </message>
     <message id="IDD_HANDS_NOT_OFFERED">
-        <source>Not possible on this display: it does not report mouse buttons and keys</source>
-        <translation>Auf dieser Anzeige nicht möglich: Sie meldet weder Maustasten noch Tasten</translation>
+        <source>Not possible with this display server: it does not report mouse buttons and keys</source>
+        <translation>Mit diesem Anzeigeserver nicht möglich: Er meldet weder Maustasten noch Tastatureingaben</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
@@ -779,8 +779,8 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Verringern</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
-        <translation>Für höchstens %1 hat das GIF %2 × %3 Pixel und %4&#xa0;fps.</translation>
+        <source>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <translation>Für höchstens %1 hat die Datei %2 × %3 Pixel und %4&#xa0;fps.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
         <source>To fit under %1, the file has less exact colors.</source>
@@ -838,8 +838,8 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>WebP erzeugen</translation>
     </message>
     <message id="IDD_WEBP_ABOUT">
-        <source>About %1</source>
-        <translation>Etwa %1</translation>
+        <source>WebP: about %1</source>
+        <translation>WebP: etwa %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>

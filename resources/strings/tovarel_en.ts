@@ -233,8 +233,8 @@
         <translation>Pointer: shows the mouse pointer in the recording</translation>
     </message>
     <message id="IDD_HANDS_NOT_OFFERED">
-        <source>Not possible on this display: it does not report mouse buttons and keys</source>
-        <translation>Not possible on this display: it does not report mouse buttons and keys</translation>
+        <source>Not possible with this display server: it does not report mouse buttons and keys</source>
+        <translation>Not possible with this display server: it does not report mouse buttons and keys</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
@@ -779,8 +779,8 @@ It is still at %3.</translation>
         <translation>Lower</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
-        <translation>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</translation>
+        <source>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <translation>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
         <source>To fit under %1, the file has less exact colors.</source>
@@ -838,8 +838,8 @@ It is still at %3.</translation>
         <translation>Generate WebP</translation>
     </message>
     <message id="IDD_WEBP_ABOUT">
-        <source>About %1</source>
-        <translation>About %1</translation>
+        <source>WebP: about %1</source>
+        <translation>WebP: about %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>

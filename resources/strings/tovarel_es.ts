@@ -233,8 +233,8 @@
         <translation>Puntero: muestra el puntero del ratón en la grabación</translation>
     </message>
     <message id="IDD_HANDS_NOT_OFFERED">
-        <source>Not possible on this display: it does not report mouse buttons and keys</source>
-        <translation>No es posible en esta pantalla: no informa de los botones del ratón ni de las teclas</translation>
+        <source>Not possible with this display server: it does not report mouse buttons and keys</source>
+        <translation>No es posible con este servidor gráfico: no informa de los botones del ratón ni de las teclas</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
@@ -779,7 +779,7 @@ Sigue en %3.</translation>
         <translation>Reducir</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <source>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</source>
         <translation>Para caber en %1, el archivo tiene %2 × %3 píxeles y %4&#xa0;fps.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
@@ -838,8 +838,8 @@ Sigue en %3.</translation>
         <translation>Crear WebP</translation>
     </message>
     <message id="IDD_WEBP_ABOUT">
-        <source>About %1</source>
-        <translation>Aproximadamente %1</translation>
+        <source>WebP: about %1</source>
+        <translation>WebP: aproximadamente %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>

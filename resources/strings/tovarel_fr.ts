@@ -233,8 +233,8 @@
         <translation>Pointeur&#xa0;: montre le pointeur de la souris dans l’enregistrement</translation>
     </message>
     <message id="IDD_HANDS_NOT_OFFERED">
-        <source>Not possible on this display: it does not report mouse buttons and keys</source>
-        <translation>Impossible sur cet affichage&#xa0;: il ne signale ni les boutons de la souris ni les touches</translation>
+        <source>Not possible with this display server: it does not report mouse buttons and keys</source>
+        <translation>Impossible avec ce serveur d’affichage&#xa0;: il ne signale ni les boutons de la souris ni les touches</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
@@ -779,8 +779,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>Réduire</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
-        <translation>Pour tenir dans %1, le GIF fait %2 × %3 pixels à %4&#xa0;i/s.</translation>
+        <source>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <translation>Pour tenir dans %1, le fichier fait %2 × %3 pixels à %4&#xa0;i/s.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
         <source>To fit under %1, the file has less exact colors.</source>
@@ -838,8 +838,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>Créer le WebP</translation>
     </message>
     <message id="IDD_WEBP_ABOUT">
-        <source>About %1</source>
-        <translation>Environ %1</translation>
+        <source>WebP: about %1</source>
+        <translation>WebP&#xa0;: environ %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>

@@ -233,8 +233,8 @@
         <translation>マウスポインター: 録画にマウスポインターを表示します</translation>
     </message>
     <message id="IDD_HANDS_NOT_OFFERED">
-        <source>Not possible on this display: it does not report mouse buttons and keys</source>
-        <translation>このディスプレイでは使用できません: マウスボタンとキーの操作が通知されません</translation>
+        <source>Not possible with this display server: it does not report mouse buttons and keys</source>
+        <translation>このディスプレイサーバーでは使用できません: マウスボタンとキーの操作が通知されません</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
@@ -774,8 +774,8 @@ It is still at %3.</source>
         <translation>下げる</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
-        <translation>%1 に収めるため、GIF を %2 × %3 ピクセル、%4&#xa0;fps にしました。</translation>
+        <source>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <translation>%1 に収めるため、%2 × %3 ピクセル、%4&#xa0;fps にしました。</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
         <source>To fit under %1, the file has less exact colors.</source>
@@ -832,8 +832,8 @@ It is still at %3.</source>
         <translation>WebP を作成</translation>
     </message>
     <message id="IDD_WEBP_ABOUT">
-        <source>About %1</source>
-        <translation>約 %1</translation>
+        <source>WebP: about %1</source>
+        <translation>WebP: 約 %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>

@@ -233,8 +233,8 @@
         <translation>Ponteiro: mostra o ponteiro do mouse na gravação</translation>
     </message>
     <message id="IDD_HANDS_NOT_OFFERED">
-        <source>Not possible on this display: it does not report mouse buttons and keys</source>
-        <translation>Não é possível nesta tela: ela não informa os botões do mouse nem as teclas</translation>
+        <source>Not possible with this display server: it does not report mouse buttons and keys</source>
+        <translation>Não é possível com este servidor gráfico: ele não informa os botões do mouse nem as teclas</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
@@ -779,7 +779,7 @@ Ele continua em %3.</translation>
         <translation>Reduzir</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <source>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</source>
         <translation>Para caber em %1, o arquivo tem %2 × %3 pixels e %4&#xa0;fps.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
@@ -838,8 +838,8 @@ Ele continua em %3.</translation>
         <translation>Criar WebP</translation>
     </message>
     <message id="IDD_WEBP_ABOUT">
-        <source>About %1</source>
-        <translation>Cerca de %1</translation>
+        <source>WebP: about %1</source>
+        <translation>WebP: cerca de %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>

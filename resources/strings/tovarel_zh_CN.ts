@@ -233,8 +233,8 @@
         <translation>鼠标指针：在录制内容中显示鼠标指针</translation>
     </message>
     <message id="IDD_HANDS_NOT_OFFERED">
-        <source>Not possible on this display: it does not report mouse buttons and keys</source>
-        <translation>在此显示器上不可用：它不报告鼠标按键和键盘按键</translation>
+        <source>Not possible with this display server: it does not report mouse buttons and keys</source>
+        <translation>此显示服务器不支持此功能：它不报告鼠标按键和键盘按键</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
@@ -774,8 +774,8 @@ It is still at %3.</source>
         <translation>降低</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, the GIF has %2 × %3 pixels at %4&#xa0;fps.</source>
-        <translation>为不超过 %1，GIF 的尺寸为 %2 × %3 像素，帧率为 %4&#xa0;帧/秒。</translation>
+        <source>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</source>
+        <translation>为不超过 %1，文件的尺寸为 %2 × %3 像素，帧率为 %4&#xa0;帧/秒。</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
         <source>To fit under %1, the file has less exact colors.</source>
@@ -832,8 +832,8 @@ It is still at %3.</source>
         <translation>生成 WebP</translation>
     </message>
     <message id="IDD_WEBP_ABOUT">
-        <source>About %1</source>
-        <translation>约 %1</translation>
+        <source>WebP: about %1</source>
+        <translation>WebP：约 %1</translation>
     </message>
     <message id="IDD_GENERATE_WEBP_TIP">
         <source>Generates a WebP with the size, frame rate and speed chosen here</source>
