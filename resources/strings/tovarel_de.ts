@@ -505,7 +505,7 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Ohne Fenster aufnehmen</translation>
     </message>
     <message id="IDD_CLI_TOGGLE">
-        <source>Start a recording in the Tovarel that is running, or stop the one in progress</source>
+        <source>Start a recording in the running Tovarel, or stop the one in progress</source>
         <translation>Im laufenden Tovarel eine Aufnahme beginnen oder die begonnene stoppen</translation>
     </message>
     <message id="IDD_CLI_PAUSE">
@@ -533,8 +533,8 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Den Monitor mit der Nummer N aufnehmen, ab 1 gezählt; ohne N alle Monitore</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
-        <source>Record the place of the window whose title contains TITLE</source>
-        <translation>Den Platz des Fensters aufnehmen, dessen Titel TITLE enthält</translation>
+        <source>Record the part of the screen where the window with TITLE in its title is</source>
+        <translation>Den Teil des Bildschirms aufnehmen, den das Fenster mit TITLE im Titel einnimmt</translation>
     </message>
     <message id="IDD_CLI_SECONDS">
         <source>Record for S seconds; Ctrl+C stops earlier</source>
@@ -609,12 +609,12 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Die Aufnahme ist zu kurz: Eine Animation braucht mindestens drei Bilder.</translation>
     </message>
     <message id="IDD_CLI_NOBODY">
-        <source>No Tovarel is running.</source>
-        <translation>Es läuft kein Tovarel.</translation>
+        <source>Tovarel is not running.</source>
+        <translation>Tovarel läuft nicht.</translation>
     </message>
     <message id="IDD_CLI_NOT_NOW">
-        <source>The Tovarel that is running cannot do that now.</source>
-        <translation>Das laufende Tovarel kann das jetzt nicht tun.</translation>
+        <source>Tovarel cannot do that now.</source>
+        <translation>Tovarel kann das jetzt nicht tun.</translation>
     </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>

@@ -505,8 +505,8 @@ It is still at %3.</translation>
         <translation>Record without a window</translation>
     </message>
     <message id="IDD_CLI_TOGGLE">
-        <source>Start a recording in the Tovarel that is running, or stop the one in progress</source>
-        <translation>Start a recording in the Tovarel that is running, or stop the one in progress</translation>
+        <source>Start a recording in the running Tovarel, or stop the one in progress</source>
+        <translation>Start a recording in the running Tovarel, or stop the one in progress</translation>
     </message>
     <message id="IDD_CLI_PAUSE">
         <source>Pause the recording in progress, or continue it</source>
@@ -533,8 +533,8 @@ It is still at %3.</translation>
         <translation>Record monitor number N, counted from 1; without N all monitors</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
-        <source>Record the place of the window whose title contains TITLE</source>
-        <translation>Record the place of the window whose title contains TITLE</translation>
+        <source>Record the part of the screen where the window with TITLE in its title is</source>
+        <translation>Record the part of the screen where the window with TITLE in its title is</translation>
     </message>
     <message id="IDD_CLI_SECONDS">
         <source>Record for S seconds; Ctrl+C stops earlier</source>
@@ -609,12 +609,12 @@ It is still at %3.</translation>
         <translation>The recording is too short: an animation needs at least three frames.</translation>
     </message>
     <message id="IDD_CLI_NOBODY">
-        <source>No Tovarel is running.</source>
-        <translation>No Tovarel is running.</translation>
+        <source>Tovarel is not running.</source>
+        <translation>Tovarel is not running.</translation>
     </message>
     <message id="IDD_CLI_NOT_NOW">
-        <source>The Tovarel that is running cannot do that now.</source>
-        <translation>The Tovarel that is running cannot do that now.</translation>
+        <source>Tovarel cannot do that now.</source>
+        <translation>Tovarel cannot do that now.</translation>
     </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>

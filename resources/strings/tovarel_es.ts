@@ -505,7 +505,7 @@ Sigue en %3.</translation>
         <translation>Grabar sin ventana</translation>
     </message>
     <message id="IDD_CLI_TOGGLE">
-        <source>Start a recording in the Tovarel that is running, or stop the one in progress</source>
+        <source>Start a recording in the running Tovarel, or stop the one in progress</source>
         <translation>Iniciar una grabación en el Tovarel en ejecución, o detener la que está en curso</translation>
     </message>
     <message id="IDD_CLI_PAUSE">
@@ -533,12 +533,12 @@ Sigue en %3.</translation>
         <translation>Grabar el monitor número N, contando desde 1; sin N, todos los monitores</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
-        <source>Record the place of the window whose title contains TITLE</source>
-        <translation>Grabar el lugar de la ventana cuyo título contiene TITLE</translation>
+        <source>Record the part of the screen where the window with TITLE in its title is</source>
+        <translation>Grabar la parte de la pantalla que ocupa la ventana cuyo título contiene TITLE</translation>
     </message>
     <message id="IDD_CLI_SECONDS">
         <source>Record for S seconds; Ctrl+C stops earlier</source>
-        <translation>Grabar durante S segundos; Ctrl+C detiene antes</translation>
+        <translation>Grabar durante S segundos; Ctrl+C la detiene antes</translation>
     </message>
     <message id="IDD_CLI_RATE">
         <source>Frames per second, 1 to 60; 15 if not given</source>
@@ -586,7 +586,7 @@ Sigue en %3.</translation>
     </message>
     <message id="IDD_CLI_NOT_REGION">
         <source>“%1” is not a region. --region takes width, height and place in pixels, as in 640x480+100+80.</source>
-        <translation>«%1» no es una región. --region requiere ancho, alto y posición en píxeles, como 640x480+100+80.</translation>
+        <translation>«%1» no es una zona. --region requiere ancho, alto y posición en píxeles, como 640x480+100+80.</translation>
     </message>
     <message id="IDD_CLI_NOT_QUALITY">
         <source>“%1” is not a quality. --quality takes best, balanced, small or classic.</source>
@@ -609,12 +609,12 @@ Sigue en %3.</translation>
         <translation>La grabación es demasiado corta: una animación necesita al menos tres fotogramas.</translation>
     </message>
     <message id="IDD_CLI_NOBODY">
-        <source>No Tovarel is running.</source>
-        <translation>No hay ningún Tovarel en ejecución.</translation>
+        <source>Tovarel is not running.</source>
+        <translation>Tovarel no está en ejecución.</translation>
     </message>
     <message id="IDD_CLI_NOT_NOW">
-        <source>The Tovarel that is running cannot do that now.</source>
-        <translation>El Tovarel en ejecución no puede hacerlo ahora.</translation>
+        <source>Tovarel cannot do that now.</source>
+        <translation>Tovarel no puede hacerlo ahora.</translation>
     </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>

@@ -505,7 +505,7 @@ Il reste à l’emplacement %3.</translation>
         <translation>Enregistrer sans fenêtre</translation>
     </message>
     <message id="IDD_CLI_TOGGLE">
-        <source>Start a recording in the Tovarel that is running, or stop the one in progress</source>
+        <source>Start a recording in the running Tovarel, or stop the one in progress</source>
         <translation>Commencer un enregistrement dans le Tovarel en cours d’exécution, ou arrêter celui en cours</translation>
     </message>
     <message id="IDD_CLI_PAUSE">
@@ -533,8 +533,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>Enregistrer le moniteur numéro N, à partir de 1&#x202f;; sans N, tous les moniteurs</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
-        <source>Record the place of the window whose title contains TITLE</source>
-        <translation>Enregistrer l’emplacement de la fenêtre dont le titre contient TITLE</translation>
+        <source>Record the part of the screen where the window with TITLE in its title is</source>
+        <translation>Enregistrer la partie de l’écran occupée par la fenêtre dont le titre contient TITLE</translation>
     </message>
     <message id="IDD_CLI_SECONDS">
         <source>Record for S seconds; Ctrl+C stops earlier</source>
@@ -609,12 +609,12 @@ Il reste à l’emplacement %3.</translation>
         <translation>L’enregistrement est trop court&#xa0;: une animation demande au moins trois images.</translation>
     </message>
     <message id="IDD_CLI_NOBODY">
-        <source>No Tovarel is running.</source>
-        <translation>Aucun Tovarel n’est en cours d’exécution.</translation>
+        <source>Tovarel is not running.</source>
+        <translation>Tovarel n’est pas en cours d’exécution.</translation>
     </message>
     <message id="IDD_CLI_NOT_NOW">
-        <source>The Tovarel that is running cannot do that now.</source>
-        <translation>Le Tovarel en cours d’exécution ne peut pas le faire maintenant.</translation>
+        <source>Tovarel cannot do that now.</source>
+        <translation>Tovarel ne peut pas le faire maintenant.</translation>
     </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>

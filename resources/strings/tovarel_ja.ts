@@ -502,7 +502,7 @@ It is still at %3.</source>
         <translation>ウィンドウなしで録画</translation>
     </message>
     <message id="IDD_CLI_TOGGLE">
-        <source>Start a recording in the Tovarel that is running, or stop the one in progress</source>
+        <source>Start a recording in the running Tovarel, or stop the one in progress</source>
         <translation>起動中の Tovarel で録画を開始、または録画中なら停止</translation>
     </message>
     <message id="IDD_CLI_PAUSE">
@@ -530,8 +530,8 @@ It is still at %3.</source>
         <translation>N 番目（1 から数える）のモニターを録画。N がなければすべてのモニター</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
-        <source>Record the place of the window whose title contains TITLE</source>
-        <translation>タイトルに TITLE を含むウィンドウの場所を録画</translation>
+        <source>Record the part of the screen where the window with TITLE in its title is</source>
+        <translation>タイトルに TITLE を含むウィンドウが占める画面の部分を録画</translation>
     </message>
     <message id="IDD_CLI_SECONDS">
         <source>Record for S seconds; Ctrl+C stops earlier</source>
@@ -606,12 +606,12 @@ It is still at %3.</source>
         <translation>録画が短すぎます。アニメーションには 3 フレーム以上が必要です。</translation>
     </message>
     <message id="IDD_CLI_NOBODY">
-        <source>No Tovarel is running.</source>
+        <source>Tovarel is not running.</source>
         <translation>Tovarel は起動していません。</translation>
     </message>
     <message id="IDD_CLI_NOT_NOW">
-        <source>The Tovarel that is running cannot do that now.</source>
-        <translation>起動中の Tovarel は今それを実行できません。</translation>
+        <source>Tovarel cannot do that now.</source>
+        <translation>Tovarel は今それを実行できません。</translation>
     </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>

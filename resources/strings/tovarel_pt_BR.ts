@@ -505,7 +505,7 @@ Ele continua em %3.</translation>
         <translation>Gravar sem janela</translation>
     </message>
     <message id="IDD_CLI_TOGGLE">
-        <source>Start a recording in the Tovarel that is running, or stop the one in progress</source>
+        <source>Start a recording in the running Tovarel, or stop the one in progress</source>
         <translation>Iniciar uma gravação no Tovarel em execução ou parar a que está em andamento</translation>
     </message>
     <message id="IDD_CLI_PAUSE">
@@ -533,12 +533,12 @@ Ele continua em %3.</translation>
         <translation>Gravar o monitor número N, contando a partir de 1; sem N, todos os monitores</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
-        <source>Record the place of the window whose title contains TITLE</source>
-        <translation>Gravar o lugar da janela cujo título contém TITLE</translation>
+        <source>Record the part of the screen where the window with TITLE in its title is</source>
+        <translation>Gravar a parte da tela ocupada pela janela cujo título contém TITLE</translation>
     </message>
     <message id="IDD_CLI_SECONDS">
         <source>Record for S seconds; Ctrl+C stops earlier</source>
-        <translation>Gravar por S segundos; Ctrl+C para antes</translation>
+        <translation>Gravar por S segundos; Ctrl+C encerra antes</translation>
     </message>
     <message id="IDD_CLI_RATE">
         <source>Frames per second, 1 to 60; 15 if not given</source>
@@ -586,7 +586,7 @@ Ele continua em %3.</translation>
     </message>
     <message id="IDD_CLI_NOT_REGION">
         <source>“%1” is not a region. --region takes width, height and place in pixels, as in 640x480+100+80.</source>
-        <translation>“%1” não é uma região. --region requer largura, altura e posição em pixels, como 640x480+100+80.</translation>
+        <translation>“%1” não é uma área. --region requer largura, altura e posição em pixels, como 640x480+100+80.</translation>
     </message>
     <message id="IDD_CLI_NOT_QUALITY">
         <source>“%1” is not a quality. --quality takes best, balanced, small or classic.</source>
@@ -609,12 +609,12 @@ Ele continua em %3.</translation>
         <translation>A gravação é curta demais: uma animação precisa de pelo menos três quadros.</translation>
     </message>
     <message id="IDD_CLI_NOBODY">
-        <source>No Tovarel is running.</source>
-        <translation>Nenhum Tovarel está em execução.</translation>
+        <source>Tovarel is not running.</source>
+        <translation>O Tovarel não está em execução.</translation>
     </message>
     <message id="IDD_CLI_NOT_NOW">
-        <source>The Tovarel that is running cannot do that now.</source>
-        <translation>O Tovarel em execução não pode fazer isso agora.</translation>
+        <source>Tovarel cannot do that now.</source>
+        <translation>O Tovarel não pode fazer isso agora.</translation>
     </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>

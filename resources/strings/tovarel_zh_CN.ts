@@ -502,7 +502,7 @@ It is still at %3.</source>
         <translation>不显示窗口直接录制</translation>
     </message>
     <message id="IDD_CLI_TOGGLE">
-        <source>Start a recording in the Tovarel that is running, or stop the one in progress</source>
+        <source>Start a recording in the running Tovarel, or stop the one in progress</source>
         <translation>让正在运行的 Tovarel 开始录制，或停止正在进行的录制</translation>
     </message>
     <message id="IDD_CLI_PAUSE">
@@ -530,8 +530,8 @@ It is still at %3.</source>
         <translation>录制第 N 个显示器（从 1 开始）；不带 N 时录制所有显示器</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
-        <source>Record the place of the window whose title contains TITLE</source>
-        <translation>录制标题包含 TITLE 的窗口所在的位置</translation>
+        <source>Record the part of the screen where the window with TITLE in its title is</source>
+        <translation>录制标题包含 TITLE 的窗口所占的屏幕部分</translation>
     </message>
     <message id="IDD_CLI_SECONDS">
         <source>Record for S seconds; Ctrl+C stops earlier</source>
@@ -606,12 +606,12 @@ It is still at %3.</source>
         <translation>录制时间太短：动画至少需要三帧。</translation>
     </message>
     <message id="IDD_CLI_NOBODY">
-        <source>No Tovarel is running.</source>
-        <translation>没有正在运行的 Tovarel。</translation>
+        <source>Tovarel is not running.</source>
+        <translation>Tovarel 没有运行。</translation>
     </message>
     <message id="IDD_CLI_NOT_NOW">
-        <source>The Tovarel that is running cannot do that now.</source>
-        <translation>正在运行的 Tovarel 现在无法执行该操作。</translation>
+        <source>Tovarel cannot do that now.</source>
+        <translation>Tovarel 现在无法执行该操作。</translation>
     </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>
