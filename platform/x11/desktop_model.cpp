@@ -155,8 +155,11 @@ bool DesktopModel::handleStructure(const xcb_generic_event_t &event) {
         return true;
     case XCB_CIRCULATE_NOTIFY: {
         const auto &circulate = as<xcb_circulate_notify_event_t>(event);
-        if (stack_.circulate(circulate.window, circulate.place == XCB_PLACE_ON_TOP))
+        if (stack_.circulate(circulate.window, circulate.place == XCB_PLACE_ON_TOP)) {
+            if (pictures_.isDoubtful(circulate.window, event.full_sequence))
+                redirectAnew(circulate.window);
             distrustBeneath(circulate.window, event.full_sequence);
+        }
         return true;
     }
     case XCB_PROPERTY_NOTIFY:
@@ -222,8 +225,9 @@ void DesktopModel::distrustBeneath(xcb_window_t window, std::uint32_t sequence) 
     for (const auto &below : stack_.bottomToTop()) {
         if (below.number == window)
             return;
-        if (pictures_.isRedirected(below.number) && below.outer.intersects(above->outer))
-            pictures_.distrust(below.number, above->outer, innerCorner(below), sequence);
+        if (pictures_.isRedirected(below.number))
+            pictures_.distrust(below.number, above->outer.intersected(innerRect(below)),
+                               innerCorner(below), sequence);
     }
 }
 
@@ -243,6 +247,7 @@ void DesktopModel::onConfigure(const xcb_configure_notify_event_t &event, std::u
         return;
     const QRect outer = outerRect(event.x, event.y, event.width, event.height, event.border_width);
     const bool resized = held->outer.size() != outer.size() || held->border != event.border_width;
+    const bool moved = held->outer.topLeft() != outer.topLeft();
     stack_.configure({.number = event.window,
                       .outer = outer,
                       .border = event.border_width,
@@ -250,10 +255,27 @@ void DesktopModel::onConfigure(const xcb_configure_notify_event_t &event, std::u
                      event.above_sibling);
     if (resized) {
         held = stack_.find(event.window); // another place in the stack
-        pictures_.renew(event.window, coveredPart(*held), innerCorner(*held));
+        QRegion covered = coveredPart(*held);
+        // What was drawn last may have been drawn into the new pixels, and is not reported again.
+        if (compositingManager_)
+            covered -= pictures_.damage(event.window).translated(innerCorner(*held));
+        pictures_.renew(event.window, covered, innerCorner(*held));
         owners_.onResize(event.window);
     }
+    // The server reports a window that it moves or raises as if it had been drawn.
+    if (((moved || !resized) && pictures_.isDoubtful(event.window, sequence)) ||
+        pictures_.hidesDrawing(event.window))
+        redirectAnew(event.window);
     distrustBeneath(event.window, sequence);
+}
+
+// Its client is asked to draw once more what lies beneath other windows; not where a compositing
+// manager has it redirected, too.
+void DesktopModel::redirectAnew(xcb_window_t window) {
+    if (compositingManager_)
+        return;
+    pictures_.giveBack(window);
+    redirect(window);
 }
 
 void DesktopModel::onReparent(const xcb_reparent_notify_event_t &event) {

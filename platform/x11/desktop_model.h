@@ -90,6 +90,7 @@ private:
     void onConfigure(const xcb_configure_notify_event_t &event, std::uint32_t sequence);
     void onMapped(xcb_window_t window, bool mapped, std::uint32_t sequence);
     void distrustBeneath(xcb_window_t window, std::uint32_t sequence);
+    void redirectAnew(xcb_window_t window);
     void onReparent(const xcb_reparent_notify_event_t &event);
     void onProperty(const xcb_property_notify_event_t &event);
     void remove(xcb_window_t window);
@@ -98,8 +99,10 @@ private:
     void readWorkspace();
     bool isGuard(const StackedWindow &window);
     bool isHidden(const StackedWindow &window) const;
-    QPoint innerCorner(const StackedWindow &window) const;
-    /// What of a window lies beneath others. Without its border, which the server draws by itself.
+    /// A window without its border, which the server draws by itself.
+    static QRect innerRect(const StackedWindow &window);
+    static QPoint innerCorner(const StackedWindow &window);
+    /// What of that lies beneath others.
     QRegion coveredPart(const StackedWindow &window) const;
     QRegion cutToFrame(const StackedWindow &window, QRegion region) const;
     Layer layerOf(const StackedWindow &window) const;

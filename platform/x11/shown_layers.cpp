@@ -56,13 +56,16 @@ std::vector<const StackedWindow *> DesktopModel::shownFrontToBack() {
     return shown;
 }
 
-QPoint DesktopModel::innerCorner(const StackedWindow &window) const {
+QRect DesktopModel::innerRect(const StackedWindow &window) {
+    return window.outer.adjusted(window.border, window.border, -window.border, -window.border);
+}
+
+QPoint DesktopModel::innerCorner(const StackedWindow &window) {
     return window.outer.topLeft() + QPoint(window.border, window.border);
 }
 
 QRegion DesktopModel::coveredPart(const StackedWindow &window) const {
-    const int border = window.border;
-    const QRect inner = window.outer.adjusted(border, border, -border, -border);
+    const QRect inner = innerRect(window);
     QRegion covered;
     const auto stack = stack_.bottomToTop();
     for (auto at = stack.rbegin(); at != stack.rend(); ++at) {

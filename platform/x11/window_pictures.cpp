@@ -114,9 +114,18 @@ void WindowPictures::renew(xcb_window_t window, const QRegion &covered, const QP
     release(*entry);
     entry->failed = false;
     entry->generation = ++generations_;
-    // What was drawn last may have been drawn into the new pixels, and is not reported again.
     if (entry->redirected)
-        entry->untrusted = covered.translated(-inner).subtracted(entry->pending);
+        entry->untrusted = covered.translated(-inner);
+}
+
+bool WindowPictures::isDoubtful(xcb_window_t window, std::uint32_t sequence) const {
+    const Entry *entry = find(window);
+    return entry && entry->redirected && (sequence <= entry->since || !entry->untrusted.isEmpty());
+}
+
+bool WindowPictures::hidesDrawing(xcb_window_t window) const {
+    const Entry *entry = find(window);
+    return entry && entry->untrusted.intersects(entry->pending);
 }
 
 void WindowPictures::redirect(xcb_window_t window, const QRegion &covered, const QPoint &inner) {

@@ -48,6 +48,12 @@ public:
     /// tells so (its full sequence number) happened before the server did that.
     void distrust(xcb_window_t window, const QRegion &covered, const QPoint &inner,
                   std::uint32_t sequence);
+    /// Whether part of the window's picture may show other windows, or the window was redirected
+    /// only after what the event tells of (its full sequence number).
+    bool isDoubtful(xcb_window_t window, std::uint32_t sequence) const;
+    /// Whether the client may have drawn such a part without our being told: what was reported and
+    /// not taken is not reported again.
+    bool hidesDrawing(xcb_window_t window) const;
     /// What of the window's picture may show other windows; in desktop coordinates.
     QRegion untrusted(xcb_window_t window, const QPoint &inner) const;
 

@@ -334,3 +334,151 @@ TEST_P(WindowPictureByMethod, survivesWindowsThatVanishResizeAndHideThroughoutGr
     vandal.join();
     EXPECT_TRUE(client.compositingManagerRuns() ? looksLikeScreen() : looksLikeReference());
 }
+
+namespace {
+
+/// Windows of a client that draws once and never again, and one of ours on them. Nobody keeps any
+/// of them apart but the server under test.
+class NeverRedrawn : public WindowServerFixture {
+protected:
+    static constexpr std::uint32_t ourColor = 0xff13f08a;
+
+    NeverRedrawn() : WindowServerFixture(x11::TransferMethod::SharedPixmap, Apart::No) {}
+
+    void SetUp() override {
+        constexpr int exactColours = 24; // bits
+        if (client.compositingManagerRuns() || client.depth() != exactColours)
+            GTEST_SKIP() << "windows have been kept apart, or the colour is not to be found again";
+        client.setBackgroundPixmap(true);
+    }
+
+    /// Without a background of its own: the server leaves what is there where it is laid bare.
+    xcb_window_t show(const QRect &place, std::uint32_t seed) {
+        const auto window = client.create({.place = place, .overrideRedirect = true});
+        const std::uint32_t none = XCB_BACK_PIXMAP_NONE;
+        xcb_change_window_attributes(client.get(), window, XCB_CW_BACK_PIXMAP, &none);
+        client.map(window);
+        client.drawPattern(window, QRect(QPoint(), place.size()), seed);
+        return window;
+    }
+
+    xcb_window_t showOurs(const QRect &place) {
+        const auto window = client.create({.place = place, .overrideRedirect = true});
+        xcb_change_window_attributes(client.get(), window, XCB_CW_BACK_PIXEL, &ourColor);
+        client.map(window);
+        return window;
+    }
+
+    std::ptrdiff_t ourPixelsOnScreen() {
+        const QSize size = client.desktop().size();
+        const x11::Reply<xcb_get_image_reply_t> image(xcb_get_image_reply(
+            client.get(),
+            xcb_get_image(client.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, client.root(), 0, 0,
+                          static_cast<std::uint16_t>(size.width()),
+                          static_cast<std::uint16_t>(size.height()), 0xffffff),
+            nullptr));
+        const auto *words =
+            reinterpret_cast<const std::uint32_t *>(xcb_get_image_data(image.get()));
+        return std::count(words, words + size.width() * size.height(), ourColor & 0xffffff);
+    }
+
+    static int ourPixels(const QImage &picture, const QRect &where) {
+        int found = 0;
+        const QRect looked = where.intersected(picture.rect());
+        for (int y = looked.top(); y <= looked.bottom(); ++y)
+            for (int x = looked.left(); x <= looked.right(); ++x)
+                found += picture.pixel(x, y) == ourColor ? 1 : 0;
+        return found;
+    }
+};
+
+} // namespace
+
+TEST_F(NeverRedrawn, whatTheServerFillsInOfUsIsNotTheContentOfAWindowBeneath) {
+    const QRect place(150, 100, 250, 180);
+    const auto below = show({60, 40, 300, 200}, 1);
+    const auto lowest = show({300, 150, 200, 200}, 2);
+    client.restack(lowest, XCB_STACK_MODE_BELOW);
+    const auto ours = showOurs(place);
+    client.sync();
+    auto obstacle = Obstacle::NoDisplay;
+    server =
+        X11WindowServer::create({}, obstacle); // too late to redirect them before they are covered
+    const auto expectNothingOfOurs = [&](const char *what) {
+        for (int i = 0; i < 3; ++i) {
+            client.sync();
+            EXPECT_EQ(ourPixels(grab({ours}), place), 0) << what;
+        }
+    };
+    expectNothingOfOurs("at rest");
+    EXPECT_GT(ourPixels(client.reference({ours}), place), 1000) << "what the server keeps is ours";
+    client.moveResize(below, {100, 80, 300, 200});
+    expectNothingOfOurs("moved beneath");
+    client.moveResize(below, {100, 80, 320, 150});
+    client.moveResize(below, {100, 80, 320, 180});
+    expectNothingOfOurs("resized beneath");
+    client.moveResize(below, {90, 70, 340, 230});
+    expectNothingOfOurs("resized and moved");
+    client.restack(lowest, XCB_STACK_MODE_ABOVE);
+    client.restack(ours, XCB_STACK_MODE_ABOVE);
+    expectNothingOfOurs("raised beneath");
+    client.unmap(below);
+    client.map(below);
+    expectNothingOfOurs("shown again beneath");
+    client.fill(lowest, {0, 0, 20, 20}, 0xff445566);
+    expectNothingOfOurs("drawn in a little");
+    client.destroy(lowest);
+    expectNothingOfOurs("gone");
+}
+
+TEST_F(NeverRedrawn, noSequenceOfEventsBeneathUsLetsAPixelOfOursBeTaken) {
+    const unsigned seed = seedOfThisRun(std::random_device()());
+    SCOPED_TRACE("TOVAREL_TEST_SEED=" + std::to_string(seed));
+    std::mt19937 random(seed);
+    const auto upTo = [&random](int end) {
+        return static_cast<int>(random() % static_cast<unsigned>(end));
+    };
+    const auto anyPlace = [&] {
+        return QRect(upTo(500) - 50, upTo(300) - 50, 50 + upTo(250), 50 + upTo(200));
+    };
+    const QRect place(150, 100, 250, 180);
+    std::vector<xcb_window_t> windows;
+    xcb_window_t ours = XCB_NONE;
+    for (int step = 0; step < 300; ++step) {
+        // What a window that was beneath us shows when it comes out is the screen, and so recorded.
+        if (ourPixelsOnScreen() != place.width() * place.height()) {
+            for (const auto window : windows)
+                client.destroy(window);
+            windows.clear();
+            client.destroy(ours);
+            for (std::uint32_t i = 1; i < 5; ++i)
+                windows.push_back(show(anyPlace(), i));
+            ours = showOurs(place);
+        }
+        const auto window = windows[random() % windows.size()];
+        const auto other = windows[random() % windows.size()];
+        switch (upTo(6)) {
+        case 0:
+            if (other != window)
+                client.restack(window, XCB_STACK_MODE_ABOVE, other);
+            break;
+        case 1:
+            client.unmap(window);
+            break;
+        case 2:
+            client.map(window);
+            break;
+        case 3:
+            client.fill(window, {upTo(200), upTo(200), 30, 30}, 0xff0000ff);
+            break;
+        default:
+            client.moveResize(window, anyPlace());
+        }
+        if (upTo(2) == 0)
+            client.sync();
+        // Long enough, now and then, for windows to be given back.
+        if (step % 100 == 99)
+            std::this_thread::sleep_for(std::chrono::milliseconds(350));
+        ASSERT_EQ(ourPixels(grab({ours}), place), 0) << "step " << step;
+    }
+}
