@@ -8,7 +8,8 @@
 namespace {
 
 QAccessibleInterface *makeInterface(const QString &className, QObject *object) {
-    const bool picture = className == QLatin1String("View_Record_Preview") ||
+    const bool picture = className == QLatin1String("FilePicture") ||
+                         className == QLatin1String("View_Record_Preview") ||
                          className == QLatin1String("View_Cut_Preview") ||
                          className == QLatin1String("View_Region_How_To");
     const bool dialog = className == QLatin1String("Window_Transparent_Region");

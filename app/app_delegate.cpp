@@ -8,6 +8,7 @@
 #include "app/help.h"
 #include "app/start_up.h"
 #include "app/tabs.h"
+#include "export/file_card.h"
 #include "export/progress_parser.h"
 #include "export/tool_run.h"
 #include "platform/window_server.h"
@@ -47,6 +48,7 @@ void AppDelegate::awakeFromNib() {
     start_up::makeMainWindow(*this);
     shell.window()->installEventFilter(this);
     exportOptions = std::make_unique<ExportOptions>(exportControls(*ui), exporter, nullptr);
+    fileCard = std::make_unique<FileCard>(fileCardControls(*ui), exporter, nullptr);
     exporter.setChoices([this] { return exportOptions->choices(); });
     controls_ = std::make_unique<Controls>(*this);
 }

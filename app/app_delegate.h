@@ -21,6 +21,7 @@
 
 class Controls;
 class DesktopKeys;
+class FileCard;
 class WindowServer;
 namespace Ui {
 class MainWindow;
@@ -55,6 +56,8 @@ public:
     Exporter exporter{surroundings, recorder, trimEditor};
     /// What works the GIF tab's controls; made with the main window.
     std::unique_ptr<ExportOptions> exportOptions;
+    /// What works the card of the GIF tab; made with the main window.
+    std::unique_ptr<FileCard> fileCard;
 
     // State, by concern: the fields of the desks ----------------------------------------------
 

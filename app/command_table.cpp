@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/app_delegate.h"
 #include "app/controls.h"
+#include "export/file_card.h"
 #include "shell/palette_icon.h"
+#include "shell/settings.h"
 #include "ui_MainWindow.h"
 
 namespace {
@@ -136,13 +138,17 @@ std::vector<Command> exportCommands(AppDelegate &controller) {
          .shortcut = "Ctrl+E",
          .action = [&controller] { controller.OnMenuActionGIFExport(); },
          .enabled = usable},
-        {.button = ui.btnWebPGenerate,
+        {.item = ui.menuitemWebPGenerate,
+         .button = ui.btnWebPGenerate,
          .text = qtTrId("IDD_GENERATE_WEBP"),
+         .face = QStringLiteral("WebP"),
          .tip = qtTrId("IDD_GENERATE_WEBP_TIP"),
          .action = [&controller] { controller.Generate_WebP(&controller); },
          .enabled = usable},
-        {.button = ui.btnMP4Generate,
+        {.item = ui.menuitemMP4Generate,
+         .button = ui.btnMP4Generate,
          .text = qtTrId("IDD_GENERATE_MP4"),
+         .face = QStringLiteral("MP4"),
          .tip = qtTrId("IDD_GENERATE_MP4_TIP"),
          .action = [&controller] { controller.exporter.Generate_MP4(); },
          .enabled = usable},
@@ -150,6 +156,57 @@ std::vector<Command> exportCommands(AppDelegate &controller) {
          .text = qtTrId("IDD_SAVE_RESULT"),
          .action = [&controller] { controller.exporter.saveUnsavedResult(); },
          .opensDialog = true},
+    };
+}
+
+/// What can be done with the file that was made last.
+std::vector<Command> fileCommands(AppDelegate &controller) {
+    const Ui::MainWindow &ui = *controller.ui;
+    FileCard &card = *controller.fileCard;
+    const Exporter &exporter = controller.exporter;
+    const auto shown = [&card] { return card.showsFile(); };
+    const auto saved = [&card, &exporter] {
+        return card.showsFile() && !exporter.hasUnsavedResult();
+    };
+    return {
+        {.item = ui.menuitemSaveWithoutAsking,
+         .text = qtTrId("IDD_SAVE_WITHOUT_ASKING"),
+         .action =
+             [&ui] {
+                 settings::writeSaveWithoutAsking(ui.menuitemSaveWithoutAsking->isChecked());
+             }},
+        {.item = ui.menuitemFileCopy,
+         .button = ui.btnFileCopy,
+         .text = qtTrId("IDD_FILE_COPY"),
+         .shortcut = "Ctrl+C",
+         .action = [&card] { card.copy(); },
+         .enabled = shown},
+        {.item = ui.menuitemFileOpen,
+         .button = ui.btnFileOpen,
+         .text = qtTrId("IDD_FILE_OPEN"),
+         .shortcut = "Ctrl+O",
+         .action = [&card] { card.open(); },
+         .enabled = saved},
+        {.item = ui.menuitemFileShow,
+         .button = ui.btnFileShow,
+         .text = qtTrId("IDD_FILE_SHOW"),
+         .shortcut = "Ctrl+Shift+O",
+         .action = [&card] { card.showInFolder(); },
+         .enabled = saved},
+        {.item = ui.menuitemFileSave,
+         .button = ui.btnFileSave,
+         .text = qtTrId("IDD_SAVE_RESULT"),
+         .shortcut = "Ctrl+S",
+         .action = [&controller] { controller.exporter.saveUnsavedResult(); },
+         .enabled = [&exporter] { return exporter.hasUnsavedResult(); },
+         .opensDialog = true},
+        {.button = ui.btnLastFile,
+         .text = qtTrId("IDD_LAST_FILE"),
+         .action =
+             [&controller, &card] {
+                 controller.OnMenuTabGIF();
+                 card.showFile();
+             }},
     };
 }
 
@@ -202,8 +259,9 @@ std::vector<Command> programCommands(AppDelegate &controller) {
 
 std::vector<Command> commandTable(AppDelegate &controller) {
     std::vector<Command> all;
-    for (const auto &part : {recordCommands(controller), cutCommands(controller),
-                             exportCommands(controller), programCommands(controller)})
+    for (const auto &part :
+         {recordCommands(controller), cutCommands(controller), exportCommands(controller),
+          fileCommands(controller), programCommands(controller)})
         all.insert(all.end(), part.begin(), part.end());
     return all;
 }

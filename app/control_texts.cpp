@@ -50,6 +50,10 @@ void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
         button->setText(qtTrId("IDD_PERCENT").arg(percent));
         button->setToolTip(qtTrId("IDD_PERCENT_TIP").arg(percent));
     }
+    ui.viewFilePicture->setAccessibleName(qtTrId("IDD_FILE_PICTURE"));
+    ui.labelFileDrag->setText(qtTrId("IDD_FILE_DRAG"));
+    ui.btnGenerateMenu->setAccessibleName(qtTrId("IDD_SAVING_OPTIONS"));
+    ui.btnGenerateMenu->setToolTip(qtTrId("IDD_SAVING_OPTIONS"));
     ui.comboGIFSpeed->setAccessibleName(qtTrId("IDD_SPEED"));
     ui.labelWebPLoops->setText(qtTrId("IDD_WEBP_LOOPS"));
     ui.labelWebPLoopsHint->setText(qtTrId("IDD_WEBP_LOOPS_HINT"));

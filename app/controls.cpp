@@ -8,11 +8,13 @@
 #include "app/task_bar_state.h"
 #include "shell/mnemonics.h"
 #include "shell/obstacle_text.h"
+#include "shell/settings.h"
 #include "shell/tab_view.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
 #include <QMainWindow>
+#include <QMenu>
 #include <QTextDocument>
 
 Controls::Controls(AppDelegate &controller) : controller_(controller), ui_(*controller.ui) {
@@ -23,6 +25,7 @@ Controls::Controls(AppDelegate &controller) : controller_(controller), ui_(*cont
     listenToShell();
     listenToRecorder();
     listenToOthers();
+    listenToCard();
 }
 
 void Controls::setUp() {
@@ -35,9 +38,9 @@ void Controls::setUp() {
         controller_.shell.tabviewMain()->addTab(label);
     // Chosen last: a letter depends on the texts around it.
     const QString taken = mnemonics::mark(*ui_.menubar, *ui_.tabBar, *ui_.tabStack,
-                                          {ui_.btnSaveResult, ui_.btnSaveAgain});
+                                          {ui_.btnSaveResult, ui_.btnLastFile, ui_.btnSaveAgain});
     for (const QWidget *page : {ui_.pageRecord, ui_.pageCut, ui_.pageGIF})
-        mnemonics::mark(*page, taken);
+        mnemonics::mark(*page, taken, {ui_.fileButtons, ui_.otherFormats});
 }
 
 void Controls::refresh() { ::refresh(commands_); }
@@ -69,8 +72,31 @@ void Controls::listenToOthers() {
     connect(&controller_.trimEditor, &TrimEditor::rangeTextChanged, ui_.labelCutRange,
             &QLabel::setText);
     connect(controller_.exportOptions.get(), &ExportOptions::entered, this, &Controls::refresh);
-    connect(&controller_.exporter, &Exporter::unsavedResultChanged, this,
-            [this] { ui_.btnSaveResult->setVisible(controller_.exporter.hasUnsavedResult()); });
+}
+
+void Controls::listenToCard() {
+    FileCard *card = controller_.fileCard.get();
+    connect(controller_.exportOptions.get(), &ExportOptions::edited, card, &FileCard::compare);
+    connect(card, &FileCard::changed, this, [this] {
+        refresh();
+        showWaysToLastFile();
+    });
+    connect(ui_.tabStack, &QStackedWidget::currentChanged, this, &Controls::showWaysToLastFile);
+    ui_.menuitemSaveWithoutAsking->setChecked(settings::readSaveWithoutAsking());
+    auto *menu = new QMenu(ui_.btnGenerateMenu);
+    menu->addAction(ui_.menuitemSaveWithoutAsking);
+    connect(ui_.btnGenerateMenu, &QToolButton::clicked, menu, [this, menu] {
+        // It returns at once: assistive technology waits for the answer to its press.
+        menu->popup(ui_.btnGenerateMenu->mapToGlobal(ui_.btnGenerateMenu->rect().bottomLeft()));
+    });
+}
+
+void Controls::showWaysToLastFile() {
+    const bool onCard =
+        controller_.fileCard->showsFile() && ui_.tabStack->currentWidget() == ui_.pageGIF;
+    const bool unsaved = controller_.exporter.hasUnsavedResult();
+    ui_.btnSaveResult->setVisible(unsaved && !onCard);
+    ui_.btnLastFile->setVisible(controller_.fileCard->hasFile() && !unsaved && !onCard);
 }
 
 void Controls::showState() {
@@ -98,6 +124,17 @@ void Controls::showRecording() {
         controller_.tabViewDidSelectTabViewItem(TabView::identifierOf(tabs::cut));
     else
         tabs.selectTabViewItemAtIndex(tabs::cut);
+}
+
+FileCardControls fileCardControls(const Ui::MainWindow &ui) {
+    return {.viewFilePicture = ui.viewFilePicture,
+            .cardStack = ui.cardStack,
+            .labelFileName = ui.labelFileName,
+            .labelFileFigures = ui.labelFileFigures,
+            .labelFileDrag = ui.labelFileDrag,
+            .fileButtons = ui.fileButtons,
+            .btnFileCopy = ui.btnFileCopy,
+            .btnFileSave = ui.btnFileSave};
 }
 
 ExportControls exportControls(const Ui::MainWindow &ui) {

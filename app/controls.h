@@ -3,6 +3,7 @@
 #pragma once
 
 #include "export/export_options.h"
+#include "export/file_card.h"
 #include "shell/command.h"
 
 #include <QObject>
@@ -20,6 +21,9 @@ std::vector<Command> commandTable(AppDelegate &controller);
 
 /// The controls of the GIF tab, for what works them.
 ExportControls exportControls(const Ui::MainWindow &ui);
+
+/// Likewise those of its card.
+FileCardControls fileCardControls(const Ui::MainWindow &ui);
 
 /// Ties the desks to the main window: gives views their desks, shows what the desks report, and
 /// enables what can be used. It holds no state of the program.
@@ -42,6 +46,9 @@ private:
     void listenToShell();
     void listenToRecorder();
     void listenToOthers();
+    void listenToCard();
+    /// Beside the status line: what leads to the last file, where its card does not show it.
+    void showWaysToLastFile();
     void showState();
     void showCaptureMode(const CaptureMode &mode);
     void showRecording();

@@ -24,4 +24,6 @@ struct ExportChoices {
     bool customSize = false;
     /// How large a GIF may be at most.
     FitLimit limit = {};
+
+    bool operator==(const ExportChoices &) const = default;
 };

@@ -78,6 +78,7 @@ void ExportOptions::listen() {
     field(ui_.textGIFWidth, &ExportOptions::OnGIFChangeWidth);
     field(ui_.textGIFHeigth, &ExportOptions::OnGIFChangeHeigth);
     connect(ui_.txtWebPLoops, &QLineEdit::textChanged, this, &ExportOptions::updateWebPLoopsHint);
+    connect(ui_.txtWebPLoops, &QLineEdit::textChanged, this, &ExportOptions::updateEstimate);
 
     auto *passage = new ShortcutPassage(*ui_.menuitemActionGIFExport, this);
     for (QLineEdit *edit : {ui_.textGIFWidth, ui_.textGIFHeigth, ui_.txtWebPLoops})
@@ -140,7 +141,7 @@ bool ExportOptions::eventFilter(QObject *watched, QEvent *event) {
     // It is on the screen as long as its tab is.
     if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
         isShown_ = event->type() == QEvent::Show;
-        updateEstimate();
+        estimate();
     }
     return QObject::eventFilter(watched, event);
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "export/finished_file.h"
 #include "export/save_request.h"
 
 #include <QByteArray>
@@ -51,6 +52,8 @@ public:
 
     /// A finished export that has no place of the user's yet.
     std::optional<SaveRequest> unsaved;
+    /// The file that was made last, saved or not.
+    std::optional<FinishedFile> finished;
 
 private:
     bool terminated_ = false;

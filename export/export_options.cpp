@@ -203,6 +203,12 @@ void ExportOptions::chooseShare(int percent) {
 }
 
 void ExportOptions::updateEstimate() {
+    if (isUsable_)
+        Q_EMIT edited(choicesAfterEdits());
+    estimate();
+}
+
+void ExportOptions::estimate() {
     if (isShown_ && isUsable_)
         estimator_.request([this] { return choicesAfterEdits(); });
     else

@@ -83,6 +83,8 @@ public:
 Q_SIGNALS:
     /// The tab was entered: whether its commands can be used may have changed.
     void entered();
+    /// The file that would be made now may be another one.
+    void edited(const ExportChoices &choices);
 
 private:
     void listen();
@@ -108,6 +110,8 @@ private:
     void chooseShare(int percent);
     /// Counts anew how large the GIF will be, while its tab is shown.
     void updateEstimate();
+    /// The count alone: whether it is shown has changed, and not what is chosen.
+    void estimate();
     /// Ratio that the typed size is tied to; none when it is free.
     std::optional<float> tiedAspectRatio() const;
 

@@ -6,6 +6,7 @@
 #include "export/export_choices.h"
 #include "export/export_fields.h"
 #include "export/frame_timing.h"
+#include "export/safe_move.h"
 
 #include <QObject>
 #include <QProcess>
@@ -82,6 +83,8 @@ public:
     bool hasTooFewFrames() const;
     /// What is asked of a file, of what is kept of the recording.
     frame_timing::Request timingRequest(const ExportChoices &choices) const;
+    /// The file of the first frame that is kept; empty where none is.
+    QString firstKeptFile() const;
     /// Why no export of this range or with these sizes begins, in the user's words: fewer than
     /// three frames, or a size field that does not begin with a number other than 0. None when one
     /// may.
@@ -107,6 +110,11 @@ public:
     bool hasUnsavedResult() const;
     /// Lets the user choose a place for it once more.
     void saveUnsavedResult();
+    /// The file that was made last, saved or not; none where it is no longer there.
+    const FinishedFile *lastFile() const;
+    /// Where the file that was made last can stay: one that is not saved yet is saved under its
+    /// preset name first. Empty where there is none or, after an alert, where it cannot be saved.
+    QString lastFileInItsPlace();
     /// To be asked before a new recording, a new export and the end of the program, all of which
     /// lose an unsaved export. False when nothing is in the way. True when something is: the caller
     /// does nothing, and `goOn` is called later if the user saves or discards the export.
@@ -133,6 +141,10 @@ public:
 Q_SIGNALS:
     /// There is a finished file without a place now, or there is none any more.
     void unsavedResultChanged();
+    /// A file has been made: `lastFile`.
+    void fileMade();
+    /// It is somewhere else now, or gone.
+    void fileMoved();
 
 private:
     void generateGIF(bool mayLowerChosen);
@@ -223,9 +235,21 @@ private:
     /// Takes the sheet down and shows the alert or removes what a cancelled export has left. True
     /// when the export has ended with that.
     bool endedWithoutResult(const std::optional<QString> &failure);
-    /// Lets the user choose a place for a finished file and puts it there.
-    void saveResult(const SaveRequest &request);
+    /// Lets the user choose a place for a finished file, unless that is not wanted, and puts it
+    /// there.
+    void saveResult(const SaveRequest &request, Frames frames, frame_timing::Ticks ticks,
+                    const ExportChoices &choices);
     void chooseResultsPlace();
+    /// Gives it a preset name that is free. Whether it has one now; if not, an alert has said why.
+    bool saveUnderPresetName();
+    /// Why it is not there, or none.
+    std::optional<QString> placeResult(const QString &path, Existing existing);
+    void reportFailedPlace(const QString &path, const QString &reason);
+    /// Says so in the status line, and the note behind it; what it says.
+    QString sayWhereItIs(const QString &note);
+    /// Whether the export that begins now is to be saved under its preset name straight away: that
+    /// is a setting, and Shift says so this time.
+    static bool mustNotAsk();
     void showUnsavedResult();
     void forgetResult();
     ExportChoices choices() const { return choices_ ? choices_() : ExportChoices(); }

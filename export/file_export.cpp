@@ -13,6 +13,7 @@ void Exporter::makeFile(const FileFormat &format) {
         return;
     const ExportMark mark(exporting);
     const ExportChoices asked = choices();
+    const bool withoutAsking = mustNotAsk();
     std::optional<QString> reason = refusal(asked);
     if (!reason)
         reason = sizeRefusal(asked, format.longestSide);
@@ -44,5 +45,7 @@ void Exporter::makeFile(const FileFormat &format) {
     saveResult({.file = format.file,
                 .panelTitle = format.panelTitle,
                 .successText = format.successText,
-                .note = note});
+                .note = note,
+                .withoutAsking = withoutAsking},
+               frames, format.ticks, asked);
 }

@@ -11,6 +11,8 @@
 struct FitLimit {
     std::optional<std::uint64_t> bytes = {}; ///< None: no limit.
     bool isWrong = false;                    ///< It is neither a number above 0 nor nothing.
+
+    bool operator==(const FitLimit &) const = default;
 };
 
 /// The limits that the list offers, in MB (1,000,000 bytes).

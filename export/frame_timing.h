@@ -51,6 +51,8 @@ struct Request {
     std::optional<double> chosenRate = {};
     /// How many times as fast as it was recorded, above 0.
     double speed = 1.0;
+
+    bool operator==(const Request &) const = default;
 };
 
 /// One frame of the file.

@@ -77,6 +77,7 @@ void Exporter::generateGIF(bool mayLowerChosen) {
         return;
     const ExportMark mark(exporting);
     const ExportChoices wanted = choices();
+    const bool withoutAsking = mustNotAsk();
     std::optional<QString> reason = refusal(wanted);
     // The other encoder judges sizes itself, and knows no limit.
     if (!reason && wanted.preset != GifPreset::Classic) {
@@ -113,7 +114,9 @@ void Exporter::generateGIF(bool mayLowerChosen) {
     saveResult({.file = encoder_arguments::gifFile(surroundings_.shell.s_Export_Folder()),
                 .panelTitle = QStringLiteral("Select a folder to save the GIF image"),
                 .successText = surroundings_.texts.s_IDD_GIF_SAVED_OK(),
-                .note = note});
+                .note = note,
+                .withoutAsking = withoutAsking},
+               frames, frame_timing::gifTicks, wanted);
 }
 
 GifFileJob Exporter::jobFor(Frames frames, const ExportChoices &choices) const {

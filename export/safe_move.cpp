@@ -71,9 +71,30 @@ void syncFolder(const QByteArray &folder) {
         sync(directory.get());
 }
 
+/// Gives a file another name in one step. False with the reason in `errno`; EEXIST where something
+/// has that name and is to be kept.
+bool renameTo(const QByteArray &from, const QByteArray &to, Existing existing) {
+    if (existing == Existing::Replace)
+        return std::rename(from.constData(), to.constData()) == 0;
+    if (renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0)
+        return true;
+    // Some network file systems know only one of these ways.
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+    if (link(from.constData(), to.constData()) == 0)
+        return unlink(from.constData()) == 0;
+    if (errno != EPERM && errno != EOPNOTSUPP)
+        return false;
+    // Nobody else takes a name for a new one that is there already: what is replaced is ours.
+    const Descriptor reserved(
+        open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+    return reserved.get() >= 0 && std::rename(from.constData(), to.constData()) == 0;
+}
+
 /// Writes the content of `from` into a new file of an unguessable name in `folder` and gives that
 /// the target's name.
-std::optional<QString> copyOver(int from, const QByteArray &target, const QByteArray &folder) {
+std::optional<QString> copyOver(int from, const QByteArray &target, const QByteArray &folder,
+                                Existing existing) {
     QByteArray name;
     int created = -1;
     for (int attempt = 0; attempt < nameAttempts && created < 0; ++attempt) {
@@ -89,7 +110,7 @@ std::optional<QString> copyOver(int from, const QByteArray &target, const QByteA
         return systemReason();
     Descriptor to(created);
     const bool complete = copyContent(from, to.get()) && sync(to.get()) && to.close();
-    if (!complete || std::rename(name.constData(), target.constData()) != 0) {
+    if (!complete || !renameTo(name, target, existing)) {
         const std::optional<QString> failure = systemReason();
         unlink(name.constData());
         return failure;
@@ -122,7 +143,7 @@ mode_t usualMode() {
 
 } // namespace
 
-std::optional<QString> safeMove(const QString &source, const QString &target) {
+std::optional<QString> safeMove(const QString &source, const QString &target, Existing existing) {
     const QByteArray from = QFile::encodeName(source);
     const QByteArray to = QFile::encodeName(target);
     const QByteArray folder = QFile::encodeName(QFileInfo(target).absolutePath());
@@ -137,13 +158,13 @@ std::optional<QString> safeMove(const QString &source, const QString &target) {
         qCWarning(logExport, "oops: %s: %s", from.constData(), qPrintable(qt_error_string(errno)));
     if (!sync(content.get()))
         return systemReason();
-    if (std::rename(from.constData(), to.constData()) == 0) {
+    if (renameTo(from, to, existing)) {
         syncFolder(folder);
         return std::nullopt;
     }
     if (errno != EXDEV)
         return systemReason();
-    const std::optional<QString> failure = copyOver(content.get(), to, folder);
+    const std::optional<QString> failure = copyOver(content.get(), to, folder, existing);
     // The result is in its place: a source that cannot be removed is only left over.
     if (!failure && unlink(from.constData()) != 0)
         qCWarning(logExport, "oops: %s: %s", from.constData(), qPrintable(qt_error_string(errno)));

@@ -13,4 +13,9 @@
 /// A symbolic link at the target is itself replaced, not what it points to. The result's mode is
 /// that of a new file. On failure the source stays where it is and nothing of ours is left at the
 /// target; the answer is the reason, a sentence for the user. None on success.
-std::optional<QString> safeMove(const QString &source, const QString &target);
+///
+/// With `Existing::Keep` nothing is ever replaced, not even what another program puts there
+/// meanwhile: then the move fails.
+enum class Existing { Replace, Keep };
+std::optional<QString> safeMove(const QString &source, const QString &target,
+                                Existing existing = Existing::Replace);

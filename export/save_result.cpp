@@ -1,16 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
+#include "export/export_mark.h"
 #include "export/exporter.h"
+#include "export/first_picture.h"
 #include "export/preset_name.h"
 #include "export/safe_move.h"
 #include "export/save_request.h"
+#include "platform/desktop_services.h"
+#include "platform/text_number.h"
 #include "shell/number_text.h"
 #include "shell/settings.h"
 #include "shell/surroundings.h"
+#include "shell/working_folders.h"
+#include "trim/trim_editor.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QMainWindow>
 #include <QStandardPaths>
 
@@ -18,6 +25,8 @@
 #include <array>
 
 namespace {
+
+constexpr int nameAttempts = 16; // names that others take under our hands
 
 /// The folder that the save panel shows first: the last one used, else the one for pictures.
 QString startFolder() {
@@ -40,33 +49,99 @@ bool liesInWorkingFolder(const QString &path, const ShellFields &shell) {
     });
 }
 
+/// The name that is offered for it there: one that nothing has yet.
+QString freeName(const SaveRequest &request, const QString &folder) {
+    return presetName(request.made, QFileInfo(request.file).suffix(),
+                      [&folder](const QString &name) {
+                          const QFileInfo found(QDir(folder).filePath(name));
+                          return found.exists() || found.isSymLink();
+                      });
+}
+
 /// Asks for the place; an empty text when the user cancels.
 QString runSavePanel(QWidget *parent, const SaveRequest &request, const QString &folder) {
     QFileDialog panel(parent, request.panelTitle, folder);
     panel.setObjectName(QStringLiteral("savePanel"));
     panel.setAcceptMode(QFileDialog::AcceptSave);
     panel.setFileMode(QFileDialog::AnyFile);
-    const QString suffix = QFileInfo(request.file).suffix();
-    panel.selectFile(presetName(request.made, suffix, [&folder](const QString &name) {
-        const QFileInfo found(QDir(folder).filePath(name));
-        return found.exists() || found.isSymLink();
-    }));
+    panel.selectFile(freeName(request, folder));
     // A name typed without an ending gets the one that other programs know the file by.
-    panel.setDefaultSuffix(suffix);
+    panel.setDefaultSuffix(QFileInfo(request.file).suffix());
     if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty())
         return {};
     return panel.selectedFiles().first();
 }
 
+int evenSide(const QString &typed) {
+    const auto side = static_cast<int>(integerValue(typed));
+    return side + side % 2;
+}
+
 } // namespace
 
-void Exporter::saveResult(const SaveRequest &request) {
+void Exporter::saveResult(const SaveRequest &request, Frames frames, frame_timing::Ticks ticks,
+                          const ExportChoices &choices) {
     if (takeResult_) {
         takeResult_(request);
         return;
     }
     exporting.unsaved = request;
-    chooseResultsPlace();
+    QImage picture = firstPicture(request.file);
+    // The toolkit does not read every format that the encoders write.
+    if (picture.isNull())
+        picture = firstPicture(firstKeptFile());
+    QSize pixels = pictureSize(request.file);
+    // A video has even sides, see `mp4Arguments`.
+    if (pixels.isEmpty())
+        pixels = {evenSide(choices.width), evenSide(choices.height)};
+    exporting.finished = {.path = request.file,
+                          .pixels = pixels,
+                          .seconds = frame_timing::seconds(frames, ticks),
+                          .picture = picture,
+                          .choices = choices,
+                          .timing = timingRequest(choices)};
+    const QMainWindow *window = surroundings_.shell.window();
+    if (window && QGuiApplication::applicationState() != Qt::ApplicationActive)
+        desktop_services::notify(qtTrId("IDD_FILE_READY"), freeName(request, startFolder()));
+    if (request.withoutAsking)
+        saveUnderPresetName();
+    else
+        chooseResultsPlace();
+    Q_EMIT fileMade();
+}
+
+bool Exporter::mustNotAsk() {
+    return settings::readSaveWithoutAsking() ||
+           QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+}
+
+std::optional<QString> Exporter::placeResult(const QString &path, Existing existing) {
+    const QString from = exporting.unsaved->file;
+    if (liesInWorkingFolder(path, surroundings_.shell))
+        return qtTrId("IDD_MOVE_WORKING_FOLDER");
+    if (std::optional<QString> failure = safeMove(from, path, existing))
+        return failure;
+    if (exporting.finished && exporting.finished->path == from)
+        exporting.finished->path = path;
+    forgetResult();
+    settings::writeLastSaveFolder(QFileInfo(path).absolutePath());
+    return std::nullopt;
+}
+
+void Exporter::reportFailedPlace(const QString &path, const QString &reason) {
+    surroundings_.alerts.run(AlertKind::Error,
+                             qtTrId("IDD_MOVE_FAILED").arg(path, reason, exporting.unsaved->file));
+    showUnsavedResult();
+}
+
+QString Exporter::sayWhereItIs(const QString &note) {
+    const QFileInfo saved(exporting.finished->path);
+    const QString size = number_text::bytes(static_cast<std::uint64_t>(saved.size()));
+    const QString status = note.isEmpty()
+                               ? qtTrId("IDD_STATUS_SAVED").arg(saved.filePath(), size)
+                               : qtTrId("IDD_STATUS_SAVED_NOTE").arg(saved.filePath(), size, note);
+    surroundings_.showStatus(status);
+    return status;
 }
 
 void Exporter::chooseResultsPlace() {
@@ -76,22 +151,51 @@ void Exporter::chooseResultsPlace() {
         showUnsavedResult();
         return;
     }
-    const std::optional<QString> failure = liesInWorkingFolder(path, surroundings_.shell)
-                                               ? qtTrId("IDD_MOVE_WORKING_FOLDER")
-                                               : safeMove(request.file, path);
-    if (failure) {
-        surroundings_.alerts.run(AlertKind::Error,
-                                 qtTrId("IDD_MOVE_FAILED").arg(path, *failure, request.file));
-        showUnsavedResult();
+    if (const std::optional<QString> failure = placeResult(path, Existing::Replace)) {
+        reportFailedPlace(path, *failure);
         return;
     }
-    forgetResult();
-    const QFileInfo saved(path);
-    settings::writeLastSaveFolder(saved.absolutePath());
-    const QString size = number_text::bytes(static_cast<std::uint64_t>(saved.size()));
-    const QString status = request.note.isEmpty()
-                               ? qtTrId("IDD_STATUS_SAVED").arg(path, size)
-                               : qtTrId("IDD_STATUS_SAVED_NOTE").arg(path, size, request.note);
-    surroundings_.showStatus(status);
-    surroundings_.alerts.run(AlertKind::Success, request.successText, status);
+    surroundings_.alerts.run(AlertKind::Success, request.successText, sayWhereItIs(request.note));
+}
+
+bool Exporter::saveUnderPresetName() {
+    const SaveRequest request = *exporting.unsaved;
+    const QString folder = startFolder();
+    for (int attempt = 1;; ++attempt) {
+        const QString path = QDir(folder).filePath(freeName(request, folder));
+        const std::optional<QString> failure = placeResult(path, Existing::Keep);
+        if (!failure) {
+            sayWhereItIs(request.note);
+            return true;
+        }
+        // Another program may have taken the name meanwhile: there are others.
+        if (attempt == nameAttempts || !QFileInfo::exists(path)) {
+            reportFailedPlace(path, *failure);
+            return false;
+        }
+    }
+}
+
+QString Exporter::firstKeptFile() const {
+    const auto kept = editor_.keptRange();
+    return kept ? working_folders::frameFile(surroundings_.shell.s_Output_Folder(), kept->first)
+                : QString();
+}
+
+const FinishedFile *Exporter::lastFile() const {
+    return exporting.finished && QFileInfo::exists(exporting.finished->path) ? &*exporting.finished
+                                                                             : nullptr;
+}
+
+QString Exporter::lastFileInItsPlace() {
+    if (!lastFile())
+        return {};
+    if (hasUnsavedResult() && exporting.unsaved->file == exporting.finished->path) {
+        if (surroundings_.alerts.isAsking() || !mayExport())
+            return {};
+        const ExportMark mark(exporting);
+        if (!saveUnderPresetName())
+            return {};
+    }
+    return exporting.finished->path;
 }

@@ -12,8 +12,8 @@ namespace {
 
 /// What users call the file.
 QString kindOf(const SaveRequest &request) {
-    return QFileInfo(request.file).suffix() == QLatin1String("webp") ? QStringLiteral("WebP")
-                                                                     : QStringLiteral("GIF");
+    const QString suffix = QFileInfo(request.file).suffix();
+    return suffix == QLatin1String("webp") ? QStringLiteral("WebP") : suffix.toUpper();
 }
 
 } // namespace
@@ -46,6 +46,7 @@ void Exporter::saveUnsavedResult() {
 void Exporter::forgetResult() {
     exporting.unsaved.reset();
     Q_EMIT unsavedResultChanged();
+    Q_EMIT fileMoved();
 }
 
 bool Exporter::mustAskFirst(std::function<void()> goOn) {

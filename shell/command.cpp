@@ -16,7 +16,9 @@ void setUpButton(const Command &command, QObject *context, Qt::ConnectionType ty
         button.setIcon(paletteIcon(drawing.arg(QLatin1String(command.icon)), command.accent));
         button.setAccessibleName(command.text);
     } else {
-        button.setText(command.text);
+        button.setText(command.face.isEmpty() ? command.text : command.face);
+        if (!command.face.isEmpty())
+            button.setAccessibleName(command.text);
     }
     button.setCheckable(command.checked != nullptr);
     button.setToolTip(command.tip.isEmpty() ? command.text : command.tip);

@@ -9,6 +9,5 @@ void ElidedLabel::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     const QRect area = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
     style()->drawItemText(&painter, area, static_cast<int>(alignment()), palette(), isEnabled(),
-                          fontMetrics().elidedText(text(), Qt::ElideRight, area.width()),
-                          foregroundRole());
+                          fontMetrics().elidedText(text(), mode_, area.width()), foregroundRole());
 }

@@ -12,6 +12,12 @@ class ElidedLabel : public QLabel {
 public:
     using QLabel::QLabel;
 
+    /// Where it is cut; at the end unless something else is said.
+    void setElideMode(Qt::TextElideMode mode) { mode_ = mode; }
+
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    Qt::TextElideMode mode_ = Qt::ElideRight;
 };

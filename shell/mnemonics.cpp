@@ -196,9 +196,13 @@ QString mark(const QMenuBar &bar, QTabBar &tabs, const QStackedWidget &pages,
     return always.apply({});
 }
 
-void mark(const QWidget &page, const QString &taken) {
+void mark(const QWidget &page, const QString &taken,
+          std::initializer_list<const QWidget *> without) {
     Group controls;
     for (QWidget *each : page.findChildren<QWidget *>()) {
+        if (std::ranges::any_of(without,
+                                [each](const QWidget *part) { return part->isAncestorOf(each); }))
+            continue;
         if (auto *button = qobject_cast<QAbstractButton *>(each);
             button && !button->text().isEmpty())
             addButton(controls, *button);

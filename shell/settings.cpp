@@ -15,6 +15,7 @@ const QString howToKey = QStringLiteral("MACBrenmoor_Lumsey_b_Show_Select_Region
 const QString lastSaveFolderKey = QStringLiteral("LastSaveFolder");
 const QString qualityKey = QStringLiteral("GIFQuality");
 const QString showPointerKey = QStringLiteral("ShowPointer");
+const QString withoutAskingKey = QStringLiteral("SaveWithoutAsking");
 
 void sync(QSettings &store) {
     store.sync();
@@ -64,6 +65,10 @@ void writeGIFQuality(const QString &word) { write(qualityKey, word); }
 bool readShowPointer() { return readSwitch(showPointerKey, true); }
 
 void writeShowPointer(bool shown) { writeSwitch(showPointerKey, shown); }
+
+bool readSaveWithoutAsking() { return readSwitch(withoutAskingKey, false); }
+
+void writeSaveWithoutAsking(bool without) { writeSwitch(withoutAskingKey, without); }
 
 void flush() {
     QSettings store;

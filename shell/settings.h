@@ -32,6 +32,10 @@ void writeGIFQuality(const QString &word);
 bool readShowPointer();
 void writeShowPointer(bool shown);
 
+/// Whether a finished file is saved under its preset name without a question.
+bool readSaveWithoutAsking();
+void writeSaveWithoutAsking(bool without);
+
 /// Writes what is not on disk yet.
 void flush();
 

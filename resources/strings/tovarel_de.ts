@@ -676,6 +676,58 @@ Sie liegt weiterhin unter %3.</translation>
         <source>Save…</source>
         <translation>Speichern&#xa0;…</translation>
     </message>
+    <message id="IDD_SAVE_WITHOUT_ASKING">
+        <source>Save Without Asking</source>
+        <translation>Ohne Rückfrage speichern</translation>
+    </message>
+    <message id="IDD_SAVING_OPTIONS">
+        <source>Saving Options</source>
+        <translation>Optionen zum Speichern</translation>
+    </message>
+    <message id="IDD_LAST_FILE">
+        <source>Last File</source>
+        <translation>Letzte Datei</translation>
+    </message>
+    <message id="IDD_FILE_PICTURE">
+        <source>First picture of the file</source>
+        <translation>Erstes Bild der Datei</translation>
+    </message>
+    <message id="IDD_FILE_FIGURES">
+        <source>%1 · %2 × %3 · %4&#xa0;s</source>
+        <translation>%1 · %2 × %3 · %4&#xa0;s</translation>
+    </message>
+    <message id="IDD_FILE_DRAG">
+        <source>Drag it into another program</source>
+        <translation>In ein anderes Programm ziehen</translation>
+    </message>
+    <message id="IDD_FILE_COPY">
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message id="IDD_FILE_OPEN">
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message id="IDD_FILE_SHOW">
+        <source>Show in Folder</source>
+        <translation>Im Ordner anzeigen</translation>
+    </message>
+    <message id="IDD_FILE_COPIED">
+        <source>Copied: %1. Paste it into another program.</source>
+        <translation>Kopiert: %1. Fügen Sie die Datei in ein anderes Programm ein.</translation>
+    </message>
+    <message id="IDD_FILE_GONE">
+        <source>The file is no longer there.</source>
+        <translation>Die Datei ist nicht mehr vorhanden.</translation>
+    </message>
+    <message id="IDD_FILE_NOT_OPENED">
+        <source>No program was found that opens %1.</source>
+        <translation>Es wurde kein Programm gefunden, das %1 öffnet.</translation>
+    </message>
+    <message id="IDD_FILE_READY">
+        <source>The file is ready</source>
+        <translation>Die Datei ist fertig</translation>
+    </message>
     <message id="IDD_UNSAVED_QUESTION">
         <source>The %1 has not been saved.</source>
         <translation>Das %1 ist noch nicht gespeichert.</translation>

@@ -676,6 +676,58 @@ It is still at %3.</translation>
         <source>Save…</source>
         <translation>Save…</translation>
     </message>
+    <message id="IDD_SAVE_WITHOUT_ASKING">
+        <source>Save Without Asking</source>
+        <translation>Save Without Asking</translation>
+    </message>
+    <message id="IDD_SAVING_OPTIONS">
+        <source>Saving Options</source>
+        <translation>Saving Options</translation>
+    </message>
+    <message id="IDD_LAST_FILE">
+        <source>Last File</source>
+        <translation>Last File</translation>
+    </message>
+    <message id="IDD_FILE_PICTURE">
+        <source>First picture of the file</source>
+        <translation>First picture of the file</translation>
+    </message>
+    <message id="IDD_FILE_FIGURES">
+        <source>%1 · %2 × %3 · %4&#xa0;s</source>
+        <translation>%1 · %2 × %3 · %4&#xa0;s</translation>
+    </message>
+    <message id="IDD_FILE_DRAG">
+        <source>Drag it into another program</source>
+        <translation>Drag it into another program</translation>
+    </message>
+    <message id="IDD_FILE_COPY">
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message id="IDD_FILE_OPEN">
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message id="IDD_FILE_SHOW">
+        <source>Show in Folder</source>
+        <translation>Show in Folder</translation>
+    </message>
+    <message id="IDD_FILE_COPIED">
+        <source>Copied: %1. Paste it into another program.</source>
+        <translation>Copied: %1. Paste it into another program.</translation>
+    </message>
+    <message id="IDD_FILE_GONE">
+        <source>The file is no longer there.</source>
+        <translation>The file is no longer there.</translation>
+    </message>
+    <message id="IDD_FILE_NOT_OPENED">
+        <source>No program was found that opens %1.</source>
+        <translation>No program was found that opens %1.</translation>
+    </message>
+    <message id="IDD_FILE_READY">
+        <source>The file is ready</source>
+        <translation>The file is ready</translation>
+    </message>
     <message id="IDD_UNSAVED_QUESTION">
         <source>The %1 has not been saved.</source>
         <translation>The %1 has not been saved.</translation>

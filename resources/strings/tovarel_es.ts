@@ -676,6 +676,58 @@ Sigue en %3.</translation>
         <source>Save…</source>
         <translation>Guardar…</translation>
     </message>
+    <message id="IDD_SAVE_WITHOUT_ASKING">
+        <source>Save Without Asking</source>
+        <translation>Guardar sin preguntar</translation>
+    </message>
+    <message id="IDD_SAVING_OPTIONS">
+        <source>Saving Options</source>
+        <translation>Opciones de guardado</translation>
+    </message>
+    <message id="IDD_LAST_FILE">
+        <source>Last File</source>
+        <translation>Último archivo</translation>
+    </message>
+    <message id="IDD_FILE_PICTURE">
+        <source>First picture of the file</source>
+        <translation>Primera imagen del archivo</translation>
+    </message>
+    <message id="IDD_FILE_FIGURES">
+        <source>%1 · %2 × %3 · %4&#xa0;s</source>
+        <translation>%1 · %2 × %3 · %4&#xa0;s</translation>
+    </message>
+    <message id="IDD_FILE_DRAG">
+        <source>Drag it into another program</source>
+        <translation>Arrástrelo a otro programa</translation>
+    </message>
+    <message id="IDD_FILE_COPY">
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message id="IDD_FILE_OPEN">
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message id="IDD_FILE_SHOW">
+        <source>Show in Folder</source>
+        <translation>Mostrar en la carpeta</translation>
+    </message>
+    <message id="IDD_FILE_COPIED">
+        <source>Copied: %1. Paste it into another program.</source>
+        <translation>Copiado: %1. Péguelo en otro programa.</translation>
+    </message>
+    <message id="IDD_FILE_GONE">
+        <source>The file is no longer there.</source>
+        <translation>El archivo ya no existe.</translation>
+    </message>
+    <message id="IDD_FILE_NOT_OPENED">
+        <source>No program was found that opens %1.</source>
+        <translation>No se encontró ningún programa que abra %1.</translation>
+    </message>
+    <message id="IDD_FILE_READY">
+        <source>The file is ready</source>
+        <translation>El archivo está listo</translation>
+    </message>
     <message id="IDD_UNSAVED_QUESTION">
         <source>The %1 has not been saved.</source>
         <translation>El %1 no se ha guardado.</translation>

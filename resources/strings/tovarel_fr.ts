@@ -676,6 +676,58 @@ Il reste à l’emplacement %3.</translation>
         <source>Save…</source>
         <translation>Sauvegarder…</translation>
     </message>
+    <message id="IDD_SAVE_WITHOUT_ASKING">
+        <source>Save Without Asking</source>
+        <translation>Sauvegarder sans demander</translation>
+    </message>
+    <message id="IDD_SAVING_OPTIONS">
+        <source>Saving Options</source>
+        <translation>Options de sauvegarde</translation>
+    </message>
+    <message id="IDD_LAST_FILE">
+        <source>Last File</source>
+        <translation>Dernier fichier</translation>
+    </message>
+    <message id="IDD_FILE_PICTURE">
+        <source>First picture of the file</source>
+        <translation>Première image du fichier</translation>
+    </message>
+    <message id="IDD_FILE_FIGURES">
+        <source>%1 · %2 × %3 · %4&#xa0;s</source>
+        <translation>%1 · %2 × %3 · %4&#xa0;s</translation>
+    </message>
+    <message id="IDD_FILE_DRAG">
+        <source>Drag it into another program</source>
+        <translation>Glisser vers un autre programme</translation>
+    </message>
+    <message id="IDD_FILE_COPY">
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message id="IDD_FILE_OPEN">
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message id="IDD_FILE_SHOW">
+        <source>Show in Folder</source>
+        <translation>Afficher dans le dossier</translation>
+    </message>
+    <message id="IDD_FILE_COPIED">
+        <source>Copied: %1. Paste it into another program.</source>
+        <translation>Copié&#xa0;: %1. Collez-le dans un autre programme.</translation>
+    </message>
+    <message id="IDD_FILE_GONE">
+        <source>The file is no longer there.</source>
+        <translation>Le fichier n’existe plus.</translation>
+    </message>
+    <message id="IDD_FILE_NOT_OPENED">
+        <source>No program was found that opens %1.</source>
+        <translation>Aucun programme trouvé pour ouvrir %1.</translation>
+    </message>
+    <message id="IDD_FILE_READY">
+        <source>The file is ready</source>
+        <translation>Le fichier est prêt</translation>
+    </message>
     <message id="IDD_UNSAVED_QUESTION">
         <source>The %1 has not been saved.</source>
         <translation>Le fichier %1 n’est pas sauvegardé.</translation>

@@ -673,6 +673,58 @@ It is still at %3.</source>
         <source>Save…</source>
         <translation>保存…</translation>
     </message>
+    <message id="IDD_SAVE_WITHOUT_ASKING">
+        <source>Save Without Asking</source>
+        <translation>確認せずに保存</translation>
+    </message>
+    <message id="IDD_SAVING_OPTIONS">
+        <source>Saving Options</source>
+        <translation>保存の設定</translation>
+    </message>
+    <message id="IDD_LAST_FILE">
+        <source>Last File</source>
+        <translation>最後のファイル</translation>
+    </message>
+    <message id="IDD_FILE_PICTURE">
+        <source>First picture of the file</source>
+        <translation>ファイルの最初の画像</translation>
+    </message>
+    <message id="IDD_FILE_FIGURES">
+        <source>%1 · %2 × %3 · %4&#xa0;s</source>
+        <translation>%1 · %2 × %3 · %4 秒</translation>
+    </message>
+    <message id="IDD_FILE_DRAG">
+        <source>Drag it into another program</source>
+        <translation>他のプログラムへドラッグできます</translation>
+    </message>
+    <message id="IDD_FILE_COPY">
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message id="IDD_FILE_OPEN">
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message id="IDD_FILE_SHOW">
+        <source>Show in Folder</source>
+        <translation>フォルダーで表示</translation>
+    </message>
+    <message id="IDD_FILE_COPIED">
+        <source>Copied: %1. Paste it into another program.</source>
+        <translation>コピーしました: %1。他のプログラムに貼り付けられます。</translation>
+    </message>
+    <message id="IDD_FILE_GONE">
+        <source>The file is no longer there.</source>
+        <translation>ファイルはもうありません。</translation>
+    </message>
+    <message id="IDD_FILE_NOT_OPENED">
+        <source>No program was found that opens %1.</source>
+        <translation>%1 を開くプログラムが見つかりません。</translation>
+    </message>
+    <message id="IDD_FILE_READY">
+        <source>The file is ready</source>
+        <translation>ファイルができました</translation>
+    </message>
     <message id="IDD_UNSAVED_QUESTION">
         <source>The %1 has not been saved.</source>
         <translation>%1 は保存されていません。</translation>

@@ -268,7 +268,7 @@ TEST_F(GifExport, KeepsTheResultWhenItCannotBePlaced) {
     EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
     EXPECT_TRUE(answers.alerts[0].text.contains(gif));
     EXPECT_EQ(QImageReader(gif).imageCount(), 3);
-    EXPECT_TRUE(ui.btnSaveResult->isVisible());
+    EXPECT_TRUE(ui.btnFileSave->isVisible());
 }
 
 TEST_F(GifExport, CannotBeStartedAgainWhileItRuns) {

@@ -128,7 +128,7 @@ TEST_F(GifQuality, LaysOutNothingButTheFileWhichIsTheUsersAlone) {
     EXPECT_EQ(QFile::permissions(output()) & ~(QFile::ReadUser | QFile::WriteUser),
               QFile::ReadOwner | QFile::WriteOwner);
     EXPECT_TRUE(QDir(controller.shell.s_Pallete_Folder()).isEmpty());
-    EXPECT_TRUE(ui.btnSaveResult->isVisible());
+    EXPECT_TRUE(ui.btnFileSave->isVisible());
 }
 
 TEST_F(GifQuality, ScalesToTheSizeThatIsTyped) {

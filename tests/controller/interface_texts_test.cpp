@@ -37,7 +37,7 @@ public:
 /// language.
 QString foreign(QString text) {
     static const QRegularExpression fixed(QStringLiteral(
-        "«[A-Z0-9_]+»|Tovarel|Error|Success|Close|No Video|GIF|WebP|×|MIT|ffmpeg|img2webp"
+        "«[A-Z0-9_]+»|Tovarel|Error|Success|Close|No Video|GIF|WebP|MP4|×|MIT|ffmpeg|img2webp"
         "|(/[\\w.-]+)+"));
     static const QRegularExpression letters(QStringLiteral("\\p{L}+"));
     const QRegularExpressionMatch rest = letters.match(text.remove(QLatin1Char('&')).remove(fixed));
@@ -311,6 +311,20 @@ TEST_P(InterfaceTextsFit, theirPlacesInEveryLanguage) {
             places.check(window);
             EXPECT_EQ(window.size(), smallest) << language.toStdString();
         }
+        // The card of the last tab once it is a file.
+        ui.cardStack->setCurrentWidget(ui.cardFile);
+        ui.labelFileFigures->setText(qtTrId("IDD_FILE_FIGURES")
+                                         .arg(number_text::bytes(123'400'000),
+                                              QStringLiteral("1920"), QStringLiteral("1080"),
+                                              number_text::decimal(123.4)));
+        ui.fileButtons->show();
+        for (QWidget *other : {ui.btnFileCopy, ui.btnFileSave}) {
+            ui.btnFileCopy->setVisible(other == ui.btnFileCopy);
+            ui.btnFileSave->setVisible(other == ui.btnFileSave);
+            TestController::settle();
+            places.check(window);
+        }
+        EXPECT_EQ(window.size(), smallest) << language.toStdString();
         checkSheet(*controller.delegate, places);
         EXPECT_GT(places.seen, 50);
         for (QDialog *dialog :

@@ -41,12 +41,15 @@ protected:
 TEST_F(UnsavedResult, StaysAfterACancelledPanelAndCanBeSavedLater) {
     exportAndCancel();
     EXPECT_EQ(ui.labelStatus->text(), qtTrId("IDD_STATUS_UNSAVED").arg(QStringLiteral("GIF")));
-    EXPECT_TRUE(ui.btnSaveResult->isVisible());
-    ui.btnSaveResult->click();
+    EXPECT_TRUE(ui.btnFileSave->isVisible());
+    EXPECT_FALSE(ui.btnSaveResult->isVisible()) << "it is on the card";
+    ui.btnFileSave->click();
     ASSERT_TRUE(QTest::qWaitFor([this] { return answers.panels.size() == 2; }));
     ASSERT_TRUE(finish());
     EXPECT_EQ(contentOf(gif), before) << "cancelled once more";
     EXPECT_EQ(answers.panels[0], answers.panels[1]) << "named after the time it was made";
+    controller.OnMenuTabRecord();
+    EXPECT_TRUE(ui.btnSaveResult->isVisible());
 
     answers.savePath = place("late.gif");
     ui.btnSaveResult->click();

@@ -101,7 +101,7 @@ class Accessibility(case.Case):
         shares = self.buttons("75%", "50%")
         rest = (("combo box", "Quality"), ("combo box", "Fit under"), ("combo box", "Speed"),
                 ("text", "WebP loops"),
-                *self.buttons("Generate GIF", "Generate WebP", "Generate MP4"))
+                *self.buttons("Generate GIF", "Saving Options", "Generate WebP", "Generate MP4"))
         self.check_order((BAR, "GIF"), sizes, *shares, rates, *rest)
         # One Tab for the whole of a choice, the arrows within it; what it enables comes next.
         for choice in (sizes, rates):

@@ -85,6 +85,22 @@ TEST_P(SafeMove, PlacesTheWholeFileAsANewOneOrOverAnOldOne) {
     EXPECT_EQ(status.st_mode & 07777, 0640u);
 }
 
+TEST_P(SafeMove, ReplacesNothingThatIsToBeKept) {
+    const QString nowhere = to.filePath(QStringLiteral("nowhere"));
+    ASSERT_TRUE(QFile::link(to.filePath(QStringLiteral("missing")), nowhere));
+    put(target, "old");
+    for (const QString &taken : {target, nowhere})
+        EXPECT_TRUE(safeMove(source, taken, Existing::Keep).has_value());
+    EXPECT_EQ(contentOf(target), "old");
+    EXPECT_TRUE(QFileInfo(nowhere).isSymLink());
+    EXPECT_EQ(contentOf(source), gif);
+    EXPECT_EQ(namesIn(to).size(), 2) << "nothing of ours is left over";
+    QFile::remove(target);
+    EXPECT_EQ(safeMove(source, target, Existing::Keep), std::nullopt);
+    EXPECT_EQ(contentOf(target), gif);
+    EXPECT_FALSE(QFile::exists(source));
+}
+
 TEST_P(SafeMove, ReplacesALinkAndNotWhatItPointsTo) {
     const QString other = to.filePath(QStringLiteral("other.gif"));
     put(other, "precious");

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+#include <QMimeData>
+#include <QString>
+
+/// A file as other programs take it from the clipboard or from a drag: its address (RFC 2483,
+/// `text/uri-list`), the same as file managers copy files (`x-special/gnome-copied-files`: the word
+/// "copy" and an address, a line each), and for programs that take pictures the file's content
+/// under its own type and its first picture.
+class FileMimeData : public QMimeData {
+    Q_OBJECT
+
+public:
+    /// `path` is absolute; the file is read when somebody asks for its content.
+    FileMimeData(const QString &path, const QImage &picture);
+
+    QStringList formats() const override;
+
+protected:
+    QVariant retrieveData(const QString &format, QMetaType type) const override;
+
+private:
+    QString path_;
+    QString ownFormat_; ///< Of a picture; empty for a video, which nobody pastes.
+};
