@@ -8,6 +8,7 @@
 #include "app/help.h"
 #include "app/start_up.h"
 #include "app/tabs.h"
+#include "app/window_place.h"
 #include "export/file_card.h"
 #include "export/progress_parser.h"
 #include "export/tool_run.h"
@@ -99,6 +100,10 @@ void AppDelegate::endForTheUser() {
 
 void AppDelegate::Terminate_App() {
     disconnect(shell.localeChangeObserver());
+    if (shell.window() && shell.window()->isVisible())
+        window_place::remember(*shell.window());
+    if (exportOptions)
+        exportOptions->remember();
     settings::flush();
     // No destructors: save threads may be at work beside them, and nested event loops stand on the
     // stack. The kernel ends a running tool, as it was asked to when the tool was started.
@@ -128,6 +133,8 @@ void AppDelegate::OnMenuAbout() { showAbout(surroundings); }
 void AppDelegate::listenToDesktopKeys() {
     if (!recorder.windowServer().obstacle())
         desktopKeys_ = std::make_unique<DesktopKeys>(*ui, surroundings, regionChooser);
+    if (regionChooser.wasRegionMoved())
+        surroundings.showStatus(qtTrId("IDD_REGION_MOVED"));
 }
 
 // Forwards that need more than a name -------------------------------------------------------------

@@ -28,6 +28,8 @@ std::vector<Command> recordCommands(AppDelegate &controller) {
     const Recorder &recorder = controller.recorder;
     const auto status = [&recorder] { return recorder.recording.m_RecordStatus(); };
     const auto stopped = [status] { return status() == RECORD_STATUS_STOP; };
+    // What is recorded is chosen before that, and before the countdown.
+    const auto choosing = [stopped, &recorder] { return stopped() && !recorder.isCountingDown(); };
     return {
         {.item = ui.menuitemActionRecordFullScreen,
          .button = ui.btnRecordFullScreen,
@@ -35,14 +37,22 @@ std::vector<Command> recordCommands(AppDelegate &controller) {
          .icon = "full-screen",
          .shortcut = "Ctrl+Shift+F",
          .action = [&controller] { controller.OnMenuActionRecordFullScreen(); },
-         .enabled = stopped},
+         .enabled = choosing},
+        {.item = ui.submenuitemMonitors->menuAction(),
+         .button = ui.btnFullScreenMenu,
+         .text = {},
+         .enabled = choosing},
+        {.item = ui.submenuitemCountdown->menuAction(),
+         .button = ui.btnRecordMenu,
+         .text = {},
+         .enabled = choosing},
         {.item = ui.menuitemActionRecordRegion,
          .button = ui.btnRecordRegion,
          .text = texts.s_IDD_REGION(),
          .icon = "region",
          .shortcut = "Ctrl+Shift+R",
          .action = [&controller] { controller.OnMenuActionRecordRegion(); },
-         .enabled = stopped,
+         .enabled = choosing,
          .opensDialog = true},
         {.item = ui.menuitemActionRecordFPS,
          .button = ui.btnRecordFPS,
@@ -50,7 +60,7 @@ std::vector<Command> recordCommands(AppDelegate &controller) {
          .icon = "fps",
          .shortcut = "Ctrl+F",
          .action = [&controller] { controller.OnMenuActionRecordFPS(); },
-         .enabled = stopped,
+         .enabled = choosing,
          .opensDialog = true},
         {.button = ui.btnRecordPointer,
          .text = qtTrId("IDD_POINTER"),
@@ -71,7 +81,8 @@ std::vector<Command> recordCommands(AppDelegate &controller) {
          .action = [&controller] { controller.OnMenuActionRecordRecord(); },
          .enabled =
              [status, &recorder] {
-                 return status() != RECORD_STATUS_RECORD && recorder.mayRecord();
+                 return status() != RECORD_STATUS_RECORD && recorder.mayRecord() &&
+                        !recorder.isCountingDown();
              }},
         {.item = ui.menuitemActionRecordPause,
          .button = ui.btnRecordPause,
@@ -86,7 +97,7 @@ std::vector<Command> recordCommands(AppDelegate &controller) {
          .icon = "stop",
          .shortcut = "Ctrl+.",
          .action = [&controller] { controller.OnMenuActionRecordStop(); },
-         .enabled = [stopped] { return !stopped(); }},
+         .enabled = [choosing] { return !choosing(); }},
         {.button = ui.btnSaveAgain,
          .text = qtTrId("IDD_SAVE_AGAIN"),
          .action =

@@ -13,6 +13,8 @@ void nameMenus(const Ui::MainWindow &ui, const InterfaceStrings &texts, const QS
     // The text of IDD_HELP follows a name and need not be usable alone in every language.
     ui.menuHelp->setTitle(qtTrId("IDD_MENU_HELP"));
     ui.menuAction->setTitle(qtTrId("IDD_MENU_ACTION"));
+    ui.submenuitemCountdown->setTitle(qtTrId("IDD_COUNTDOWN"));
+    ui.submenuitemMonitors->setTitle(qtTrId("IDD_MONITORS"));
     ui.submenuitemRecord->setTitle(texts.s_IDD_RECORD());
     ui.submenuitemCut->setTitle(texts.s_IDD_CUT());
     ui.submenuitemGIF->setTitle(texts.s_IDD_SAVE());
@@ -52,8 +54,12 @@ void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
     }
     ui.viewFilePicture->setAccessibleName(qtTrId("IDD_FILE_PICTURE"));
     ui.labelFileDrag->setText(qtTrId("IDD_FILE_DRAG"));
-    ui.btnGenerateMenu->setAccessibleName(qtTrId("IDD_SAVING_OPTIONS"));
-    ui.btnGenerateMenu->setToolTip(qtTrId("IDD_SAVING_OPTIONS"));
+    for (const auto &[arrow, name] : {std::pair(ui.btnGenerateMenu, qtTrId("IDD_SAVING_OPTIONS")),
+                                      {ui.btnRecordMenu, qtTrId("IDD_COUNTDOWN")},
+                                      {ui.btnFullScreenMenu, qtTrId("IDD_MONITORS")}}) {
+        arrow->setAccessibleName(name);
+        arrow->setToolTip(name);
+    }
     ui.comboGIFSpeed->setAccessibleName(qtTrId("IDD_SPEED"));
     ui.labelWebPLoops->setText(qtTrId("IDD_WEBP_LOOPS"));
     ui.labelWebPLoopsHint->setText(qtTrId("IDD_WEBP_LOOPS_HINT"));

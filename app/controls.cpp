@@ -6,16 +6,32 @@
 #include "app/control_texts.h"
 #include "app/tabs.h"
 #include "app/task_bar_state.h"
+#include "region/region_chooser.h"
 #include "shell/mnemonics.h"
 #include "shell/obstacle_text.h"
 #include "shell/settings.h"
 #include "shell/tab_view.h"
 #include "ui_MainWindow.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QMainWindow>
 #include <QMenu>
+#include <QScreen>
+#include <QShortcut>
 #include <QTextDocument>
+
+namespace {
+
+/// The arrow beside a button opens the choices for it.
+void showMenuBelow(QToolButton &arrow, QMenu &menu) {
+    QObject::connect(&arrow, &QToolButton::clicked, &menu, [&arrow, &menu] {
+        // It returns at once: assistive technology waits for the answer to its press.
+        menu.popup(arrow.mapToGlobal(arrow.rect().bottomLeft()));
+    });
+}
+
+} // namespace
 
 Controls::Controls(AppDelegate &controller) : controller_(controller), ui_(*controller.ui) {
     ui_.viewRecordPreview->setRecorder(controller.recorder);
@@ -29,6 +45,7 @@ Controls::Controls(AppDelegate &controller) : controller_(controller), ui_(*cont
 }
 
 void Controls::setUp() {
+    makeMenus();
     commands_ = commandTable(controller_);
     ::setUp(commands_, this);
     const InterfaceStrings &texts = controller_.texts;
@@ -41,6 +58,62 @@ void Controls::setUp() {
                                           {ui_.btnSaveResult, ui_.btnLastFile, ui_.btnSaveAgain});
     for (const QWidget *page : {ui_.pageRecord, ui_.pageCut, ui_.pageGIF})
         mnemonics::mark(*page, taken, {ui_.fileButtons, ui_.otherFormats});
+}
+
+void Controls::makeMenus() {
+    Recorder *recorder = &controller_.recorder;
+    auto *delays = new QActionGroup(ui_.submenuitemCountdown);
+    for (const int seconds : offeredDelays) {
+        QAction *item = ui_.submenuitemCountdown->addAction(
+            seconds == 0 ? qtTrId("IDD_AT_ONCE") : qtTrId("IDD_AFTER_SECONDS").arg(seconds));
+        // Scripts without Latin letters take their mnemonic from it.
+        item->setObjectName(QStringLiteral("menuitemAfter%1").arg(seconds));
+        item->setCheckable(true);
+        item->setData(seconds);
+        delays->addAction(item);
+        connect(item, &QAction::triggered, recorder,
+                [recorder, seconds] { recorder->setDelay(seconds); });
+    }
+    connect(ui_.submenuitemCountdown, &QMenu::aboutToShow, delays, [delays, recorder] {
+        for (QAction *item : delays->actions())
+            item->setChecked(item->data().toInt() == recorder->delay());
+    });
+    showMenuBelow(*ui_.btnRecordMenu, *ui_.submenuitemCountdown);
+    showMenuBelow(*ui_.btnFullScreenMenu, *ui_.submenuitemMonitors);
+    connect(ui_.submenuitemMonitors, &QMenu::aboutToShow, this, &Controls::fillMonitors);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &Controls::showMonitors);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &Controls::showMonitors);
+    showMonitors();
+    auto *escape = new QShortcut(Qt::Key_Escape, controller_.shell.window());
+    connect(escape, &QShortcut::activated, recorder, &Recorder::cancelCountdown);
+    const auto listen = [escape](int seconds) { escape->setEnabled(seconds > 0); };
+    connect(recorder, &Recorder::countdownChanged, escape, listen);
+    listen(0);
+}
+
+void Controls::showMonitors() {
+    const bool several = QGuiApplication::screens().size() > 1;
+    ui_.btnFullScreenMenu->setVisible(several);
+    ui_.submenuitemMonitors->menuAction()->setVisible(several);
+}
+
+void Controls::fillMonitors() {
+    QMenu &menu = *ui_.submenuitemMonitors;
+    menu.clear();
+    RegionChooser *chooser = &controller_.regionChooser;
+    const auto add = [&menu, chooser](const QString &text, const QString &name) {
+        QAction *item = menu.addAction(text);
+        item->setCheckable(true);
+        item->setChecked(!chooser->isRegionRecorded() && chooser->monitor() == name);
+        connect(item, &QAction::triggered, chooser,
+                [chooser, name] { chooser->recordMonitor(name); });
+    };
+    add(qtTrId("IDD_ALL_MONITORS"), {});
+    for (const QScreen *screen : QGuiApplication::screens()) {
+        const QSize pixels = (QSizeF(screen->size()) * screen->devicePixelRatio()).toSize();
+        add(qtTrId("IDD_MODE_MONITOR").arg(screen->name()).arg(pixels.width()).arg(pixels.height()),
+            screen->name());
+    }
 }
 
 void Controls::refresh() { ::refresh(commands_); }
@@ -65,6 +138,10 @@ void Controls::listenToRecorder() {
     connect(&recorder, &Recorder::stateChanged, this, &Controls::showState);
     connect(&recorder, &Recorder::captureModeChanged, this, &Controls::showCaptureMode);
     connect(&recorder, &Recorder::recordingReady, this, &Controls::showRecording);
+    connect(&recorder, &Recorder::countdownChanged, this, [this, &recorder](int seconds) {
+        ui_.viewRecordPreview->showNumber(seconds);
+        showStateInTaskBar(controller_.shell, recorder.recording.m_RecordStatus(), seconds);
+    });
 }
 
 void Controls::listenToOthers() {
@@ -85,10 +162,7 @@ void Controls::listenToCard() {
     ui_.menuitemSaveWithoutAsking->setChecked(settings::readSaveWithoutAsking());
     auto *menu = new QMenu(ui_.btnGenerateMenu);
     menu->addAction(ui_.menuitemSaveWithoutAsking);
-    connect(ui_.btnGenerateMenu, &QToolButton::clicked, menu, [this, menu] {
-        // It returns at once: assistive technology waits for the answer to its press.
-        menu->popup(ui_.btnGenerateMenu->mapToGlobal(ui_.btnGenerateMenu->rect().bottomLeft()));
-    });
+    showMenuBelow(*ui_.btnGenerateMenu, *menu);
 }
 
 void Controls::showWaysToLastFile() {
@@ -102,19 +176,23 @@ void Controls::showWaysToLastFile() {
 void Controls::showState() {
     const RecordStatus status = controller_.recording.m_RecordStatus();
     ui_.recordingIndicator->setState(status);
-    showStateInTaskBar(controller_.shell, status);
+    showStateInTaskBar(controller_.shell, status, controller_.recorder.secondsToGo());
     ui_.btnSaveAgain->setVisible(controller_.recorder.hasMissingFrames());
     refresh();
 }
 
 void Controls::showCaptureMode(const CaptureMode &mode) {
     const QRect &area = mode.area;
-    ui_.labelCaptureMode->setText(mode.region ? qtTrId("IDD_MODE_REGION")
-                                                    .arg(area.width())
-                                                    .arg(area.height())
-                                                    .arg(area.x())
-                                                    .arg(area.y())
-                                              : qtTrId("IDD_MODE_FULL_SCREEN"));
+    if (!mode.monitor.isEmpty())
+        ui_.labelCaptureMode->setText(
+            qtTrId("IDD_MODE_MONITOR").arg(mode.monitor).arg(area.width()).arg(area.height()));
+    else
+        ui_.labelCaptureMode->setText(mode.region ? qtTrId("IDD_MODE_REGION")
+                                                        .arg(area.width())
+                                                        .arg(area.height())
+                                                        .arg(area.x())
+                                                        .arg(area.y())
+                                                  : qtTrId("IDD_MODE_FULL_SCREEN"));
     ui_.labelCaptureRate->setText(qtTrId("IDD_CAPTURE_RATE").arg(mode.rate));
 }
 

@@ -43,6 +43,10 @@ public:
     void refresh();
 
 private:
+    void makeMenus();
+    /// Offers single monitors where there is more than one.
+    void showMonitors();
+    void fillMonitors();
     void listenToShell();
     void listenToRecorder();
     void listenToOthers();

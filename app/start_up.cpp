@@ -6,6 +6,7 @@
 #include "app/app_delegate.h"
 #include "app/controls.h"
 #include "app/tabs.h"
+#include "app/window_place.h"
 #include "platform/bundle.h"
 #include "record/left_recording.h"
 #include "record/rate_list.h"
@@ -86,8 +87,10 @@ bool run(AppDelegate &controller, Controls &controls, const QString &documentsFo
     working_folders::removeContent(shell.s_Pallete_Folder());
     controller.GetScreenSize();
     controller.regionChooser.start();
+    controller.regionChooser.recall();
     controller.trimEditor.keepWholeRecording();
     controller.recorder.start();
+    controller.recorder.recall();
     fillRates(*controller.ui->comboGIFFPS, controller.recording.u_FPS());
     shell.tabviewMain()->selectTabViewItemAtIndex(tabs::record);
     controller.ui->submenuitemRecord->setEnabled(true);
@@ -96,6 +99,7 @@ bool run(AppDelegate &controller, Controls &controls, const QString &documentsFo
     controls.refresh();
     controller.recorder.restartOneSecondTimer();
     controller.recorder.restartCaptureTimer();
+    window_place::recall(*shell.window());
     showMainWindow(*shell.window());
     auto *screens = new ScreenWatcher(&controller);
     shell.setLocaleChangeObserver(

@@ -7,7 +7,7 @@
 #include <QApplication>
 #include <QMainWindow>
 
-void showStateInTaskBar(const ShellFields &shell, RecordStatus status) {
+void showStateInTaskBar(const ShellFields &shell, RecordStatus status, int secondsToGo) {
     const struct {
         RecordStatus state;
         QString words;
@@ -27,6 +27,8 @@ void showStateInTaskBar(const ShellFields &shell, RecordStatus status) {
             title = QStringLiteral("%1 – %2").arg(each.words, title);
             icon = each.icon;
         }
+    if (secondsToGo > 0)
+        title = QStringLiteral("%1 – %2").arg(secondsToGo).arg(title);
     // Also asked for every second; the window manager hears of changes only.
     if (shell.window()->windowTitle() == title)
         return;

@@ -7,4 +7,4 @@
 class ShellFields;
 
 /// Lets the main window's title and icon tell of a recording, for whoever sees only a task bar.
-void showStateInTaskBar(const ShellFields &shell, RecordStatus status);
+void showStateInTaskBar(const ShellFields &shell, RecordStatus status, int secondsToGo);

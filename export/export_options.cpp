@@ -4,9 +4,11 @@
 
 #include "export/aspect_ratio.h"
 #include "export/exporter.h"
+#include "export/loops_text.h"
 #include "export/size_text.h"
 #include "platform/text_number.h"
 #include "record/recorder.h"
+#include "shell/settings.h"
 #include "shell/surroundings.h"
 
 #include <QAbstractButton>
@@ -14,9 +16,11 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QRadioButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -25,6 +29,18 @@ void write(QLineEdit &field, const QString &text) {
     field.setText(text);
     field.setModified(false);
 }
+
+// What is remembered, by its name in the settings. The size is empty for the recording's own, and
+// so is the rate.
+constexpr auto sizeChoice = "ExportSize";
+constexpr auto aspectChoice = "ExportKeepAspectRatio";
+constexpr auto rateChoice = "ExportRate";
+constexpr auto speedChoice = "ExportSpeed";
+constexpr auto limitChoice = "ExportLimit"; // in MB
+constexpr auto loopsChoice = "WebPLoops";
+constexpr double bytesPerMegabyte = 1e6;
+const QString yes = QStringLiteral("1");
+const QString no = QStringLiteral("0");
 
 } // namespace
 
@@ -50,13 +66,71 @@ void ExportOptions::resetGIFOptions() {
     ui_.txtWebPLoops->setEnabled(isUsable_);
     enableLimit();
     if (isUsable_) {
-        ui_.radioGIFOriginalDimension->setChecked(true);
+        if (!std::exchange(isRecalled_, true))
+            recall();
+        adaptCustomSize();
         OnGIFOriginalResolution();
-        ui_.radioGIFOriginalFPS->setChecked(true);
+        OnGIFCustomResolution();
         OnGIFOriginalFPS();
-        ui_.comboGIFSpeed->setCurrentIndex(ui_.comboGIFSpeed->findData(1.0));
+        OnGIFCustomFPS();
     }
     updateGIFSummary();
+}
+
+void ExportOptions::adaptCustomSize() {
+    const std::optional<QSize> size = exporter_.originalSize();
+    if (!size || std::exchange(sizedFor_, *size) == *size ||
+        !ui_.radioGIFCustomDimension->isChecked())
+        return;
+    OnGIFChangeWidth();
+    if (integerValue(ui_.textGIFWidth->text()) > size->width() ||
+        integerValue(ui_.textGIFHeigth->text()) > size->height())
+        ui_.radioGIFOriginalDimension->setChecked(true);
+}
+
+void ExportOptions::recall() {
+    ui_.checkGIFKeepAspectRatio->setChecked(settings::readChoice(aspectChoice) != no);
+    const QStringList sides = settings::readChoice(sizeChoice).split(QLatin1Char('x'));
+    const bool isSize = sides.size() == 2 && sizeTextProblem(sides[0]) == SizeTextProblem::None &&
+                        sizeTextProblem(sides[1]) == SizeTextProblem::None;
+    if (isSize) {
+        write(*ui_.textGIFWidth, sides[0]);
+        write(*ui_.textGIFHeigth, sides[1]);
+    }
+    (isSize ? ui_.radioGIFCustomDimension : ui_.radioGIFOriginalDimension)->setChecked(true);
+    const std::int64_t rate = integerValue(settings::readChoice(rateChoice));
+    const bool isRate = rate >= std::int64_t{lowestRate} && rate <= std::int64_t{highestRate};
+    if (isRate)
+        ui_.comboGIFFPS->setCurrentIndex(static_cast<int>(rate - std::int64_t{lowestRate}));
+    (isRate ? ui_.radioGIFCustomFPS : ui_.radioGIFOriginalFPS)->setChecked(true);
+    const int speed = ui_.comboGIFSpeed->findData(settings::readChoice(speedChoice).toDouble());
+    if (speed >= 0)
+        ui_.comboGIFSpeed->setCurrentIndex(speed);
+    const double limit = settings::readChoice(limitChoice).toDouble();
+    if (const int offered = ui_.comboFitUnder->findData(limit); limit > 0 && offered >= 0)
+        ui_.comboFitUnder->setCurrentIndex(offered);
+    else if (limit > 0)
+        ui_.comboFitUnder->setEditText(QLocale().toString(limit));
+    const QString loops = settings::readChoice(loopsChoice);
+    if (!loops.isEmpty() && loopsTextProblem(loops) == LoopsTextProblem::None)
+        ui_.txtWebPLoops->setText(loops);
+}
+
+void ExportOptions::remember() const {
+    if (!isRecalled_)
+        return; // nobody has seen them
+    const ExportChoices now = chosen();
+    settings::writeChoice(sizeChoice,
+                          now.customSize ? now.width + QLatin1Char('x') + now.height : QString());
+    settings::writeChoice(aspectChoice, ui_.checkGIFKeepAspectRatio->isChecked() ? yes : no);
+    settings::writeChoice(rateChoice, now.rate ? QString::number(*now.rate) : QString());
+    settings::writeChoice(speedChoice, QString::number(now.speed));
+    if (!now.limit.isWrong)
+        settings::writeChoice(
+            limitChoice, now.limit.bytes ? QString::number(static_cast<double>(*now.limit.bytes) /
+                                                           bytesPerMegabyte)
+                                         : QString());
+    settings::writeChoice(loopsChoice, now.loops);
 }
 
 void ExportOptions::OnGIFOriginalResolution() {
@@ -217,6 +291,7 @@ void ExportOptions::estimate() {
 
 ExportChoices ExportOptions::choices() {
     finishEditingGIFSize();
+    remember();
     return chosen();
 }
 

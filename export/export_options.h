@@ -6,6 +6,7 @@
 #include "export/size_estimator.h"
 
 #include <QObject>
+#include <QSize>
 #include <QString>
 
 #include <optional>
@@ -65,8 +66,12 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    /// Resets the options to the original size and rate, or disables them without a recording.
+    /// Fits the options to the recording, or disables them without one. What was chosen stays, from
+    /// one recording and one start to the next; a size of one's own, for a recording of another
+    /// size, only where it is not larger than that.
     void resetGIFOptions();
+    /// Keeps what is chosen for the next start.
+    void remember() const;
     // Each of these acts when its radio button is the one that is switched on: the recording's own
     // size or rate is written into the fields, or the fields are set free.
     void OnGIFOriginalResolution();
@@ -89,6 +94,9 @@ Q_SIGNALS:
 private:
     void listen();
     void fillQualities();
+    /// Takes what was chosen at the last start.
+    void recall();
+    void adaptCustomSize();
     ExportChoices chosen() const;
     /// What is chosen once the edits that are under way will have been acted upon.
     ExportChoices choicesAfterEdits() const;
@@ -120,4 +128,6 @@ private:
     SizeEstimator estimator_;
     bool isUsable_ = false;
     bool isShown_ = false;
+    bool isRecalled_ = false;
+    QSize sizedFor_; ///< The recording's size that the size was chosen for.
 };

@@ -3,14 +3,16 @@
 #pragma once
 
 #include <QRect>
+#include <QString>
 
 #include <cstdint>
 
 /// What is recorded and how often, as the labels beside the capture buttons say it.
 struct CaptureMode {
     bool region = false; ///< Not the whole screen.
-    /// Of a region, what a frame will hold: its size and its place, in units of the grab from its
-    /// upper left corner.
+    QString monitor;     ///< The one that is recorded alone; empty for all of them.
+    /// Of a region or a monitor, what a frame will hold: its size and its place, in units of the
+    /// grab from its upper left corner.
     QRect area;
     std::uint64_t rate = 0; ///< frames per second
 

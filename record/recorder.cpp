@@ -2,15 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "record/recorder.h"
 
+#include "platform/text_number.h"
 #include "platform/window_server.h"
 #include "record/log.h"
 #include "record/recording_loader.h"
 #include "record/save/frame_saver.h"
 #include "record/window_list.h"
 #include "region/region_chooser.h"
+#include "shell/settings.h"
 #include "shell/surroundings.h"
 #include "shell/working_folders.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 Q_LOGGING_CATEGORY(logRecord, "tovarel.record", QtWarningMsg)
@@ -19,13 +23,33 @@ namespace {
 
 constexpr double oneSecond = 1.0;
 
+constexpr auto rateChoice = "Rate";
+constexpr auto delayChoice = "Countdown";
+
+std::uint64_t rememberedRate() {
+    const std::int64_t rate = integerValue(settings::readChoice(rateChoice));
+    return rate >= std::int64_t{lowestRate} && rate <= std::int64_t{highestRate}
+               ? static_cast<std::uint64_t>(rate)
+               : defaultFramesPerSecond;
+}
+
+int rememberedDelay() {
+    const std::int64_t delay = integerValue(settings::readChoice(delayChoice));
+    return std::ranges::find(offeredDelays, delay) != std::end(offeredDelays)
+               ? static_cast<int>(delay)
+               : 0;
+}
+
 RecordingClock::TimePoint now() { return std::chrono::steady_clock::now(); }
 
 } // namespace
 
 Recorder::Recorder(Surroundings &surroundings, RegionChooser &chooser,
                    std::unique_ptr<WindowServer> windowServer)
-    : surroundings_(surroundings), chooser_(chooser), windowServer_(std::move(windowServer)) {}
+    : surroundings_(surroundings), chooser_(chooser), windowServer_(std::move(windowServer)) {
+    countdown_.setTimerType(Qt::PreciseTimer);
+    connect(&countdown_, &QTimer::timeout, this, &Recorder::secondPassed);
+}
 
 Recorder::~Recorder() = default;
 
@@ -45,17 +69,76 @@ void Recorder::start() {
     showRecordingState();
 }
 
+void Recorder::recall() {
+    recording.setU_FPS(rememberedRate());
+    delay_ = rememberedDelay();
+    updateCaptureMode();
+}
+
 bool Recorder::mayRecord() const {
     return !windowServer().obstacle() && !saveDue_ && !isSavingRecording();
 }
 
 void Recorder::OnRecordRecord() {
-    if (recording.m_RecordStatus() == RECORD_STATUS_RECORD || !mayRecord())
+    if (recording.m_RecordStatus() == RECORD_STATUS_RECORD || !mayRecord() || isCountingDown())
         return;
-    const bool goesOn = recording.m_RecordStatus() == RECORD_STATUS_PAUSE;
+    if (recording.m_RecordStatus() == RECORD_STATUS_PAUSE) {
+        begin(true);
+        return;
+    }
+    if (gate_ && gate_([this] { OnRecordRecord(); }))
+        return;
+    if (delay_ == 0)
+        begin(false);
+    else
+        countDown(delay_);
+}
+
+void Recorder::setRate(std::uint64_t rate) {
+    recording.setU_FPS(rate);
+    settings::writeChoice(rateChoice, QString::number(rate));
+}
+
+void Recorder::setDelay(int seconds) {
+    delay_ = seconds;
+    settings::writeChoice(delayChoice, QString::number(seconds));
+}
+
+void Recorder::countDown(int seconds) {
+    secondsToGo_ = seconds;
+    countdown_.start(std::chrono::seconds(1));
+    surroundings_.showStatus(qtTrId("IDD_COUNTDOWN_RUNS"));
+    Q_EMIT countdownChanged(seconds);
+    Q_EMIT stateChanged();
+}
+
+void Recorder::cancelCountdown() {
+    if (!isCountingDown())
+        return;
+    countdown_.stop();
+    countdownEnded(qtTrId("IDD_COUNTDOWN_CANCELLED"));
+}
+
+void Recorder::countdownEnded(const QString &status) {
+    secondsToGo_ = 0;
+    surroundings_.showStatus(status);
+    Q_EMIT countdownChanged(0);
+    Q_EMIT stateChanged();
+}
+
+void Recorder::secondPassed() {
+    if (--secondsToGo_ > 0) {
+        Q_EMIT countdownChanged(secondsToGo_);
+        return;
+    }
+    countdown_.stop();
+    countdownEnded({});
+    if (mayRecord())
+        begin(false);
+}
+
+void Recorder::begin(bool goesOn) {
     if (!goesOn) {
-        if (gate_ && gate_([this] { OnRecordRecord(); }))
-            return;
         working_folders::removeContent(surroundings_.shell.s_Output_Folder());
         hasMissingFrames_ = false;
         recording.setU_Record_Current_Frame(0);
@@ -87,6 +170,10 @@ void Recorder::OnRecordPause() {
 }
 
 void Recorder::OnRecordStop() {
+    if (isCountingDown()) {
+        cancelCountdown();
+        return;
+    }
     // The store that is being written stays as it is until the last frame has been reported.
     if (isSavingRecording())
         return;
@@ -149,6 +236,7 @@ void Recorder::restartOneSecondTimer() {
 }
 
 void Recorder::stopRecordTimers() {
+    cancelCountdown();
     recording.timerdebug1Second.reset();
     recording.timerVideoRefresh.reset();
     hands.rest();

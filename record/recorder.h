@@ -10,6 +10,7 @@
 #include "record/recording_fields.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <cstdint>
 #include <functional>
@@ -24,6 +25,9 @@ class RegionChooser;
 class Surroundings;
 class WindowServer;
 struct RecordingNote;
+
+/// The countdowns that are offered, in seconds.
+inline constexpr int offeredDelays[] = {0, 3, 5, 10};
 
 /// The desk of the recording: grabs the desktop at every tick, keeps the frames, saves them when
 /// the recording stops, and reads those back that an earlier start has left. It knows neither tabs
@@ -83,6 +87,8 @@ public:
 
     /// The values of the start: stopped, the default rate, no grab.
     void start();
+    /// Takes the rate and the countdown of the last start.
+    void recall();
 
     /// Whether a recording can begin or go on: not where nothing can be recorded, nor while the
     /// last one is being saved.
@@ -90,14 +96,27 @@ public:
     /// Whether the last recording can be saved once more, since frames of it are missing on disk.
     bool hasMissingFrames() const { return hasMissingFrames_; }
 
-    /// Starts a recording, for which store and folder are emptied, or goes on with a paused one.
-    /// Does nothing while one runs or is being saved, or where nothing can be recorded.
+    /// Starts a recording, for which store and folder are emptied, after the countdown if there is
+    /// to be one; or goes on with a paused one. Does nothing while one runs, is counted down to or
+    /// is being saved, or where nothing can be recorded.
     void OnRecordRecord();
     void OnRecordPause();
-    /// Measures the rate and starts the save. A recording without frames ends here.
+    /// Measures the rate and starts the save. A recording without frames ends here, and so does a
+    /// countdown.
     void OnRecordStop();
     /// Shows the mouse pointer in recordings from now on, or no longer.
     void OnRecordPointer();
+
+    /// How long a countdown lasts, in seconds; 0 for none. Remembered.
+    int delay() const { return delay_; }
+    void setDelay(int seconds);
+    bool isCountingDown() const { return secondsToGo_ > 0; }
+    int secondsToGo() const { return secondsToGo_; }
+    /// Ends the countdown without a recording; nothing happens without one.
+    void cancelCountdown();
+
+    /// The capture rate, in frames per second. Remembered.
+    void setRate(std::uint64_t rate);
     /// Lets the user choose the capture rate; returns when the dialog is closed.
     void OnRecordFPS();
     /// Saves the last recording once more from memory: for when frames were missing and there is
@@ -145,6 +164,8 @@ Q_SIGNALS:
     /// Controls, indicators and the task bar may have something else to show now.
     void stateChanged();
     void captureModeChanged(const CaptureMode &mode);
+    /// The recording begins in so many seconds; 0 when the countdown has ended, either way.
+    void countdownChanged(int seconds);
     /// A grab has been taken: whoever shows it draws now, which is also what stores a frame.
     void ticked();
     /// A new recording begins: what was chosen of the last one is gone.
@@ -155,6 +176,11 @@ Q_SIGNALS:
     void recordingReady();
 
 private:
+    /// Starts a recording, or goes on with one, at once.
+    void begin(bool goesOn);
+    void countDown(int seconds);
+    void secondPassed();
+    void countdownEnded(const QString &status);
     void grabPlaceChanged();
     // The save of a stopped recording: begun, reported frame by frame, ended.
     void saveRecording();
@@ -168,6 +194,9 @@ private:
     Gate gate_;
     Marks marks_;
     CaptureMode mode_;
+    int delay_ = 0;       // seconds
+    int secondsToGo_ = 0; // of a countdown
+    QTimer countdown_;
     bool saveDue_ = false; ///< A save is about to begin.
     bool hasMissingFrames_ = false;
     std::unique_ptr<FrameSaver> frameSaver_;

@@ -68,9 +68,9 @@ void Recorder::watchMemory() {
 }
 
 void Recorder::updateCaptureMode() {
-    const bool region = chooser_.isRegionRecorded();
-    const CaptureMode mode{.region = region,
-                           .area = region ? chooser_.place().inGrab : QRect(),
+    const CaptureMode mode{.region = chooser_.isRegionRecorded(),
+                           .monitor = chooser_.monitor(),
+                           .area = chooser_.isPartRecorded() ? chooser_.place().inGrab : QRect(),
                            .rate = recording.u_FPS()};
     if (mode == mode_)
         return;

@@ -16,12 +16,15 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
 namespace {
 
-constexpr int reasonMargin = 24; // points
+constexpr int reasonMargin = 24;    // points
+constexpr double numberShare = 0.6; // a countdown's disc of the view, its number of the disc
+constexpr int discOpacity = 170;    // of 255: it is read on any picture
 
 /// How long after a resize the window system's exposure of it may come, in milliseconds: a resize
 /// that the program asked for makes its way through the window manager first.
@@ -61,7 +64,7 @@ void View_Record_Preview::drawFrame() {
     refreshGrab();
     const Image &grab = recorder_->capture.imgScreenCapture();
     const QRect region = chooser.place().inGrab;
-    shown_ = chooser.isRegionRecorded()
+    shown_ = chooser.isPartRecorded()
                  ? recorder_->withMarks(cutRegion(grab, region), region.topLeft())
                  : recorder_->withMarks(grab, {});
     recorder_->capture.setImageScreenCaptureFinal(shown_);
@@ -131,10 +134,32 @@ Image View_Record_Preview::partOfImage(const Image &image, const QRectF &rectang
 void View_Record_Preview::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), Qt::black);
-    if (shown_.isEmpty() || reason_)
-        return;
-    painter.drawImage(corner(), scaler_.scaled(shown_, pixelsShown(), devicePixelRatioF(),
-                                               ImageScaler::Care::Quick));
+    if (!shown_.isEmpty() && !reason_)
+        painter.drawImage(corner(), scaler_.scaled(shown_, pixelsShown(), devicePixelRatioF(),
+                                                   ImageScaler::Care::Quick));
+    if (number_ > 0)
+        paintNumber(painter);
+}
+
+void View_Record_Preview::paintNumber(QPainter &painter) const {
+    const double side = std::min(width(), height()) * numberShare;
+    QRectF disc(0, 0, side, side);
+    disc.moveCenter(QRectF(rect()).center());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, discOpacity));
+    painter.drawEllipse(disc);
+    QFont large = font();
+    large.setBold(true);
+    large.setPixelSize(std::max(1, static_cast<int>(side * numberShare)));
+    painter.setFont(large);
+    painter.setPen(Qt::white);
+    painter.drawText(disc, Qt::AlignCenter, QString::number(number_));
+}
+
+void View_Record_Preview::showNumber(int number) {
+    number_ = number;
+    update();
 }
 
 QRect View_Record_Preview::placeOnDesktop() const {

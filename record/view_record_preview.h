@@ -13,6 +13,7 @@
 
 class QLabel;
 class QWindow;
+class QPainter;
 class Recorder;
 
 /// The live preview on the Record tab, and the place where a frame comes into being: its draw step
@@ -39,6 +40,9 @@ public:
     /// Shows this sentence in place of the preview; an empty one shows the preview again.
     void showReason(const QString &reason);
 
+    /// Shows a number large over the picture, for a countdown; 0 for none.
+    void showNumber(int number);
+
     /// The part of `image` inside `rectangle`, which is in the image's units with its origin at the
     /// lower left corner. The result has the rectangle's size, in whole pixels; what is outside
     /// the image is transparent. Empty when the image is. `change` is how the part came out of an
@@ -54,6 +58,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void paintNumber(QPainter &painter) const;
     void redisplay();
     bool windowIsExposed() const;
     Image cutRegion(const Image &grab, const QRect &region);
@@ -66,6 +71,7 @@ private:
     Recorder *recorder_ = nullptr;
 
     // What the last draw step settled.
+    int number_ = 0;
     Image shown_;
     FittingFrame frame_;
 

@@ -50,7 +50,7 @@ void Window_FPS::OnOK(QObject *sender) {
         return;
     }
     bOK_ = true;
-    recorder_.recording.setU_FPS(static_cast<std::uint64_t>(index) + lowestRate);
+    recorder_.setRate(static_cast<std::uint64_t>(index) + lowestRate);
     done(Accepted);
 }
 

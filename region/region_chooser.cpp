@@ -3,6 +3,8 @@
 #include "region/region_chooser.h"
 
 #include "region/controller_squares.h"
+#include "region/region_drag.h"
+#include "region/region_text.h"
 #include "region/window_region_how_it_works.h"
 #include "region/window_transparent_region.h"
 #include "shell/coordinates.h"
@@ -10,12 +12,29 @@
 #include "shell/surroundings.h"
 
 #include <QApplication>
+#include <QGuiApplication>
 #include <QMainWindow>
 #include <QScreen>
+
+#include <algorithm>
 
 namespace {
 
 constexpr QSizeF startingSize(320.0, 240.0); // points
+
+// What is remembered, by its name in the settings.
+constexpr auto typeChoice = "Capture";
+constexpr auto monitorChoice = "Monitor";
+constexpr auto regionChoice = "Region";
+constexpr auto screenOfRegionChoice = "RegionScreen";
+constexpr QLatin1String regionWord("region");
+
+/// None where it is gone.
+const QScreen *screenNamed(const QString &name) {
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    const auto found = std::ranges::find(screens, name, &QScreen::name);
+    return found == screens.end() ? nullptr : *found;
+}
 
 } // namespace
 
@@ -25,7 +44,52 @@ void RegionChooser::start() {
     region.setB_Show_Select_Region_How_To(settings::readShowSelectRegionHowTo());
 }
 
-void RegionChooser::OnRecordFullScreen() { region.setI_Type_Screen_Capture(CAPTURE_FULL_SCREEN); }
+void RegionChooser::recall() {
+    monitor_ = settings::readChoice(monitorChoice);
+    const QString choice = settings::readChoice(regionChoice);
+    const std::optional<region_geometry::Region> last = region_text::regionOf(choice);
+    const QScreen *screen = screenNamed(settings::readChoice(screenOfRegionChoice));
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    if (!last || !screen)
+        return;
+    const QSize size = screen->size();
+    const region_geometry::Region fitting =
+        region_drag::within(*last, {.width = static_cast<double>(size.width()),
+                                    .height = static_cast<double>(size.height())});
+    region.setRect_Screen_Region(QRectF(fitting.x, fitting.y, fitting.width, fitting.height));
+    region.setScreenOfRegion(coordinates::screenOnDesktop(*screen));
+    if (settings::readChoice(typeChoice) != regionWord)
+        return;
+    region.setI_Type_Screen_Capture(CAPTURE_REGION);
+    regionMoved_ = fitting != *last;
+}
+
+void RegionChooser::remember() const {
+    settings::writeChoice(typeChoice, isRegionRecorded() ? QString(regionWord) : QString());
+    settings::writeChoice(monitorChoice, monitor_);
+    const QMainWindow *window = surroundings_.shell.window();
+    if (!isRegionRecorded() || !window || !window->screen())
+        return;
+    const QRect chosen = region.rect_Screen_Region().toRect();
+    settings::writeChoice(regionChoice, region_text::textOf({chosen.x(), chosen.y(), chosen.width(),
+                                                             chosen.height()}));
+    settings::writeChoice(screenOfRegionChoice, window->screen()->name());
+}
+
+void RegionChooser::OnRecordFullScreen() { recordMonitor({}); }
+
+void RegionChooser::recordMonitor(const QString &name) {
+    monitor_ = name;
+    region.setI_Type_Screen_Capture(CAPTURE_FULL_SCREEN);
+    remember();
+}
+
+const QScreen *RegionChooser::recordedMonitor() const {
+    return isRegionRecorded() || monitor_.isEmpty() ? nullptr : screenNamed(monitor_);
+}
+
+QString RegionChooser::monitor() const { return recordedMonitor() ? monitor_ : QString(); }
 
 void RegionChooser::OnRecordRegion() {
     // Assistive technology reaches the command past a modal window.
@@ -48,8 +112,10 @@ void RegionChooser::OnRecordRegion() {
         code = overlay.runModal();
         region.setPFullScreen(nullptr);
     }
-    if (code == Window_Transparent_Region::accepted)
+    if (code == Window_Transparent_Region::accepted) {
+        remember();
         return;
+    }
     // A region may be anywhere on a screen that has changed.
     region.setI_Type_Screen_Capture(
         code == Window_Transparent_Region::screenChanged ? CAPTURE_FULL_SCREEN : typeBefore);
@@ -89,10 +155,17 @@ const region_place::Place &RegionChooser::place() const {
     const QRectF chosen = region.rect_Screen_Region();
     const QMainWindow *window = surroundings_.shell.window();
     const QScreen *screen = window ? window->screen() : nullptr;
+    coordinates::Points part{chosen.x(), chosen.y(), chosen.width(), chosen.height()};
+    std::optional<coordinates::Screen> screenOfPart = region.screenOfRegion();
+    if (const QScreen *whole = recordedMonitor()) {
+        part = {0, 0, static_cast<double>(whole->size().width()),
+                static_cast<double>(whole->size().height())};
+        screenOfPart = coordinates::screenOnDesktop(*whole);
+    }
     const region_place::Inputs inputs{
-        .regionIsRecorded = isRegionRecorded(),
-        .region = {chosen.x(), chosen.y(), chosen.width(), chosen.height()},
-        .screenOfRegion = region.screenOfRegion(),
+        .regionIsRecorded = isPartRecorded(),
+        .region = part,
+        .screenOfRegion = screenOfPart,
         .screenOfWindow =
             screen ? std::optional(coordinates::screenOnDesktop(*screen)) : std::nullopt,
         .grab = grab_};

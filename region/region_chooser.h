@@ -7,9 +7,11 @@
 
 #include <QObject>
 #include <QRect>
+#include <QString>
 
 #include <optional>
 
+class QScreen;
 class Surroundings;
 
 /// The desk of the region: what is recorded, the whole screen or a part of it, and where that part
@@ -25,8 +27,16 @@ public:
 
     /// The values of the start: the whole screen, the stored how-to setting.
     void start();
+    /// Takes the choice of the last start: screen, monitor or region.
+    void recall();
 
+    /// All of the desktop.
     void OnRecordFullScreen();
+    /// One monitor, by the name that the window system has for it; all of them when it is empty.
+    void recordMonitor(const QString &name);
+    /// The one that is recorded when no region is; empty for all of them. One that is gone counts
+    /// as all.
+    QString monitor() const;
     /// Explains, unless the user has had enough of it, and lets a region be chosen on the main
     /// window's screen; when that is cancelled, what is recorded stays as it was. Returns after it.
     void OnRecordRegion();
@@ -42,6 +52,11 @@ public:
     void screenParametersDidChange();
 
     bool isRegionRecorded() const { return region.i_Type_Screen_Capture() == CAPTURE_REGION; }
+    /// Whether a part of the desktop is recorded: the region, or a monitor of several.
+    bool isPartRecorded() const { return isRegionRecorded() || recordedMonitor(); }
+    /// Whether the region of the last time, with which this start begins, had to be moved into the
+    /// screen.
+    bool wasRegionMoved() const { return regionMoved_; }
 
     /// The latest grab, in which the region has its place from now on.
     void setGrab(const region_place::Grab &grab) { grab_ = grab; }
@@ -52,7 +67,12 @@ public:
     Surroundings &surroundings() const { return surroundings_; }
 
 private:
+    const QScreen *recordedMonitor() const;
+    void remember() const;
+
     Surroundings &surroundings_;
+    QString monitor_;
+    bool regionMoved_ = false;
     region_place::Grab grab_;
     mutable std::optional<region_place::Inputs> placedFor_;
     mutable region_place::Place place_;

@@ -38,6 +38,8 @@ void setUpItem(const Command &command, QObject *context, Qt::ConnectionType type
 
 void setUp(const std::vector<Command> &commands, QObject *context) {
     for (const Command &command : commands) {
+        if (!command.action)
+            continue;
         const auto type = command.opensDialog ? Qt::QueuedConnection : Qt::AutoConnection;
         if (command.button)
             setUpButton(command, context, type);

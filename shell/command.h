@@ -25,7 +25,8 @@ struct Command {
     const char *icon = nullptr;     ///< The button's drawing, by its name in the resources.
     QColor accent = {};             ///< Of the drawing, where it has a colour of its own.
     const char *shortcut = nullptr; ///< Of the menu item, in portable text ("Ctrl+R").
-    std::function<void()> action;
+    /// Without one, whatever else works the controls has named them, too.
+    std::function<void()> action = {};
     /// Whether it can be used now. Without one it always can.
     std::function<bool()> enabled = {};
     /// Of a switch, which stays pressed while it is on: whether it is.

@@ -70,6 +70,12 @@ bool readSaveWithoutAsking() { return readSwitch(withoutAskingKey, false); }
 
 void writeSaveWithoutAsking(bool without) { writeSwitch(withoutAskingKey, without); }
 
+QString readChoice(const char *name) {
+    return QSettings().value(QString::fromLatin1(name)).toString();
+}
+
+void writeChoice(const char *name, const QString &text) { write(QString::fromLatin1(name), text); }
+
 void flush() {
     QSettings store;
     sync(store);

@@ -36,6 +36,11 @@ void writeShowPointer(bool shown);
 bool readSaveWithoutAsking();
 void writeSaveWithoutAsking(bool without);
 
+/// Another choice that the next start begins with, as it was stored; empty before the first. What
+/// the texts say is for the choice's owner to know, and to doubt: a person may have changed them.
+QString readChoice(const char *name);
+void writeChoice(const char *name, const QString &text);
+
 /// Writes what is not on disk yet.
 void flush();
 

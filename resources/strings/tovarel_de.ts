@@ -45,6 +45,42 @@
         <source>Stop</source>
         <translation>Stopp</translation>
     </message>
+    <message id="IDD_COUNTDOWN">
+        <source>Countdown</source>
+        <translation>Countdown</translation>
+    </message>
+    <message id="IDD_AT_ONCE">
+        <source>At Once</source>
+        <translation>Sofort</translation>
+    </message>
+    <message id="IDD_AFTER_SECONDS">
+        <source>After %1&#xa0;Seconds</source>
+        <translation>Nach %1&#xa0;Sekunden</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_RUNS">
+        <source>The recording begins in a moment. Esc or Stop cancels it.</source>
+        <translation>Die Aufnahme beginnt gleich. Esc oder „Stopp“ bricht sie ab.</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_CANCELLED">
+        <source>The countdown was canceled.</source>
+        <translation>Der Countdown wurde abgebrochen.</translation>
+    </message>
+    <message id="IDD_MONITORS">
+        <source>Monitors</source>
+        <translation>Monitore</translation>
+    </message>
+    <message id="IDD_ALL_MONITORS">
+        <source>All Monitors</source>
+        <translation>Alle Monitore</translation>
+    </message>
+    <message id="IDD_MODE_MONITOR">
+        <source>%1 · %2 × %3</source>
+        <translation>%1 · %2 × %3</translation>
+    </message>
+    <message id="IDD_REGION_MOVED">
+        <source>The last region no longer fits the screen and was moved inside it.</source>
+        <translation>Der letzte Bereich passt nicht mehr auf den Bildschirm und wurde hineingerückt.</translation>
+    </message>
     <message id="IDD_CUT">
         <source>Cut</source>
         <translation>Schneiden</translation>

@@ -45,6 +45,42 @@
         <source>Stop</source>
         <translation>Stop</translation>
     </message>
+    <message id="IDD_COUNTDOWN">
+        <source>Countdown</source>
+        <translation>Countdown</translation>
+    </message>
+    <message id="IDD_AT_ONCE">
+        <source>At Once</source>
+        <translation>At Once</translation>
+    </message>
+    <message id="IDD_AFTER_SECONDS">
+        <source>After %1&#xa0;Seconds</source>
+        <translation>After %1&#xa0;Seconds</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_RUNS">
+        <source>The recording begins in a moment. Esc or Stop cancels it.</source>
+        <translation>The recording begins in a moment. Esc or Stop cancels it.</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_CANCELLED">
+        <source>The countdown was canceled.</source>
+        <translation>The countdown was canceled.</translation>
+    </message>
+    <message id="IDD_MONITORS">
+        <source>Monitors</source>
+        <translation>Monitors</translation>
+    </message>
+    <message id="IDD_ALL_MONITORS">
+        <source>All Monitors</source>
+        <translation>All Monitors</translation>
+    </message>
+    <message id="IDD_MODE_MONITOR">
+        <source>%1 · %2 × %3</source>
+        <translation>%1 · %2 × %3</translation>
+    </message>
+    <message id="IDD_REGION_MOVED">
+        <source>The last region no longer fits the screen and was moved inside it.</source>
+        <translation>The last region no longer fits the screen and was moved inside it.</translation>
+    </message>
     <message id="IDD_CUT">
         <source>Cut</source>
         <translation>Cut</translation>

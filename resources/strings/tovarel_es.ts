@@ -45,6 +45,42 @@
         <source>Stop</source>
         <translation>Detener</translation>
     </message>
+    <message id="IDD_COUNTDOWN">
+        <source>Countdown</source>
+        <translation>Cuenta atrás</translation>
+    </message>
+    <message id="IDD_AT_ONCE">
+        <source>At Once</source>
+        <translation>De inmediato</translation>
+    </message>
+    <message id="IDD_AFTER_SECONDS">
+        <source>After %1&#xa0;Seconds</source>
+        <translation>Tras %1&#xa0;segundos</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_RUNS">
+        <source>The recording begins in a moment. Esc or Stop cancels it.</source>
+        <translation>La grabación está a punto de empezar. Esc o «Detener» la cancela.</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_CANCELLED">
+        <source>The countdown was canceled.</source>
+        <translation>La cuenta atrás se ha cancelado.</translation>
+    </message>
+    <message id="IDD_MONITORS">
+        <source>Monitors</source>
+        <translation>Monitores</translation>
+    </message>
+    <message id="IDD_ALL_MONITORS">
+        <source>All Monitors</source>
+        <translation>Todos los monitores</translation>
+    </message>
+    <message id="IDD_MODE_MONITOR">
+        <source>%1 · %2 × %3</source>
+        <translation>%1 · %2 × %3</translation>
+    </message>
+    <message id="IDD_REGION_MOVED">
+        <source>The last region no longer fits the screen and was moved inside it.</source>
+        <translation>La última zona ya no cabe en la pantalla y se ha desplazado dentro de ella.</translation>
+    </message>
     <message id="IDD_CUT">
         <source>Cut</source>
         <translation>Recortar</translation>

@@ -45,6 +45,42 @@
         <source>Stop</source>
         <translation>Arrêter</translation>
     </message>
+    <message id="IDD_COUNTDOWN">
+        <source>Countdown</source>
+        <translation>Compte à rebours</translation>
+    </message>
+    <message id="IDD_AT_ONCE">
+        <source>At Once</source>
+        <translation>Immédiatement</translation>
+    </message>
+    <message id="IDD_AFTER_SECONDS">
+        <source>After %1&#xa0;Seconds</source>
+        <translation>Après %1&#xa0;secondes</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_RUNS">
+        <source>The recording begins in a moment. Esc or Stop cancels it.</source>
+        <translation>L’enregistrement va commencer. Échap ou «&#xa0;Arrêter&#xa0;» l’annule.</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_CANCELLED">
+        <source>The countdown was canceled.</source>
+        <translation>Le compte à rebours a été annulé.</translation>
+    </message>
+    <message id="IDD_MONITORS">
+        <source>Monitors</source>
+        <translation>Moniteurs</translation>
+    </message>
+    <message id="IDD_ALL_MONITORS">
+        <source>All Monitors</source>
+        <translation>Tous les moniteurs</translation>
+    </message>
+    <message id="IDD_MODE_MONITOR">
+        <source>%1 · %2 × %3</source>
+        <translation>%1 · %2 × %3</translation>
+    </message>
+    <message id="IDD_REGION_MOVED">
+        <source>The last region no longer fits the screen and was moved inside it.</source>
+        <translation>La dernière zone ne tient plus à l’écran et y a été ramenée.</translation>
+    </message>
     <message id="IDD_CUT">
         <source>Cut</source>
         <translation>Couper</translation>

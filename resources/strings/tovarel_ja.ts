@@ -45,6 +45,42 @@
         <source>Stop</source>
         <translation>停止</translation>
     </message>
+    <message id="IDD_COUNTDOWN">
+        <source>Countdown</source>
+        <translation>カウントダウン</translation>
+    </message>
+    <message id="IDD_AT_ONCE">
+        <source>At Once</source>
+        <translation>すぐに</translation>
+    </message>
+    <message id="IDD_AFTER_SECONDS">
+        <source>After %1&#xa0;Seconds</source>
+        <translation>%1 秒後</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_RUNS">
+        <source>The recording begins in a moment. Esc or Stop cancels it.</source>
+        <translation>まもなく録画が始まります。Esc または「停止」でキャンセルします。</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_CANCELLED">
+        <source>The countdown was canceled.</source>
+        <translation>カウントダウンをキャンセルしました。</translation>
+    </message>
+    <message id="IDD_MONITORS">
+        <source>Monitors</source>
+        <translation>モニター</translation>
+    </message>
+    <message id="IDD_ALL_MONITORS">
+        <source>All Monitors</source>
+        <translation>すべてのモニター</translation>
+    </message>
+    <message id="IDD_MODE_MONITOR">
+        <source>%1 · %2 × %3</source>
+        <translation>%1 · %2 × %3</translation>
+    </message>
+    <message id="IDD_REGION_MOVED">
+        <source>The last region no longer fits the screen and was moved inside it.</source>
+        <translation>前回の範囲は画面に収まらないため、画面の内側に移動しました。</translation>
+    </message>
     <message id="IDD_CUT">
         <source>Cut</source>
         <translation>カット</translation>

@@ -113,9 +113,10 @@ TEST_F(GifOptions, TellFramesSecondsAndRateThatTheFileWillReallyHave) {
               "GIF: " + figures(83, 1.7, "49.7") + " · WebP: " + figures(100, 1.7, "60"));
     // The list shows the rate in whole numbers; what counts is the true one.
     controller.recording.setExactRate(12.4);
+    ui.radioGIFOriginalFPS->click();
+    ui.comboGIFSpeed->setCurrentIndex(2);
     controller.exportOptions->resetGIFOptions();
     EXPECT_EQ(ui.comboGIFFPS->currentText(), QStringLiteral("12"));
-    EXPECT_EQ(ui.comboGIFSpeed->currentText(), QStringLiteral("1×"));
     EXPECT_TRUE(ui.labelGIFThinned->text().isEmpty());
     EXPECT_EQ(summary(), figures(30, 2.4, "12.4"));
     ui.radioGIFCustomFPS->click();
@@ -145,6 +146,20 @@ TEST_F(GifOptions, TieTheOtherSideWhenAFieldSendsItsAction) {
     type(ui.textGIFWidth, QStringLiteral("100"));
     QTest::keyClick(ui.textGIFWidth, Qt::Key_Return);
     EXPECT_EQ(size(), "100x450") << "without an original size there is no ratio";
+}
+
+TEST_F(GifOptions, StayForTheNextRecordingThatTheyFit) {
+    enterTab({800, 600});
+    chooseCustomSize(true);
+    type(ui.textGIFWidth, QStringLiteral("400"));
+    QTest::keyClick(ui.textGIFWidth, Qt::Key_Return);
+    ui.comboGIFSpeed->setCurrentIndex(4);
+    enterTab({800, 400});
+    EXPECT_EQ(size(), "400x200") << "the ratio is the new recording's";
+    EXPECT_EQ(ui.comboGIFSpeed->currentIndex(), 4);
+    enterTab({320, 240});
+    EXPECT_TRUE(ui.radioGIFOriginalDimension->isChecked()) << "never made larger unasked";
+    EXPECT_EQ(size(), "320x240");
 }
 
 TEST_F(GifOptions, DeriveNothingWhileTheSizeIsFree) {

@@ -46,6 +46,36 @@ protected:
     }
 };
 
+TEST_F(Recording, countsDownAndCanBeKeptFromBeginning) {
+    delegate->recorder.setDelay(1);
+    const std::function<void()> ways[] = {
+        [this] { ui().btnRecordStop->click(); },
+        [this] { QTest::keyClick(window(), Qt::Key_Escape); },
+        [this] { delegate->OnMenuTabCut(); },
+    };
+    window()->activateWindow();
+    for (const auto &cancel : ways) {
+        ui().menuitemActionRecordRecord->trigger();
+        EXPECT_EQ(enabled(), "000010");
+        EXPECT_EQ(window()->windowTitle(), QStringLiteral("1 – Tovarel"));
+        tick(2);
+        cancel();
+        EXPECT_FALSE(delegate->recorder.isCountingDown());
+        EXPECT_EQ(window()->windowTitle(), QStringLiteral("Tovarel"));
+    }
+    delegate->OnMenuTabRecord();
+    EXPECT_EQ(enabled(), "111001");
+    EXPECT_FALSE(delegate->recording.array_Images) << "nothing of a countdown is kept";
+    ui().btnRecordRecord->click();
+    ui().btnRecordRecord->click();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return delegate->recording.m_RecordStatus() == RECORD_STATUS_RECORD; }, 5000));
+    ui().btnRecordPause->click();
+    ui().btnRecordRecord->click();
+    EXPECT_EQ(delegate->recording.m_RecordStatus(), RECORD_STATUS_RECORD) << "goes on at once";
+    delegate->recorder.setDelay(0);
+}
+
 TEST_F(Recording, enablesItsControlsByTheStateAndSavesWhatWasStored) {
     EXPECT_EQ(enabled(), "111001");
     tick(2);

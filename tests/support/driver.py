@@ -26,8 +26,11 @@ class Program:
 
     _count = 0
 
-    def __init__(self, session, environment=None, wait=True, command=(), recover=False):
+    def __init__(self, session, environment=None, wait=True, command=(), recover=False,
+                 remembering=False):
         self.session = session
+        if not remembering:
+            session.forget_choices()
         if not recover:
             # A recording that an earlier start left would be offered before anything else.
             note = session.frames / NOTE

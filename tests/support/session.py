@@ -113,6 +113,14 @@ class Session:
         lines.insert(lines.index("[General]") + 1, f"{key}={value}")
         settings.write_text("\n".join(lines) + "\n")
 
+    def forget_choices(self):
+        """Lets the next start begin as a first one does, but for what most tests would be asked."""
+        settings = self.home / ".config" / "Tovarel" / "Tovarel.conf"
+        if settings.exists():
+            kept = ("[", "MAC", "GIFQuality", "LastSaveFolder", "Show")
+            lines = [line for line in settings.read_text().splitlines() if line.startswith(kept)]
+            settings.write_text("\n".join(lines) + "\n")
+
     def start_display(self, name):
         """Starts a display: its name in DISPLAY. The server looks for a free number itself."""
         screen = f"{self.width}x{self.height}x{self.depth}"
