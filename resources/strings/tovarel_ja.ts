@@ -55,7 +55,7 @@
     </message>
     <message id="IDD_AFTER_SECONDS">
         <source>After %1&#xa0;Seconds</source>
-        <translation>%1 秒後</translation>
+        <translation>%1&#xa0;秒後</translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
@@ -727,7 +727,7 @@ It is still at %3.</source>
     </message>
     <message id="IDD_FILE_FIGURES">
         <source>%1 · %2 × %3 · %4&#xa0;s</source>
-        <translation>%1 · %2 × %3 · %4 秒</translation>
+        <translation>%1 · %2 × %3 · %4&#xa0;秒</translation>
     </message>
     <message id="IDD_FILE_DRAG">
         <source>Drag it into another program</source>
