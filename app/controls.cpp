@@ -8,6 +8,7 @@
 #include "app/task_bar_state.h"
 #include "region/region_chooser.h"
 #include "shell/mnemonics.h"
+#include "shell/number_text.h"
 #include "shell/obstacle_text.h"
 #include "shell/settings.h"
 #include "shell/tab_view.h"
@@ -48,6 +49,7 @@ void Controls::setUp() {
     makeMenus();
     commands_ = commandTable(controller_);
     ::setUp(commands_, this);
+    offerStillLengths();
     const InterfaceStrings &texts = controller_.texts;
     nameControls(ui_, texts, controller_.shell.s_App_Name());
     ui_.viewRecordPreview->showReason(obstacleText(controller_.recorder.windowServer().obstacle()));
@@ -114,6 +116,24 @@ void Controls::fillMonitors() {
         add(qtTrId("IDD_MODE_MONITOR").arg(screen->name()).arg(pixels.width()).arg(pixels.height()),
             screen->name());
     }
+}
+
+void Controls::offerStillLengths() {
+    auto *menu = new QMenu(ui_.btnCutStill);
+    auto *lengths = new QActionGroup(menu);
+    TrimEditor &editor = controller_.trimEditor;
+    for (const double seconds : TrimEditor::stillLengths) {
+        QAction *item =
+            menu->addAction(qtTrId("IDD_STILL_LENGTH").arg(number_text::decimal(seconds, 1)));
+        item->setCheckable(true);
+        item->setChecked(seconds == editor.stillLength());
+        lengths->addAction(item);
+        connect(item, &QAction::triggered, this, [&editor, seconds] {
+            editor.setStillLength(seconds);
+            editor.shortenStills();
+        });
+    }
+    ui_.btnCutStill->setMenu(menu);
 }
 
 void Controls::refresh() { ::refresh(commands_); }

@@ -47,6 +47,7 @@ private:
     /// Offers single monitors where there is more than one.
     void showMonitors();
     void fillMonitors();
+    void offerStillLengths();
     void listenToShell();
     void listenToRecorder();
     void listenToOthers();

@@ -24,10 +24,7 @@ bool Exporter::mayExport() const {
     return !exporting.exportRuns() && !surroundings_.progress.windowProgress();
 }
 
-bool Exporter::hasTooFewFrames() const {
-    const auto kept = editor_.keptRange();
-    return !kept || kept->count() < fewestFrames;
-}
+bool Exporter::hasTooFewFrames() const { return editor_.keptFrames().count() < fewestFrames; }
 
 std::optional<QSize> Exporter::originalSize() const {
     // The files are what the encoders read, and all of them have the first one's size. What is
@@ -38,14 +35,10 @@ std::optional<QSize> Exporter::originalSize() const {
 }
 
 frame_timing::Request Exporter::timingRequest(const ExportChoices &choices) const {
-    frame_timing::Request request{.recordedRate = recorder_.recording.exactRate(),
-                                  .chosenRate = choices.rate,
-                                  .speed = choices.speed};
-    if (const auto kept = editor_.keptRange()) {
-        request.first = kept->first;
-        request.count = kept->count();
-    }
-    return request;
+    return {.kept = editor_.keptFrames(),
+            .recordedRate = recorder_.recording.exactRate(),
+            .chosenRate = choices.rate,
+            .speed = choices.speed};
 }
 
 std::optional<QString> Exporter::refusal(const ExportChoices &choices) const {

@@ -21,12 +21,12 @@ std::uint64_t nearest(double value) {
 }
 
 double trueSeconds(const Request &request) {
-    return static_cast<double>(request.count) / request.recordedRate / request.speed;
+    return static_cast<double>(request.kept.count()) / request.recordedRate / request.speed;
 }
 
 std::uint64_t wantedFrames(const Request &request) {
     if (!request.chosenRate)
-        return request.count;
+        return request.kept.count();
     return std::max<std::uint64_t>(nearest(trueSeconds(request) * *request.chosenRate), 1);
 }
 
@@ -45,8 +45,9 @@ std::uint64_t wholeTicks(const Request &request, Ticks ticks) {
 } // namespace
 
 std::vector<TimedFrame> timedFrames(const Request &request, Ticks ticks) {
-    if (request.count == 0)
+    if (request.kept.isEmpty())
         return {};
+    const std::uint64_t count = request.kept.count();
     const std::uint64_t whole = wholeTicks(request, ticks);
     const std::uint64_t frames = std::min(wantedFrames(request), whole / ticks.shortest);
     // Half up: the tick at which frame number `index` truly begins.
@@ -56,7 +57,7 @@ std::vector<TimedFrame> timedFrames(const Request &request, Ticks ticks) {
     std::vector<TimedFrame> result;
     result.reserve(frames);
     for (std::uint64_t index = 0; index < frames; ++index)
-        result.push_back({.source = request.first + index * request.count / frames,
+        result.push_back({.source = request.kept.at(index * count / frames),
                           .delay = begin(index + 1) - begin(index)});
     return result;
 }
@@ -84,7 +85,8 @@ double rate(std::span<const TimedFrame> frames, Ticks ticks) {
 }
 
 bool isThinned(const Request &request, Ticks ticks) {
-    return request.count > 0 && wantedFrames(request) > wholeTicks(request, ticks) / ticks.shortest;
+    return !request.kept.isEmpty() &&
+           wantedFrames(request) > wholeTicks(request, ticks) / ticks.shortest;
 }
 
 } // namespace frame_timing

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "trim/frame_runs.h"
+
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -42,9 +44,8 @@ inline constexpr double speeds[] = {0.25, 0.5, 1.0, 1.5, 2.0, 4.0};
 
 /// What is asked for.
 struct Request {
-    /// The kept frames of the recording: the first one's number, and how many.
-    std::uint64_t first = 0;
-    std::uint64_t count = 0;
+    /// The frames of the recording that are kept.
+    FrameRuns kept = {};
     /// Frames per second, unrounded, above 0.
     double recordedRate = 1.0;
     /// Frames per second that the file is to have; none shows every frame once.

@@ -177,9 +177,10 @@ bool Exporter::saveUnderPresetName() {
 }
 
 QString Exporter::firstKeptFile() const {
-    const auto kept = editor_.keptRange();
-    return kept ? working_folders::frameFile(surroundings_.shell.s_Output_Folder(), kept->first)
-                : QString();
+    const FrameRuns kept = editor_.keptFrames();
+    return kept.isEmpty()
+               ? QString()
+               : working_folders::frameFile(surroundings_.shell.s_Output_Folder(), kept.first());
 }
 
 const FinishedFile *Exporter::lastFile() const {

@@ -74,6 +74,21 @@ float percentFor(std::uint64_t frame, std::uint64_t frames) {
                               static_cast<double>(frames));
 }
 
+Stretch placeOfFrames(std::uint64_t first, std::uint64_t last, std::uint64_t frames,
+                      double stripWidth) {
+    const double each = frames > 0 ? stripWidth / static_cast<double>(frames) : 0.0;
+    const double x = static_cast<double>(first) * each;
+    const double end = static_cast<double>(last + 1) * each;
+    return {x, std::max(end - x, thinnest)};
+}
+
+std::uint64_t frameAtX(double x, std::uint64_t frames, double stripWidth) {
+    if (frames == 0 || !(stripWidth > 0.0) || !(x > 0.0))
+        return 0;
+    const double share = std::min(x / stripWidth, 1.0);
+    return std::min(static_cast<std::uint64_t>(share * static_cast<double>(frames)), frames - 1);
+}
+
 Stretch playhead(std::uint64_t current, std::uint64_t first, std::uint64_t last,
                  double stripWidth) {
     const bool atBegin = current <= first || last <= first;
@@ -85,12 +100,6 @@ std::optional<std::uint64_t> existingFrame(std::uint64_t frame, std::uint64_t fr
     if (frames == 0)
         return {};
     return std::min(frame, frames - 1);
-}
-
-std::optional<Kept> keptFrames(std::uint64_t first, std::uint64_t last, std::uint64_t frames) {
-    if (first >= frames || last < first)
-        return {};
-    return Kept{first, std::min(last, frames - 1)};
 }
 
 } // namespace range_rules

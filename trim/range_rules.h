@@ -60,6 +60,15 @@ std::uint64_t frameAt(float percent, std::uint64_t frames);
 /// neighbours: halfway between two frames, since frame numbers are ceilings of rounded numbers.
 float percentFor(std::uint64_t frame, std::uint64_t frames);
 
+/// Where frames from `first` to `last`, both included, are in a recording of `frames` frames; at
+/// least `thinnest` points wide, since a single one may be left out of thousands.
+inline constexpr double thinnest = 2.0;
+Stretch placeOfFrames(std::uint64_t first, std::uint64_t last, std::uint64_t frames,
+                      double stripWidth);
+
+/// The frame at x, 0 to the last one; 0 in a recording without frames.
+std::uint64_t frameAtX(double x, std::uint64_t frames, double stripWidth);
+
 /// The playhead at `current` in the range from `first` to `last`. It is at the left end in an empty
 /// range, and while `current` is still before the range, as in a pause before anything was played.
 Stretch playhead(std::uint64_t current, std::uint64_t first, std::uint64_t last, double stripWidth);
@@ -67,17 +76,5 @@ Stretch playhead(std::uint64_t current, std::uint64_t first, std::uint64_t last,
 /// The frame that is shown for the number `frame`: the last one of the recording where there is no
 /// such frame. None in a recording without frames.
 std::optional<std::uint64_t> existingFrame(std::uint64_t frame, std::uint64_t frames);
-
-/// What playback and exports of the range show: its first and last existing frame, both included.
-struct Kept {
-    std::uint64_t first = 0;
-    std::uint64_t last = 0;
-    std::uint64_t count() const { return last - first + 1; }
-
-    bool operator==(const Kept &) const = default;
-};
-
-/// None when no frame of the range exists.
-std::optional<Kept> keptFrames(std::uint64_t first, std::uint64_t last, std::uint64_t frames);
 
 } // namespace range_rules

@@ -5,23 +5,33 @@
 #include "record/recorder.h"
 #include "shell/number_text.h"
 #include "shell/surroundings.h"
+#include "trim/range_rules.h"
 
 namespace {
 
 constexpr int secondsDecimals = 2; // a frame at 60 per second still counts
 
+QString secondsText(std::uint64_t frames, double rate) {
+    return number_text::decimal(static_cast<double>(frames) / rate, secondsDecimals);
+}
+
 /// What an export would hold, in the user's words.
-QString textOfKept(std::optional<range_rules::Kept> kept, double rate) {
-    if (!kept)
+QString textOfKept(const FrameRuns &kept, double rate) {
+    if (kept.isEmpty())
         return qtTrId("IDD_RANGE_EMPTY");
-    const QString seconds =
-        number_text::decimal(static_cast<double>(kept->count()) / rate, secondsDecimals);
+    const QString seconds = secondsText(kept.count(), rate);
     // People count from 1.
-    const QString first = number_text::count(kept->first + 1);
-    if (kept->count() == 1)
+    const QString first = number_text::count(kept.first() + 1);
+    if (kept.count() == 1)
         return qtTrId("IDD_RANGE_ONE").arg(first, seconds);
-    return qtTrId("IDD_RANGE_HOLDS", static_cast<int>(kept->count()))
-        .arg(first, number_text::count(kept->last + 1), seconds);
+    return qtTrId("IDD_RANGE_HOLDS", static_cast<int>(kept.count()))
+        .arg(first, number_text::count(kept.last() + 1), seconds);
+}
+
+QString textOfSelection(FrameRuns::Run selection, double rate) {
+    return qtTrId("IDD_CUT_SELECTED")
+        .arg(number_text::count(selection.first + 1), number_text::count(selection.last + 1),
+             secondsText(selection.count(), rate));
 }
 
 } // namespace
@@ -44,8 +54,9 @@ void TrimEditor::enter() {
 }
 
 void TrimEditor::OnCutPlay() {
+    clearSelection();
     if (trim.m_PlayStatus() == PLAY_STATUS_STOP)
-        trim.setUCurrentFrame(trim.uFirstFrame());
+        trim.setUCurrentFrame(keptFrames().nextFrom(0).value_or(trim.uFirstFrame()));
     trim.setM_PlayStatus(PLAY_STATUS_PLAY);
     trim.timerPlayRefresh.reset();
     trim.timerPlayRefresh = std::make_unique<RepeatingTimer>(1.0 / recorder_.recording.exactRate(),
@@ -54,10 +65,12 @@ void TrimEditor::OnCutPlay() {
 }
 
 void TrimEditor::TimerRefreshPlayRoutine() {
-    trim.setUCurrentFrame(trim.uCurrentFrame() + 1);
-    const auto kept = keptRange();
-    if (!kept || trim.uCurrentFrame() > kept->last)
-        trim.setUCurrentFrame(trim.uFirstFrame());
+    const FrameRuns kept = keptFrames();
+    const auto next = kept.nextFrom(trim.uCurrentFrame() + 1);
+    if (next)
+        trim.setUCurrentFrame(*next);
+    else
+        trim.setUCurrentFrame(kept.isEmpty() ? trim.uFirstFrame() : kept.first());
     Q_EMIT viewsChanged();
 }
 
@@ -73,6 +86,7 @@ void TrimEditor::OnCutStop() {
     isPlayable_ = true;
     trim.setM_PlayStatus(PLAY_STATUS_STOP);
     trim.setPreviewedEnd(RangeEnd::First);
+    clearSelection();
     Q_EMIT viewsChanged();
     Q_EMIT stateChanged();
 }
@@ -81,6 +95,10 @@ void TrimEditor::keepWholeRecording() {
     trim.setF_Cut_Percent_Menor(0.0f);
     trim.setF_Cut_Percent_Maior(100.0f);
     trim.setPreviewedEnd(RangeEnd::First);
+    leftOut_ = {};
+    undo_.clear();
+    redo_.clear();
+    clearSelection();
 }
 
 void TrimEditor::togglePlayback() {
@@ -96,18 +114,25 @@ void TrimEditor::updateTrimmedRange() {
     trim.setULastFrame(range_rules::frameAt(trim.f_Cut_Percent_Maior(), frames));
 }
 
-std::optional<range_rules::Kept> TrimEditor::keptRange() const {
-    return range_rules::keptFrames(trim.uFirstFrame(), trim.uLastFrame(),
-                                   recorder_.recording.u_Record_Current_Frame());
+FrameRuns TrimEditor::keptFrames() const {
+    if (trim.uLastFrame() < trim.uFirstFrame())
+        return {};
+    return FrameRuns::of(0, recorder_.recording.u_Record_Current_Frame())
+        .within({trim.uFirstFrame(), trim.uLastFrame()})
+        .without(leftOut_);
 }
 
 void TrimEditor::showTrimmedRange(bool recordingExists) {
     // Every drawing comes by here: the text is made again only when it says something else.
     const Shown now{.recordingExists = recordingExists,
-                    .kept = keptRange(),
+                    .kept = keptFrames(),
+                    .selection = selection_,
                     .rate = recorder_.recording.exactRate()};
     if (shown_ == now)
         return;
     shown_ = now;
-    Q_EMIT rangeTextChanged(recordingExists ? textOfKept(now.kept, now.rate) : QString());
+    QString text;
+    if (recordingExists)
+        text = selection_ ? textOfSelection(*selection_, now.rate) : textOfKept(now.kept, now.rate);
+    Q_EMIT rangeTextChanged(text);
 }

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "trim/range_rules.h"
+#include "trim/frame_runs.h"
 #include "trim/trim_fields.h"
 
 #include <QObject>
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 class Recorder;
 class Surroundings;
@@ -48,10 +49,37 @@ public:
     void keepWholeRecording();
     /// Works out `uFirstFrame` and `uLastFrame` from the handles' percentages.
     void updateTrimmedRange();
-    /// The frames that playback and exports show: from `uFirstFrame` to `uLastFrame` or the
-    /// recording's last frame, whichever comes first, both included. None when there is no such
-    /// frame.
-    std::optional<range_rules::Kept> keptRange() const;
+    /// The frames that playback and exports show: those of the recording from `uFirstFrame` to
+    /// `uLastFrame`, both included, that are not left out.
+    FrameRuns keptFrames() const;
+    /// The frames that were left out, wherever the handles are. Their files stay.
+    const FrameRuns &leftOut() const { return leftOut_; }
+
+    /// The part that is selected for what is done next; none while it plays.
+    const std::optional<FrameRuns::Run> &selection() const { return selection_; }
+    /// Selects the frames between these two, both included and in any order, and shows the latter
+    /// while nothing plays. Does nothing while it plays, and without a recording.
+    void select(std::uint64_t from, std::uint64_t to);
+    void clearSelection();
+    /// The frame that the preview shows in place of a handle's.
+    const std::optional<std::uint64_t> &pointedFrame() const { return pointed_; }
+
+    /// Leaves the selected frames out.
+    bool mayDelete() const { return selection_.has_value(); }
+    void deleteSelection();
+    /// Cuts every time in which nothing changes to the chosen length.
+    bool mayShorten() const { return mayPlay(); }
+    void shortenStills();
+    /// That length, in seconds, and those that can be chosen.
+    double stillLength() const { return stillLength_; }
+    void setStillLength(double seconds) { stillLength_ = seconds; }
+    static constexpr double stillLengths[] = {0.5, 1.0, 2.0};
+    /// Takes the last of these back, and does it again.
+    bool mayUndo() const { return !undo_.empty(); }
+    bool mayRedo() const { return !redo_.empty(); }
+    void undo();
+    void redo();
+
     /// Says under the preview what an export would hold; nothing without a recording.
     void showTrimmedRange(bool recordingExists);
 
@@ -67,14 +95,26 @@ private:
     /// What the text under the preview follows from.
     struct Shown {
         bool recordingExists = false;
-        std::optional<range_rules::Kept> kept;
+        FrameRuns kept = {};
+        std::optional<FrameRuns::Run> selection = {};
         double rate = 0;
 
         bool operator==(const Shown &) const = default;
     };
 
+    void leaveOut(const FrameRuns &leftOut);
+    /// What is left out is another now.
+    void edited();
+    bool showSame(std::uint64_t earlier, std::uint64_t frame) const;
+
     Surroundings &surroundings_;
     Recorder &recorder_;
     bool isPlayable_ = false;
+    FrameRuns leftOut_;
+    std::vector<FrameRuns> undo_; // what was left out before, the latest last
+    std::vector<FrameRuns> redo_;
+    double stillLength_ = stillLengths[1];
+    std::optional<FrameRuns::Run> selection_;
+    std::optional<std::uint64_t> pointed_;
     std::optional<Shown> shown_;
 };

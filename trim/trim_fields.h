@@ -37,7 +37,7 @@ public:
     void setUFirstFrame(std::uint64_t frame) { uFirstFrame_ = frame; }
 
     /// Frame number that the upper handle maps to, likewise; it may be one past the recording's
-    /// last frame. What is kept of the range is `TrimEditor::keptRange`.
+    /// last frame. What is kept of the range is `TrimEditor::keptFrames`.
     std::uint64_t uLastFrame() const { return uLastFrame_; }
     void setULastFrame(std::uint64_t frame) { uLastFrame_ = frame; }
 

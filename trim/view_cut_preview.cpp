@@ -6,6 +6,7 @@
 #include "record/recorder.h"
 #include "shell/coordinates.h"
 #include "shell/surroundings.h"
+#include "trim/range_rules.h"
 #include "trim/trim_editor.h"
 
 #include <QFontMetricsF>
@@ -62,8 +63,8 @@ void View_Cut_Preview::drawFrame(QPainter &painter) {
     const TrimFields &trim = editor_->trim;
     const auto &frames = editor_->recorder().recording.array_Images;
     const bool stopped = trim.m_PlayStatus() == PLAY_STATUS_STOP;
-    const std::uint64_t atHandle =
-        trim.previewedEnd() == RangeEnd::Last ? trim.uLastFrame() : trim.uFirstFrame();
+    const std::uint64_t atHandle = editor_->pointedFrame().value_or(
+        trim.previewedEnd() == RangeEnd::Last ? trim.uLastFrame() : trim.uFirstFrame());
     const auto number = range_rules::existingFrame(stopped ? atHandle : trim.uCurrentFrame(),
                                                    frames ? frames->size() : 0);
     if (!number)

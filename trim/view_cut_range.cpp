@@ -25,6 +25,9 @@ const QColor background = QColor::fromRgbF(0.5f, 0.5f, 0.5f);
 const QColor handleColour(255, 0, 0);
 const QColor bandColour(0, 255, 0);
 const QColor playheadColour(0, 0, 255);
+const QColor leftOutColour(90, 90, 90);
+const QColor hatchColour(20, 20, 20);
+constexpr int selectionOpacity = 150; // of 255: what is beneath stays visible
 
 Handles handlesOf(const TrimEditor &editor) {
     return {editor.trim.f_Cut_Percent_Menor(), editor.trim.f_Cut_Percent_Maior()};
@@ -63,11 +66,52 @@ void View_Cut_Range::paintEvent(QPaintEvent *) {
         return;
     if (stopped(*editor_))
         drawHandles(painter, handlesOf(*editor_));
-    else
+    drawRuns(painter);
+    if (!stopped(*editor_))
         drawPlayhead(painter, editor_->trim);
     // Play, Pause and Stop change what can be dragged under a pointer that rests.
     if (underMouse() && !b_Mouse_Down_)
         showWhatCanBeDragged(mapFromGlobal(QCursor::pos()).x());
+}
+
+void View_Cut_Range::drawRuns(QPainter &painter) {
+    const std::optional<FrameRuns::Run> between = selectable();
+    if (!between)
+        return;
+    painter.save();
+    if (stopped(*editor_)) {
+        const range_rules::Stretch band = range_rules::bandBetween(handlesOf(*editor_), width());
+        painter.setClipRect(fullHeight({band.x, std::max(band.width, 0.0)}));
+    }
+    const auto place = [this](FrameRuns::Run run) {
+        return fullHeight(range_rules::placeOfFrames(run.first, run.last, frameCount(), width()));
+    };
+    const FrameRuns leftOut = editor_->leftOut().within(*between);
+    for (const FrameRuns::Run &run : leftOut.runs()) {
+        painter.fillRect(place(run), leftOutColour);
+        painter.fillRect(place(run), QBrush(hatchColour, Qt::BDiagPattern));
+    }
+    if (const auto &selection = editor_->selection()) {
+        QColor colour = palette().color(QPalette::Highlight);
+        colour.setAlpha(selectionOpacity);
+        painter.fillRect(place(*selection), colour);
+        painter.setPen(palette().color(QPalette::HighlightedText));
+        painter.drawRect(place(*selection).adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+    painter.restore();
+}
+
+std::optional<FrameRuns::Run> View_Cut_Range::selectable() const {
+    const std::uint64_t frames = frameCount();
+    if (!editor_ || frames == 0)
+        return {};
+    const std::uint64_t first = frameOf(Handle::Menor);
+    const std::uint64_t last = std::min(frameOf(Handle::Maior), frames - 1);
+    return first <= last ? std::optional(FrameRuns::Run{first, last}) : std::nullopt;
+}
+
+std::uint64_t View_Cut_Range::selectableAt(double x, FrameRuns::Run within) const {
+    return std::clamp(range_rules::frameAtX(x, frameCount(), width()), within.first, within.last);
 }
 
 QRectF View_Cut_Range::fullHeight(range_rules::Stretch stretch) const {
@@ -111,6 +155,12 @@ void View_Cut_Range::mousePressEvent(QMouseEvent *event) {
     } else if (hit(rectMaior_)) {
         b_Dragging_Maior_ = true;
         choose(Handle::Maior);
+    } else if (editor_) {
+        editor_->clearSelection();
+        const range_rules::Stretch band = range_rules::bandBetween(handlesOf(*editor_), width());
+        const auto between = selectable();
+        if (between && range_rules::contains(band, mouseDownPos_.x()))
+            anchor_ = selectableAt(mouseDownPos_.x(), *between);
     }
 }
 
@@ -119,6 +169,8 @@ void View_Cut_Range::mouseMoveEvent(QMouseEvent *event) {
         return;
     if (!b_Mouse_Down_)
         showWhatCanBeDragged(event->position().x());
+    if (const auto between = selectable(); b_Mouse_Down_ && anchor_ && between)
+        editor_->select(*anchor_, selectableAt(event->position().x(), *between));
     if (!stopped(*editor_) || !b_Mouse_Down_ || !(b_Dragging_Menor_ || b_Dragging_Maior_))
         return;
     const Handle handle = b_Dragging_Menor_ ? Handle::Menor : Handle::Maior;
@@ -137,6 +189,7 @@ void View_Cut_Range::mouseReleaseEvent(QMouseEvent *event) {
     b_Mouse_Down_ = false;
     b_Dragging_Menor_ = false;
     b_Dragging_Maior_ = false;
+    anchor_.reset();
     showWhatCanBeDragged(event->position().x());
 }
 
@@ -155,6 +208,7 @@ void View_Cut_Range::preview(Handle handle) {
 }
 
 void View_Cut_Range::store(Handles handles) {
+    editor_->clearSelection();
     editor_->trim.setF_Cut_Percent_Menor(handles.menor);
     editor_->trim.setF_Cut_Percent_Maior(handles.maior);
     for (CutHandle *handle : handles_)
@@ -191,7 +245,56 @@ void View_Cut_Range::moveToFrame(Handle handle, std::uint64_t frame) {
         choose(other(handle));
 }
 
+bool View_Cut_Range::extendSelection(int key) {
+    const std::optional<FrameRuns::Run> between = selectable();
+    if (!between)
+        return false;
+    const std::uint64_t page = std::max<std::uint64_t>(frameCount() / 10, 1);
+    const auto &selection = editor_->selection();
+    // The first step selects the frame where it begins.
+    const std::uint64_t begin =
+        std::clamp(stopped(*editor_) ? frameOf(chosen_) : editor_->trim.uCurrentFrame(),
+                   between->first, between->last);
+    const std::uint64_t at = selection ? editor_->pointedFrame().value_or(selection->last) : begin;
+    const std::uint64_t from = !selection               ? begin
+                               : at == selection->first ? selection->last
+                                                        : selection->first;
+    const auto back = [&](std::uint64_t by) { return at - std::min(by, at - between->first); };
+    const auto forth = [&](std::uint64_t by) { return at + std::min(by, between->last - at); };
+    std::uint64_t to = at;
+    switch (key) {
+    case Qt::Key_Left:
+    case Qt::Key_Down:
+        to = back(selection ? 1 : 0);
+        break;
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+        to = forth(selection ? 1 : 0);
+        break;
+    case Qt::Key_PageDown:
+        to = back(page);
+        break;
+    case Qt::Key_PageUp:
+        to = forth(page);
+        break;
+    case Qt::Key_Home:
+        to = between->first;
+        break;
+    case Qt::Key_End:
+        to = between->last;
+        break;
+    default:
+        return false;
+    }
+    editor_->select(from, to);
+    return true;
+}
+
 void View_Cut_Range::keyPressEvent(QKeyEvent *event) {
+    if (event->modifiers() == Qt::ShiftModifier && extendSelection(event->key()))
+        return;
+    if (event->key() == Qt::Key_Escape && editor_ && editor_->selection())
+        return editor_->clearSelection();
     const std::uint64_t frame = frameOf(chosen_);
     const std::uint64_t frames = frameCount();
     const std::uint64_t page = std::max<std::uint64_t>(frames / 10, 1);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "trim/frame_runs.h"
 #include "trim/range_rules.h"
 
 #include <QPointF>
@@ -9,6 +10,7 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <optional>
 
 class CutHandle;
 class TrimEditor;
@@ -22,7 +24,9 @@ class View_Cut_Preview;
 ///
 /// It is worked with the pointer and with the keyboard: Tab goes from one handle to the other,
 /// arrow keys move the chosen one by a frame, Page Up and Page Down by a tenth of the recording,
-/// Home and End to either end, Space plays and pauses.
+/// Home and End to either end, Space plays and pauses. A drag between the handles, or Shift with
+/// the same keys, selects a part; while paused the keys begin at the frame that is shown. Escape
+/// and a click take the selection away. What was left out is hatched.
 ///
 /// Rectangles are in points with the origin at the strip's lower left corner.
 class View_Cut_Range : public QWidget {
@@ -88,6 +92,12 @@ private:
     /// Shows the frame at this handle while nothing plays.
     void preview(range_rules::Handle handle);
     void store(range_rules::Handles handles);
+    void drawRuns(QPainter &painter);
+    /// Where a selection may be: between the handles. None where there is no frame.
+    std::optional<FrameRuns::Run> selectable() const;
+    std::uint64_t selectableAt(double x, FrameRuns::Run within) const;
+    /// A step of the selection by keys. False where nothing can be selected.
+    bool extendSelection(int key);
     void drawPlayhead(QPainter &painter, const TrimFields &trim);
     void drawHandles(QPainter &painter, range_rules::Handles handles);
     QRectF fullHeight(range_rules::Stretch stretch) const;
@@ -98,6 +108,8 @@ private:
     bool b_Dragging_Menor_ = false;
     bool b_Dragging_Maior_ = false;
     QPointF mouseDownPos_;
+    /// Where the selection begins that is being made.
+    std::optional<std::uint64_t> anchor_;
     QRectF rectMenor_;
     QRectF rectMaior_;
 

@@ -447,6 +447,38 @@
         <source>No frame in this range</source>
         <translation>Kein Bild in diesem Abschnitt</translation>
     </message>
+    <message id="IDD_CUT_DELETE">
+        <source>Delete Selection</source>
+        <translation>Auswahl löschen</translation>
+    </message>
+    <message id="IDD_CUT_STILL">
+        <source>Shorten Still Time</source>
+        <translation>Standzeiten kürzen</translation>
+    </message>
+    <message id="IDD_UNDO">
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message id="IDD_REDO">
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message id="IDD_CUT_SELECTED">
+        <source>Selected: frames %1 to %2, %3&#xa0;s</source>
+        <translation>Ausgewählt: Bilder %1 bis %2, %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_STILL_LENGTH">
+        <source>To %1&#xa0;s at Most</source>
+        <translation>Auf höchstens %1&#xa0;s</translation>
+    </message>
+    <message id="IDD_STILL_NONE">
+        <source>Nothing stands still for longer than %1&#xa0;s.</source>
+        <translation>Nichts steht länger als %1&#xa0;s still.</translation>
+    </message>
+    <message id="IDD_STILL_SHORTENED">
+        <source>Still time was shortened by %1&#xa0;s.</source>
+        <translation>Standzeiten wurden um %1&#xa0;s gekürzt.</translation>
+    </message>
     <!-- export -->
     <message id="IDD_PROGRESS_GIF">
         <source>Generating the GIF…</source>

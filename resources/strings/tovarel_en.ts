@@ -447,6 +447,38 @@
         <source>No frame in this range</source>
         <translation>No frame in this range</translation>
     </message>
+    <message id="IDD_CUT_DELETE">
+        <source>Delete Selection</source>
+        <translation>Delete Selection</translation>
+    </message>
+    <message id="IDD_CUT_STILL">
+        <source>Shorten Still Time</source>
+        <translation>Shorten Still Time</translation>
+    </message>
+    <message id="IDD_UNDO">
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message id="IDD_REDO">
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message id="IDD_CUT_SELECTED">
+        <source>Selected: frames %1 to %2, %3&#xa0;s</source>
+        <translation>Selected: frames %1 to %2, %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_STILL_LENGTH">
+        <source>To %1&#xa0;s at Most</source>
+        <translation>To %1&#xa0;s at Most</translation>
+    </message>
+    <message id="IDD_STILL_NONE">
+        <source>Nothing stands still for longer than %1&#xa0;s.</source>
+        <translation>Nothing stands still for longer than %1&#xa0;s.</translation>
+    </message>
+    <message id="IDD_STILL_SHORTENED">
+        <source>Still time was shortened by %1&#xa0;s.</source>
+        <translation>Still time was shortened by %1&#xa0;s.</translation>
+    </message>
     <!-- export -->
     <message id="IDD_PROGRESS_GIF">
         <source>Generating the GIF…</source>

@@ -447,6 +447,38 @@
         <source>No frame in this range</source>
         <translation>No hay fotogramas en este intervalo</translation>
     </message>
+    <message id="IDD_CUT_DELETE">
+        <source>Delete Selection</source>
+        <translation>Eliminar selección</translation>
+    </message>
+    <message id="IDD_CUT_STILL">
+        <source>Shorten Still Time</source>
+        <translation>Acortar las pausas</translation>
+    </message>
+    <message id="IDD_UNDO">
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message id="IDD_REDO">
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message id="IDD_CUT_SELECTED">
+        <source>Selected: frames %1 to %2, %3&#xa0;s</source>
+        <translation>Selección: fotogramas %1 a %2, %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_STILL_LENGTH">
+        <source>To %1&#xa0;s at Most</source>
+        <translation>A %1&#xa0;s como máximo</translation>
+    </message>
+    <message id="IDD_STILL_NONE">
+        <source>Nothing stands still for longer than %1&#xa0;s.</source>
+        <translation>Nada permanece quieto más de %1&#xa0;s.</translation>
+    </message>
+    <message id="IDD_STILL_SHORTENED">
+        <source>Still time was shortened by %1&#xa0;s.</source>
+        <translation>Las pausas se han acortado %1&#xa0;s.</translation>
+    </message>
     <!-- export -->
     <message id="IDD_PROGRESS_GIF">
         <source>Generating the GIF…</source>

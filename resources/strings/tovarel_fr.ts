@@ -447,6 +447,38 @@
         <source>No frame in this range</source>
         <translation>Aucune image dans cette plage</translation>
     </message>
+    <message id="IDD_CUT_DELETE">
+        <source>Delete Selection</source>
+        <translation>Supprimer la sélection</translation>
+    </message>
+    <message id="IDD_CUT_STILL">
+        <source>Shorten Still Time</source>
+        <translation>Raccourcir les temps morts</translation>
+    </message>
+    <message id="IDD_UNDO">
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="IDD_REDO">
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message id="IDD_CUT_SELECTED">
+        <source>Selected: frames %1 to %2, %3&#xa0;s</source>
+        <translation>Sélection&#xa0;: images %1 à %2, %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_STILL_LENGTH">
+        <source>To %1&#xa0;s at Most</source>
+        <translation>À %1&#xa0;s au plus</translation>
+    </message>
+    <message id="IDD_STILL_NONE">
+        <source>Nothing stands still for longer than %1&#xa0;s.</source>
+        <translation>Rien ne reste immobile plus de %1&#xa0;s.</translation>
+    </message>
+    <message id="IDD_STILL_SHORTENED">
+        <source>Still time was shortened by %1&#xa0;s.</source>
+        <translation>Les temps morts ont été raccourcis de %1&#xa0;s.</translation>
+    </message>
     <!-- export -->
     <message id="IDD_PROGRESS_GIF">
         <source>Generating the GIF…</source>

@@ -444,6 +444,38 @@
         <source>No frame in this range</source>
         <translation>この区間にフレームはありません</translation>
     </message>
+    <message id="IDD_CUT_DELETE">
+        <source>Delete Selection</source>
+        <translation>選択範囲を削除</translation>
+    </message>
+    <message id="IDD_CUT_STILL">
+        <source>Shorten Still Time</source>
+        <translation>静止部分を短縮</translation>
+    </message>
+    <message id="IDD_UNDO">
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message id="IDD_REDO">
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message id="IDD_CUT_SELECTED">
+        <source>Selected: frames %1 to %2, %3&#xa0;s</source>
+        <translation>選択範囲: フレーム %1～%2、%3&#xa0;秒</translation>
+    </message>
+    <message id="IDD_STILL_LENGTH">
+        <source>To %1&#xa0;s at Most</source>
+        <translation>最長 %1&#xa0;秒に</translation>
+    </message>
+    <message id="IDD_STILL_NONE">
+        <source>Nothing stands still for longer than %1&#xa0;s.</source>
+        <translation>%1&#xa0;秒を超えて静止している部分はありません。</translation>
+    </message>
+    <message id="IDD_STILL_SHORTENED">
+        <source>Still time was shortened by %1&#xa0;s.</source>
+        <translation>静止部分を %1&#xa0;秒短縮しました。</translation>
+    </message>
     <!-- export -->
     <message id="IDD_PROGRESS_GIF">
         <source>Generating the GIF…</source>

@@ -6,6 +6,7 @@
 #include "trim/view_cut_preview.h"
 #include "trim/view_cut_range.h"
 
+#include <QMenu>
 #include <QTest>
 
 #include <algorithm>
@@ -222,4 +223,74 @@ TEST_F(CutTab, whateverIsPressedTheHandlesStayInOrderAndAKeyMovesOneFrame) {
         ASSERT_FALSE(strip->grab().isNull());
         ASSERT_FALSE(preview->grab().isNull());
     }
+}
+
+TEST_F(CutTab, aSelectedPartIsLeftOutOfEverythingAndComesBack) {
+    haveRecording(10, 5);
+    const double W = strip->width();
+    const auto shown = [this] {
+        QList<int> frames;
+        delegate->OnCutPlay(nullptr);
+        delegate->trim.timerPlayRefresh.reset();
+        for (int tick = 0; tick < 10; ++tick) {
+            frames << shownFrame();
+            delegate->TimerRefreshPlayRoutine();
+        }
+        delegate->OnCutStop(nullptr);
+        return frames;
+    };
+    const auto redAt = [&](double x) {
+        return strip->grab().toImage().pixelColor(static_cast<int>(x), 3);
+    };
+    EXPECT_FALSE(ui().btnCutDelete->isEnabled());
+    drag(W * 0.35, W * 0.58);
+    ASSERT_TRUE(delegate->trimEditor.selection());
+    EXPECT_EQ(*delegate->trimEditor.selection(), (FrameRuns::Run{3, 5}));
+    EXPECT_EQ(shownFrame(), 5) << "where the drag is";
+    EXPECT_NE(redAt(W * 0.45), QColor(0, 255, 0)) << "marked";
+    ASSERT_TRUE(ui().btnCutDelete->isEnabled());
+    ui().menuitemActionCutDelete->trigger();
+    EXPECT_FALSE(ui().btnCutDelete->isEnabled());
+    EXPECT_NE(redAt(W * 0.45), QColor(0, 255, 0)) << "hatched";
+    EXPECT_EQ(redAt(W * 0.7), QColor(0, 255, 0));
+    EXPECT_EQ(shown(), QList<int>({0, 1, 2, 6, 7, 8, 9, 0, 1, 2}));
+    EXPECT_EQ(delegate->exporter.timingRequest({}).kept.count(), 7u);
+
+    // By keys, from the frame at the handle on: the first step selects that frame.
+    QTest::keyClick(strip, Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClick(strip, Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(*delegate->trimEditor.selection(), (FrameRuns::Run{0, 1}));
+    QTest::keyClick(strip, Qt::Key_Escape);
+    EXPECT_FALSE(delegate->trimEditor.selection());
+    drag(W * 0.85, W * 0.65);
+    EXPECT_EQ(*delegate->trimEditor.selection(), (FrameRuns::Run{6, 8}));
+    ui().btnCutDelete->click();
+    EXPECT_EQ(shown(), QList<int>({0, 1, 2, 9, 0, 1, 2, 9, 0, 1}));
+
+    ui().menuitemActionCutUndo->trigger();
+    ui().menuitemActionCutUndo->trigger();
+    EXPECT_FALSE(ui().btnCutUndo->isEnabled());
+    EXPECT_EQ(delegate->exporter.timingRequest({}).kept.count(), 10u);
+    ui().menuitemActionCutRedo->trigger();
+    EXPECT_EQ(delegate->exporter.timingRequest({}).kept.count(), 7u);
+    QTest::mouseClick(strip, Qt::LeftButton, {}, QPoint(static_cast<int>(W / 2), 5));
+    EXPECT_FALSE(delegate->trimEditor.selection()) << "a click selects nothing";
+    delegate->trimEditor.keepWholeRecording();
+    EXPECT_FALSE(delegate->trimEditor.mayUndo() || delegate->trimEditor.mayRedo());
+}
+
+TEST_F(CutTab, stillTimeIsCutToTheLengthThatWasChosen) {
+    haveRecording(20, 4);
+    auto &frames = *delegate->recording.array_Images;
+    for (std::size_t frame = 3; frame < 15; ++frame)
+        frames[frame] = frame < 9 ? frames[2] : plainImage({64, 36}, colourOf(2).rgb());
+    ui().btnCutStill->click();
+    const FrameRuns kept = delegate->exporter.timingRequest({}).kept;
+    EXPECT_EQ(kept, FrameRuns::of(0, 20).without({6, 14})) << "a second of four frames is left";
+    ui().btnCutStill->menu()->actions().first()->trigger();
+    EXPECT_EQ(delegate->exporter.timingRequest({}).kept.count(), 9u);
+    ui().btnCutStill->click();
+    EXPECT_EQ(delegate->exporter.timingRequest({}).kept.count(), 9u) << "nothing is longer";
+    ui().menuitemActionCutUndo->trigger();
+    EXPECT_EQ(delegate->exporter.timingRequest({}).kept, kept);
 }

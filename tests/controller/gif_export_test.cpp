@@ -73,7 +73,7 @@ TEST_F(GifExport, WritesTheVeryFramesAndDelaysThatTheRateAndTheSpeedAskFor) {
         ui.comboGIFFPS->setCurrentIndex(std::max(chosen, 1) - 1);
         ui.comboGIFSpeed->setCurrentIndex(ui.comboGIFSpeed->findData(speed));
         const auto wanted =
-            timedFrames({.count = 9,
+            timedFrames({.kept = FrameRuns::of(0, 9),
                          .recordedRate = recorded,
                          .chosenRate = chosen > 0 ? std::optional(chosen) : std::nullopt,
                          .speed = speed},

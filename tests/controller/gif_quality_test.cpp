@@ -96,7 +96,7 @@ TEST_F(GifQuality, ShowsTheVeryFramesForTheVeryTimeInBest) {
         ui.comboGIFSpeed->setCurrentIndex(ui.comboGIFSpeed->findData(speed));
         std::vector<TimedFrame> wanted; // a frame that is repeated is one picture, shown longer
         for (const TimedFrame &frame :
-             timedFrames({.count = 9,
+             timedFrames({.kept = FrameRuns::of(0, 9),
              .recordedRate = recorded,
              .chosenRate = chosen > 0 ? std::optional(chosen) : std::nullopt,
              .speed = speed},

@@ -230,7 +230,7 @@ TEST_F(WebPExport, HasTheSizeTheRateAndTheSpeedThatWereChosen) {
         while (each.hasNext())
             found.push_back(each.next().captured(1).toULongLong());
         std::vector<std::uint64_t> wanted;
-        for (const auto &frame : frame_timing::timedFrames({.count = 9,
+        for (const auto &frame : frame_timing::timedFrames({.kept = FrameRuns::of(0, 9),
                                  .recordedRate = 9.83,
                                  .chosenRate = chosen > 0 ? std::optional(chosen) : std::nullopt,
                                  .speed = speed},

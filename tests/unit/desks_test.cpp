@@ -72,7 +72,7 @@ TEST_F(Desks, recordTrimAndDescribeAnExport) {
     editor->enter();
     EXPECT_TRUE(editor->mayPlay());
     EXPECT_FALSE(editor->mayPause() || editor->mayStop());
-    EXPECT_EQ(exporter->timingRequest({}).count, 4u);
+    EXPECT_EQ(exporter->timingRequest({}).kept, FrameRuns::of(0, 4));
     EXPECT_EQ(exporter->originalSize(), QSize(64, 48));
     ExportChoices choices;
     choices.width = choices.height = QStringLiteral("64");

@@ -18,50 +18,57 @@ std::ostream &operator<<(std::ostream &out, const TimedFrame &frame) {
 
 TEST(FrameTiming, showsEveryFrameOnceAndRoundsWithoutAddingUp) {
     // 9.83 a second: 33 frames take 3.357 seconds.
-    const auto frames = timedFrames({.first = 7, .count = 33, .recordedRate = 9.83}, gifTicks);
+    const auto frames = timedFrames({.kept = FrameRuns::of(7, 33), .recordedRate = 9.83}, gifTicks);
     ASSERT_EQ(frames.size(), 33u);
     EXPECT_EQ(length(frames), 336u);
     for (std::size_t index = 0; index < frames.size(); ++index) {
         EXPECT_EQ(frames[index].source, 7 + index);
         EXPECT_NEAR(static_cast<double>(frames[index].delay), 10.17, 1.0);
     }
-    EXPECT_EQ(timedFrames({.first = 0, .count = 3, .recordedRate = 5.0}, gifTicks),
+    EXPECT_EQ(timedFrames({.kept = FrameRuns::of(0, 3), .recordedRate = 5.0}, gifTicks),
               (std::vector<TimedFrame>{{0, 20}, {1, 20}, {2, 20}}));
-    EXPECT_EQ(timedFrames({.first = 0, .count = 3, .recordedRate = 60.0}, webpTicks),
+    EXPECT_EQ(timedFrames({.kept = FrameRuns::of(0, 3), .recordedRate = 60.0}, webpTicks),
               (std::vector<TimedFrame>{{0, 17}, {1, 16}, {2, 17}}));
 }
 
 TEST(FrameTiming, dropsOrRepeatsForAChosenRateAndKeepsTheSpeed) {
-    EXPECT_EQ(timedFrames({.count = 6, .recordedRate = 10.0, .chosenRate = 5.0}, gifTicks),
+    EXPECT_EQ(timedFrames({.kept = FrameRuns::of(0, 6), .recordedRate = 10.0, .chosenRate = 5.0},
+                          gifTicks),
               (std::vector<TimedFrame>{{0, 20}, {2, 20}, {4, 20}}));
-    EXPECT_EQ(timedFrames({.count = 2, .recordedRate = 10.0, .chosenRate = 20.0}, gifTicks),
+    EXPECT_EQ(timedFrames({.kept = FrameRuns::of(0, 2), .recordedRate = 10.0, .chosenRate = 20.0},
+                          gifTicks),
               (std::vector<TimedFrame>{{0, 5}, {0, 5}, {1, 5}, {1, 5}}));
     EXPECT_EQ(
-        timedFrames({.count = 4, .recordedRate = 10.0, .chosenRate = 10.0, .speed = 2.0}, gifTicks),
+        timedFrames(
+            {.kept = FrameRuns::of(0, 4), .recordedRate = 10.0, .chosenRate = 10.0, .speed = 2.0},
+            gifTicks),
         (std::vector<TimedFrame>{{0, 10}, {2, 10}}));
     // A rate that asks for less than one frame.
-    EXPECT_EQ(timedFrames({.count = 3, .recordedRate = 10.0, .chosenRate = 1.0}, gifTicks),
+    EXPECT_EQ(timedFrames({.kept = FrameRuns::of(0, 3), .recordedRate = 10.0, .chosenRate = 1.0},
+                          gifTicks),
               (std::vector<TimedFrame>{{0, 30}}));
 }
 
 TEST(FrameTiming, neverWritesADelayThatViewersDoNotHonour) {
-    const Request sixty{.count = 60, .recordedRate = 60.0};
+    const Request sixty{.kept = FrameRuns::of(0, 60), .recordedRate = 60.0};
     const auto frames = timedFrames(sixty, gifTicks);
     ASSERT_EQ(frames.size(), 50u);
     EXPECT_TRUE(isThinned(sixty, gifTicks));
     EXPECT_FALSE(isThinned(sixty, webpTicks));
-    EXPECT_FALSE(isThinned({.count = 50, .recordedRate = 50.0}, gifTicks));
+    EXPECT_FALSE(isThinned({.kept = FrameRuns::of(0, 50), .recordedRate = 50.0}, gifTicks));
     EXPECT_EQ(length(frames), 100u);
     // Fifty a second, measured where a frame more fell into the time: all of them are shown.
-    EXPECT_EQ(timedFrames({.count = 155, .recordedRate = 50.1}, gifTicks).size(), 155u);
+    EXPECT_EQ(timedFrames({.kept = FrameRuns::of(0, 155), .recordedRate = 50.1}, gifTicks).size(),
+              155u);
     for (std::size_t index = 1; index < frames.size(); ++index) {
         const std::uint64_t step = frames[index].source - frames[index - 1].source;
         EXPECT_TRUE(step == 1 || step == 2) << "dropped evenly";
     }
     // So short that there is not even time for one frame.
-    EXPECT_EQ(timedFrames({.count = 3, .recordedRate = 60.0, .speed = 4.0}, gifTicks),
-              (std::vector<TimedFrame>{{0, 2}}));
-    EXPECT_TRUE(timedFrames({.count = 0}, gifTicks).empty());
+    EXPECT_EQ(
+        timedFrames({.kept = FrameRuns::of(0, 3), .recordedRate = 60.0, .speed = 4.0}, gifTicks),
+        (std::vector<TimedFrame>{{0, 2}}));
+    EXPECT_TRUE(timedFrames({.kept = FrameRuns::of(0, 0)}, gifTicks).empty());
 }
 
 TEST(FrameTiming, isTrueToTheTickForEveryRateSpeedAndLength) {
@@ -70,8 +77,7 @@ TEST(FrameTiming, isTrueToTheTickForEveryRateSpeedAndLength) {
             for (const double speed : speeds)
                 for (const double chosen : {0.0, 1.0, 7.0, 10.0, 25.0, 50.0, 60.0})
                     for (const std::uint64_t count : {3u, 17u, 100u, 599u}) {
-                        const Request request{.first = 5,
-                                              .count = count,
+                        const Request request{.kept = FrameRuns::of(5, count),
                                               .recordedRate = recorded,
                                               .chosenRate = chosen > 0.0 ? std::optional(chosen)
                                                                          : std::nullopt,

@@ -89,12 +89,12 @@ TEST(RangeRules, whatIsShownAndExportedExists) {
     EXPECT_EQ(existingFrame(3, 10), 3u);
     EXPECT_EQ(existingFrame(10, 10), 9u);
     EXPECT_FALSE(existingFrame(0, 0));
-    const auto whole = keptFrames(0, 10, 10);
-    ASSERT_TRUE(whole);
-    EXPECT_EQ(whole->first, 0u);
-    EXPECT_EQ(whole->last, 9u);
-    EXPECT_EQ(whole->count(), 10u);
-    EXPECT_EQ(keptFrames(3, 3, 10)->count(), 1u);
-    EXPECT_FALSE(keptFrames(10, 10, 10));
-    EXPECT_FALSE(keptFrames(0, 0, 0));
+    EXPECT_EQ(frameAtX(0, 10, 100), 0u);
+    EXPECT_EQ(frameAtX(19.9, 10, 100), 1u);
+    EXPECT_EQ(frameAtX(100, 10, 100), 9u) << "beyond the end";
+    EXPECT_EQ(frameAtX(-5, 10, 100), 0u);
+    EXPECT_EQ(frameAtX(5, 0, 100), 0u);
+    EXPECT_EQ(placeOfFrames(2, 4, 10, 100).x, 20.0);
+    EXPECT_EQ(placeOfFrames(2, 4, 10, 100).width, 30.0);
+    EXPECT_EQ(placeOfFrames(5, 5, 1000, 100).width, thinnest);
 }
