@@ -21,11 +21,14 @@ QString handsTip(const QString &tip, HandAccess access) {
     return tip;
 }
 
+bool isGranted(HandAccess access) { return access == HandAccess::Granted; }
+
 /// The commands that make and change a recording.
 std::vector<Command> recordCommands(AppDelegate &controller) {
     const Ui::MainWindow &ui = *controller.ui;
     const InterfaceStrings &texts = controller.texts;
     const Recorder &recorder = controller.recorder;
+    const Hands &hands = recorder.hands;
     const auto status = [&recorder] { return recorder.recording.m_RecordStatus(); };
     const auto stopped = [status] { return status() == RECORD_STATUS_STOP; };
     // What is recorded is chosen before that, and before the countdown.
@@ -64,14 +67,25 @@ std::vector<Command> recordCommands(AppDelegate &controller) {
          .opensDialog = true},
         {.button = ui.btnRecordPointer,
          .text = qtTrId("IDD_POINTER"),
-         .tip = handsTip(qtTrId("IDD_POINTER_TIP"), recorder.hands.pointerAccess()),
+         .tip = handsTip(qtTrId("IDD_POINTER_TIP"), hands.pointerAccess()),
          .icon = "pointer",
          .action = [&controller] { controller.recorder.OnRecordPointer(); },
-         .enabled =
-             [stopped, &recorder] {
-                 return stopped() && recorder.hands.pointerAccess() == HandAccess::Granted;
-             },
-         .checked = [&recorder] { return recorder.hands.isPointerShown(); }},
+         .enabled = [stopped, has = hands.pointerAccess()] { return stopped() && isGranted(has); },
+         .checked = [&hands] { return hands.isPointerShown(); }},
+        {.button = ui.btnRecordClicks,
+         .text = qtTrId("IDD_CLICKS"),
+         .tip = handsTip(qtTrId("IDD_CLICKS_TIP"), hands.clicksAccess()),
+         .icon = "clicks",
+         .action = [&controller] { controller.recorder.OnRecordClicks(); },
+         .enabled = [stopped, has = hands.clicksAccess()] { return stopped() && isGranted(has); },
+         .checked = [&hands] { return hands.areClicksShown(); }},
+        {.button = ui.btnRecordKeys,
+         .text = qtTrId("IDD_KEYS"),
+         .tip = handsTip(qtTrId("IDD_KEYS_TIP"), hands.keysAccess()),
+         .icon = "keys",
+         .action = [&controller] { controller.recorder.OnRecordKeys(); },
+         .enabled = [stopped, has = hands.keysAccess()] { return stopped() && isGranted(has); },
+         .checked = [&hands] { return hands.areKeysShown(); }},
         {.item = ui.menuitemActionRecordRecord,
          .button = ui.btnRecordRecord,
          .text = texts.s_IDD_RECORD(),

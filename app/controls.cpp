@@ -141,10 +141,8 @@ void Controls::refresh() { ::refresh(commands_); }
 void Controls::listenToShell() {
     Surroundings &surroundings = controller_.surroundings;
     connect(&surroundings, &Surroundings::statusChanged, this, [this](const QString &text) {
-        ui_.labelStatus->setText(text);
-        // A path may look like markup, which a tip would follow; the label itself is set to plain
-        // text.
-        ui_.labelStatus->setToolTip(text.isEmpty() ? text : Qt::convertFromPlainText(text));
+        status_ = text;
+        showStatus();
     });
     surroundings.progress.hangFrom(*ui_.tabBar);
     connect(&surroundings.progress, &ProgressSheet::parentCloseRequested, &controller_,
@@ -198,7 +196,21 @@ void Controls::showState() {
     ui_.recordingIndicator->setState(status);
     showStateInTaskBar(controller_.shell, status, controller_.recorder.secondsToGo());
     ui_.btnSaveAgain->setVisible(controller_.recorder.hasMissingFrames());
+    showStatus();
     refresh();
+}
+
+void Controls::showStatus() {
+    QStringList parts;
+    // First, where no longer text hides it.
+    if (controller_.recorder.hands.areKeysShown())
+        parts << qtTrId("IDD_KEYS_SHOWN");
+    if (!status_.isEmpty())
+        parts << status_;
+    const QString text = parts.join(QStringLiteral(" · "));
+    ui_.labelStatus->setText(text);
+    // A path may look like markup, which a tip would follow; the label itself is set to plain text.
+    ui_.labelStatus->setToolTip(text.isEmpty() ? text : Qt::convertFromPlainText(text));
 }
 
 void Controls::showCaptureMode(const CaptureMode &mode) {

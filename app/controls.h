@@ -55,10 +55,12 @@ private:
     /// Beside the status line: what leads to the last file, where its card does not show it.
     void showWaysToLastFile();
     void showState();
+    void showStatus();
     void showCaptureMode(const CaptureMode &mode);
     void showRecording();
 
     AppDelegate &controller_;
     Ui::MainWindow &ui_;
     std::vector<Command> commands_;
+    QString status_; // as the desks report it
 };

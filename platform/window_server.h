@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/image/image.h"
+#include "platform/input_watch.h"
 #include "platform/pointer_watch.h"
 
 #include <QRect>
@@ -75,6 +76,9 @@ struct WindowServerCapabilities {
     bool knowsDamage = false;
     /// It can tell where the pointer is and what it looks like.
     HandAccess pointer = HandAccess::NothingRecorded;
+    /// It can tell what is done to the mouse's buttons, and to the keys, in all windows.
+    HandAccess clicks = HandAccess::NothingRecorded;
+    HandAccess keys = HandAccess::NothingRecorded;
 };
 
 /// The window server: the list of the windows on screen, and one picture of those that are asked
@@ -113,6 +117,9 @@ public:
 
     /// Follows the pointer from now on; null when that cannot be had. Ends before the server does.
     virtual std::unique_ptr<PointerWatch> watchPointer() { return nullptr; }
+
+    /// Hears what hands do from now on; null when that cannot be had. Ends before the server does.
+    virtual std::unique_ptr<InputWatch> watchInput(InputKinds) { return nullptr; }
 
     /// The whole of it.
     std::optional<Image> composite(std::span<const std::uint32_t> numbers) {

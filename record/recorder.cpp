@@ -152,6 +152,8 @@ void Recorder::begin(bool goesOn) {
         recording.growth = 0;
         recording.heldBefore = recording.store.bytesHeld();
     }
+    // The keys that began it are not part of it.
+    hands.forget();
     recording.setM_RecordStatus(RECORD_STATUS_RECORD);
     recording.clock.run(now());
     if (goesOn && recording.timerdebug1Second)
@@ -219,6 +221,16 @@ void Recorder::TimerDebug1SecondRoutine() {
 
 void Recorder::OnRecordPointer() {
     hands.showPointer(!hands.isPointerShown());
+    Q_EMIT stateChanged();
+}
+
+void Recorder::OnRecordClicks() {
+    hands.showClicks(!hands.areClicksShown());
+    Q_EMIT stateChanged();
+}
+
+void Recorder::OnRecordKeys() {
+    hands.showKeys(!hands.areKeysShown());
     Q_EMIT stateChanged();
 }
 

@@ -106,6 +106,9 @@ public:
     void OnRecordStop();
     /// Shows the mouse pointer in recordings from now on, or no longer.
     void OnRecordPointer();
+    /// The same of clicks and of keys.
+    void OnRecordClicks();
+    void OnRecordKeys();
 
     /// How long a countdown lasts, in seconds; 0 for none. Remembered.
     int delay() const { return delay_; }

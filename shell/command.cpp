@@ -20,10 +20,22 @@ void setUpButton(const Command &command, QObject *context, Qt::ConnectionType ty
         if (!command.face.isEmpty())
             button.setAccessibleName(command.text);
     }
-    button.setCheckable(command.checked != nullptr);
     button.setToolTip(command.tip.isEmpty() ? command.text : command.tip);
+    if (!command.checked) {
+        QObject::connect(
+            &button, &QAbstractButton::clicked, context, [action = command.action] { action(); },
+            type);
+        return;
+    }
+    button.setCheckable(true);
+    // Assistive technology switches it without a click.
     QObject::connect(
-        &button, &QAbstractButton::clicked, context, [action = command.action] { action(); }, type);
+        &button, &QAbstractButton::toggled, context,
+        [action = command.action, isOn = command.checked](bool on) {
+            if (on != isOn())
+                action();
+        },
+        type);
 }
 
 void setUpItem(const Command &command, QObject *context, Qt::ConnectionType type) {

@@ -16,6 +16,7 @@ const QString lastSaveFolderKey = QStringLiteral("LastSaveFolder");
 const QString qualityKey = QStringLiteral("GIFQuality");
 const QString showPointerKey = QStringLiteral("ShowPointer");
 const QString withoutAskingKey = QStringLiteral("SaveWithoutAsking");
+const QString showClicksKey = QStringLiteral("ShowClicks");
 
 void sync(QSettings &store) {
     store.sync();
@@ -75,6 +76,10 @@ QString readChoice(const char *name) {
 }
 
 void writeChoice(const char *name, const QString &text) { write(QString::fromLatin1(name), text); }
+
+bool readShowClicks() { return readSwitch(showClicksKey, false); }
+
+void writeShowClicks(bool shown) { writeSwitch(showClicksKey, shown); }
 
 void flush() {
     QSettings store;

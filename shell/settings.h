@@ -41,6 +41,10 @@ void writeSaveWithoutAsking(bool without);
 QString readChoice(const char *name);
 void writeChoice(const char *name, const QString &text);
 
+/// Whether clicks are shown in recordings; they are not, as long as nothing else was stored.
+bool readShowClicks();
+void writeShowClicks(bool shown);
+
 /// Writes what is not on disk yet.
 void flush();
 

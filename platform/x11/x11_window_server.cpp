@@ -5,6 +5,7 @@
 #include "platform/image/regions.h"
 #include "platform/x11/surface.h"
 #include "platform/x11/tile_comparison.h"
+#include "platform/x11/x11_input_watch.h"
 #include "platform/x11/x11_pointer_watch.h"
 
 #include <QCoreApplication>
@@ -51,7 +52,10 @@ std::unique_ptr<X11WindowServer> X11WindowServer::create(const Options &options,
 
 X11WindowServer::X11WindowServer(std::unique_ptr<x11::Connection> connection,
                                  x11::TransferMethod bestMethod)
-    : connection_(std::move(connection)), model_(*connection_), underlay_(*connection_, model_),
+    : connection_(std::move(connection)),
+      input_(x11::X11InputWatch::isOffered(*connection_) ? HandAccess::Granted
+                                                         : HandAccess::NotOffered),
+      model_(*connection_), underlay_(*connection_, model_),
       ring_(*connection_, model_.formats(), bestMethod) {
     watchWhileIdle();
 }
@@ -79,13 +83,21 @@ void X11WindowServer::watchWhileIdle() {
 }
 
 WindowServerCapabilities X11WindowServer::capabilities() const {
-    return {
-        .canList = true, .canLeaveOut = true, .knowsDamage = true, .pointer = HandAccess::Granted};
+    return {.canList = true,
+            .canLeaveOut = true,
+            .knowsDamage = true,
+            .pointer = HandAccess::Granted,
+            .clicks = input_,
+            .keys = input_};
 }
 
 std::unique_ptr<PointerWatch> X11WindowServer::watchPointer() {
     auto own = connection_->another();
     return own ? std::make_unique<x11::X11PointerWatch>(std::move(own)) : nullptr;
+}
+
+std::unique_ptr<InputWatch> X11WindowServer::watchInput(InputKinds kinds) {
+    return x11::X11InputWatch::create(connection_->another(), kinds);
 }
 
 std::vector<WindowDescription> X11WindowServer::listWindows() {

@@ -55,6 +55,7 @@ public:
                                    const std::optional<QRect> &part) override;
 
     std::unique_ptr<PointerWatch> watchPointer() override;
+    std::unique_ptr<InputWatch> watchInput(InputKinds kinds) override;
 
     /// How pixels come over; none before the first composite.
     std::optional<x11::TransferMethod> method() const { return ring_.method(); }
@@ -68,6 +69,7 @@ private:
     void watchWhileIdle();
 
     std::unique_ptr<x11::Connection> connection_;
+    HandAccess input_; // to buttons and keys
     x11::DesktopModel model_;
     x11::Underlay underlay_;
     x11::PictureRing ring_;

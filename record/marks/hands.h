@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <span>
+#include <vector>
 
 /// Follows what the user's hands do, as far as it is to be shown: what is switched off is not
 /// followed, and costs nothing. Everything runs on the main thread.
@@ -15,26 +16,45 @@ public:
     /// `server` is borrowed and outlives it.
     explicit Hands(WindowServer &server) : server_(server) {}
 
-    /// The switches as they were left, and at the first start the pointer alone.
+    /// The switches as they were left, and at the first start the pointer alone. Keys are off at
+    /// every start: nobody shall show them unawares.
     void start();
 
-    /// Whether it can be shown here at all, or why not.
+    /// Whether each can be shown here at all, or why not.
     HandAccess pointerAccess() const { return server_.capabilities().pointer; }
-    /// Whether it is shown; remembered from one start to the next.
+    HandAccess clicksAccess() const { return server_.capabilities().clicks; }
+    HandAccess keysAccess() const { return server_.capabilities().keys; }
+
+    /// Whether each is shown; pointer and clicks are remembered from one start to the next.
     bool isPointerShown() const { return pointerShown_; }
+    bool areClicksShown() const { return clicksShown_; }
+    bool areKeysShown() const { return keysShown_; }
     void showPointer(bool shown);
+    void showClicks(bool shown);
+    void showKeys(bool shown);
 
     /// Follows what is switched on, and no longer: for as long as grabs are taken.
     void follow();
     void rest();
+    /// What happened so far is not to be seen any more.
+    void forget();
 
     /// What is to be shown at this moment, when a grab has just been taken of these windows.
     /// Nothing of what hands do in the program's own windows, which the grab does not show either.
     MarksShown look(std::span<const WindowDescription> windows);
 
 private:
+    void followInput();
+    void takeInput(std::span<const WindowDescription> windows);
+
     WindowServer &server_;
     bool pointerShown_ = false;
+    bool clicksShown_ = false;
+    bool keysShown_ = false;
     bool following_ = false;
     std::unique_ptr<PointerWatch> pointer_;
+    InputKinds heard_; // by `input_`
+    std::unique_ptr<InputWatch> input_;
+    std::vector<Click> clicks_;
+    KeyTrail keys_;
 };

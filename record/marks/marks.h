@@ -4,14 +4,22 @@
 
 #include "platform/image/image.h"
 #include "platform/pointer_watch.h"
+#include "record/marks/click_marks.h"
+#include "record/marks/key_marks.h"
 #include "record/marks/pointer_mark.h"
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 /// What a frame shows of the hands at work, at one moment.
 struct MarksShown {
     std::optional<Pointer> pointer;
+    /// Where it is, whether it is shown or not; needed for clicks only. Pixels of the desktop.
+    std::optional<QPoint> hand;
+    std::vector<Click> clicks;
+    std::optional<Plate> keys;
+    MarkTime now;
 };
 
 /// Draws the hands' marks over frames, as patches: a frame shares all other pixels with the picture
@@ -29,6 +37,8 @@ private:
         FramePlace place;
         QPoint pointer;
         std::int64_t shape = 0; // a QImage's cacheKey; 0: no pointer
+        std::vector<Disc> discs;
+        std::optional<Plate> keys;
 
         bool operator==(const Drawn &) const = default;
     };

@@ -2,11 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "record/marks/pointer_mark.h"
 
-#include <cstdint>
-
 namespace {
-
-int half(int pixel) { return pixel >= 0 ? pixel / 2 : (pixel - 1) / 2; }
 
 /// The mean of the four pixels whose upper left one this is; outside there is nothing.
 QRgb meanAt(const QImage &shape, int x, int y) {
@@ -27,11 +23,6 @@ QRgb meanAt(const QImage &shape, int x, int y) {
 }
 
 } // namespace
-
-QPoint FramePlace::inFrame(QPoint pixel) const {
-    const QPoint from = pixel - origin;
-    return density == 1 ? from : QPoint(half(from.x()), half(from.y()));
-}
 
 PointerMark pointerMark(const Pointer &pointer, const FramePlace &place) {
     const QPoint onDesktop = pointer.place - pointer.hotSpot;

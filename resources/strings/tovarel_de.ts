@@ -272,6 +272,26 @@
         <source>Not possible with this display server: it does not report mouse buttons and keys</source>
         <translation>Mit diesem Anzeigeserver nicht möglich: Er meldet weder Maustasten noch Tastatureingaben</translation>
     </message>
+    <message id="IDD_CLICKS">
+        <source>Clicks</source>
+        <translation>Klicks</translation>
+    </message>
+    <message id="IDD_CLICKS_TIP">
+        <source>Clicks: shows in the recording where a mouse button is pressed</source>
+        <translation>Klicks: zeigt in der Aufnahme, wo eine Maustaste gedrückt wird</translation>
+    </message>
+    <message id="IDD_KEYS">
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message id="IDD_KEYS_TIP">
+        <source>Keys: shows keyboard shortcuts in the recording, never the text you type</source>
+        <translation>Tasten: zeigt Tastenkürzel in der Aufnahme, niemals den Text, den Sie tippen</translation>
+    </message>
+    <message id="IDD_KEYS_SHOWN">
+        <source>Shortcuts that you press are shown</source>
+        <translation>Gedrückte Tastenkürzel werden gezeigt</translation>
+    </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
         <translation>Arbeitsspeicher fast voll (%1 frei). Mit „Stopp“ speichern.</translation>

@@ -272,6 +272,26 @@
         <source>Not possible with this display server: it does not report mouse buttons and keys</source>
         <translation>Not possible with this display server: it does not report mouse buttons and keys</translation>
     </message>
+    <message id="IDD_CLICKS">
+        <source>Clicks</source>
+        <translation>Clicks</translation>
+    </message>
+    <message id="IDD_CLICKS_TIP">
+        <source>Clicks: shows in the recording where a mouse button is pressed</source>
+        <translation>Clicks: shows in the recording where a mouse button is pressed</translation>
+    </message>
+    <message id="IDD_KEYS">
+        <source>Keys</source>
+        <translation>Keys</translation>
+    </message>
+    <message id="IDD_KEYS_TIP">
+        <source>Keys: shows keyboard shortcuts in the recording, never the text you type</source>
+        <translation>Keys: shows keyboard shortcuts in the recording, never the text you type</translation>
+    </message>
+    <message id="IDD_KEYS_SHOWN">
+        <source>Shortcuts that you press are shown</source>
+        <translation>Shortcuts that you press are shown</translation>
+    </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
         <translation>Memory is running out (%1 left). Stop saves the recording.</translation>

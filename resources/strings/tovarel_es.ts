@@ -272,6 +272,26 @@
         <source>Not possible with this display server: it does not report mouse buttons and keys</source>
         <translation>No es posible con este servidor gráfico: no informa de los botones del ratón ni de las teclas</translation>
     </message>
+    <message id="IDD_CLICKS">
+        <source>Clicks</source>
+        <translation>Clics</translation>
+    </message>
+    <message id="IDD_CLICKS_TIP">
+        <source>Clicks: shows in the recording where a mouse button is pressed</source>
+        <translation>Clics: muestra en la grabación dónde se pulsa un botón del ratón</translation>
+    </message>
+    <message id="IDD_KEYS">
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message id="IDD_KEYS_TIP">
+        <source>Keys: shows keyboard shortcuts in the recording, never the text you type</source>
+        <translation>Teclas: muestra los atajos de teclado en la grabación, nunca el texto que escribe</translation>
+    </message>
+    <message id="IDD_KEYS_SHOWN">
+        <source>Shortcuts that you press are shown</source>
+        <translation>Se muestran los atajos de teclado</translation>
+    </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
         <translation>Queda poca memoria (%1). «Detener» guarda todo.</translation>

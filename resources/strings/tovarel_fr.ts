@@ -272,6 +272,26 @@
         <source>Not possible with this display server: it does not report mouse buttons and keys</source>
         <translation>Impossible avec ce serveur d’affichage&#xa0;: il ne signale ni les boutons de la souris ni les touches</translation>
     </message>
+    <message id="IDD_CLICKS">
+        <source>Clicks</source>
+        <translation>Clics</translation>
+    </message>
+    <message id="IDD_CLICKS_TIP">
+        <source>Clicks: shows in the recording where a mouse button is pressed</source>
+        <translation>Clics&#xa0;: montre dans l’enregistrement où un bouton de la souris est enfoncé</translation>
+    </message>
+    <message id="IDD_KEYS">
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message id="IDD_KEYS_TIP">
+        <source>Keys: shows keyboard shortcuts in the recording, never the text you type</source>
+        <translation>Touches&#xa0;: montre les raccourcis clavier dans l’enregistrement, jamais le texte saisi</translation>
+    </message>
+    <message id="IDD_KEYS_SHOWN">
+        <source>Shortcuts that you press are shown</source>
+        <translation>Les raccourcis clavier sont montrés</translation>
+    </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
         <translation>Plus que %1 de mémoire&#xa0;: «&#xa0;Arrêter&#xa0;» sauvegarde</translation>

@@ -272,6 +272,26 @@
         <source>Not possible with this display server: it does not report mouse buttons and keys</source>
         <translation>このディスプレイサーバーでは使用できません: マウスボタンとキーの操作が通知されません</translation>
     </message>
+    <message id="IDD_CLICKS">
+        <source>Clicks</source>
+        <translation>クリック</translation>
+    </message>
+    <message id="IDD_CLICKS_TIP">
+        <source>Clicks: shows in the recording where a mouse button is pressed</source>
+        <translation>クリック: マウスボタンを押した位置を録画に表示します</translation>
+    </message>
+    <message id="IDD_KEYS">
+        <source>Keys</source>
+        <translation>キー</translation>
+    </message>
+    <message id="IDD_KEYS_TIP">
+        <source>Keys: shows keyboard shortcuts in the recording, never the text you type</source>
+        <translation>キー: ショートカットキーを録画に表示します。入力した文字は表示しません</translation>
+    </message>
+    <message id="IDD_KEYS_SHOWN">
+        <source>Shortcuts that you press are shown</source>
+        <translation>ショートカットキーを表示中</translation>
+    </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is running out (%1 left). Stop saves the recording.</source>
         <translation>メモリが残り少なくなりました（残り %1）。「停止」で録画を保存します。</translation>

@@ -167,6 +167,66 @@ TEST_F(RecordPreview, showsThePointerOfTheGrabButNotOverOurWindowNorWhenSwitched
     EXPECT_TRUE(ui().btnRecordPointer->isChecked());
 }
 
+TEST_F(RecordPreview, showsClicksAndKeysWhileTheyAreSwitchedOnAndNotThoseForUs) {
+    server->picture = plainImage({600, 400}, qRgb(10, 20, 30));
+    server->windows = {{.number = 6, .ownerName = QStringLiteral("Tovarel"), .bounds = {}},
+                       {.number = 7, .ownerName = QStringLiteral("Other"), .bounds = {}}};
+    delegate->OnRecordStop(nullptr);
+    delegate->recorder.hands.follow();
+    EXPECT_FALSE(ui().btnRecordClicks->isChecked());
+    EXPECT_EQ(server->heard, InputKinds()) << "off: nobody listens";
+    ui().btnRecordClicks->click();
+    EXPECT_EQ(server->heard, (InputKinds{.buttons = true, .keys = false}));
+    ui().btnRecordKeys->click();
+    EXPECT_EQ(server->heard, (InputKinds{.buttons = true, .keys = true}));
+    EXPECT_TRUE(ui().labelStatus->text().startsWith(qtTrId("IDD_KEYS_SHOWN")));
+    delegate->surroundings.showStatus(QStringLiteral("Something else"));
+    EXPECT_TRUE(ui().labelStatus->text().startsWith(qtTrId("IDD_KEYS_SHOWN")));
+
+    const auto shown = [this] {
+        delegate->TimerRefreshVideoRoutine();
+        return delegate->capture.imageScreenCaptureFinal().toQImage();
+    };
+    const QImage plain = server->picture->toQImage();
+    const auto click = [this](std::uint32_t window) {
+        const auto now = std::chrono::steady_clock::now();
+        server->buttons.push_back(
+            {now, {.button = 1, .down = true, .place = {300, 90}, .window = window}});
+    };
+    click(6);
+    EXPECT_EQ(shown(), plain) << "a click on our own window";
+    click(7);
+    EXPECT_NE(shown().pixel(300, 90), plain.pixel(300, 90));
+
+    window()->clearFocus();
+    const auto press = [this] {
+        KeyPress undo;
+        undo.key = Qt::Key_Z;
+        undo.modifiers = Qt::ControlModifier;
+        server->keys.push_back({std::chrono::steady_clock::now(), undo});
+    };
+    QApplication::setActiveWindow(nullptr);
+    press();
+    EXPECT_NE(shown().copy(200, 340, 200, 60), plain.copy(200, 340, 200, 60));
+    delegate->OnRecordRecord(nullptr);
+    EXPECT_EQ(shown(), plain) << "what was before a recording is not in it";
+    delegate->OnRecordStop(nullptr);
+    delegate->recorder.hands.rest();
+    EXPECT_EQ(server->heard, InputKinds());
+
+    delegate->recorder.start();
+    EXPECT_TRUE(delegate->recorder.hands.areClicksShown()) << "remembered";
+    EXPECT_FALSE(delegate->recorder.hands.areKeysShown()) << "never";
+    delegate->recorder.OnRecordClicks();
+    server->handAccess = HandAccess::NotOffered;
+    delegate->recorder.OnRecordClicks();
+    delegate->recorder.start();
+    EXPECT_FALSE(delegate->recorder.hands.areClicksShown());
+    server->handAccess = HandAccess::Granted;
+    delegate->recorder.OnRecordClicks();
+    delegate->recorder.OnRecordClicks();
+}
+
 TEST_F(RecordPreview, cutsTheRegionFromTheLowerLeftAndLeavesTheOutsideTransparent) {
     QImage pixels(64, 48, QImage::Format_RGB32);
     pixels.fill(qRgb(0, 0, 200));

@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 /// A window server without a screen: a test says which windows there are and what a grab yields.
@@ -23,9 +24,15 @@ public:
 
     /// Where the pointer is, for whoever watches it.
     std::optional<Pointer> pointer;
+    /// What hands did since somebody who hears it last asked, and whether that can be heard.
+    std::vector<Timed<ButtonChange>> buttons;
+    std::vector<Timed<KeyPress>> keys;
+    HandAccess handAccess = HandAccess::Granted;
+    /// What is heard.
+    InputKinds heard;
 
     WindowServerCapabilities capabilities() const override {
-        return {true, true, true, HandAccess::Granted};
+        return {true, true, true, HandAccess::Granted, handAccess, handAccess};
     }
     std::unique_ptr<PointerWatch> watchPointer() override {
         struct Watch : PointerWatch {
@@ -33,6 +40,21 @@ public:
             std::optional<Pointer> now() override { return server.pointer; }
             FakeWindowServer &server;
         };
+        return std::make_unique<Watch>(*this);
+    }
+    std::unique_ptr<InputWatch> watchInput(InputKinds kinds) override {
+        struct Watch : InputWatch {
+            explicit Watch(FakeWindowServer &fake) : server(fake) {}
+            ~Watch() override { server.heard = {}; }
+            std::vector<Timed<ButtonChange>> takeButtons() override {
+                return std::exchange(server.buttons, {});
+            }
+            std::vector<Timed<KeyPress>> takeKeys() override {
+                return std::exchange(server.keys, {});
+            }
+            FakeWindowServer &server;
+        };
+        heard = kinds;
         return std::make_unique<Watch>(*this);
     }
     std::optional<Obstacle> obstacle() const override { return why; }

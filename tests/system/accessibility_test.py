@@ -79,7 +79,8 @@ class Accessibility(case.Case):
         self.program.await_control("image", "Live preview")
         self.check_order((BAR, "Record"),
                          *self.buttons("Full Screen", "Region", "Frames per Second"),
-                         ("check box", "Pointer"), *self.buttons("Record", "Countdown"))
+                         *(("check box", each) for each in ("Pointer", "Clicks", "Keys")),
+                         *self.buttons("Record", "Countdown"))
         self.session.xdotool("key", "ctrl+f")
         self.program.button("Cancel")
         self.check_order(("combo box", "Frames per Second"), *self.buttons("Cancel", "OK"))

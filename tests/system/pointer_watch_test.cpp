@@ -1,7 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
+#include "platform/x11/x11_input_watch.h"
 #include "platform/x11/x11_pointer_watch.h"
 #include "tests/system/window_server_fixture.h"
+
+#include <QCoreApplication>
+#include <QProcess>
 
 #include <xcb/render.h>
 
@@ -117,4 +121,77 @@ TEST_F(PointerWatching, followsTheSinglePicturesOfAnAnimatedOne) {
         }
         return seen.size() == 2;
     }));
+}
+
+namespace {
+
+/// Buttons and keys pressed as by a user's hand, while another program has the pointer for itself.
+class InputWatching : public PointerWatching {
+protected:
+    InputWatching()
+        : input(x11::X11InputWatch::create(x11::Connection::open(),
+                                           {.buttons = true, .keys = true})) {}
+
+    static void hand(const QStringList &doing) {
+        ASSERT_EQ(QProcess::execute(QStringLiteral("xdotool"), doing), 0);
+    }
+
+    std::unique_ptr<x11::X11InputWatch> input;
+};
+
+} // namespace
+
+TEST_F(InputWatching, hearsButtonsAndTheirPlacesWhoeverHasGrabbedThePointer) {
+    ASSERT_TRUE(input);
+    const xcb_window_t window = client.show({.place = {60, 50, 150, 100}});
+    client.sync();
+    const x11::Reply<xcb_grab_pointer_reply_t> grab(xcb_grab_pointer_reply(
+        client.get(),
+        xcb_grab_pointer(client.get(), 0, window, XCB_EVENT_MASK_BUTTON_PRESS, XCB_GRAB_MODE_ASYNC,
+                         XCB_GRAB_MODE_ASYNC, XCB_NONE, XCB_NONE, XCB_CURRENT_TIME),
+        nullptr));
+    ASSERT_TRUE(grab);
+    hand({QStringLiteral("mousemove"), QStringLiteral("100"), QStringLiteral("90"),
+          QStringLiteral("mousedown"), QStringLiteral("3"), QStringLiteral("click"),
+          QStringLiteral("5"), QStringLiteral("sleep"), QStringLiteral("0.05"),
+          QStringLiteral("mouseup"), QStringLiteral("3")});
+    std::vector<Timed<ButtonChange>> changes;
+    EXPECT_TRUE(eventually([&] {
+        QCoreApplication::processEvents();
+        for (const auto &change : input->takeButtons())
+            changes.push_back(change);
+        return changes.size() >= 2;
+    }));
+    ASSERT_EQ(changes.size(), 2u) << "the wheel's turn is none";
+    for (const bool down : {true, false}) {
+        const ButtonChange &what = changes[down ? 0 : 1].what;
+        EXPECT_EQ(what.button, 3);
+        EXPECT_EQ(what.down, down);
+        EXPECT_EQ(what.place, QPoint(100, 90));
+        EXPECT_EQ(what.window, window);
+    }
+    xcb_ungrab_pointer(client.get(), XCB_CURRENT_TIME);
+    client.sync();
+}
+
+TEST_F(InputWatching, hearsKeysWithTheModifiersThatWereHeld) {
+    ASSERT_TRUE(input);
+    hand({QStringLiteral("key"), QStringLiteral("ctrl+z"), QStringLiteral("a"),
+          QStringLiteral("super+shift+Left"), QStringLiteral("F5")});
+    std::vector<KeyPress> presses;
+    EXPECT_TRUE(eventually([&] {
+        for (const auto &press : input->takeKeys())
+            presses.push_back(press.what);
+        return presses.size() >= 4;
+    }));
+    ASSERT_EQ(presses.size(), 4u);
+    const std::pair<int, Qt::KeyboardModifiers> wanted[] = {
+        {Qt::Key_Z, Qt::ControlModifier},
+        {Qt::Key_A, Qt::NoModifier},
+        {Qt::Key_Left, Qt::MetaModifier | Qt::ShiftModifier},
+        {Qt::Key_F5, Qt::NoModifier}};
+    for (std::size_t i = 0; i < presses.size(); ++i) {
+        EXPECT_EQ(presses[i].key, wanted[i].first);
+        EXPECT_EQ(presses[i].modifiers, wanted[i].second) << i;
+    }
 }

@@ -9,7 +9,7 @@ import time
 import case
 import counter
 from accessibility import SCALE
-from driver import Program, in_picture
+from driver import Program, act, in_picture
 
 RATE = 20  # steps of the counter a second
 PART = 2.2  # seconds that each part of the recording takes
@@ -105,8 +105,47 @@ class Recording(case.Case):
         self.assertEqual([found for found, _ in itertools.groupby(in_gif)],
                          [found for found, _ in itertools.groupby(seen)])
 
+    def test_clicks_and_shortcuts_are_shown_and_what_is_typed_is_not(self):
+        self.session.remember("ShowClicks", 1)
+        x, y, width, _ = self.session.counter("--at", "60,80", "--size", "400x240")
+        self.addCleanup(self.session.children[-1].kill)
+        program = Program(self.session)
+        self.session.remember("ShowClicks", 0)
+        act(program.await_control("check box", "Keys"))
+        program.wait_for("the warning", lambda: any(
+            text.startswith("Shortcuts that you press are shown") for text in program.labels()))
+        window = program.window()
+        self.session.xdotool("windowmove", "--sync", window, 40 * SCALE, 300 * SCALE)
+        program.press("Record")
+        program.recording_for(0.3)
+        # Another window has the keys: its upper half is grey.
+        at = (x + width // 2, y + 4 * SCALE)
+        self.session.xdotool("mousemove", *at, "mousedown", 3, "sleep", 0.5, "mouseup", 3)
+        program.wait_for("another window to have the keys", lambda: self.session.xdotool(
+            "getwindowfocus", check=False) != window)
+        time.sleep(0.3)
+        self.session.xdotool("key", "ctrl+z", "key", "ctrl+z")
+        time.sleep(2)
+        self.session.xdotool("key", "a", "shift+b", "7", "space")
+        time.sleep(1)
+        program.press("Stop")
+        program.await_tab("Cut")
+        frames = counter.decode(str(self.session.frames / "frame%08d.png"), pattern=True)
+        clicks = [max(frame.pixel(*in_picture(at))) > 100 for frame in frames]
+        plates = [self.plate_in(frame) for frame in frames]
+        for shown in (clicks, plates):
+            self.assertGreaterEqual(shown.count(True), 2, shown)
+            self.assertEqual(shown[0], False)
+            # At once, then gone: what was typed later is not there.
+            self.assertEqual([each for each, _ in itertools.groupby(shown)], [False, True, False])
+
+    def plate_in(self, picture):
+        """Whether something bright is at the lower middle."""
+        start = picture.height * 9 // 10 * picture.width * 3
+        return max(picture.data[start:]) > 100
+
     def pointer_in(self, picture):
-        """Place and pixels of all that is not black; None where everything is."""
+        """Place and looks of all that is not black; None where everything is."""
         row = picture.width * 3
         lines = [picture.data[at : at + row] for at in range(0, len(picture.data), row)]
         rows = [number for number, line in enumerate(lines) if max(line) > 16]
@@ -117,7 +156,7 @@ class Recording(case.Case):
         left, right = min(columns), max(columns)
         shape = tuple(bytes(lines[number][left * 3 : right * 3 + 3])
                       for number in range(rows[0], rows[-1] + 1))
-        return (left, rows[0]), shape
+        return (left, rows[0]), hash(shape)
 
     def cover(self, program, place):
         """Puts the program's window over the counter and makes sure that it is in front."""

@@ -3,11 +3,14 @@
 #include "platform/image/image_reader.h"
 #include "platform/image/tile_store.h"
 #include "record/marks/marks.h"
+#include "record/marks/plate_painter.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <random>
+#include <set>
+#include <string>
 
 namespace {
 
@@ -23,7 +26,9 @@ QImage noise(QSize size, QImage::Format format, unsigned seed) {
 const QImage pointerShape = noise({11, 14}, QImage::Format_ARGB32_Premultiplied, 5);
 
 MarksShown pointerAt(QPoint place) {
-    return {.pointer = Pointer{.place = place, .shape = pointerShape, .hotSpot = {3, 2}}};
+    MarksShown shown;
+    shown.pointer = Pointer{.place = place, .shape = pointerShape, .hotSpot = {3, 2}};
+    return shown;
 }
 
 /// One premultiplied value of `shape` at a pixel of the desktop, nothing outside.
@@ -167,4 +172,218 @@ TEST(Marks, areKeptWithTheFramesAndLeaveNothingBehind) {
     kept.clear();
     frames = {};
     EXPECT_EQ(store.bytesHeld(), 0u);
+}
+
+namespace {
+
+constexpr MarkTime start{};
+
+MarkTime after(int milliseconds) { return start + std::chrono::milliseconds(milliseconds); }
+
+Click clickOf(int button, bool held) {
+    return {.button = button,
+            .place = {200, 100},
+            .down = start,
+            .up = held ? std::optional<MarkTime>() : after(60)};
+}
+
+std::vector<Disc> discsAt(int milliseconds, const Click &click, int width = 1000) {
+    return discsOf(std::span(&click, 1), after(milliseconds), QPoint(260, 110), {}, {width, 600});
+}
+
+/// How much of a pixel a disc covers, by looking at many places in it.
+double coverage(const Disc &disc, int x, int y) {
+    constexpr int places = 16;
+    int inside = 0;
+    for (int i = 0; i < places * places; ++i) {
+        const QPointF at(x + (i % places + 0.5) / places, y + (i / places + 0.5) / places);
+        const double far = std::hypot(at.x() - disc.centre.x(), at.y() - disc.centre.y());
+        inside +=
+            disc.stroke > 0 ? std::abs(far - disc.radius) <= disc.stroke / 2 : far <= disc.radius;
+    }
+    return static_cast<double>(inside) / (places * places);
+}
+
+KeyPress pressOf(int key, Qt::KeyboardModifiers modifiers = {}) {
+    KeyPress press;
+    press.key = key;
+    press.modifiers = modifiers;
+    return press;
+}
+
+std::string shownAt(const KeyTrail &trail, int milliseconds) {
+    const auto plate = trail.at(after(milliseconds));
+    return plate ? plate->text.toStdString() : "";
+}
+
+} // namespace
+
+TEST(ClickMarks, areARingThatGrowsAndFadesAndADiscWhileHeldWhereThePointerIs) {
+    const auto young = discsAt(40, clickOf(1, false)), old = discsAt(360, clickOf(1, false));
+    ASSERT_EQ(young.size(), 1u);
+    ASSERT_EQ(old.size(), 1u);
+    EXPECT_EQ(young[0].centre, QPointF(200.5, 100.5));
+    EXPECT_GT(young[0].stroke, 0);
+    EXPECT_GT(old[0].radius, young[0].radius * 1.5);
+    EXPECT_LT(old[0].colour.alphaF(), young[0].colour.alphaF() / 3);
+    EXPECT_TRUE(discsAt(400, clickOf(1, false)).empty());
+
+    const auto held = discsAt(40, clickOf(1, true)), dragged = discsAt(5000, clickOf(1, true));
+    ASSERT_EQ(held.size(), 2u);
+    ASSERT_EQ(dragged.size(), 1u);
+    EXPECT_EQ(dragged[0].stroke, 0);
+    EXPECT_EQ(dragged[0].centre, QPointF(260.5, 110.5));
+    EXPECT_LT(dragged[0].radius, old[0].radius);
+
+    std::set<QRgb> colours;
+    for (const int button : {1, 2, 3, 8})
+        colours.insert(discsAt(0, clickOf(button, false))[0].colour.rgb());
+    EXPECT_EQ(colours.size(), 4u);
+    for (const int width : {40, 320, 1000, 3840})
+        for (const int age : {0, 399})
+            for (const Disc &disc : discsAt(age, clickOf(1, true), width))
+                EXPECT_LE(2 * disc.radius + disc.stroke, width * 0.05 + 1e-9);
+
+    const Click click = clickOf(1, false);
+    EXPECT_EQ(discsOf(std::span(&click, 1), after(0), {}, {{100, 40}, 2}, {1000, 600})[0].centre,
+              QPointF(50.5, 30.5));
+}
+
+TEST(ClickMarks, endWithTheirButtonAndAreForgotten) {
+    std::vector<Click> clicks;
+    const auto change = [&clicks](int milliseconds, int button, bool down) {
+        take(clicks, {after(milliseconds), {.button = button, .down = down, .place = {5, 6}}});
+    };
+    change(0, 1, true);
+    change(10, 3, true);
+    change(20, 1, false);
+    change(30, 2, false); // went down before anybody looked
+    forgetPast(clicks, after(410));
+    ASSERT_EQ(clicks.size(), 1u);
+    EXPECT_EQ(clicks[0].button, 3);
+    change(500, 3, false);
+    forgetPast(clicks, after(500));
+    EXPECT_TRUE(clicks.empty());
+}
+
+TEST(ClickMarks, areDrawnAsTheSlowReferenceDoes) {
+    const QImage plain = noise({1000, 200}, QImage::Format_RGB32, 4);
+    MarksShown shown;
+    shown.clicks = {clickOf(1, true), clickOf(3, false)};
+    shown.clicks[1].place = {990, 196}; // cut by two edges
+    shown.now = after(150);
+    shown.hand = QPoint(203, 97);
+    Marks marks;
+    const Image frame = Image::fromQImage(plain);
+    const Image marked = marks.over(frame, {}, shown);
+    QImage expected = plain;
+    QRegion places;
+    for (const Disc &disc : discsOf(shown.clicks, shown.now, shown.hand, {}, plain.size())) {
+        const QRect bounds = disc.bounds().intersected(plain.rect());
+        places += bounds;
+        for (int y = bounds.top(); y <= bounds.bottom(); ++y)
+            for (int x = bounds.left(); x <= bounds.right(); ++x) {
+                const double share = coverage(disc, x, y) * disc.colour.alphaF();
+                const QRgb under = expected.pixel(x, y);
+                const auto mixed = [share](int over, int beneath) {
+                    return static_cast<int>(std::lround(over * share + beneath * (1 - share)));
+                };
+                expected.setPixel(x, y,
+                                  qRgb(mixed(disc.colour.red(), qRed(under)),
+                                       mixed(disc.colour.green(), qGreen(under)),
+                                       mixed(disc.colour.blue(), qBlue(under))));
+            }
+    }
+    // Edges are smoothed otherwise, on a ground of the strongest contrasts.
+    EXPECT_LE(furthest(marked.toQImage(), expected), 48);
+    int far = 0, all = 0;
+    for (const QRect &part : places)
+        for (int y = part.top(); y <= part.bottom(); ++y)
+            for (int x = part.left(); x <= part.right(); ++x, ++all)
+                far += std::abs(qGreen(marked.toQImage().pixel(x, y)) -
+                                qGreen(expected.pixel(x, y))) > 8;
+    EXPECT_LT(far, all / 20);
+    EXPECT_EQ(differing(marked.toQImage(), plain).subtracted(places), QRegion());
+    shown.now = after(151);
+    EXPECT_FALSE(marks.over(frame, {}, shown).sameAs(marked));
+}
+
+TEST(KeyMarks, showCombinationsAndCommandsAndNothingThatIsWritten) {
+    constexpr auto ctrl = Qt::ControlModifier, shift = Qt::ShiftModifier;
+    for (const auto &shown :
+         {pressOf(Qt::Key_Z, ctrl), pressOf(Qt::Key_F, Qt::AltModifier),
+          pressOf(Qt::Key_L, Qt::MetaModifier), pressOf(Qt::Key_Z, ctrl | shift),
+          pressOf(Qt::Key_F5), pressOf(Qt::Key_Return), pressOf(Qt::Key_Tab, shift),
+          pressOf(Qt::Key_Delete), pressOf(Qt::Key_Space, ctrl), pressOf(Qt::Key_1, ctrl)})
+        EXPECT_TRUE(mayBeShown(shown)) << shown.key;
+    KeyPress altGr = pressOf(Qt::Key_Q, ctrl), dead = pressOf(Qt::Key_E, ctrl),
+             compose = pressOf(Qt::Key_Multi_key, ctrl), pad = pressOf(Qt::Key_1, Qt::AltModifier);
+    altGr.onOtherLevel = dead.isDead = compose.isCompose = pad.onNumberPad = true;
+    for (const auto &hidden : {pressOf(Qt::Key_A), pressOf(Qt::Key_A, shift), pressOf(Qt::Key_7),
+                               pressOf(Qt::Key_Space), pressOf(Qt::Key_Backspace), pressOf(0, ctrl),
+                               pressOf(Qt::Key_U, ctrl | shift), altGr, dead, compose, pad})
+        EXPECT_FALSE(mayBeShown(hidden)) << hidden.key;
+}
+
+TEST(KeyMarks, nameTheLastCombinationAndCountIt) {
+    KeyTrail trail;
+    const KeyPress undo = pressOf(Qt::Key_Z, Qt::ControlModifier);
+    trail.take({after(0), undo});
+    EXPECT_EQ(shownAt(trail, 0), "Ctrl+Z");
+    trail.take({after(500), undo});
+    trail.take({after(1000), undo});
+    EXPECT_EQ(shownAt(trail, 2499), "Ctrl+Z ×3");
+    EXPECT_EQ(shownAt(trail, 2500), "");
+    trail.take({after(3000), undo});
+    EXPECT_EQ(shownAt(trail, 3000), "Ctrl+Z") << "too late to go on";
+    trail.take({after(3100), pressOf(Qt::Key_A)});
+    EXPECT_EQ(shownAt(trail, 3100), "Ctrl+Z");
+    trail.take({after(3200), undo});
+    EXPECT_EQ(shownAt(trail, 3200), "Ctrl+Z") << "not in a row";
+    trail.take({after(3300), pressOf(Qt::Key_Left, Qt::MetaModifier | Qt::ShiftModifier)});
+    EXPECT_EQ(shownAt(trail, 3300), "Super+Shift+Left");
+    trail.take({after(3400), pressOf(0xe4 - 0x20, Qt::ControlModifier)});
+    EXPECT_EQ(shownAt(trail, 3400), "Ctrl+Ä");
+}
+
+TEST(KeyMarks, showNothingOfASequenceThatYieldsACharacter) {
+    constexpr auto both = Qt::ControlModifier | Qt::ShiftModifier;
+    KeyPress dead = pressOf(Qt::Key_Dead_Acute), compose = pressOf(Qt::Key_Multi_key);
+    dead.isDead = compose.isCompose = true;
+    const KeyPress enter = pressOf(Qt::Key_Return), save = pressOf(Qt::Key_S, Qt::ControlModifier);
+    const std::vector<std::pair<std::vector<KeyPress>, std::string>> cases = {
+        {{dead, enter}, ""},
+        {{dead, pressOf(Qt::Key_E), enter}, "Return"},
+        {{compose, pressOf(Qt::Key_O), enter}, ""},
+        {{compose, pressOf(Qt::Key_O), pressOf(Qt::Key_C), enter}, "Return"},
+        {{dead, save}, "Ctrl+S"},
+        // The number, with the keys held as on some layouts, or let go.
+        {{pressOf(Qt::Key_U, both), pressOf(Qt::Key_2, both), pressOf(Qt::Key_Egrave, both)}, ""},
+        {{pressOf(Qt::Key_U, both), pressOf(Qt::Key_2), pressOf(Qt::Key_A), enter}, ""},
+        {{pressOf(Qt::Key_U, both), pressOf(Qt::Key_2), enter, enter}, "Return"},
+        {{pressOf(Qt::Key_U, both), save}, "Ctrl+S"}};
+    for (const auto &[presses, shown] : cases) {
+        KeyTrail trail;
+        for (const KeyPress &press : presses)
+            trail.take({after(0), press});
+        EXPECT_EQ(shownAt(trail, 0), shown) << presses.size();
+    }
+}
+
+TEST(KeyMarks, stayOnAPlateAtTheLowerMiddleWithinTheFrame) {
+    for (const QSize size : {QSize(1920, 1080), QSize(320, 200), QSize(120, 110)}) {
+        QImage plain(size, QImage::Format_RGB32);
+        plain.fill(Qt::white);
+        MarksShown shown;
+        shown.keys = Plate{QStringLiteral("Ctrl+Z ×3")};
+        Marks marks;
+        const QRect place =
+            differing(marks.over(Image::fromQImage(plain), {}, shown).toQImage(), plain)
+                .boundingRect();
+        EXPECT_LE(std::abs(place.center().x() - size.width() / 2), 1);
+        EXPECT_GT(place.top(), size.height() / 2);
+        EXPECT_LT(place.bottom(), size.height() - 1);
+        EXPECT_LE(place.width(), size.width());
+    }
+    EXPECT_TRUE(plateBounds({QStringLiteral("Ctrl+Shift+Left")}, {30, 200}).isEmpty());
 }
