@@ -37,6 +37,7 @@ AppDelegate::AppDelegate(Environment environment)
     : ui(std::make_unique<Ui::MainWindow>()),
       recorder(surroundings, regionChooser, std::move(environment.windowServer)),
       documentsFolder_(std::move(environment.documentsFolder)) {
+    regionChooser.setWindows([this] { return recorder.windowServer().titledWindows(); });
     recorder.setGate(
         [this](std::function<void()> goOn) { return exporter.mustAskFirst(std::move(goOn)); });
 }

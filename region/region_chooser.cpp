@@ -46,8 +46,7 @@ void RegionChooser::start() {
 
 void RegionChooser::recall() {
     monitor_ = settings::readChoice(monitorChoice);
-    const QString choice = settings::readChoice(regionChoice);
-    const std::optional<region_geometry::Region> last = region_text::regionOf(choice);
+    const std::optional<region_geometry::Region> last = lastRegion();
     const QScreen *screen = screenNamed(settings::readChoice(screenOfRegionChoice));
     if (!screen)
         screen = QGuiApplication::primaryScreen();
@@ -151,7 +150,31 @@ void RegionChooser::storeRegion() {
     region.setRect_Screen_Region(QRectF(chosen.x, chosen.y, chosen.width, chosen.height));
 }
 
+std::optional<region_geometry::Region> RegionChooser::lastRegion() {
+    return region_text::regionOf(settings::readChoice(regionChoice));
+}
+
+std::vector<TitledWindow> RegionChooser::windows() const {
+    return windows_ ? windows_() : std::vector<TitledWindow>();
+}
+
+region_geometry::Region RegionChooser::regionFor(const QRect &inFrames) const {
+    const coordinates::Points points = region_place::regionOf(inFrames, placeInputs());
+    using region_geometry::truncated;
+    return {truncated(points.x), truncated(points.y), truncated(points.width),
+            truncated(points.height)};
+}
+
 const region_place::Place &RegionChooser::place() const {
+    const region_place::Inputs inputs = placeInputs();
+    if (placedFor_ != inputs) {
+        place_ = region_place::placeOf(inputs);
+        placedFor_ = inputs;
+    }
+    return place_;
+}
+
+region_place::Inputs RegionChooser::placeInputs() const {
     const QRectF chosen = region.rect_Screen_Region();
     const QMainWindow *window = surroundings_.shell.window();
     const QScreen *screen = window ? window->screen() : nullptr;
@@ -162,16 +185,10 @@ const region_place::Place &RegionChooser::place() const {
                 static_cast<double>(whole->size().height())};
         screenOfPart = coordinates::screenOnDesktop(*whole);
     }
-    const region_place::Inputs inputs{
-        .regionIsRecorded = isPartRecorded(),
-        .region = part,
-        .screenOfRegion = screenOfPart,
-        .screenOfWindow =
-            screen ? std::optional(coordinates::screenOnDesktop(*screen)) : std::nullopt,
-        .grab = grab_};
-    if (placedFor_ != inputs) {
-        place_ = region_place::placeOf(inputs);
-        placedFor_ = inputs;
-    }
-    return place_;
+    return {.regionIsRecorded = isPartRecorded(),
+            .region = part,
+            .screenOfRegion = screenOfPart,
+            .screenOfWindow =
+                screen ? std::optional(coordinates::screenOnDesktop(*screen)) : std::nullopt,
+            .grab = grab_};
 }

@@ -2,14 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/window_server.h"
 #include "region/region_fields.h"
+#include "region/region_geometry.h"
 #include "region/region_place.h"
 
 #include <QObject>
 #include <QRect>
 #include <QString>
 
+#include <functional>
 #include <optional>
+#include <utility>
+#include <vector>
 
 class QScreen;
 class Surroundings;
@@ -51,6 +56,17 @@ public:
     /// whole screen is recorded.
     void screenParametersDidChange();
 
+    /// The windows that can be picked, front to back, see `WindowServer::titledWindows`; without it
+    /// there are none.
+    using Windows = std::function<std::vector<TitledWindow>()>;
+    void setWindows(Windows windows) { windows_ = std::move(windows); }
+    std::vector<TitledWindow> windows() const;
+    /// The region that is there in the grabs to come (units of the grab, upper left origin), in
+    /// whole points of the region's screen.
+    region_geometry::Region regionFor(const QRect &inFrames) const;
+    /// The region that was accepted last, at this start or an earlier one.
+    static std::optional<region_geometry::Region> lastRegion();
+
     bool isRegionRecorded() const { return region.i_Type_Screen_Capture() == CAPTURE_REGION; }
     /// Whether a part of the desktop is recorded: the region, or a monitor of several.
     bool isPartRecorded() const { return isRegionRecorded() || recordedMonitor(); }
@@ -71,6 +87,9 @@ private:
     void remember() const;
 
     Surroundings &surroundings_;
+    region_place::Inputs placeInputs() const;
+
+    Windows windows_;
     QString monitor_;
     bool regionMoved_ = false;
     region_place::Grab grab_;

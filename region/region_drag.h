@@ -119,6 +119,21 @@ inline Point markOfCorner(const Grip &grip, Point pointer, const Screen &screen)
                   onEdgeY && pointer.y != grip.pressed.y ? edge.y : kept.y});
 }
 
+/// `mark` brought to where the sides from `across`, the opposite corner, have the ratio of `width`
+/// to `height` again, as far out as the mark is in one of them and the screen allows.
+inline Point inRatio(Point mark, Point across, double width, double height, const Screen &screen) {
+    const double dx = mark.x - across.x;
+    const double dy = mark.y - across.y;
+    if (width <= 0 || height <= 0)
+        return mark;
+    const double roomX = dx < 0 ? across.x : screen.width - across.x;
+    const double roomY = dy < 0 ? across.y : screen.height - across.y;
+    const double wanted = std::max(std::abs(dx) / width, std::abs(dy) / height);
+    const double factor = std::min({wanted, roomX / width, roomY / height});
+    return whole({across.x + std::copysign(factor * width, dx),
+                  across.y + std::copysign(factor * height, dy)});
+}
+
 /// The region moved by the pointer's way, as far as the screen allows.
 inline Squares movedWhole(const Grip &grip, Point pointer, const Screen &screen) {
     const Region region = region_geometry::boundingRegion(grip.before);
@@ -134,13 +149,21 @@ inline Squares movedWhole(const Grip &grip, Point pointer, const Screen &screen)
     return squares;
 }
 
-/// The squares with the pointer at `pointer`; `grip` keeps what the drag has become.
-inline Squares dragged(Grip &grip, Point pointer, const Screen &screen) {
+/// The squares with the pointer at `pointer`; `grip` keeps what the drag has become. With
+/// `keepsRatio` a corner keeps the ratio of the sides that it began with, and a new region is a
+/// square.
+inline Squares dragged(Grip &grip, Point pointer, const Screen &screen, bool keepsRatio = false) {
     if (grip.held == Held::Whole)
         return movedWhole(grip, pointer, screen);
     if (grip.held == Held::Corner) {
         Squares squares = grip.before;
-        const Point mark = markOfCorner(grip, pointer, screen);
+        Point mark = markOfCorner(grip, pointer, screen);
+        if (keepsRatio) {
+            const Region before = region_geometry::boundingRegion(grip.before);
+            const int across = region_geometry::oppositeOf(grip.corner);
+            mark = inRatio(mark, markOf(grip.before[static_cast<std::size_t>(across)]),
+                           before.width, before.height, screen);
+        }
         region_geometry::drag(
             squares, grip.corner,
             {mark.x - region_geometry::squareInset, mark.y - region_geometry::squareInset});
@@ -153,8 +176,9 @@ inline Squares dragged(Grip &grip, Point pointer, const Screen &screen) {
         return grip.before;
     grip.corner = dy < 0 ? (dx < 0 ? region_geometry::lowerLeft : region_geometry::lowerRight)
                          : (dx < 0 ? region_geometry::upperLeft : region_geometry::upperRight);
-    return squaresBetween(whole(clamped(toEdges(grip.pressed, screen), screen)),
-                          whole(clamped(toEdges(pointer, screen), screen)));
+    const Point from = whole(clamped(toEdges(grip.pressed, screen), screen));
+    const Point to = whole(clamped(toEdges(pointer, screen), screen));
+    return squaresBetween(from, keepsRatio ? inRatio(to, from, 1, 1, screen) : to);
 }
 
 } // namespace region_drag

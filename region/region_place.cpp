@@ -6,20 +6,23 @@ namespace region_place {
 
 namespace {
 
-QRect regionIn(const Grab &grab, const Inputs &inputs) {
+double unitsPerPixel(const Grab &grab) { return grab.halvedFrom ? 0.5 : 1; }
+
+coordinates::Screen screenFor(const Grab &grab, const Inputs &inputs) {
     coordinates::Screen screen{.height = static_cast<double>(grab.pixels.height())};
     if (inputs.screenOfRegion)
         screen = *inputs.screenOfRegion;
-    double unitsPerPixel = 1;
-    QSize size = grab.pixels;
     if (grab.halvedFrom) {
-        unitsPerPixel = 0.5;
         screen.originX -= grab.halvedFrom->x();
         screen.originY -= grab.halvedFrom->y();
-        size /= 2;
     }
-    const coordinates::Units units =
-        coordinates::fromPoints(inputs.region, screen, unitsPerPixel, size.width(), size.height());
+    return screen;
+}
+
+QRect regionIn(const Grab &grab, const Inputs &inputs) {
+    const QSize size = grab.halvedFrom ? grab.pixels / 2 : grab.pixels;
+    const coordinates::Units units = coordinates::fromPoints(
+        inputs.region, screenFor(grab, inputs), unitsPerPixel(grab), size.width(), size.height());
     return {units.x, units.y, units.width, units.height};
 }
 
@@ -50,6 +53,12 @@ Place placeOf(const Inputs &inputs) {
     place.inFrames = regionIn({inputs.grab.pixels, place.halvedFrom}, inputs);
     place.partInUse = partInUse(inputs, place);
     return place;
+}
+
+coordinates::Points regionOf(const QRect &inFrames, const Inputs &inputs) {
+    const Grab grab{inputs.grab.pixels, originOfHalving(inputs)};
+    return coordinates::toPoints({inFrames.x(), inFrames.y(), inFrames.width(), inFrames.height()},
+                                 screenFor(grab, inputs), unitsPerPixel(grab));
 }
 
 } // namespace region_place

@@ -54,4 +54,8 @@ struct Place {
 
 Place placeOf(const Inputs &inputs);
 
+/// The region that is there in the grabs to come, see `Place::inFrames`; the nearest one in whole
+/// points.
+coordinates::Points regionOf(const QRect &inFrames, const Inputs &inputs);
+
 } // namespace region_place

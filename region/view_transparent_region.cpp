@@ -20,6 +20,8 @@ const QColor middleColor(255, 0, 0);
 const QColor crossColor(0, 0, 0);
 constexpr double outlineWidth = 3.0; // points
 constexpr double crossWidth = 1.0;   // points
+constexpr int pickedFrame = 4;       // points
+constexpr int pickedOpacity = 50;    // of 255, of what is inside
 constexpr double crossInset = 2.0;   // points from the middle square's edge
 
 QPen pen(const QColor &color, double width) {
@@ -63,7 +65,7 @@ QRegion region_drawing::Pieces::shape() const {
     QRegion whole = outline;
     for (const QRect &square : squares)
         whole += square;
-    return whole;
+    return whole + picked;
 }
 
 region_drawing::Pieces region_drawing::pieces(const Squares &squares, const Region &region,
@@ -101,6 +103,24 @@ void View_Transparent_Region::paintEvent(QPaintEvent *) {
         return paintPieces(painter, squares, region);
     painter.translate(screenInWindow());
     region_drawing::draw(painter, squares, region, screen_.height());
+    paintPicked(painter);
+}
+
+void View_Transparent_Region::setPicked(const std::optional<QRect> &picked) {
+    picked_ = picked;
+    update();
+}
+
+void View_Transparent_Region::paintPicked(QPainter &painter) const {
+    if (!picked_)
+        return;
+    QColor light = palette().color(QPalette::Highlight);
+    painter.setPen(Qt::NoPen);
+    constexpr int frame = pickedFrame;
+    for (const QRect &side : QRegion(*picked_) - picked_->adjusted(frame, frame, -frame, -frame))
+        painter.fillRect(side, light);
+    light.setAlpha(pickedOpacity);
+    painter.fillRect(*picked_, light);
 }
 
 QPoint View_Transparent_Region::screenInWindow() const {
@@ -109,8 +129,19 @@ QPoint View_Transparent_Region::screenInWindow() const {
 
 region_drawing::Pieces View_Transparent_Region::pieces(const Squares &squares,
                                                        const Region &region) const {
-    return region_drawing::pieces(squares, region, screen_.height(), devicePixelRatioF(),
-                                  screenInWindow());
+    const double ratio = devicePixelRatioF();
+    region_drawing::Pieces drawn =
+        region_drawing::pieces(squares, region, screen_.height(), ratio, screenInWindow());
+    if (picked_) {
+        const auto inPixels = [&](const QRect &box) {
+            const QRectF inWindow = box.translated(screenInWindow());
+            return QRectF(inWindow.topLeft() * ratio, inWindow.size() * ratio).toRect();
+        };
+        constexpr int frame = pickedFrame;
+        drawn.picked =
+            QRegion(inPixels(*picked_)) - inPixels(picked_->adjusted(frame, frame, -frame, -frame));
+    }
+    return drawn;
 }
 
 void View_Transparent_Region::paintPieces(QPainter &painter, const Squares &squares,
@@ -120,6 +151,8 @@ void View_Transparent_Region::paintPieces(QPainter &painter, const Squares &squa
     painter.scale(1 / ratio, 1 / ratio);
     for (const QRect &box : drawn.outline)
         painter.fillRect(box, outlineColor);
+    for (const QRect &box : drawn.picked)
+        painter.fillRect(box, palette().color(QPalette::Highlight));
     for (std::size_t index = 0; index < squares.size(); ++index) {
         if (region_geometry::isCorner(static_cast<int>(index)))
             painter.fillRect(drawn.squares[index], cornerColor);

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <array>
+#include <optional>
 
 class QPainter;
 class RegionChooser;
@@ -24,6 +25,7 @@ void draw(QPainter &painter, const region_geometry::Squares &squares,
 struct Pieces {
     QRegion outline;
     std::array<QRect, 5> squares; // by index
+    QRegion picked;               // a frame around a window
 
     /// All of it: what the window is shaped to.
     QRegion shape() const;
@@ -52,6 +54,10 @@ public:
     /// For a desktop that does not blend windows, where the window is shaped to the drawing.
     void setShaped(bool shaped) { shaped_ = shaped; }
 
+    /// Frames what a press would pick, in points of the screen from its upper left corner; none
+    /// without it.
+    void setPicked(const std::optional<QRect> &picked);
+
     /// What is then drawn, in pixels from the window's upper left corner.
     region_drawing::Pieces pieces(const region_geometry::Squares &squares,
                                   const region_geometry::Region &region) const;
@@ -62,10 +68,12 @@ protected:
 private:
     void paintPieces(QPainter &painter, const region_geometry::Squares &squares,
                      const region_geometry::Region &region) const;
+    void paintPicked(QPainter &painter) const;
     /// The screen's upper left corner, in points from the window's.
     QPoint screenInWindow() const;
 
     RegionChooser &chooser_;
     QRect screen_;
     bool shaped_ = false;
+    std::optional<QRect> picked_;
 };

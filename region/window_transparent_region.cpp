@@ -4,8 +4,9 @@
 
 #include "platform/compositing.h"
 #include "region/controller_squares.h"
+#include "region/panel_place.h"
 #include "region/region_chooser.h"
-#include "region/region_tip.h"
+#include "region/region_panel.h"
 #include "region/view_transparent_region.h"
 #include "shell/coordinates.h"
 #include "shell/surroundings.h"
@@ -20,7 +21,9 @@
 #include <QTimerEvent>
 #include <QWindow>
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -52,7 +55,7 @@ Window_Transparent_Region::Window_Transparent_Region(QScreen &screen, RegionChoo
               Qt::Tool | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint),
       chooser_(chooser), screenFrame_(screen.geometry()),
       viewTransparentRegion_(new View_Transparent_Region(this, screenFrame_, chooser)),
-      tip_(new RegionTip(this)) {
+      panel_(new RegionPanel(this, screenFrame_.width())) {
     setObjectName(QStringLiteral("Window_Transparent_Region"));
     viewTransparentRegion_->setObjectName(QStringLiteral("viewTransparentRegion"));
     setWindowTitle(qtTrId("IDD_REGION_OVERLAY"));
@@ -63,6 +66,7 @@ Window_Transparent_Region::Window_Transparent_Region(QScreen &screen, RegionChoo
     viewTransparentRegion_->setMouseTracking(true);
     awakeFromNib(screen);
     windowDidLoad();
+    makePanel();
 }
 
 Window_Transparent_Region::~Window_Transparent_Region() = default;
@@ -111,13 +115,12 @@ int Window_Transparent_Region::runModal() {
     raise();
     activateWindow();
     setFocus();
-    showTip();
+    showPanel();
     adaptToDesktop();
     desktopWatch_.start(desktopWatchInterval, this);
     const int code = loop.exec(QEventLoop::DialogExec);
     modalLoop_ = nullptr;
     desktopWatch_.stop();
-    tip_->hide();
     hide(); // The window server takes back pointer and keyboard from a window that is hidden.
     return code;
 }
@@ -131,7 +134,7 @@ void Window_Transparent_Region::accept() {
     // The last change may not have been drawn yet.
     chooser_.storeRegion();
     if (isTooSmall())
-        return showTip(); // It says why.
+        return showPanel(); // It says why.
     stopModalWithCode(accepted);
 }
 
@@ -154,13 +157,13 @@ void Window_Transparent_Region::mouseDown(Point pointer) {
     grip_ = region_drag::gripAt(squares(), hit, pointer);
     if (hit)
         cornerInHand_ = *hit;
-    showTip();
+    showPanel();
 }
 
-void Window_Transparent_Region::mouseDragged(Point pointer) {
+void Window_Transparent_Region::mouseDragged(Point pointer, bool keepsRatio) {
     if (!b_Mouse_Down())
         return;
-    const Squares moved = region_drag::dragged(grip_, pointer, screenInPoints());
+    const Squares moved = region_drag::dragged(grip_, pointer, screenInPoints(), keepsRatio);
     if (grip_.held == Held::NewRegion && grip_.drawing)
         cornerInHand_ = grip_.corner;
     setSquares(moved);
@@ -186,16 +189,24 @@ void Window_Transparent_Region::mousePressEvent(QMouseEvent *event) {
     // While the pointer is held, presses on other screens arrive here too.
     const bool onScreen = pointer.x >= 0 && pointer.x <= screenFrame_.width() && pointer.y >= 0 &&
                           pointer.y <= screenFrame_.height();
-    if (event->button() == Qt::LeftButton && onScreen)
-        mouseDown(pointer);
+    if (event->button() != Qt::LeftButton || !onScreen)
+        return;
+    setFocus(); // the keys are the region's again
+    if (!picking_)
+        return mouseDown(pointer);
+    frameWindowAt(pointer);
+    if (picked_)
+        setRegion(chooser_.regionFor(inFrames(*picked_)));
+    setPicking(false);
 }
 
 void Window_Transparent_Region::mouseMoveEvent(QMouseEvent *event) {
     const Point pointer = fromScreenCorner(event->scenePosition());
+    if (picking_)
+        return frameWindowAt(pointer);
     if (event->buttons() & Qt::LeftButton)
-        mouseDragged(pointer);
+        mouseDragged(pointer, event->modifiers().testFlag(Qt::ShiftModifier));
     showCursor(pointer);
-    showTip(); // It may stand where the pointer goes now.
 }
 
 void Window_Transparent_Region::mouseReleaseEvent(QMouseEvent *event) {
@@ -223,7 +234,17 @@ void Window_Transparent_Region::keyPressEvent(QKeyEvent *event) {
     const double step = event->modifiers() & Qt::ShiftModifier ? largeStep : smallStep;
     switch (event->key()) {
     case Qt::Key_Escape:
-        stopModalWithCode(cancelled);
+        // One step back.
+        if (picking_)
+            setPicking(false);
+        else if (panel_->isTyping())
+            setFocus();
+        else
+            stopModalWithCode(cancelled);
+        break;
+    case Qt::Key_W:
+        if (!event->isAutoRepeat())
+            setPicking(true);
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -246,7 +267,16 @@ void Window_Transparent_Region::keyPressEvent(QKeyEvent *event) {
     }
 }
 
+void Window_Transparent_Region::keyReleaseEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_W && !event->isAutoRepeat())
+        setPicking(false);
+    else
+        QWidget::keyReleaseEvent(event);
+}
+
 bool Window_Transparent_Region::focusNextPrevChild(bool next) {
+    if (!hasFocus())
+        return QWidget::focusNextPrevChild(next);
     chooseCorner(next ? 1 : -1);
     return true;
 }
@@ -264,41 +294,129 @@ void Window_Transparent_Region::moveCorner(double dx, double dy) {
 
 void Window_Transparent_Region::chooseCorner(int step) {
     cornerInHand_ = region_geometry::cornerAfter(cornerInHand_, step);
-    showTip();
+    showPanel();
 }
 
 // Window ------------------------------------------------------------------------------------------
 
 void Window_Transparent_Region::squaresChanged() {
+    showPanel();
     QRegion shape;
     if (!blended_) {
         const Squares now = squares();
         shape = viewTransparentRegion_->pieces(now, region_geometry::boundingRegion(now)).shape();
+        const QRectF panel = panel_->geometry();
+        const double ratio = devicePixelRatioF();
+        shape += QRectF(panel.topLeft() * ratio, panel.size() * ratio).toAlignedRect();
     }
     shapeWindow(winId(), shape);
     viewTransparentRegion_->update();
-    if (isVisible())
-        showTip();
 }
 
-void Window_Transparent_Region::showTip() {
+void Window_Transparent_Region::showPanel() {
     chooser_.storeRegion();
     const QRect recorded = chooser_.place().inFrames;
     const Squares now = squares();
-    const Point &corner = now[static_cast<std::size_t>(cornerInHand_)];
-    const QPointF marked(
-        corner.x + region_geometry::squareInset,
-        coordinates::flipped(corner.y + region_geometry::squareInset, 0, screenFrame_.height()));
+    QString problem;
+    if (isTooSmall())
+        problem = qtTrId("IDD_REGION_TOO_SMALL").arg(smallestSide);
+    panel_->showRegion(recorded, problem);
+    const Region region = region_geometry::boundingRegion(now);
+    const QPoint corner = screenFrame_.topLeft() - geometry().topLeft();
+    const int top =
+        static_cast<int>(coordinates::flipped(region.y, region.height, screenFrame_.height()));
+    const auto [x, y] =
+        panel_place::choose({corner.x() + region.x, corner.y() + top, region.width, region.height},
+                            {corner.x(), corner.y(), screenFrame_.width(), screenFrame_.height()},
+                            panel_->width(), panel_->height());
+    panel_->move(x, y);
+    panel_->raise();
     QString text = qtTrId("IDD_REGION_TIP")
                        .arg(cornerName(region_geometry::placeOf(now, cornerInHand_)))
                        .arg(recorded.width())
                        .arg(recorded.height())
                        .arg(recorded.x())
                        .arg(recorded.y());
-    if (isTooSmall())
-        text += QLatin1Char('\n') + qtTrId("IDD_REGION_TOO_SMALL").arg(smallestSide);
-    tip_->showNear(marked.toPoint() + screenFrame_.topLeft(), QCursor::pos(), screenFrame_, text);
+    if (!problem.isEmpty())
+        text += QLatin1Char('\n') + problem;
     setAccessibleDescription(text);
+}
+
+void Window_Transparent_Region::makePanel() {
+    connect(panel_, &RegionPanel::wanted, this,
+            [this](const QRect &recorded) { setRegion(chooser_.regionFor(recorded)); });
+    connect(panel_, &RegionPanel::wantedSize, this, &Window_Transparent_Region::setRecordedSize);
+    connect(panel_, &RegionPanel::wantedSquare, this, [this] {
+        const QSize now = chooser_.place().inFrames.size();
+        const int side = std::min(now.width(), now.height());
+        setRecordedSize({side, side});
+    });
+    connect(panel_, &RegionPanel::wantedLast, this,
+            [this] { setRegion(RegionChooser::lastRegion().value_or(Region())); });
+    connect(panel_, &RegionPanel::pickingWanted, this, &Window_Transparent_Region::setPicking);
+    connect(panel_, &RegionPanel::accepted, this, &Window_Transparent_Region::accept);
+    connect(panel_, &RegionPanel::listClosed, this, [this] {
+        // It has given back what it had taken from the overlay.
+        holdsInput_ = false;
+        if (modalLoop_)
+            adaptToDesktop();
+    });
+}
+
+void Window_Transparent_Region::setRegion(const Region &region) {
+    setSquares(region_drag::squaresOf(region_drag::within(region, screenInPoints())));
+    cornerInHand_ = region_geometry::lowerRight;
+    squaresChanged();
+}
+
+void Window_Transparent_Region::setRecordedSize(QSize size) {
+    QRect recorded(QPoint(), size);
+    recorded.moveCenter(chooser_.place().inFrames.center());
+    setRegion(chooser_.regionFor(recorded));
+}
+
+void Window_Transparent_Region::setPicking(bool picking) {
+    if (picking == picking_)
+        return;
+    picking_ = picking;
+    panel_->setPicking(picking);
+    picked_.reset();
+    if (picking)
+        frameWindowAt(fromScreenCorner(mapFromGlobal(QPointF(QCursor::pos()))));
+    else
+        viewTransparentRegion_->setPicked({});
+    setCursor(Qt::CrossCursor);
+    squaresChanged();
+}
+
+/// Desktop pixels in units of the grabs to come.
+QRect Window_Transparent_Region::inFrames(const QRect &pixels) const {
+    const std::optional<QPoint> halvedFrom = chooser_.place().halvedFrom;
+    if (!halvedFrom)
+        return pixels;
+    const QRect from = pixels.translated(-*halvedFrom);
+    const QPoint corner((from.x() + 1) / 2, (from.y() + 1) / 2);
+    return {corner, QPoint((from.right() + 1) / 2 - 1, (from.bottom() + 1) / 2 - 1)};
+}
+
+void Window_Transparent_Region::frameWindowAt(Point pointer) {
+    const double ratio = devicePixelRatioF();
+    const QPointF inScreen(pointer.x, coordinates::flipped(pointer.y, 0, screenFrame_.height()));
+    const QPointF onDesktop = QPointF(screenFrame_.topLeft()) + inScreen * ratio;
+    const std::vector<TitledWindow> windows = chooser_.windows();
+    const auto found = std::ranges::find_if(windows, [&onDesktop](const TitledWindow &window) {
+        return QRectF(window.frame).contains(onDesktop);
+    });
+    picked_ = found == windows.end() ? std::optional<QRect>() : found->frame;
+    std::optional<QRect> shown;
+    if (picked_) {
+        const QRect onScreen = picked_->translated(-screenFrame_.topLeft());
+        shown = QRectF(QPointF(onScreen.topLeft()) / ratio, QSizeF(onScreen.size()) / ratio)
+                    .toRect()
+                    .intersected(QRect(QPoint(), screenFrame_.size()));
+    }
+    viewTransparentRegion_->setPicked(shown);
+    squaresChanged();
 }
 
 void Window_Transparent_Region::adaptToDesktop() {

@@ -9,14 +9,16 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <optional>
 
 class QEventLoop;
 class RegionChooser;
-class RegionTip;
+class RegionPanel;
 class View_Transparent_Region;
 
 /// The region selection's overlay: a see-through window over the whole screen of the main window,
-/// on which the region is dragged, by its corners, as a whole, or as a new one. It turns pointer
+/// on which the region is dragged, by its corners, as a whole, or as a new one, typed, or taken
+/// from a window. It turns pointer
 /// and keys into changes of the desk's squares; it neither draws (see its view) nor decides
 /// what the result means (see the region command).
 ///
@@ -61,7 +63,7 @@ public:
     // Pointer events by their established names; positions in points from the screen's lower left
     // corner.
     void mouseDown(region_geometry::Point pointer);
-    void mouseDragged(region_geometry::Point pointer);
+    void mouseDragged(region_geometry::Point pointer, bool keepsRatio = false);
     void mouseUp();
 
 protected:
@@ -69,6 +71,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
     bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -86,9 +89,18 @@ private:
     bool isTooSmall() const;
     void moveCorner(double dx, double dy);
     void chooseCorner(int step);
-    /// The squares have changed: shape, drawing and tip follow.
+    /// The squares have changed: shape, drawing and panel follow.
     void squaresChanged();
-    void showTip();
+    void showPanel();
+    void makePanel();
+    /// Takes a region, as far as the screen has room for it.
+    void setRegion(const region_geometry::Region &region);
+    /// Gives the region that size, about its middle; in units of the grabs to come.
+    void setRecordedSize(QSize size);
+    /// A window is picked by the next press, or no longer.
+    void setPicking(bool picking);
+    void frameWindowAt(region_geometry::Point pointer);
+    QRect inFrames(const QRect &pixels) const;
     void showCursor(region_geometry::Point pointer);
     /// Follows a compositing manager that came or went, and takes the pointer and the keyboard when
     /// they are needed and were not to be had before.
@@ -103,9 +115,11 @@ private:
     region_drag::Grip grip_; // while the button is held
     QRect screenFrame_;      // points, upper left origin
     View_Transparent_Region *viewTransparentRegion_;
-    RegionTip *tip_;
-    /// The corner that the arrow keys move and that the tip is shown at.
+    RegionPanel *panel_;
+    /// The corner that the arrow keys move.
     int cornerInHand_ = region_geometry::lowerRight;
+    bool picking_ = false;
+    std::optional<QRect> picked_; // the window that a press takes, in desktop pixels
     bool blended_ = true;
     bool holdsInput_ = false;
     QBasicTimer desktopWatch_;

@@ -98,6 +98,19 @@ inline Units fromPoints(const Points &region, const Screen &screen, double units
             std::max(1, static_cast<int>(height))};
 }
 
+/// The other way: the region, in whole points, that is nearest to these units; exactly it where a
+/// point is a whole number of them.
+inline Points toPoints(const Units &units, const Screen &screen, double unitsPerPixel) {
+    const auto point = [&](int unit, double origin) {
+        return std::round((unit / unitsPerPixel - origin) / screen.ratio);
+    };
+    const double left = point(units.x, screen.originX);
+    const double right = point(units.x + units.width, screen.originX);
+    const double top = point(units.y, screen.originY);
+    const double bottom = point(units.y + units.height, screen.originY);
+    return {left, flipped(bottom, 0, screen.height), right - left, bottom - top};
+}
+
 /// A screen as the conversion into units of the grab sees it.
 Screen screenOnDesktop(const QScreen &screen);
 

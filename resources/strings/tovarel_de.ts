@@ -97,6 +97,30 @@
         <source>Region</source>
         <translation>Bildschirmbereich</translation>
     </message>
+    <message id="IDD_REGION_SIZES">
+        <source>Sizes</source>
+        <translation>Größen</translation>
+    </message>
+    <message id="IDD_REGION_SQUARE">
+        <source>Square</source>
+        <translation>Quadrat</translation>
+    </message>
+    <message id="IDD_REGION_LAST">
+        <source>Last Used</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW">
+        <source>Pick a Window</source>
+        <translation>Fenster wählen</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW_TIP">
+        <source>Then click a window; or hold W</source>
+        <translation>Danach ein Fenster anklicken; oder W halten</translation>
+    </message>
+    <message id="IDD_USE_REGION">
+        <source>Use Region</source>
+        <translation>Bereich verwenden</translation>
+    </message>
     <message id="IDD_FPS">
         <source>Frames per Second</source>
         <translation>Bilder pro Sekunde</translation>

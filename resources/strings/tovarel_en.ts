@@ -97,6 +97,30 @@
         <source>Region</source>
         <translation>Region</translation>
     </message>
+    <message id="IDD_REGION_SIZES">
+        <source>Sizes</source>
+        <translation>Sizes</translation>
+    </message>
+    <message id="IDD_REGION_SQUARE">
+        <source>Square</source>
+        <translation>Square</translation>
+    </message>
+    <message id="IDD_REGION_LAST">
+        <source>Last Used</source>
+        <translation>Last Used</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW">
+        <source>Pick a Window</source>
+        <translation>Pick a Window</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW_TIP">
+        <source>Then click a window; or hold W</source>
+        <translation>Then click a window; or hold W</translation>
+    </message>
+    <message id="IDD_USE_REGION">
+        <source>Use Region</source>
+        <translation>Use Region</translation>
+    </message>
     <message id="IDD_FPS">
         <source>Frames per Second</source>
         <translation>Frames per Second</translation>

@@ -97,6 +97,30 @@
         <source>Region</source>
         <translation>Zona de la pantalla</translation>
     </message>
+    <message id="IDD_REGION_SIZES">
+        <source>Sizes</source>
+        <translation>Tamaños</translation>
+    </message>
+    <message id="IDD_REGION_SQUARE">
+        <source>Square</source>
+        <translation>Cuadrado</translation>
+    </message>
+    <message id="IDD_REGION_LAST">
+        <source>Last Used</source>
+        <translation>Última utilizada</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW">
+        <source>Pick a Window</source>
+        <translation>Elegir una ventana</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW_TIP">
+        <source>Then click a window; or hold W</source>
+        <translation>Después haga clic en una ventana; o mantenga pulsada W</translation>
+    </message>
+    <message id="IDD_USE_REGION">
+        <source>Use Region</source>
+        <translation>Usar la zona</translation>
+    </message>
     <message id="IDD_FPS">
         <source>Frames per Second</source>
         <translation>Fotogramas por segundo</translation>

@@ -97,6 +97,30 @@
         <source>Region</source>
         <translation>Zone de l’écran</translation>
     </message>
+    <message id="IDD_REGION_SIZES">
+        <source>Sizes</source>
+        <translation>Tailles</translation>
+    </message>
+    <message id="IDD_REGION_SQUARE">
+        <source>Square</source>
+        <translation>Carré</translation>
+    </message>
+    <message id="IDD_REGION_LAST">
+        <source>Last Used</source>
+        <translation>Dernière utilisée</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW">
+        <source>Pick a Window</source>
+        <translation>Choisir une fenêtre</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW_TIP">
+        <source>Then click a window; or hold W</source>
+        <translation>Cliquer ensuite sur une fenêtre, ou maintenir W</translation>
+    </message>
+    <message id="IDD_USE_REGION">
+        <source>Use Region</source>
+        <translation>Utiliser la zone</translation>
+    </message>
     <message id="IDD_FPS">
         <source>Frames per Second</source>
         <translation>Images par seconde</translation>

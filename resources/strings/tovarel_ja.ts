@@ -97,6 +97,30 @@
         <source>Region</source>
         <translation>範囲選択</translation>
     </message>
+    <message id="IDD_REGION_SIZES">
+        <source>Sizes</source>
+        <translation>サイズ</translation>
+    </message>
+    <message id="IDD_REGION_SQUARE">
+        <source>Square</source>
+        <translation>正方形</translation>
+    </message>
+    <message id="IDD_REGION_LAST">
+        <source>Last Used</source>
+        <translation>前回の範囲</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW">
+        <source>Pick a Window</source>
+        <translation>ウィンドウを選択</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW_TIP">
+        <source>Then click a window; or hold W</source>
+        <translation>続けてウィンドウをクリック（または W を押したまま）</translation>
+    </message>
+    <message id="IDD_USE_REGION">
+        <source>Use Region</source>
+        <translation>この範囲を使用</translation>
+    </message>
     <message id="IDD_FPS">
         <source>Frames per Second</source>
         <translation>フレーム/秒</translation>

@@ -97,6 +97,30 @@
         <source>Region</source>
         <translation>Área da tela</translation>
     </message>
+    <message id="IDD_REGION_SIZES">
+        <source>Sizes</source>
+        <translation>Tamanhos</translation>
+    </message>
+    <message id="IDD_REGION_SQUARE">
+        <source>Square</source>
+        <translation>Quadrado</translation>
+    </message>
+    <message id="IDD_REGION_LAST">
+        <source>Last Used</source>
+        <translation>Última usada</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW">
+        <source>Pick a Window</source>
+        <translation>Escolher uma janela</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW_TIP">
+        <source>Then click a window; or hold W</source>
+        <translation>Depois clique em uma janela; ou segure W</translation>
+    </message>
+    <message id="IDD_USE_REGION">
+        <source>Use Region</source>
+        <translation>Usar a área</translation>
+    </message>
     <message id="IDD_FPS">
         <source>Frames per Second</source>
         <translation>Quadros por segundo</translation>

@@ -7,7 +7,7 @@ import itertools
 
 import case
 import counter
-from driver import act, wait_for
+from driver import Program, act, wait_for
 from region_case import ASIDE, GREEN, HOW_TO, RegionCase
 from region_screen import Screen, brightness, colour
 
@@ -121,6 +121,42 @@ class Region(RegionCase):
         self.session.xdotool("key", "Escape")
         self.await_no_overlay()
         self.await_label(program, "Full screen")
+
+    def test_a_window_is_picked_and_a_width_is_typed(self):
+        x, y, width, height = self.session.counter("--at", "60,80", "--size", "240x160")
+        program = self.program()
+        self.put_aside(program, *ASIDE)
+        self.open_overlay(program, Screen(0, 0, *self.screen, 1))
+        self.session.xdotool("mousemove", "--sync", x + 20, y + 20, "keydown", "w", "click", 1,
+                             "keyup", "w")
+        fields = {name: program.await_control("spin button", name)
+                  for name in ("X", "Y", "Width", "Height")}
+
+        def picked():
+            left, top, wide, high = (int(field.get_current_value()) for field in fields.values())
+            # Its frame is the window's too.
+            return (left <= x and top < y and left + wide >= x + width
+                    and top + high >= y + height and high < height + 60 and (left, top, high))
+        left, top, high = program.wait_for("the window to be taken", picked)
+        program.click(fields["Width"])
+        self.session.xdotool("key", "ctrl+a", "type", "200")
+        self.session.xdotool("key", "Return")
+        self.await_no_overlay()
+        self.await_label(program, f"200 × {high} at {left},\u00a0{top}")
+
+    def test_one_monitor_is_recorded_alone_and_remembered(self):
+        self.addCleanup(self.monitors)
+        self.monitors("500x900+0+0", "700x900+500+0")
+        name = self.displays[1][0]
+        self.block = 1
+        with self.pattern():
+            self.program().end()
+            self.session.remember("Monitor", name)
+            program = Program(self.session, remembering=True)
+            self.put_aside(program, 20, 20)
+            self.await_label(program, f"{name} · 700 × 900")
+            self.check_recorded(program, (500, 0, 700, 900))
+            program.end()
 
     def test_keys_move_the_corners_and_escape_leaves_the_choice_as_it_was(self):
         program = self.program()

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "region/tip_place.h"
+#include "region/panel_place.h"
 #include "shell/coordinates.h"
 
 #include <gtest/gtest.h>
@@ -69,24 +69,24 @@ TEST(GrabUnits, neighbouringRegionsNeitherOverlapNorLeaveAGap) {
     }
 }
 
-TEST(TipPlace, theTipStaysOnTheScreenAndAwayFromPointerAndCorner) {
-    const tip_place::Box screen{1000, 50, 800, 600};
-    constexpr int width = 260;
-    constexpr int height = 30;
-    const auto place = [&](tip_place::Point corner, tip_place::Point pointer) {
-        return tip_place::choose(corner, pointer, screen, width, height);
-    };
-    EXPECT_EQ(place({1400, 300}, {1100, 100}), (tip_place::Point{1424, 324}));
-    for (int cornerX = 900; cornerX <= 1900; cornerX += 25) {
-        for (int cornerY = 0; cornerY <= 700; cornerY += 25) {
-            for (const auto [dx, dy] : {tip_place::Point{0, 0}, {40, 40}, {-40, 40}, {200, -60}}) {
-                const tip_place::Point pointer{cornerX + dx, cornerY + dy};
-                const auto [x, y] = place({cornerX, cornerY}, pointer);
-                ASSERT_TRUE(x >= screen.x && x + width <= screen.x + screen.width);
-                ASSERT_TRUE(y >= screen.y && y + height <= screen.y + screen.height);
-                ASSERT_FALSE(tip_place::covers({x, y, width, height}, pointer))
-                    << pointer.x << ", " << pointer.y;
-            }
+TEST(GrabUnits, comeFromTheRegionThatIsFoundForThem) {
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
+        const Screen screen{7, 11, 720, ratio};
+        for (int x = 7; x < 60; ++x) {
+            const Points asked{static_cast<double>(x), 200, 40, 30};
+            const Units units = coordinates::fromPoints(asked, screen, 1, 1 << 15, 1 << 15);
+            ASSERT_EQ(coordinates::toPoints(units, screen, 1), asked) << ratio;
         }
     }
+}
+
+TEST(PanelPlace, isBelowTheRegionElseAboveElseInsideAndAlwaysOnTheScreen) {
+    const panel_place::Box screen{1000, 50, 800, 600};
+    const auto place = [&](panel_place::Box region) {
+        return panel_place::choose(region, screen, 500, 40);
+    };
+    using panel_place::gap;
+    EXPECT_EQ(place({1100, 100, 300, 200}), (panel_place::Point{1100, 300 + gap}));
+    EXPECT_EQ(place({1700, 400, 100, 230}), (panel_place::Point{1300, 400 - gap - 40}));
+    EXPECT_EQ(place({1000, 50, 800, 600}), (panel_place::Point{1000, 650 - gap - 40}));
 }

@@ -64,6 +64,18 @@ TEST(RegionDrag, thePointerReachesEveryEdgeWhereverItTookTheCorner) {
     }
 }
 
+TEST(RegionDrag, keepsItsRatioWhereThatIsAskedForAndStaysOnTheScreen) {
+    const auto drag = [](Point from, Point to) {
+        const Squares squares = squaresOf(start);
+        Grip grip = gripAt(squares, squareAt(squares, from), from);
+        return boundingRegion(dragged(grip, to, screen, true));
+    };
+    EXPECT_EQ(drag({880, 570}, {1200, 580}), (Region{560, 330, 640, 480}));
+    EXPECT_EQ(drag({560, 330}, {700, 330}), start) << "as far out as one side is";
+    EXPECT_EQ(drag({880, 570}, {1440, 900}), (Region{560, 330, 760, 570})) << "no further";
+    EXPECT_EQ(drag({100, 100}, {300, 180}), (Region{100, 100, 200, 200})) << "a new one: square";
+}
+
 TEST(RegionDrag, noDragLeavesTheScreenAndTheLastRegionFitsASmallerOne) {
     std::mt19937 random(20261125);
     std::uniform_real_distribution<double> anyX(-300, 1700);

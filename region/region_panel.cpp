@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "region/region_panel.h"
+
+#include "region/region_chooser.h"
+#include "shell/mnemonics.h"
+
+#include <QAbstractItemView>
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+#include <array>
+
+namespace {
+
+constexpr int largest = 65535; // pixels, of any side or place
+constexpr int margin = 6;      // points
+constexpr int between = 4;     // points
+
+const std::array usualSizes{QSize(320, 240), QSize(640, 480), QSize(800, 600), QSize(1280, 720),
+                            QSize(1920, 1080)};
+
+/// What the other entries of the list say instead of a size.
+enum Special { Square = 1, LastUsed = 2 };
+
+QString textOf(const QSize &size) {
+    return QStringLiteral("%1 × %2").arg(size.width()).arg(size.height());
+}
+
+QSpinBox *addField(QBoxLayout &row, QWidget *parent, const char *name, const QString &text) {
+    auto *field = new QSpinBox(parent);
+    field->setObjectName(QLatin1String(name));
+    field->setRange(0, largest);
+    field->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    field->setKeyboardTracking(false); // not while somebody is still typing
+    field->setAccessibleName(text);
+    auto *label = new QLabel(text, parent);
+    label->setObjectName(QStringLiteral("label") + QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setBuddy(field);
+    row.addWidget(label);
+    row.addWidget(field);
+    return field;
+}
+
+} // namespace
+
+RegionPanel::RegionPanel(QWidget *parent, int width) : QFrame(parent) {
+    setObjectName(QStringLiteral("regionPanel"));
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true); // the overlay's ground is transparent
+    setCursor(Qt::ArrowCursor);
+    auto *whole = new QVBoxLayout(this);
+    whole->setContentsMargins(margin, margin, margin, margin);
+    whole->setSpacing(between);
+    auto *rows = new QBoxLayout(QBoxLayout::LeftToRight);
+    auto *fields = new QHBoxLayout;
+    auto *rest = new QHBoxLayout;
+    for (QBoxLayout *row : {static_cast<QBoxLayout *>(fields), static_cast<QBoxLayout *>(rest)}) {
+        row->setSpacing(between);
+        rows->addLayout(row);
+    }
+    rows->setSpacing(between);
+    whole->addLayout(rows);
+    x_ = addField(*fields, this, "X", QStringLiteral("X"));
+    y_ = addField(*fields, this, "Y", QStringLiteral("Y"));
+    width_ = addField(*fields, this, "Width", qtTrId("IDD_WIDTH"));
+    height_ = addField(*fields, this, "Height", qtTrId("IDD_HEIGHT"));
+    presets_ = new QComboBox(this);
+    presets_->setObjectName(QStringLiteral("Sizes"));
+    presets_->setAccessibleName(qtTrId("IDD_REGION_SIZES"));
+    presets_->setToolTip(qtTrId("IDD_REGION_SIZES"));
+    presets_->setPlaceholderText(qtTrId("IDD_REGION_SIZES"));
+    presets_->setFocusPolicy(Qt::TabFocus);
+    presets_->view()->window()->installEventFilter(this);
+    pick_ = new QPushButton(qtTrId("IDD_PICK_WINDOW"), this);
+    pick_->setObjectName(QStringLiteral("PickWindow"));
+    pick_->setToolTip(qtTrId("IDD_PICK_WINDOW_TIP"));
+    pick_->setCheckable(true);
+    use_ = new QPushButton(qtTrId("IDD_USE_REGION"), this);
+    use_->setObjectName(QStringLiteral("UseRegion"));
+    use_->setDefault(true);
+    rest->addWidget(presets_);
+    for (QPushButton *button : {pick_, use_}) {
+        button->setFocusPolicy(Qt::TabFocus); // a click leaves the keys to the region
+        rest->addWidget(button);
+    }
+    problem_ = new QLabel(this);
+    problem_->setTextFormat(Qt::PlainText);
+    problem_->hide();
+    whole->addWidget(problem_);
+    fillPresets();
+    mnemonics::mark(*this);
+    if (sizeHint().width() > width)
+        rows->setDirection(QBoxLayout::TopToBottom);
+
+    const auto moved = [this] {
+        Q_EMIT wanted(QRect(x_->value(), y_->value(), width_->value(), height_->value()));
+    };
+    for (const QSpinBox *field : {x_, y_, width_, height_})
+        connect(field, &QSpinBox::valueChanged, this, moved);
+    connect(presets_, &QComboBox::activated, this, &RegionPanel::choosePreset);
+    connect(pick_, &QPushButton::toggled, this, &RegionPanel::pickingWanted);
+    connect(use_, &QPushButton::clicked, this, &RegionPanel::accepted);
+}
+
+void RegionPanel::fillPresets() {
+    for (const QSize &size : usualSizes)
+        presets_->addItem(textOf(size), size);
+    presets_->addItem(qtTrId("IDD_REGION_SQUARE"), int{Square});
+    if (RegionChooser::lastRegion())
+        presets_->addItem(qtTrId("IDD_REGION_LAST"), int{LastUsed});
+}
+
+void RegionPanel::choosePreset(int index) {
+    const QVariant chosen = presets_->itemData(index);
+    if (chosen.toInt() == Square)
+        Q_EMIT wantedSquare();
+    else if (chosen.toInt() == LastUsed)
+        Q_EMIT wantedLast();
+    else
+        Q_EMIT wantedSize(chosen.toSize());
+}
+
+void RegionPanel::showRegion(const QRect &recorded, const QString &problem) {
+    const struct {
+        QSpinBox *field;
+        int value;
+    } fields[] = {{x_, recorded.x()},
+                  {y_, recorded.y()},
+                  {width_, recorded.width()},
+                  {height_, recorded.height()}};
+    for (const auto &[field, value] : fields) {
+        const QSignalBlocker quiet(field);
+        field->setValue(value);
+    }
+    presets_->setCurrentIndex(presets_->findData(recorded.size()));
+    problem_->setText(problem);
+    problem_->setVisible(!problem.isEmpty());
+    use_->setEnabled(problem.isEmpty());
+    adjustSize();
+}
+
+void RegionPanel::setPicking(bool picking) {
+    const QSignalBlocker quiet(pick_);
+    pick_->setChecked(picking);
+}
+
+bool RegionPanel::isTyping() const {
+    for (const QSpinBox *field : {x_, y_, width_, height_})
+        if (field->hasFocus())
+            return true;
+    return false;
+}
+
+bool RegionPanel::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::Hide)
+        QMetaObject::invokeMethod(this, &RegionPanel::listClosed, Qt::QueuedConnection);
+    return QFrame::eventFilter(watched, event);
+}
+
+void RegionPanel::mousePressEvent(QMouseEvent *event) { event->accept(); }
