@@ -43,7 +43,8 @@ class RegionCase(case.Case):
         settings.parent.mkdir(parents=True, exist_ok=True)
         settings.unlink(missing_ok=True)
         if how_to is not None:
-            settings.write_text(f"[General]\nGIFQuality=classic\n{KEY}={how_to}\n")
+            settings.write_text(
+                f"[General]\nGIFQuality=classic\nShowPointer=0\n{KEY}={how_to}\n")
         return Program(self.session, environment or {"QT_SCALE_FACTOR": str(scale)})
 
     def stored_flag(self):
