@@ -94,7 +94,7 @@ class Accessibility(case.Case):
         self.program.record(1)
         self.await_keys()
         self.check_order((BAR, "Cut"), ("slider", "First frame"), ("slider", "Last frame"),
-                         *self.buttons("Play"))
+                         *self.buttons("Shorten Still Time", "Play"))
         self.program.enter("GIF")
         self.program.choose_quality("Balanced")  # the other encoder knows no limit
         sizes, rates = (("radio button", f"Same {what} as the recording")
