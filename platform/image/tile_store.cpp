@@ -174,7 +174,7 @@ private:
     }
 
     std::shared_ptr<const TileTable::Row> rowOf(TileTable::Row tiles) const {
-        const auto cost = sizeof tiles + tiles.size() * sizeof tiles.front();
+        const auto cost = sizeof(TileTable::Row) + tiles.size() * sizeof tiles.front();
         return counted(std::move(tiles), static_cast<std::ptrdiff_t>(cost));
     }
 

@@ -6,9 +6,17 @@
 
 #include <QChar>
 
-#define explicit explicit_ // a field's name in a header that is C's
+// The header is C's, and has a field of this name.
+#ifdef __clang__
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wkeyword-macro"
+#endif
+#define explicit explicit_
 #include <xcb/xkb.h>
 #undef explicit
+#ifdef __clang__
+#pragma clang diagnostic pop
+#endif
 #include <xkbcommon/xkbcommon-x11.h>
 
 #include <algorithm>
