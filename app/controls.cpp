@@ -67,7 +67,7 @@ void Controls::makeMenus() {
     auto *delays = new QActionGroup(ui_.submenuitemCountdown);
     for (const int seconds : offeredDelays) {
         QAction *item = ui_.submenuitemCountdown->addAction(
-            seconds == 0 ? qtTrId("IDD_AT_ONCE") : qtTrId("IDD_AFTER_SECONDS").arg(seconds));
+            seconds == 0 ? qtTrId("IDD_AT_ONCE") : qtTrId("IDD_AFTER_SECONDS", seconds));
         // Scripts without Latin letters take their mnemonic from it.
         item->setObjectName(QStringLiteral("menuitemAfter%1").arg(seconds));
         item->setCheckable(true);

@@ -53,9 +53,12 @@
         <source>At Once</source>
         <translation>Sofort</translation>
     </message>
-    <message id="IDD_AFTER_SECONDS">
-        <source>After %1&#xa0;Seconds</source>
-        <translation>Nach %1&#xa0;Sekunden</translation>
+    <message id="IDD_AFTER_SECONDS" numerus="yes">
+        <source>After %Ln&#xa0;Seconds</source>
+        <translation>
+            <numerusform>Nach %Ln&#xa0;Sekunde</numerusform>
+            <numerusform>Nach %Ln&#xa0;Sekunden</numerusform>
+        </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
@@ -833,7 +836,7 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Die Datei ist nicht mehr vorhanden.</translation>
     </message>
     <message id="IDD_FILE_NOT_OPENED">
-        <source>No program was found that opens %1.</source>
+        <source>No program was found to open %1.</source>
         <translation>Es wurde kein Programm gefunden, das %1 öffnet.</translation>
     </message>
     <message id="IDD_FILE_READY">

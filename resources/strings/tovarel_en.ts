@@ -53,9 +53,12 @@
         <source>At Once</source>
         <translation>At Once</translation>
     </message>
-    <message id="IDD_AFTER_SECONDS">
-        <source>After %1&#xa0;Seconds</source>
-        <translation>After %1&#xa0;Seconds</translation>
+    <message id="IDD_AFTER_SECONDS" numerus="yes">
+        <source>After %Ln&#xa0;Seconds</source>
+        <translation>
+            <numerusform>After %Ln&#xa0;Second</numerusform>
+            <numerusform>After %Ln&#xa0;Seconds</numerusform>
+        </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
@@ -833,8 +836,8 @@ It is still at %3.</translation>
         <translation>The file is no longer there.</translation>
     </message>
     <message id="IDD_FILE_NOT_OPENED">
-        <source>No program was found that opens %1.</source>
-        <translation>No program was found that opens %1.</translation>
+        <source>No program was found to open %1.</source>
+        <translation>No program was found to open %1.</translation>
     </message>
     <message id="IDD_FILE_READY">
         <source>The file is ready</source>

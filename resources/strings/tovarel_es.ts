@@ -53,9 +53,12 @@
         <source>At Once</source>
         <translation>De inmediato</translation>
     </message>
-    <message id="IDD_AFTER_SECONDS">
-        <source>After %1&#xa0;Seconds</source>
-        <translation>Tras %1&#xa0;segundos</translation>
+    <message id="IDD_AFTER_SECONDS" numerus="yes">
+        <source>After %Ln&#xa0;Seconds</source>
+        <translation>
+            <numerusform>Tras %Ln&#xa0;segundo</numerusform>
+            <numerusform>Tras %Ln&#xa0;segundos</numerusform>
+        </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
@@ -833,7 +836,7 @@ Sigue en %3.</translation>
         <translation>El archivo ya no existe.</translation>
     </message>
     <message id="IDD_FILE_NOT_OPENED">
-        <source>No program was found that opens %1.</source>
+        <source>No program was found to open %1.</source>
         <translation>No se encontró ningún programa que abra %1.</translation>
     </message>
     <message id="IDD_FILE_READY">

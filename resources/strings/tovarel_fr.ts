@@ -53,9 +53,12 @@
         <source>At Once</source>
         <translation>Immédiatement</translation>
     </message>
-    <message id="IDD_AFTER_SECONDS">
-        <source>After %1&#xa0;Seconds</source>
-        <translation>Après %1&#xa0;secondes</translation>
+    <message id="IDD_AFTER_SECONDS" numerus="yes">
+        <source>After %Ln&#xa0;Seconds</source>
+        <translation>
+            <numerusform>Après %Ln&#xa0;seconde</numerusform>
+            <numerusform>Après %Ln&#xa0;secondes</numerusform>
+        </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
@@ -833,7 +836,7 @@ Il reste à l’emplacement %3.</translation>
         <translation>Le fichier n’existe plus.</translation>
     </message>
     <message id="IDD_FILE_NOT_OPENED">
-        <source>No program was found that opens %1.</source>
+        <source>No program was found to open %1.</source>
         <translation>Aucun programme trouvé pour ouvrir %1.</translation>
     </message>
     <message id="IDD_FILE_READY">

@@ -53,9 +53,11 @@
         <source>At Once</source>
         <translation>すぐに</translation>
     </message>
-    <message id="IDD_AFTER_SECONDS">
-        <source>After %1&#xa0;Seconds</source>
-        <translation>%1&#xa0;秒後</translation>
+    <message id="IDD_AFTER_SECONDS" numerus="yes">
+        <source>After %Ln&#xa0;Seconds</source>
+        <translation>
+            <numerusform>%Ln&#xa0;秒後</numerusform>
+        </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
@@ -830,7 +832,7 @@ It is still at %3.</source>
         <translation>ファイルはもうありません。</translation>
     </message>
     <message id="IDD_FILE_NOT_OPENED">
-        <source>No program was found that opens %1.</source>
+        <source>No program was found to open %1.</source>
         <translation>%1 を開くプログラムが見つかりません。</translation>
     </message>
     <message id="IDD_FILE_READY">

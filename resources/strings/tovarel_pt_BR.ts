@@ -53,9 +53,12 @@
         <source>At Once</source>
         <translation>Imediatamente</translation>
     </message>
-    <message id="IDD_AFTER_SECONDS">
-        <source>After %1&#xa0;Seconds</source>
-        <translation>Após %1&#xa0;segundos</translation>
+    <message id="IDD_AFTER_SECONDS" numerus="yes">
+        <source>After %Ln&#xa0;Seconds</source>
+        <translation>
+            <numerusform>Após %Ln&#xa0;segundo</numerusform>
+            <numerusform>Após %Ln&#xa0;segundos</numerusform>
+        </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
@@ -826,14 +829,14 @@ Ele continua em %3.</translation>
     </message>
     <message id="IDD_FILE_COPIED">
         <source>Copied: %1. Paste it into another program.</source>
-        <translation>Copiado: %1. Cole em outro programa.</translation>
+        <translation>Copiado: %1. Cole-o em outro programa.</translation>
     </message>
     <message id="IDD_FILE_GONE">
         <source>The file is no longer there.</source>
         <translation>O arquivo não existe mais.</translation>
     </message>
     <message id="IDD_FILE_NOT_OPENED">
-        <source>No program was found that opens %1.</source>
+        <source>No program was found to open %1.</source>
         <translation>Nenhum programa encontrado para abrir %1.</translation>
     </message>
     <message id="IDD_FILE_READY">

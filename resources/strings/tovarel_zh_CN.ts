@@ -53,9 +53,11 @@
         <source>At Once</source>
         <translation>立即</translation>
     </message>
-    <message id="IDD_AFTER_SECONDS">
-        <source>After %1&#xa0;Seconds</source>
-        <translation>%1&#xa0;秒后</translation>
+    <message id="IDD_AFTER_SECONDS" numerus="yes">
+        <source>After %Ln&#xa0;Seconds</source>
+        <translation>
+            <numerusform>%Ln&#xa0;秒后</numerusform>
+        </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
@@ -506,7 +508,7 @@
     </message>
     <message id="IDD_CUT_SELECTED">
         <source>Selected: frames %1 to %2, %3&#xa0;s</source>
-        <translation>选区：第 %1 到第 %2 帧，%3&#xa0;秒</translation>
+        <translation>选区：第 %1 至 %2 帧，%3&#xa0;秒</translation>
     </message>
     <message id="IDD_STILL_LENGTH">
         <source>To %1&#xa0;s at Most</source>
@@ -795,7 +797,7 @@ It is still at %3.</source>
     </message>
     <message id="IDD_LAST_FILE">
         <source>Last File</source>
-        <translation>上一个文件</translation>
+        <translation>最近的文件</translation>
     </message>
     <message id="IDD_FILE_PICTURE">
         <source>First picture of the file</source>
@@ -830,7 +832,7 @@ It is still at %3.</source>
         <translation>该文件已不存在。</translation>
     </message>
     <message id="IDD_FILE_NOT_OPENED">
-        <source>No program was found that opens %1.</source>
+        <source>No program was found to open %1.</source>
         <translation>找不到可打开 %1 的程序。</translation>
     </message>
     <message id="IDD_FILE_READY">
