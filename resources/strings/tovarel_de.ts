@@ -117,8 +117,8 @@
         <translation>Fenster wählen</translation>
     </message>
     <message id="IDD_PICK_WINDOW_TIP">
-        <source>Then click a window; or hold W</source>
-        <translation>Danach ein Fenster anklicken; oder W halten</translation>
+        <source>Then click a window, or hold W</source>
+        <translation>Danach ein Fenster anklicken, oder W gedrückt halten</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>

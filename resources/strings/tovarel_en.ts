@@ -117,8 +117,8 @@
         <translation>Pick a Window</translation>
     </message>
     <message id="IDD_PICK_WINDOW_TIP">
-        <source>Then click a window; or hold W</source>
-        <translation>Then click a window; or hold W</translation>
+        <source>Then click a window, or hold W</source>
+        <translation>Then click a window, or hold W</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>

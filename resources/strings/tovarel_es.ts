@@ -117,8 +117,8 @@
         <translation>Elegir una ventana</translation>
     </message>
     <message id="IDD_PICK_WINDOW_TIP">
-        <source>Then click a window; or hold W</source>
-        <translation>Después haga clic en una ventana; o mantenga pulsada W</translation>
+        <source>Then click a window, or hold W</source>
+        <translation>Después haga clic en una ventana, o mantenga pulsada W</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>

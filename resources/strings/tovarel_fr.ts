@@ -117,7 +117,7 @@
         <translation>Choisir une fenêtre</translation>
     </message>
     <message id="IDD_PICK_WINDOW_TIP">
-        <source>Then click a window; or hold W</source>
+        <source>Then click a window, or hold W</source>
         <translation>Cliquer ensuite sur une fenêtre, ou maintenir W</translation>
     </message>
     <message id="IDD_USE_REGION">

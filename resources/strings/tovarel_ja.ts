@@ -116,7 +116,7 @@
         <translation>ウィンドウを選択</translation>
     </message>
     <message id="IDD_PICK_WINDOW_TIP">
-        <source>Then click a window; or hold W</source>
+        <source>Then click a window, or hold W</source>
         <translation>続けてウィンドウをクリック（または W を押したまま）</translation>
     </message>
     <message id="IDD_USE_REGION">

@@ -117,8 +117,8 @@
         <translation>Escolher uma janela</translation>
     </message>
     <message id="IDD_PICK_WINDOW_TIP">
-        <source>Then click a window; or hold W</source>
-        <translation>Depois clique em uma janela; ou segure W</translation>
+        <source>Then click a window, or hold W</source>
+        <translation>Depois clique em uma janela, ou mantenha W pressionada</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>

@@ -116,7 +116,7 @@
         <translation>选择窗口</translation>
     </message>
     <message id="IDD_PICK_WINDOW_TIP">
-        <source>Then click a window; or hold W</source>
+        <source>Then click a window, or hold W</source>
         <translation>然后点击窗口；或按住 W</translation>
     </message>
     <message id="IDD_USE_REGION">
