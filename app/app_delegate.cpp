@@ -12,7 +12,7 @@
 #include "export/file_card.h"
 #include "export/progress_parser.h"
 #include "export/tool_run.h"
-#include "platform/window_server.h"
+#include "platform/screen_source.h"
 #include "shell/settings.h"
 #include "shell/tab_view.h"
 #include "shell/working_folders.h"
@@ -35,9 +35,9 @@ constexpr double smallestHeight = 425; // points
 
 AppDelegate::AppDelegate(Environment environment)
     : ui(std::make_unique<Ui::MainWindow>()),
-      recorder(surroundings, regionChooser, std::move(environment.windowServer)),
+      recorder(surroundings, regionChooser, std::move(environment.source)),
       documentsFolder_(std::move(environment.documentsFolder)) {
-    regionChooser.setWindows([this] { return recorder.windowServer().titledWindows(); });
+    regionChooser.setWindows([this] { return recorder.source().titledWindows(); });
     recorder.setGate(
         [this](std::function<void()> goOn) { return exporter.mustAskFirst(std::move(goOn)); });
 }
@@ -132,7 +132,9 @@ void AppDelegate::OnMenuHelpSubmitTicket() { help::open("ticket.html"); }
 void AppDelegate::OnMenuAbout() { showAbout(surroundings); }
 
 void AppDelegate::listenToDesktopKeys() {
-    if (!recorder.windowServer().obstacle())
+    const ScreenSource &source = recorder.source();
+    // Where the desktop decides what is recorded, it also keeps the keys to itself.
+    if (!source.obstacle() && !source.capabilities().asksUser)
         desktopKeys_ = std::make_unique<DesktopKeys>(*ui, surroundings, regionChooser);
     if (regionChooser.wasRegionMoved())
         surroundings.showStatus(qtTrId("IDD_REGION_MOVED"));

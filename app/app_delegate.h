@@ -22,7 +22,7 @@
 class Controls;
 class DesktopKeys;
 class FileCard;
-class WindowServer;
+class ScreenSource;
 namespace Ui {
 class MainWindow;
 }
@@ -36,7 +36,7 @@ class AppDelegate : public QObject {
 public:
     /// What the controller takes from outside, so that a test can give another one.
     struct Environment {
-        std::unique_ptr<WindowServer> windowServer;
+        std::unique_ptr<ScreenSource> source;
         /// The user's Documents folder, absolute, which holds the working folders.
         QString documentsFolder;
     };

@@ -3,6 +3,7 @@
 #include "app/app_delegate.h"
 #include "app/controls.h"
 #include "export/file_card.h"
+#include "platform/screen_source.h"
 #include "shell/palette_icon.h"
 #include "shell/settings.h"
 #include "ui_MainWindow.h"
@@ -55,8 +56,20 @@ std::vector<Command> recordCommands(AppDelegate &controller) {
          .icon = "region",
          .shortcut = "Ctrl+Shift+R",
          .action = [&controller] { controller.OnMenuActionRecordRegion(); },
-         .enabled = choosing,
+         // An overlay shows what is beneath it only where windows can be told apart.
+         .enabled =
+             [choosing, &recorder] {
+                 return choosing() && !recorder.source().capabilities().asksUser;
+             },
          .opensDialog = true},
+        {.button = ui.btnChooseSource,
+         .text = qtTrId("IDD_CHOOSE_SOURCE"),
+         .action = [&controller] { controller.recorder.OnChooseSource(); }},
+        {.button = ui.btnChooseAnotherSource,
+         .text = qtTrId("IDD_CHOOSE_SOURCE"),
+         .icon = "source",
+         .action = [&controller] { controller.recorder.OnChooseAnotherSource(); },
+         .enabled = stopped},
         {.item = ui.menuitemActionRecordFPS,
          .button = ui.btnRecordFPS,
          .text = texts.s_IDD_FPS(),

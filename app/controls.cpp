@@ -6,10 +6,10 @@
 #include "app/control_texts.h"
 #include "app/tabs.h"
 #include "app/task_bar_state.h"
+#include "record/source_text.h"
 #include "region/region_chooser.h"
 #include "shell/mnemonics.h"
 #include "shell/number_text.h"
-#include "shell/obstacle_text.h"
 #include "shell/settings.h"
 #include "shell/tab_view.h"
 #include "ui_MainWindow.h"
@@ -32,6 +32,22 @@ void showMenuBelow(QToolButton &arrow, QMenu &menu) {
     });
 }
 
+QString captureModeText(const CaptureMode &mode) {
+    const QRect &area = mode.area;
+    if (!mode.monitor.isEmpty())
+        return qtTrId("IDD_MODE_MONITOR").arg(mode.monitor).arg(area.width()).arg(area.height());
+    if (mode.region)
+        return qtTrId("IDD_MODE_REGION")
+            .arg(area.width())
+            .arg(area.height())
+            .arg(area.x())
+            .arg(area.y());
+    if (!mode.userChooses)
+        return qtTrId("IDD_MODE_FULL_SCREEN");
+    return mode.chosen && !mode.size.isEmpty() ? chosenSourceText(*mode.chosen, mode.size)
+                                               : QString();
+}
+
 } // namespace
 
 Controls::Controls(AppDelegate &controller) : controller_(controller), ui_(*controller.ui) {
@@ -52,7 +68,7 @@ void Controls::setUp() {
     offerStillLengths();
     const InterfaceStrings &texts = controller_.texts;
     nameControls(ui_, texts, controller_.shell.s_App_Name());
-    ui_.viewRecordPreview->showReason(obstacleText(controller_.recorder.windowServer().obstacle()));
+    showSource();
     for (const QString &label : {texts.s_IDD_RECORD(), texts.s_IDD_CUT(), texts.s_IDD_SAVE()})
         controller_.shell.tabviewMain()->addTab(label);
     // Chosen last: a letter depends on the texts around it.
@@ -94,7 +110,9 @@ void Controls::makeMenus() {
 }
 
 void Controls::showMonitors() {
-    const bool several = QGuiApplication::screens().size() > 1;
+    // Where the desktop asks, it offers them itself.
+    const bool several = QGuiApplication::screens().size() > 1 &&
+                         !controller_.recorder.source().capabilities().asksUser;
     ui_.btnFullScreenMenu->setVisible(several);
     ui_.submenuitemMonitors->menuAction()->setVisible(several);
 }
@@ -155,6 +173,7 @@ void Controls::listenToRecorder() {
     const Recorder &recorder = controller_.recorder;
     connect(&recorder, &Recorder::stateChanged, this, &Controls::showState);
     connect(&recorder, &Recorder::captureModeChanged, this, &Controls::showCaptureMode);
+    connect(&recorder, &Recorder::sourceChanged, this, &Controls::showSource);
     connect(&recorder, &Recorder::recordingReady, this, &Controls::showRecording);
     connect(&recorder, &Recorder::countdownChanged, this, [this, &recorder](int seconds) {
         ui_.viewRecordPreview->showNumber(seconds);
@@ -213,18 +232,17 @@ void Controls::showStatus() {
     ui_.labelStatus->setToolTip(text.isEmpty() ? text : Qt::convertFromPlainText(text));
 }
 
+void Controls::showSource() {
+    const ScreenSource &source = controller_.recorder.source();
+    const SourceState state = source.state();
+    const bool isOpen = controller_.recorder.isSourceOpen();
+    ui_.viewRecordPreview->showReason(sourceStateText(source));
+    ui_.btnChooseSource->setVisible(!isOpen && state != SourceState::Asking && !source.obstacle());
+    ui_.btnChooseAnotherSource->setVisible(isOpen && source.capabilities().asksUser);
+}
+
 void Controls::showCaptureMode(const CaptureMode &mode) {
-    const QRect &area = mode.area;
-    if (!mode.monitor.isEmpty())
-        ui_.labelCaptureMode->setText(
-            qtTrId("IDD_MODE_MONITOR").arg(mode.monitor).arg(area.width()).arg(area.height()));
-    else
-        ui_.labelCaptureMode->setText(mode.region ? qtTrId("IDD_MODE_REGION")
-                                                        .arg(area.width())
-                                                        .arg(area.height())
-                                                        .arg(area.x())
-                                                        .arg(area.y())
-                                                  : qtTrId("IDD_MODE_FULL_SCREEN"));
+    ui_.labelCaptureMode->setText(captureModeText(mode));
     ui_.labelCaptureRate->setText(qtTrId("IDD_CAPTURE_RATE").arg(mode.rate));
 }
 

@@ -56,6 +56,7 @@ private:
     void showWaysToLastFile();
     void showState();
     void showStatus();
+    void showSource();
     void showCaptureMode(const CaptureMode &mode);
     void showRecording();
 

@@ -5,7 +5,7 @@
 #include "app/single_instance.h"
 #include "app/wishes.h"
 #include "platform/display.h"
-#include "platform/window_server.h"
+#include "platform/screen_source.h"
 #include "script/command_line.h"
 #include "script/scripted_recording.h"
 #include "shell/strings_table.h"
@@ -163,7 +163,7 @@ int main(int argc, char **argv) {
 
     strings_table::install();
     AppDelegate delegate(
-        {.windowServer = makeWindowServer(), .documentsFolder = parentOfWorkingFolders()});
+        {.source = makeScreenSource(), .documentsFolder = parentOfWorkingFolders()});
     application.setDelegate(&delegate);
     application.installEventFilter(&delegate);
     const TerminationNotice notice([&delegate] { delegate.applicationWillTerminate(); });

@@ -8,6 +8,7 @@
 #include "app/tabs.h"
 #include "app/window_place.h"
 #include "platform/bundle.h"
+#include "platform/screen_source.h"
 #include "record/left_recording.h"
 #include "record/rate_list.h"
 #include "shell/screen_watcher.h"
@@ -87,7 +88,9 @@ bool run(AppDelegate &controller, Controls &controls, const QString &documentsFo
     working_folders::removeContent(shell.s_Pallete_Folder());
     controller.GetScreenSize();
     controller.regionChooser.start();
-    controller.regionChooser.recall();
+    // What a dialog of the desktop decides is not known yet.
+    if (!controller.recorder.source().capabilities().asksUser)
+        controller.regionChooser.recall();
     controller.trimEditor.keepWholeRecording();
     controller.recorder.start();
     controller.recorder.recall();

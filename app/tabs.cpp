@@ -30,7 +30,9 @@ void entered(const QString &identifier, AppDelegate &controller) {
     if (identifier == recordTab) {
         controller.recorder.restartOneSecondTimer();
         controller.recorder.restartCaptureTimer();
+        controller.recorder.reopenSource();
     } else {
+        controller.recorder.closeSource();
         controller.recorder.stopRecordTimers();
     }
     if (identifier == cutTab)

@@ -11,10 +11,16 @@
 
 #include <QApplication>
 #include <QMainWindow>
+#include <QWindow>
 
 namespace {
 
 void bringForward(QWidget &window) {
+    // A Wayland client cannot restore a minimized window, nor does it know that it is minimized;
+    // but it can show it anew.
+    const bool isSeen = window.windowHandle() && window.windowHandle()->isExposed();
+    if (!isSeen && QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        window.hide();
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
     window.raise();

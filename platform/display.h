@@ -7,6 +7,10 @@
 /// the toolkit was asked (QT_QPA_PLATFORM) to use something else.
 bool displayIsReachable();
 
+/// Whether the session is Wayland's: an X server may well answer in one, but its root window holds
+/// only the windows of X clients, and grabs of it show a desktop that nobody sees.
+bool isWaylandSession();
+
 /// Whether the display server that the toolkit is connected to has gone. For waits without an event
 /// loop, in which the toolkit cannot notice; it ends the process when it does. False where the
 /// toolkit has no X connection.

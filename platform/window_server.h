@@ -57,6 +57,7 @@ enum class Obstacle {
     MissingExtension, ///< Another extension that the back end needs is missing.
     PictureFormat,    ///< The server does not hold pictures as words of 32 bits.
     WaylandSession,   ///< An X server may answer, but it shows the windows of X clients only.
+    NoPortal,         ///< A Wayland session whose desktop hands out no pictures of the screen.
 };
 
 /// Whether what hands do can be had beside the picture of the windows, which shows none of it.
@@ -82,8 +83,8 @@ struct WindowServerCapabilities {
 };
 
 /// The window server: the list of the windows on screen, and one picture of those that are asked
-/// for. The contract between the capture and the platform's back ends; it knows nothing of
-/// recordings. All calls come from the main thread.
+/// for. What a session with such a server is recorded by (`WindowServerSource`); it knows nothing
+/// of recordings. All calls come from the main thread.
 class WindowServer {
 public:
     virtual ~WindowServer() = default;
@@ -127,6 +128,6 @@ public:
     }
 };
 
-/// The server of the display that this session runs on; a null one with the obstacle where nothing
-/// can be recorded. Never null itself.
+/// The server of the X display; a null one with the obstacle where nothing can be recorded. Never
+/// null itself.
 std::unique_ptr<WindowServer> makeWindowServer();

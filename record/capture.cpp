@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "record/recorder.h"
 
-#include "platform/window_server.h"
+#include "platform/screen_source.h"
 #include "record/grab_geometry.h"
 #include "record/window_list.h"
 #include "region/region_chooser.h"
@@ -25,7 +25,7 @@ std::int32_t stackingOrder(const WindowEntry *entry) {
 void Recorder::updateWindowList() {
     WindowListApplierData walk;
     walk.initWindowListData({});
-    capture.windowsOnScreen = windowServer().listWindows();
+    capture.windowsOnScreen = source().windows();
     for (const WindowDescription &description : capture.windowsOnScreen)
         WindowListApplierFunction(description, walk);
     capture.arrayController = walk.outputArray();
@@ -48,12 +48,17 @@ Recorder::newWindowListFromSelection(std::span<const WindowEntry> selection) {
 
 void Recorder::createMultiWindowShot(std::span<const WindowEntry> selection) {
     const std::optional<QRect> part = chooser_.place().partInUse;
-    const auto grab = windowServer().composite(newWindowListFromSelection(selection), part);
-    if (grab) {
-        capture.setGrabbedPart(part);
-        capture.marks = hands.look(capture.windowsOnScreen);
-    }
-    setOutputImage(grab);
+    const auto grab = source().latest(newWindowListFromSelection(selection), part);
+    if (!grab)
+        return;
+    capture.setGrabbedPart(part);
+    capture.marks = hands.look(capture.windowsOnScreen);
+    // A region keeps its place in a recording, whatever becomes of what is recorded.
+    if (grab->pixelsPerPoint && recording.m_RecordStatus() == RECORD_STATUS_STOP)
+        chooser_.setScreenOfGrab(
+            coordinates::Screen{.height = grab->image.height() / *grab->pixelsPerPoint,
+                                .ratio = *grab->pixelsPerPoint});
+    setOutputImage(grab->image);
 }
 
 void Recorder::setOutputImage(const std::optional<Image> &grab) {
@@ -62,7 +67,7 @@ void Recorder::setOutputImage(const std::optional<Image> &grab) {
     const std::optional<QPoint> halvedFrom = chooser_.place().halvedFrom;
     if (!halvedFrom) {
         capture.setGrabBeforeHalving({});
-        capture.setImgScreenCapture(*grab);
+        capture.setImgScreenCapture(fittedToRecording(*grab));
         grabPlaceChanged();
         return;
     }
@@ -74,8 +79,8 @@ void Recorder::setOutputImage(const std::optional<Image> &grab) {
     capture.setHalvedFrom(*halvedFrom);
     const QRect halved =
         QRect(QPoint(), grab->size()).adjusted(halvedFrom->x(), halvedFrom->y(), 0, 0);
-    capture.setImgScreenCapture(
-        Scale_Image_By_Percentage(halvedFrom->isNull() ? *grab : grab->cut(halved, {}), halfSize));
+    capture.setImgScreenCapture(fittedToRecording(
+        Scale_Image_By_Percentage(halvedFrom->isNull() ? *grab : grab->cut(halved, {}), halfSize)));
     grabPlaceChanged();
 }
 

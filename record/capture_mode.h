@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/screen_source.h"
+
 #include <QRect>
+#include <QSize>
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 /// What is recorded and how often, as the labels beside the capture buttons say it.
 struct CaptureMode {
@@ -14,7 +18,11 @@ struct CaptureMode {
     /// Of a region or a monitor, what a frame will hold: its size and its place, in units of the
     /// grab from its upper left corner.
     QRect area;
-    std::uint64_t rate = 0; ///< frames per second
+    std::uint64_t rate = 0;   ///< frames per second
+    bool userChooses = false; ///< In a dialog of the desktop.
+    /// What was chosen there, if anything was, and the size that frames of it have.
+    std::optional<ChosenSource::Kind> chosen = {};
+    QSize size = {};
 
     bool operator==(const CaptureMode &) const = default;
 };

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "record/recorder.h"
 
+#include "platform/screen_source.h"
 #include "platform/text_number.h"
-#include "platform/window_server.h"
 #include "record/log.h"
 #include "record/recording_loader.h"
 #include "record/save/frame_saver.h"
@@ -45,8 +45,10 @@ RecordingClock::TimePoint now() { return std::chrono::steady_clock::now(); }
 } // namespace
 
 Recorder::Recorder(Surroundings &surroundings, RegionChooser &chooser,
-                   std::unique_ptr<WindowServer> windowServer)
-    : surroundings_(surroundings), chooser_(chooser), windowServer_(std::move(windowServer)) {
+                   std::unique_ptr<ScreenSource> source)
+    : surroundings_(surroundings), chooser_(chooser), source_(std::move(source)) {
+    connect(source_.get(), &ScreenSource::stateChanged, this, &Recorder::followSource);
+    connect(&steppingAside_, &SteppingAside::cameBack, this, &Recorder::ownWindowCameBack);
     countdown_.setTimerType(Qt::PreciseTimer);
     connect(&countdown_, &QTimer::timeout, this, &Recorder::secondPassed);
 }
@@ -64,6 +66,9 @@ void Recorder::start() {
     recording.setU_FPS(defaultFramesPerSecond);
     recording.setM_RecordStatus(RECORD_STATUS_STOP);
     recording.setI_debug_number_of_view_refresh(0);
+    // A source that asks waits until the user wants something of it.
+    if (!source().capabilities().asksUser)
+        source().start({.rate = recording.u_FPS()});
     hands.start();
     updateCaptureMode();
     showRecordingState();
@@ -76,20 +81,19 @@ void Recorder::recall() {
 }
 
 bool Recorder::mayRecord() const {
-    return !windowServer().obstacle() && !saveDue_ && !isSavingRecording();
+    return !source().obstacle() && !saveDue_ && !isSavingRecording();
 }
 
 void Recorder::OnRecordRecord() {
     if (recording.m_RecordStatus() == RECORD_STATUS_RECORD || !mayRecord() || isCountingDown())
         return;
-    if (recording.m_RecordStatus() == RECORD_STATUS_PAUSE) {
-        begin(true);
+    const bool goesOn = recording.m_RecordStatus() == RECORD_STATUS_PAUSE;
+    if (!goesOn && gate_ && gate_([this] { OnRecordRecord(); }))
         return;
-    }
-    if (gate_ && gate_([this] { OnRecordRecord(); }))
+    if (mustChoose())
         return;
-    if (delay_ == 0)
-        begin(false);
+    if (goesOn || delay_ == 0)
+        beginOnceAway(goesOn);
     else
         countDown(delay_);
 }
@@ -134,7 +138,7 @@ void Recorder::secondPassed() {
     countdown_.stop();
     countdownEnded({});
     if (mayRecord())
-        begin(false);
+        beginOnceAway(false);
 }
 
 void Recorder::begin(bool goesOn) {
@@ -151,7 +155,9 @@ void Recorder::begin(bool goesOn) {
         recording.budget = {};
         recording.growth = 0;
         recording.heldBefore = recording.store.bytesHeld();
+        recordedGrab_ = QSize();
     }
+    framesBeforeRun_ = recording.u_Record_Current_Frame();
     // The keys that began it are not part of it.
     hands.forget();
     recording.setM_RecordStatus(RECORD_STATUS_RECORD);
@@ -181,6 +187,7 @@ void Recorder::OnRecordStop() {
         return;
     recording.clock.hold(now());
     recording.setM_RecordStatus(RECORD_STATUS_STOP);
+    steppingAside_.comeBack();
     const RecordingCounts counts = recordingCounts();
     recording.setExactRate(measuredRate(counts, recording.u_FPS()));
     qCDebug(logRecord) << counts.storedFrames << "frames in" << counts.passedSeconds << "seconds";
@@ -235,6 +242,7 @@ void Recorder::OnRecordKeys() {
 }
 
 void Recorder::restartCaptureTimer() {
+    source().setRate(recording.u_FPS());
     hands.follow();
     recording.timerVideoRefresh.reset();
     recording.timerVideoRefresh = std::make_unique<RepeatingTimer>(
@@ -264,6 +272,8 @@ void Recorder::storeFrame() {
         recording.array_Images.emplace();
     auto &frames = *recording.array_Images;
     const Image previous = frames.empty() ? Image() : frames.back();
+    if (frames.empty())
+        recordedGrab_ = capture.imgScreenCapture().size();
     frames.push_back(recording.store.keep(capture.imageScreenCaptureFinal(), previous));
     recording.setU_Record_Current_Frame(recording.u_Record_Current_Frame() + 1);
     recording.setI_debug_number_of_view_refresh(recording.i_debug_number_of_view_refresh() + 1);

@@ -8,6 +8,7 @@
 #include "record/marks/marks.h"
 #include "record/rates.h"
 #include "record/recording_fields.h"
+#include "record/stepping_aside.h"
 
 #include <QObject>
 #include <QTimer>
@@ -22,8 +23,8 @@
 class FrameSaver;
 class RecordingLoader;
 class RegionChooser;
+class ScreenSource;
 class Surroundings;
-class WindowServer;
 struct RecordingNote;
 
 /// The countdowns that are offered, in seconds.
@@ -42,31 +43,44 @@ public:
 
     /// The references are borrowed and outlive it.
     Recorder(Surroundings &surroundings, RegionChooser &chooser,
-             std::unique_ptr<WindowServer> windowServer);
+             std::unique_ptr<ScreenSource> source);
     ~Recorder() override;
 
 private:
     Surroundings &surroundings_;
     RegionChooser &chooser_;
-    std::unique_ptr<WindowServer> windowServer_; // before what watches it
+    std::unique_ptr<ScreenSource> source_; // before what watches it
 
 public:
     CaptureFields capture;
     RecordingFields recording;
     /// What of the user's hands is shown.
-    Hands hands{*windowServer_};
+    Hands hands{*source_};
 
     /// Without one nothing is asked.
     void setGate(Gate gate) { gate_ = std::move(gate); }
 
     Surroundings &surroundings() const { return surroundings_; }
     RegionChooser &chooser() const { return chooser_; }
-    /// Ours as long as the process lives.
-    WindowServer &windowServer() const { return *windowServer_; }
+    /// Where the pictures come from. Ours as long as the process lives.
+    ScreenSource &source() const { return *source_; }
+
+    // What is recorded, where a dialog of the desktop decides that ------------------------------
+
+    /// Whether pictures come, or will as soon as there are any. Always where no dialog decides.
+    bool isSourceOpen() const;
+    /// Lets the user choose, or takes what was chosen last where the desktop still knows it. Does
+    /// nothing during a recording.
+    void OnChooseSource();
+    /// Lets the user choose again.
+    void OnChooseAnotherSource();
+    /// Gives back what was chosen, while nobody looks at it, and takes it again.
+    void closeSource();
+    void reopenSource();
 
     // Window-list capture -----------------------------------------------------------------------
 
-    /// Takes the window server's list into `arrayController`, front to back.
+    /// Takes the source's list of windows into `arrayController`, front to back.
     void updateWindowList();
     /// The numbers of these windows, by their place in the stack and not in `selection`.
     static std::vector<std::uint32_t>
@@ -98,7 +112,8 @@ public:
 
     /// Starts a recording, for which store and folder are emptied, after the countdown if there is
     /// to be one; or goes on with a paused one. Does nothing while one runs, is counted down to or
-    /// is being saved, or where nothing can be recorded.
+    /// is being saved, or where nothing can be recorded. Where something has to be chosen first, or
+    /// our own window has to go, it begins once that is done.
     void OnRecordRecord();
     void OnRecordPause();
     /// Measures the rate and starts the save. A recording without frames ends here, and so does a
@@ -169,6 +184,8 @@ Q_SIGNALS:
     void captureModeChanged(const CaptureMode &mode);
     /// The recording begins in so many seconds; 0 when the countdown has ended, either way.
     void countdownChanged(int seconds);
+    /// What the source is doing, or what was chosen, is another now.
+    void sourceChanged();
     /// A grab has been taken: whoever shows it draws now, which is also what stores a frame.
     void ticked();
     /// A new recording begins: what was chosen of the last one is gone.
@@ -185,6 +202,17 @@ private:
     void secondPassed();
     void countdownEnded(const QString &status);
     void grabPlaceChanged();
+    void openSource(const QString &restoreToken);
+    void followSource();
+    void forgetPicture();
+    /// Whether the user has to choose first what is recorded; if so Record is pressed again then.
+    bool mustChoose();
+    /// Begins when our own windows are out of the picture.
+    void beginOnceAway(bool goesOn);
+    /// Pauses, without the frames that may show it already.
+    void ownWindowCameBack();
+    /// The grab in the size that the recording has, whatever became of what is recorded.
+    Image fittedToRecording(const Image &grab);
     // The save of a stopped recording: begun, reported frame by frame, ended.
     void saveRecording();
     void frameReported(std::uint64_t done);
@@ -194,6 +222,13 @@ private:
     void frameLoaded(std::uint64_t done);
     void takeRecording(std::vector<Image> frames, const RecordingNote &note);
 
+    SteppingAside steppingAside_{surroundings_};
+    bool recordsOnceOpen_ = false;      ///< Record was pressed before anything was chosen.
+    bool reopens_ = false;              ///< Something was chosen when it was given back.
+    std::uint64_t framesBeforeRun_ = 0; ///< Stored when the recording began or went on.
+    QSize recordedGrab_;                ///< The size of grabs when the recording began.
+    Image fittedFrom_;
+    Image fitted_;
     Gate gate_;
     Marks marks_;
     CaptureMode mode_;

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
+#include "platform/screen_source.h"
 #include "record/recorder.h"
 #include "region/region_chooser.h"
 #include "shell/number_text.h"
@@ -48,6 +49,8 @@ void Recorder::showRecordingState() {
             (left && *left < longest
                  ? qtTrId("IDD_RECORDING_MEMORY_LASTS").arg(held, minutesAndSeconds(*left))
                  : qtTrId("IDD_RECORDING_MEMORY").arg(held));
+    if (!fitted_.isEmpty())
+        text += QStringLiteral(" · ") + qtTrId("IDD_SOURCE_RESIZED");
     surroundings_.showStatus(text);
 }
 
@@ -63,15 +66,23 @@ void Recorder::watchMemory() {
         return;
     }
     OnRecordPause();
+    steppingAside_.comeBack(); // to say it
     surroundings_.showStatus(
         qtTrId("IDD_PAUSED_FOR_MEMORY").arg(number_text::bytes(memory->available)));
 }
 
 void Recorder::updateCaptureMode() {
-    const CaptureMode mode{.region = chooser_.isRegionRecorded(),
-                           .monitor = chooser_.monitor(),
-                           .area = chooser_.isPartRecorded() ? chooser_.place().inGrab : QRect(),
-                           .rate = recording.u_FPS()};
+    CaptureMode mode{.region = chooser_.isRegionRecorded(),
+                     .monitor = chooser_.monitor(),
+                     .area = chooser_.isPartRecorded() ? chooser_.place().inGrab : QRect(),
+                     .rate = recording.u_FPS(),
+                     .userChooses = source().capabilities().asksUser,
+                     .chosen = {},
+                     .size = {}};
+    if (const auto chosen = source().chosen()) {
+        mode.chosen = chosen->kind;
+        mode.size = capture.imgScreenCapture().size();
+    }
     if (mode == mode_)
         return;
     mode_ = mode;

@@ -13,7 +13,6 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
-#include <QVBoxLayout>
 #include <QWindow>
 
 #include <algorithm>
@@ -22,7 +21,6 @@
 
 namespace {
 
-constexpr int reasonMargin = 24;    // points
 constexpr double numberShare = 0.6; // a countdown's disc of the view, its number of the disc
 constexpr int discOpacity = 170;    // of 255: it is read on any picture
 
@@ -134,7 +132,7 @@ Image View_Record_Preview::partOfImage(const Image &image, const QRectF &rectang
 void View_Record_Preview::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), Qt::black);
-    if (!shown_.isEmpty() && !reason_)
+    if (!shown_.isEmpty() && !showsReason_)
         painter.drawImage(corner(), scaler_.scaled(shown_, pixelsShown(), devicePixelRatioF(),
                                                    ImageScaler::Care::Quick));
     if (number_ > 0)
@@ -236,23 +234,14 @@ bool View_Record_Preview::eventFilter(QObject *watched, QEvent *event) {
 }
 
 void View_Record_Preview::showReason(const QString &reason) {
-    delete reason_;
-    reason_ = nullptr;
+    showsReason_ = !reason.isEmpty();
     setAccessibleDescription(reason);
-    if (reason.isEmpty())
-        return;
-    reason_ = new QLabel(reason, this);
-    reason_->setObjectName(QStringLiteral("labelReason"));
-    reason_->setWordWrap(true);
-    reason_->setAlignment(Qt::AlignCenter);
-    reason_->setTextFormat(Qt::PlainText);
+    auto *label = findChild<QLabel *>(QStringLiteral("labelReason"));
+    label->setText(reason);
+    label->setVisible(showsReason_);
     // The preview is black in every theme.
-    QPalette palette = reason_->palette();
+    QPalette palette = label->palette();
     palette.setColor(QPalette::WindowText, Qt::white);
-    reason_->setPalette(palette);
-    if (!layout()) {
-        auto *place = new QVBoxLayout(this);
-        place->setContentsMargins(reasonMargin, reasonMargin, reasonMargin, reasonMargin);
-    }
-    layout()->addWidget(reason_);
+    label->setPalette(palette);
+    update();
 }

@@ -87,5 +87,5 @@ private:
     /// Runs from a resize on whose exposure has not come yet.
     QElapsedTimer resized_;
     bool redisplayPending_ = false;
-    QLabel *reason_ = nullptr;
+    bool showsReason_ = false;
 };

@@ -178,6 +178,9 @@ region_place::Inputs RegionChooser::placeInputs() const {
     const QRectF chosen = region.rect_Screen_Region();
     const QMainWindow *window = surroundings_.shell.window();
     const QScreen *screen = window ? window->screen() : nullptr;
+    std::optional<coordinates::Screen> screenOfWindow = screenOfGrab_;
+    if (!screenOfWindow && screen)
+        screenOfWindow = coordinates::screenOnDesktop(*screen);
     coordinates::Points part{chosen.x(), chosen.y(), chosen.width(), chosen.height()};
     std::optional<coordinates::Screen> screenOfPart = region.screenOfRegion();
     if (const QScreen *whole = recordedMonitor()) {
@@ -188,7 +191,6 @@ region_place::Inputs RegionChooser::placeInputs() const {
     return {.regionIsRecorded = isPartRecorded(),
             .region = part,
             .screenOfRegion = screenOfPart,
-            .screenOfWindow =
-                screen ? std::optional(coordinates::screenOnDesktop(*screen)) : std::nullopt,
+            .screenOfWindow = screenOfWindow,
             .grab = grab_};
 }

@@ -76,6 +76,8 @@ public:
 
     /// The latest grab, in which the region has its place from now on.
     void setGrab(const region_place::Grab &grab) { grab_ = grab; }
+    /// The screen that the grab shows, if it shows one and nothing else.
+    void setScreenOfGrab(const coordinates::Screen &screen) { screenOfGrab_ = screen; }
     /// Worked out once for as long as nothing changes on which it depends. Counted from the screen
     /// on which the region was chosen, wherever the main window has gone since.
     const region_place::Place &place() const;
@@ -93,6 +95,7 @@ private:
     QString monitor_;
     bool regionMoved_ = false;
     region_place::Grab grab_;
+    std::optional<coordinates::Screen> screenOfGrab_;
     mutable std::optional<region_place::Inputs> placedFor_;
     mutable region_place::Place place_;
 };

@@ -5,7 +5,7 @@
 #include "export/preset_name.h"
 #include "export/safe_move.h"
 #include "platform/bundle.h"
-#include "platform/window_server.h"
+#include "platform/window_server_source.h"
 #include "shell/obstacle_text.h"
 #include "shell/working_folders.h"
 
@@ -52,7 +52,8 @@ QRect pixelsOf(const QScreen &screen) {
 
 ScriptedRecording::ScriptedRecording(command_line::Recording wanted,
                                      std::unique_ptr<WindowServer> server)
-    : wanted_(std::move(wanted)), recorder_(surroundings_, chooser_, std::move(server)) {
+    : wanted_(std::move(wanted)),
+      recorder_(surroundings_, chooser_, std::make_unique<WindowServerSource>(std::move(server))) {
     clock_.setSingleShot(true);
     clock_.setTimerType(Qt::PreciseTimer);
     listen();
@@ -86,7 +87,7 @@ void ScriptedRecording::listen() {
 }
 
 Status ScriptedRecording::run() {
-    if (const auto obstacle = recorder_.windowServer().obstacle()) {
+    if (const auto obstacle = recorder_.source().obstacle()) {
         terminal_.say(obstacleText(obstacle));
         return Status::cannotRecord;
     }
@@ -162,7 +163,7 @@ std::optional<QString> ScriptedRecording::aim(QSize desktop) {
         return std::nullopt;
     // Front to back; a title that is meant as a whole goes first.
     const TitledWindow *found = nullptr;
-    const std::vector<TitledWindow> windows = recorder_.windowServer().titledWindows();
+    const std::vector<TitledWindow> windows = recorder_.source().titledWindows();
     for (const TitledWindow &each : windows) {
         const bool isWhole = each.title.compare(*wanted_.window, Qt::CaseInsensitive) == 0;
         if (isWhole || (!found && each.title.contains(*wanted_.window, Qt::CaseInsensitive)))

@@ -75,7 +75,9 @@ void Alerts::ask(const Question &question, std::function<void(Answer)> answered)
     setPlainTexts(*box, question.message, question.detail);
     box->setWindowModality(Qt::ApplicationModal);
     QPushButton *accept = box->addButton(question.accept, QMessageBox::AcceptRole);
-    QPushButton *destroy = box->addButton(question.destroy, QMessageBox::DestructiveRole);
+    QPushButton *destroy = question.destroy.isEmpty()
+                               ? nullptr
+                               : box->addButton(question.destroy, QMessageBox::DestructiveRole);
     QPushButton *cancel = question.cancel.isEmpty()
                               ? accept
                               : box->addButton(question.cancel, QMessageBox::RejectRole);
@@ -86,9 +88,9 @@ void Alerts::ask(const Question &question, std::function<void(Answer)> answered)
         widen(*grid);
     connect(box, &QDialog::finished, this, [=, this, answered = std::move(answered)] {
         const QAbstractButton *clicked = box->clickedButton();
-        const Answer answer = clicked == destroy  ? Answer::Destroy
-                              : clicked == accept ? Answer::Accept
-                                                  : Answer::Cancel;
+        const Answer answer = clicked == accept               ? Answer::Accept
+                              : destroy && clicked == destroy ? Answer::Destroy
+                                                              : Answer::Cancel;
         question_ = nullptr;
         QMetaObject::invokeMethod(
             this, [=] { answered(answer); }, Qt::QueuedConnection);

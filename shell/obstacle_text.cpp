@@ -16,6 +16,8 @@ QString obstacleText(std::optional<Obstacle> obstacle) {
         return qtTrId("IDD_REASON_PICTURE_FORMAT");
     case Obstacle::WaylandSession:
         return qtTrId("IDD_REASON_WAYLAND");
+    case Obstacle::NoPortal:
+        return qtTrId("IDD_REASON_NO_PORTAL");
     }
     return {};
 }

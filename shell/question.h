@@ -9,7 +9,7 @@ struct Question {
     QString message;
     QString detail;
     QString accept;  ///< The button that loses nothing; Return presses it.
-    QString destroy; ///< The button that loses something.
+    QString destroy; ///< The button that loses something; empty where nothing can be lost.
     QString cancel;  ///< Goes back to where the user was; empty where there is no such way.
 };
 

@@ -17,6 +17,8 @@ const QString qualityKey = QStringLiteral("GIFQuality");
 const QString showPointerKey = QStringLiteral("ShowPointer");
 const QString withoutAskingKey = QStringLiteral("SaveWithoutAsking");
 const QString showClicksKey = QStringLiteral("ShowClicks");
+const QString restoreTokenKey = QStringLiteral("ScreenCastToken");
+const QString steppingAsideKey = QStringLiteral("SteppingAsideExplained");
 
 void sync(QSettings &store) {
     store.sync();
@@ -80,6 +82,14 @@ void writeChoice(const char *name, const QString &text) { write(QString::fromLat
 bool readShowClicks() { return readSwitch(showClicksKey, false); }
 
 void writeShowClicks(bool shown) { writeSwitch(showClicksKey, shown); }
+
+QString readRestoreToken() { return QSettings().value(restoreTokenKey).toString(); }
+
+void writeRestoreToken(const QString &token) { write(restoreTokenKey, token); }
+
+bool readSteppingAsideExplained() { return readSwitch(steppingAsideKey, false); }
+
+void writeSteppingAsideExplained() { writeSwitch(steppingAsideKey, true); }
 
 void flush() {
     QSettings store;

@@ -45,6 +45,15 @@ void writeChoice(const char *name, const QString &text);
 bool readShowClicks();
 void writeShowClicks(bool shown);
 
+/// By which the desktop finds what the user chose to be recorded the last time; empty when it
+/// doesn't know. It says nothing to anybody else.
+QString readRestoreToken();
+void writeRestoreToken(const QString &token);
+
+/// Whether the user has been told that our window gets out of the way, and how to stop then.
+bool readSteppingAsideExplained();
+void writeSteppingAsideExplained();
+
 /// Writes what is not on disk yet.
 void flush();
 

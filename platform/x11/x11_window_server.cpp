@@ -3,8 +3,8 @@
 #include "platform/x11/x11_window_server.h"
 
 #include "platform/image/regions.h"
+#include "platform/image/tile_comparison.h"
 #include "platform/x11/surface.h"
-#include "platform/x11/tile_comparison.h"
 #include "platform/x11/x11_input_watch.h"
 #include "platform/x11/x11_pointer_watch.h"
 
@@ -141,9 +141,10 @@ std::optional<Image> X11WindowServer::composite(std::span<const std::uint32_t> n
     if (goesOn && picture_->size() == turn->picture->size()) {
         const QImage before = picture_->toQImage();
         change = {picture_->identity(),
-                  x11::differingTiles(turn->picture->pixels(),
-                                      reinterpret_cast<const std::uint32_t *>(before.constBits()),
-                                      before.size(), drawn)};
+                  differingTiles(
+                      {turn->picture->pixels(), before.width()},
+                      {reinterpret_cast<const std::uint32_t *>(before.constBits()), before.width()},
+                      before.size(), drawn)};
         if (change.region.isEmpty()) {
             ring_.latestIsAs(*turn, drawn);
             return picture_;

@@ -50,7 +50,7 @@ void Hands::follow() {
     if (!pointerShown_ && !clicksShown_)
         pointer_.reset();
     else if (!pointer_)
-        pointer_ = server_.watchPointer();
+        pointer_ = source_.watchPointer();
     followInput();
 }
 
@@ -63,7 +63,7 @@ void Hands::followInput() {
     input_.reset();
     if (wanted == InputKinds{})
         return;
-    input_ = server_.watchInput(wanted);
+    input_ = source_.watchInput(wanted);
     // A switch that is on says that it works.
     if (!input_)
         clicksShown_ = keysShown_ = false;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/window_server.h"
+#include "platform/screen_source.h"
 #include "record/marks/marks.h"
 
 #include <memory>
@@ -13,17 +13,17 @@
 /// followed, and costs nothing. Everything runs on the main thread.
 class Hands {
 public:
-    /// `server` is borrowed and outlives it.
-    explicit Hands(WindowServer &server) : server_(server) {}
+    /// `source` is borrowed and outlives it.
+    explicit Hands(ScreenSource &source) : source_(source) {}
 
     /// The switches as they were left, and at the first start the pointer alone. Keys are off at
     /// every start: nobody shall show them unawares.
     void start();
 
     /// Whether each can be shown here at all, or why not.
-    HandAccess pointerAccess() const { return server_.capabilities().pointer; }
-    HandAccess clicksAccess() const { return server_.capabilities().clicks; }
-    HandAccess keysAccess() const { return server_.capabilities().keys; }
+    HandAccess pointerAccess() const { return source_.capabilities().pointer; }
+    HandAccess clicksAccess() const { return source_.capabilities().clicks; }
+    HandAccess keysAccess() const { return source_.capabilities().keys; }
 
     /// Whether each is shown; pointer and clicks are remembered from one start to the next.
     bool isPointerShown() const { return pointerShown_; }
@@ -47,7 +47,7 @@ private:
     void followInput();
     void takeInput(std::span<const WindowDescription> windows);
 
-    WindowServer &server_;
+    ScreenSource &source_;
     bool pointerShown_ = false;
     bool clicksShown_ = false;
     bool keysShown_ = false;

@@ -262,14 +262,70 @@
         <source>The screen cannot be recorded: this display server does not use 24-bit color.</source>
         <translation>Der Bildschirm kann nicht aufgenommen werden: Dieser Anzeigeserver verwendet keine 24-Bit-Farben.</translation>
     </message>
-    <message id="IDD_REASON_WAYLAND">
-        <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
-        <translation>In einer Wayland-Sitzung kann der Bildschirm nicht aufgenommen werden. Melden Sie sich zum Aufnehmen in einer X11-Sitzung an.</translation>
-    </message>
     <!-- record -->
     <message id="IDD_SAVING_RECORDING">
         <source>Saving the recording…</source>
         <translation>Die Aufnahme wird gespeichert&#xa0;…</translation>
+    </message>
+    <message id="IDD_REASON_NO_PORTAL">
+        <source>The screen cannot be recorded: this Wayland desktop has no portal for it. Install xdg-desktop-portal with your desktop’s back end, or log in to an X11 session.</source>
+        <translation>Der Bildschirm kann nicht aufgenommen werden: Diese Wayland-Sitzung hat kein Portal dafür. Installieren Sie xdg-desktop-portal mit dem Backend Ihrer Arbeitsumgebung, oder melden Sie sich in einer X11-Sitzung an.</translation>
+    </message>
+    <message id="IDD_CHOOSE_SOURCE">
+        <source>Choose What to Record…</source>
+        <translation>Aufnahmequelle wählen&#xa0;…</translation>
+    </message>
+    <message id="IDD_SOURCE_IDLE">
+        <source>Your desktop asks what may be recorded: a monitor or a window.</source>
+        <translation>Ihre Arbeitsumgebung fragt, was aufgenommen werden darf: ein Monitor oder ein Fenster.</translation>
+    </message>
+    <message id="IDD_SOURCE_ASKING">
+        <source>Choose in the desktop’s dialog what to record.</source>
+        <translation>Wählen Sie im Dialog der Arbeitsumgebung, was aufgenommen werden soll.</translation>
+    </message>
+    <message id="IDD_SOURCE_WAITING">
+        <source>Waiting for the first picture…</source>
+        <translation>Das erste Bild wird erwartet&#xa0;…</translation>
+    </message>
+    <message id="IDD_SOURCE_ENDED">
+        <source>The desktop has stopped sharing the screen.</source>
+        <translation>Die Arbeitsumgebung hat die Freigabe des Bildschirms beendet.</translation>
+    </message>
+    <message id="IDD_SOURCE_FAILED">
+        <source>The desktop hands out no pictures of the screen: %1</source>
+        <translation>Die Arbeitsumgebung liefert keine Bilder des Bildschirms: %1</translation>
+    </message>
+    <message id="IDD_SOURCE_REFUSED">
+        <source>Nothing was chosen.</source>
+        <translation>Es wurde nichts ausgewählt.</translation>
+    </message>
+    <message id="IDD_SOURCE_RESIZED">
+        <source>its size has changed: fitted</source>
+        <translation>Größe hat sich geändert: angepasst</translation>
+    </message>
+    <message id="IDD_CHOSEN_MONITOR">
+        <source>Monitor %1 × %2</source>
+        <translation>Monitor %1 × %2</translation>
+    </message>
+    <message id="IDD_CHOSEN_WINDOW">
+        <source>A window %1 × %2</source>
+        <translation>Ein Fenster %1 × %2</translation>
+    </message>
+    <message id="IDD_CHOSEN_OTHER">
+        <source>Chosen: %1 × %2</source>
+        <translation>Ausgewählt: %1 × %2</translation>
+    </message>
+    <message id="IDD_STEP_ASIDE">
+        <source>Tovarel gets out of the way while it records.</source>
+        <translation>Tovarel geht während der Aufnahme aus dem Bild.</translation>
+    </message>
+    <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
+        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
+        <translation>Alles Sichtbare wird aufgenommen, deshalb wird dieses Fenster vorher minimiert. Zum Beenden holen Sie es mit einem Klick im Dock oder durch erneutes Starten von Tovarel zurück: Die Aufnahme pausiert, und „Stopp“ speichert sie.</translation>
+    </message>
+    <message id="IDD_REASON_WAYLAND">
+        <source>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</source>
+        <translation>In einer Wayland-Sitzung kann nur das Fenster aufnehmen: Starten Sie Tovarel ohne Argumente, oder melden Sie sich in einer X11-Sitzung an.</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>

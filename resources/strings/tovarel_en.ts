@@ -262,14 +262,70 @@
         <source>The screen cannot be recorded: this display server does not use 24-bit color.</source>
         <translation>The screen cannot be recorded: this display server does not use 24-bit color.</translation>
     </message>
-    <message id="IDD_REASON_WAYLAND">
-        <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
-        <translation>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</translation>
-    </message>
     <!-- record -->
     <message id="IDD_SAVING_RECORDING">
         <source>Saving the recording…</source>
         <translation>Saving the recording…</translation>
+    </message>
+    <message id="IDD_REASON_NO_PORTAL">
+        <source>The screen cannot be recorded: this Wayland desktop has no portal for it. Install xdg-desktop-portal with your desktop’s back end, or log in to an X11 session.</source>
+        <translation>The screen cannot be recorded: this Wayland desktop has no portal for it. Install xdg-desktop-portal with your desktop’s back end, or log in to an X11 session.</translation>
+    </message>
+    <message id="IDD_CHOOSE_SOURCE">
+        <source>Choose What to Record…</source>
+        <translation>Choose What to Record…</translation>
+    </message>
+    <message id="IDD_SOURCE_IDLE">
+        <source>Your desktop asks what may be recorded: a monitor or a window.</source>
+        <translation>Your desktop asks what may be recorded: a monitor or a window.</translation>
+    </message>
+    <message id="IDD_SOURCE_ASKING">
+        <source>Choose in the desktop’s dialog what to record.</source>
+        <translation>Choose in the desktop’s dialog what to record.</translation>
+    </message>
+    <message id="IDD_SOURCE_WAITING">
+        <source>Waiting for the first picture…</source>
+        <translation>Waiting for the first picture…</translation>
+    </message>
+    <message id="IDD_SOURCE_ENDED">
+        <source>The desktop has stopped sharing the screen.</source>
+        <translation>The desktop has stopped sharing the screen.</translation>
+    </message>
+    <message id="IDD_SOURCE_FAILED">
+        <source>The desktop hands out no pictures of the screen: %1</source>
+        <translation>The desktop hands out no pictures of the screen: %1</translation>
+    </message>
+    <message id="IDD_SOURCE_REFUSED">
+        <source>Nothing was chosen.</source>
+        <translation>Nothing was chosen.</translation>
+    </message>
+    <message id="IDD_SOURCE_RESIZED">
+        <source>its size has changed: fitted</source>
+        <translation>its size has changed: fitted</translation>
+    </message>
+    <message id="IDD_CHOSEN_MONITOR">
+        <source>Monitor %1 × %2</source>
+        <translation>Monitor %1 × %2</translation>
+    </message>
+    <message id="IDD_CHOSEN_WINDOW">
+        <source>A window %1 × %2</source>
+        <translation>A window %1 × %2</translation>
+    </message>
+    <message id="IDD_CHOSEN_OTHER">
+        <source>Chosen: %1 × %2</source>
+        <translation>Chosen: %1 × %2</translation>
+    </message>
+    <message id="IDD_STEP_ASIDE">
+        <source>Tovarel gets out of the way while it records.</source>
+        <translation>Tovarel gets out of the way while it records.</translation>
+    </message>
+    <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
+        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
+        <translation>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</translation>
+    </message>
+    <message id="IDD_REASON_WAYLAND">
+        <source>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</source>
+        <translation>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>

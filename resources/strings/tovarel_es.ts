@@ -262,14 +262,70 @@
         <source>The screen cannot be recorded: this display server does not use 24-bit color.</source>
         <translation>No se puede grabar la pantalla: este servidor gráfico no usa imágenes en color de 24 bits.</translation>
     </message>
-    <message id="IDD_REASON_WAYLAND">
-        <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
-        <translation>No se puede grabar la pantalla en una sesión de Wayland; inicie una sesión de X11 para grabar.</translation>
-    </message>
     <!-- record -->
     <message id="IDD_SAVING_RECORDING">
         <source>Saving the recording…</source>
         <translation>Guardando la grabación…</translation>
+    </message>
+    <message id="IDD_REASON_NO_PORTAL">
+        <source>The screen cannot be recorded: this Wayland desktop has no portal for it. Install xdg-desktop-portal with your desktop’s back end, or log in to an X11 session.</source>
+        <translation>No se puede grabar la pantalla: este escritorio Wayland no tiene un portal para ello. Instale xdg-desktop-portal con el módulo de su escritorio o inicie una sesión de X11.</translation>
+    </message>
+    <message id="IDD_CHOOSE_SOURCE">
+        <source>Choose What to Record…</source>
+        <translation>Elegir qué grabar…</translation>
+    </message>
+    <message id="IDD_SOURCE_IDLE">
+        <source>Your desktop asks what may be recorded: a monitor or a window.</source>
+        <translation>Su escritorio pregunta qué se puede grabar: un monitor o una ventana.</translation>
+    </message>
+    <message id="IDD_SOURCE_ASKING">
+        <source>Choose in the desktop’s dialog what to record.</source>
+        <translation>Elija en el cuadro de diálogo del escritorio qué se debe grabar.</translation>
+    </message>
+    <message id="IDD_SOURCE_WAITING">
+        <source>Waiting for the first picture…</source>
+        <translation>Esperando la primera imagen…</translation>
+    </message>
+    <message id="IDD_SOURCE_ENDED">
+        <source>The desktop has stopped sharing the screen.</source>
+        <translation>El escritorio ha dejado de compartir la pantalla.</translation>
+    </message>
+    <message id="IDD_SOURCE_FAILED">
+        <source>The desktop hands out no pictures of the screen: %1</source>
+        <translation>El escritorio no proporciona imágenes de la pantalla: %1</translation>
+    </message>
+    <message id="IDD_SOURCE_REFUSED">
+        <source>Nothing was chosen.</source>
+        <translation>No se ha elegido nada.</translation>
+    </message>
+    <message id="IDD_SOURCE_RESIZED">
+        <source>its size has changed: fitted</source>
+        <translation>su tamaño ha cambiado: ajustado</translation>
+    </message>
+    <message id="IDD_CHOSEN_MONITOR">
+        <source>Monitor %1 × %2</source>
+        <translation>Monitor %1 × %2</translation>
+    </message>
+    <message id="IDD_CHOSEN_WINDOW">
+        <source>A window %1 × %2</source>
+        <translation>Una ventana %1 × %2</translation>
+    </message>
+    <message id="IDD_CHOSEN_OTHER">
+        <source>Chosen: %1 × %2</source>
+        <translation>Elegido: %1 × %2</translation>
+    </message>
+    <message id="IDD_STEP_ASIDE">
+        <source>Tovarel gets out of the way while it records.</source>
+        <translation>Tovarel se aparta mientras graba.</translation>
+    </message>
+    <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
+        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
+        <translation>Se graba todo lo visible, por lo que esta ventana se minimiza antes. Para detener la grabación, recupere la ventana con un clic en el dock o iniciando Tovarel de nuevo: la grabación queda en pausa y «Detener» la guarda.</translation>
+    </message>
+    <message id="IDD_REASON_WAYLAND">
+        <source>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</source>
+        <translation>En una sesión de Wayland solo puede grabar la ventana: inicie Tovarel sin argumentos o inicie una sesión de X11.</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>

@@ -262,14 +262,70 @@
         <source>The screen cannot be recorded: this display server does not use 24-bit color.</source>
         <translation>Impossible d’enregistrer l’écran&#xa0;: ce serveur d’affichage n’utilise pas d’images en couleurs 24 bits.</translation>
     </message>
-    <message id="IDD_REASON_WAYLAND">
-        <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
-        <translation>Impossible d’enregistrer l’écran dans une session Wayland&#x202f;; ouvrez une session X11 pour enregistrer.</translation>
-    </message>
     <!-- record -->
     <message id="IDD_SAVING_RECORDING">
         <source>Saving the recording…</source>
         <translation>Sauvegarde de l’enregistrement…</translation>
+    </message>
+    <message id="IDD_REASON_NO_PORTAL">
+        <source>The screen cannot be recorded: this Wayland desktop has no portal for it. Install xdg-desktop-portal with your desktop’s back end, or log in to an X11 session.</source>
+        <translation>Impossible d’enregistrer l’écran&#xa0;: ce bureau Wayland n’a pas de portail pour cela. Installez xdg-desktop-portal avec le module de votre bureau ou ouvrez une session X11.</translation>
+    </message>
+    <message id="IDD_CHOOSE_SOURCE">
+        <source>Choose What to Record…</source>
+        <translation>Choisir ce qu’il faut enregistrer…</translation>
+    </message>
+    <message id="IDD_SOURCE_IDLE">
+        <source>Your desktop asks what may be recorded: a monitor or a window.</source>
+        <translation>Votre bureau demande ce qui peut être enregistré&#xa0;: un moniteur ou une fenêtre.</translation>
+    </message>
+    <message id="IDD_SOURCE_ASKING">
+        <source>Choose in the desktop’s dialog what to record.</source>
+        <translation>Choisissez dans la boîte de dialogue du bureau ce qu’il faut enregistrer.</translation>
+    </message>
+    <message id="IDD_SOURCE_WAITING">
+        <source>Waiting for the first picture…</source>
+        <translation>En attente de la première image…</translation>
+    </message>
+    <message id="IDD_SOURCE_ENDED">
+        <source>The desktop has stopped sharing the screen.</source>
+        <translation>Le bureau a arrêté le partage de l’écran.</translation>
+    </message>
+    <message id="IDD_SOURCE_FAILED">
+        <source>The desktop hands out no pictures of the screen: %1</source>
+        <translation>Le bureau ne fournit aucune image de l’écran&#xa0;: %1</translation>
+    </message>
+    <message id="IDD_SOURCE_REFUSED">
+        <source>Nothing was chosen.</source>
+        <translation>Rien n’a été choisi.</translation>
+    </message>
+    <message id="IDD_SOURCE_RESIZED">
+        <source>its size has changed: fitted</source>
+        <translation>sa taille a changé&#xa0;: ajustée</translation>
+    </message>
+    <message id="IDD_CHOSEN_MONITOR">
+        <source>Monitor %1 × %2</source>
+        <translation>Moniteur %1 × %2</translation>
+    </message>
+    <message id="IDD_CHOSEN_WINDOW">
+        <source>A window %1 × %2</source>
+        <translation>Une fenêtre %1 × %2</translation>
+    </message>
+    <message id="IDD_CHOSEN_OTHER">
+        <source>Chosen: %1 × %2</source>
+        <translation>Choisi&#xa0;: %1 × %2</translation>
+    </message>
+    <message id="IDD_STEP_ASIDE">
+        <source>Tovarel gets out of the way while it records.</source>
+        <translation>Tovarel s’efface pendant l’enregistrement.</translation>
+    </message>
+    <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
+        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
+        <translation>Tout ce qui est visible est enregistré&#xa0;: cette fenêtre est donc d’abord réduite. Pour arrêter, rappelez-la d’un clic dans le dock ou en lançant de nouveau Tovarel&#xa0;: l’enregistrement se met en pause, et «&#xa0;Arrêter&#xa0;» le sauvegarde.</translation>
+    </message>
+    <message id="IDD_REASON_WAYLAND">
+        <source>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</source>
+        <translation>Dans une session Wayland, seule la fenêtre peut enregistrer&#xa0;: lancez Tovarel sans argument ou ouvrez une session X11.</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>

@@ -261,14 +261,70 @@
         <source>The screen cannot be recorded: this display server does not use 24-bit color.</source>
         <translation>画面を録画できません。このディスプレイサーバーは 24 ビットカラーの画像を扱っていません。</translation>
     </message>
-    <message id="IDD_REASON_WAYLAND">
-        <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
-        <translation>Wayland セッションでは画面を録画できません。録画するには X11 セッションにログインしてください。</translation>
-    </message>
     <!-- record -->
     <message id="IDD_SAVING_RECORDING">
         <source>Saving the recording…</source>
         <translation>録画を保存しています…</translation>
+    </message>
+    <message id="IDD_REASON_NO_PORTAL">
+        <source>The screen cannot be recorded: this Wayland desktop has no portal for it. Install xdg-desktop-portal with your desktop’s back end, or log in to an X11 session.</source>
+        <translation>画面を録画できません。この Wayland デスクトップには録画用のポータルがありません。xdg-desktop-portal とデスクトップ用のバックエンドをインストールするか、X11 セッションにログインしてください。</translation>
+    </message>
+    <message id="IDD_CHOOSE_SOURCE">
+        <source>Choose What to Record…</source>
+        <translation>録画対象を選択…</translation>
+    </message>
+    <message id="IDD_SOURCE_IDLE">
+        <source>Your desktop asks what may be recorded: a monitor or a window.</source>
+        <translation>録画できる対象（モニターまたはウィンドウ）をデスクトップが確認します。</translation>
+    </message>
+    <message id="IDD_SOURCE_ASKING">
+        <source>Choose in the desktop’s dialog what to record.</source>
+        <translation>デスクトップのダイアログで録画対象を選択してください。</translation>
+    </message>
+    <message id="IDD_SOURCE_WAITING">
+        <source>Waiting for the first picture…</source>
+        <translation>最初の画像を待っています…</translation>
+    </message>
+    <message id="IDD_SOURCE_ENDED">
+        <source>The desktop has stopped sharing the screen.</source>
+        <translation>デスクトップが画面の共有を終了しました。</translation>
+    </message>
+    <message id="IDD_SOURCE_FAILED">
+        <source>The desktop hands out no pictures of the screen: %1</source>
+        <translation>デスクトップから画面の画像を取得できません: %1</translation>
+    </message>
+    <message id="IDD_SOURCE_REFUSED">
+        <source>Nothing was chosen.</source>
+        <translation>何も選択されていません。</translation>
+    </message>
+    <message id="IDD_SOURCE_RESIZED">
+        <source>its size has changed: fitted</source>
+        <translation>サイズが変わったため調整中</translation>
+    </message>
+    <message id="IDD_CHOSEN_MONITOR">
+        <source>Monitor %1 × %2</source>
+        <translation>モニター %1 × %2</translation>
+    </message>
+    <message id="IDD_CHOSEN_WINDOW">
+        <source>A window %1 × %2</source>
+        <translation>ウィンドウ %1 × %2</translation>
+    </message>
+    <message id="IDD_CHOSEN_OTHER">
+        <source>Chosen: %1 × %2</source>
+        <translation>選択中: %1 × %2</translation>
+    </message>
+    <message id="IDD_STEP_ASIDE">
+        <source>Tovarel gets out of the way while it records.</source>
+        <translation>録画中、Tovarel は画面から退きます。</translation>
+    </message>
+    <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
+        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
+        <translation>表示されているものはすべて録画されるため、このウィンドウは先に最小化されます。終了するには、ドックをクリックするか Tovarel をもう一度起動してウィンドウを戻してください。録画は一時停止し、「停止」で保存されます。</translation>
+    </message>
+    <message id="IDD_REASON_WAYLAND">
+        <source>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</source>
+        <translation>Wayland セッションでは、ウィンドウからのみ録画できます。引数なしで Tovarel を起動するか、X11 セッションにログインしてください。</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>

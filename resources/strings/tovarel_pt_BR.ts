@@ -262,14 +262,70 @@
         <source>The screen cannot be recorded: this display server does not use 24-bit color.</source>
         <translation>Não é possível gravar a tela: este servidor gráfico não usa imagens em cores de 24 bits.</translation>
     </message>
-    <message id="IDD_REASON_WAYLAND">
-        <source>The screen cannot be recorded in a Wayland session; log in to an X11 session to record.</source>
-        <translation>Não é possível gravar a tela em uma sessão Wayland; entre em uma sessão X11 para gravar.</translation>
-    </message>
     <!-- record -->
     <message id="IDD_SAVING_RECORDING">
         <source>Saving the recording…</source>
         <translation>Salvando a gravação…</translation>
+    </message>
+    <message id="IDD_REASON_NO_PORTAL">
+        <source>The screen cannot be recorded: this Wayland desktop has no portal for it. Install xdg-desktop-portal with your desktop’s back end, or log in to an X11 session.</source>
+        <translation>Não é possível gravar a tela: este ambiente Wayland não tem um portal para isso. Instale o xdg-desktop-portal com o módulo do seu ambiente ou entre em uma sessão X11.</translation>
+    </message>
+    <message id="IDD_CHOOSE_SOURCE">
+        <source>Choose What to Record…</source>
+        <translation>Escolher o que gravar…</translation>
+    </message>
+    <message id="IDD_SOURCE_IDLE">
+        <source>Your desktop asks what may be recorded: a monitor or a window.</source>
+        <translation>Seu ambiente de trabalho pergunta o que pode ser gravado: um monitor ou uma janela.</translation>
+    </message>
+    <message id="IDD_SOURCE_ASKING">
+        <source>Choose in the desktop’s dialog what to record.</source>
+        <translation>Escolha na caixa de diálogo do ambiente o que deve ser gravado.</translation>
+    </message>
+    <message id="IDD_SOURCE_WAITING">
+        <source>Waiting for the first picture…</source>
+        <translation>Aguardando a primeira imagem…</translation>
+    </message>
+    <message id="IDD_SOURCE_ENDED">
+        <source>The desktop has stopped sharing the screen.</source>
+        <translation>O ambiente parou de compartilhar a tela.</translation>
+    </message>
+    <message id="IDD_SOURCE_FAILED">
+        <source>The desktop hands out no pictures of the screen: %1</source>
+        <translation>O ambiente não fornece imagens da tela: %1</translation>
+    </message>
+    <message id="IDD_SOURCE_REFUSED">
+        <source>Nothing was chosen.</source>
+        <translation>Nada foi escolhido.</translation>
+    </message>
+    <message id="IDD_SOURCE_RESIZED">
+        <source>its size has changed: fitted</source>
+        <translation>o tamanho mudou: ajustado</translation>
+    </message>
+    <message id="IDD_CHOSEN_MONITOR">
+        <source>Monitor %1 × %2</source>
+        <translation>Monitor %1 × %2</translation>
+    </message>
+    <message id="IDD_CHOSEN_WINDOW">
+        <source>A window %1 × %2</source>
+        <translation>Uma janela %1 × %2</translation>
+    </message>
+    <message id="IDD_CHOSEN_OTHER">
+        <source>Chosen: %1 × %2</source>
+        <translation>Escolhido: %1 × %2</translation>
+    </message>
+    <message id="IDD_STEP_ASIDE">
+        <source>Tovarel gets out of the way while it records.</source>
+        <translation>O Tovarel sai da frente enquanto grava.</translation>
+    </message>
+    <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
+        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
+        <translation>Tudo o que está visível é gravado, por isso esta janela é minimizada antes. Para parar, traga-a de volta com um clique no dock ou iniciando o Tovarel de novo: a gravação entra em pausa, e “Parar” a salva.</translation>
+    </message>
+    <message id="IDD_REASON_WAYLAND">
+        <source>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</source>
+        <translation>Em uma sessão Wayland, só a janela pode gravar: inicie o Tovarel sem argumentos ou entre em uma sessão X11.</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>

@@ -4,6 +4,7 @@
 
 #include "app/app_delegate.h"
 #include "app/application.h"
+#include "platform/window_server_source.h"
 #include "shell/strings_table.h"
 #include "shell/working_folders.h"
 #include "tests/support/fake_window_server.h"
@@ -29,7 +30,8 @@ public:
         server->why = obstacle;
         server->picture = plainImage({64, 48}, qRgb(10, 20, 30));
         delegate = std::make_unique<AppDelegate>(AppDelegate::Environment{
-            .windowServer = std::move(fake), .documentsFolder = folder.filePath(documents)});
+            .source = std::make_unique<WindowServerSource>(std::move(fake)),
+            .documentsFolder = folder.filePath(documents)});
         application().setDelegate(delegate.get());
         delegate->awakeFromNib();
         EXPECT_TRUE(delegate->applicationDidFinishLaunching());

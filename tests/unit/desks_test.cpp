@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "export/exporter.h"
+#include "platform/window_server_source.h"
 #include "record/recorder.h"
 #include "region/region_chooser.h"
 #include "shell/surroundings.h"
@@ -23,7 +24,8 @@ protected:
         auto fake = std::make_unique<FakeWindowServer>();
         server = fake.get();
         server->picture = plainImage({64, 48}, qRgb(10, 20, 30));
-        recorder = std::make_unique<Recorder>(surroundings, chooser, std::move(fake));
+        recorder = std::make_unique<Recorder>(
+            surroundings, chooser, std::make_unique<WindowServerSource>(std::move(fake)));
         editor = std::make_unique<TrimEditor>(surroundings, *recorder);
         exporter = std::make_unique<Exporter>(surroundings, *recorder, *editor);
         surroundings.shell.setS_Output_Folder(folder.path());

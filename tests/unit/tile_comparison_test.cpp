@@ -1,18 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "platform/x11/tile_comparison.h"
+#include "platform/image/tile_comparison.h"
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
-using x11::differingTiles;
-
 TEST(TileComparison, findsEveryPixelAndNothingOutsideOfWhatItWasAskedFor) {
     const QSize size(150, 70); // three tiles across, the last one narrow, and two down
     std::vector<std::uint32_t> a(150 * 70, 1), b = a;
     const auto where = [&](const QRegion &asked) {
-        return differingTiles(a.data(), b.data(), size, asked);
+        return differingTiles({a.data(), 150}, {b.data(), 150}, size, asked);
     };
     const QRect all(QPoint(), size);
     EXPECT_TRUE(where(all).isEmpty());

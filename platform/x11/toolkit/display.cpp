@@ -17,6 +17,11 @@ bool displayIsReachable() {
     return x11::openDisplay() != nullptr;
 }
 
+bool isWaylandSession() {
+    return qgetenv("XDG_SESSION_TYPE") == "wayland" ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
 bool displayIsGone() {
     xcb_connection_t *connection = x11::toolkitConnection();
     if (!connection)

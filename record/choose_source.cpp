@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "record/recorder.h"
+#include "region/region_chooser.h"
+#include "shell/settings.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+/// How long before we learn of it a window of ours may have been in the pictures, in seconds. The
+/// desktop tells us 5 to 40 ms before it shows the window; the rest is for a machine that is busy.
+constexpr double doubtful = 0.15;
+/// Frames that may have been stored while the news was waiting to be read.
+constexpr std::uint64_t storedMeanwhile = 1;
+
+} // namespace
+
+bool Recorder::isSourceOpen() const {
+    const SourceState state = source().state();
+    return !source().capabilities().asksUser || state == SourceState::Waiting ||
+           state == SourceState::Live;
+}
+
+void Recorder::OnChooseSource() { openSource(settings::readRestoreToken()); }
+
+void Recorder::OnChooseAnotherSource() { openSource({}); }
+
+void Recorder::openSource(const QString &restoreToken) {
+    if (recording.m_RecordStatus() != RECORD_STATUS_STOP || source().obstacle())
+        return;
+    forgetPicture();
+    source().start({.rate = recording.u_FPS(), .restoreToken = restoreToken});
+}
+
+void Recorder::closeSource() {
+    recordsOnceOpen_ = false;
+    if (!source().capabilities().asksUser)
+        return;
+    reopens_ = reopens_ || isSourceOpen();
+    // What ended it goes on to be told.
+    if (isSourceOpen() || source().state() == SourceState::Asking)
+        source().stop();
+}
+
+void Recorder::reopenSource() {
+    if (!source().capabilities().asksUser || !std::exchange(reopens_, false))
+        return;
+    // Without a word to find it by again the desktop would ask, and nobody has asked for that.
+    const QString token = settings::readRestoreToken();
+    if (!token.isEmpty())
+        openSource(token);
+}
+
+void Recorder::forgetPicture() {
+    capture.setGrabBeforeHalving({});
+    capture.setImgScreenCapture({});
+    capture.setImageScreenCaptureFinal({});
+}
+
+void Recorder::followSource() {
+    const SourceState state = source().state();
+    if (state == SourceState::Waiting)
+        settings::writeRestoreToken(source().restoreToken());
+    if (!isSourceOpen()) {
+        // The desktop's own way to stop: what has been recorded is kept.
+        if (recording.m_RecordStatus() != RECORD_STATUS_STOP)
+            OnRecordStop();
+        steppingAside_.comeBack();
+        forgetPicture();
+        if (state == SourceState::Ended || state == SourceState::Refused)
+            recordsOnceOpen_ = reopens_ = false;
+    }
+    updateCaptureMode();
+    Q_EMIT sourceChanged();
+    Q_EMIT stateChanged();
+    if (isSourceOpen() && std::exchange(recordsOnceOpen_, false))
+        OnRecordRecord();
+}
+
+bool Recorder::mustChoose() {
+    if (isSourceOpen())
+        return false;
+    recordsOnceOpen_ = true;
+    if (source().state() != SourceState::Asking)
+        OnChooseSource();
+    return true;
+}
+
+void Recorder::beginOnceAway(bool goesOn) {
+    // Something may have happened since it was asked for.
+    const bool isPaused = recording.m_RecordStatus() == RECORD_STATUS_PAUSE;
+    if (recording.m_RecordStatus() == RECORD_STATUS_RECORD || goesOn != isPaused || !mayRecord() ||
+        !isSourceOpen())
+        return;
+    const ScreenSourceCapabilities capabilities = source().capabilities();
+    const bool isSeen = capabilities.asksUser && !capabilities.leavesOwnOut;
+    if (!isSeen || !steppingAside_.mustGo([this, goesOn] { beginOnceAway(goesOn); }))
+        begin(goesOn);
+}
+
+void Recorder::ownWindowCameBack() {
+    if (recording.m_RecordStatus() != RECORD_STATUS_RECORD)
+        return;
+    const double rate = static_cast<double>(recording.u_FPS());
+    const auto inDoubt = static_cast<std::uint64_t>(std::ceil(rate * doubtful)) + storedMeanwhile;
+    const std::uint64_t count = recording.u_Record_Current_Frame();
+    const std::uint64_t dropped = std::min(inDoubt, count - std::min(count, framesBeforeRun_));
+    if (recording.array_Images)
+        recording.array_Images->resize(static_cast<std::size_t>(count - dropped));
+    recording.setU_Record_Current_Frame(count - dropped);
+    const std::chrono::duration<double> lost(static_cast<double>(dropped) / rate);
+    recording.clock.hold(std::chrono::steady_clock::now() -
+                         std::chrono::duration_cast<std::chrono::nanoseconds>(lost));
+    OnRecordPause();
+}
+
+Image Recorder::fittedToRecording(const Image &grab) {
+    const bool records = recording.m_RecordStatus() != RECORD_STATUS_STOP;
+    if (!records || !source().capabilities().asksUser || recordedGrab_.isEmpty() ||
+        grab.isEmpty() || grab.size() == recordedGrab_) {
+        fitted_ = {};
+        return grab;
+    }
+    if (fittedFrom_.sameAs(grab) && fitted_.size() == recordedGrab_)
+        return fitted_;
+    QImage canvas(recordedGrab_, QImage::Format_RGB32);
+    canvas.fill(Qt::black);
+    const QSize size = grab.size().scaled(recordedGrab_, Qt::KeepAspectRatio).expandedTo({1, 1});
+    QRect place(QPoint(), size);
+    place.moveCenter(canvas.rect().center());
+    QPainter painter(&canvas);
+    painter.drawImage(
+        place, grab.toQImage().scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    painter.end();
+    fittedFrom_ = grab;
+    fitted_ = Image::fromQImage(std::move(canvas));
+    return fitted_;
+}

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+class Surroundings;
+
+/// Keeps our own windows out of pictures that hold everything visible, as a Wayland desktop hands
+/// them out: they get out of the way before the first frame counts, and whoever listens learns at
+/// once when one of them may be seen again.
+class SteppingAside : public QObject {
+    Q_OBJECT
+
+public:
+    /// `surroundings` are borrowed and outlive it.
+    explicit SteppingAside(Surroundings &surroundings);
+    ~SteppingAside() override;
+
+    /// Whether our windows still have to go first. If so they begin to, and `goOn` is called when
+    /// they have been out of sight for long enough, unless they came back meanwhile. The very first
+    /// time the user is told before, and may think better of it.
+    bool mustGo(std::function<void()> goOn);
+
+    /// Shows the main window again if it has stepped aside.
+    void comeBack();
+
+    bool isAway() const { return place_ == Place::Away; }
+
+Q_SIGNALS:
+    /// Our windows were away, or about to go, and may be seen from now on.
+    void cameBack();
+
+private:
+    enum class Place { Here, Going, Away };
+
+    void explain(std::function<void()> goOn);
+    void go(std::function<void()> goOn);
+    void minimize();
+    void look();
+    void arrive();
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    Surroundings &surroundings_;
+    Place place_ = Place::Here;
+    std::function<void()> goOn_;
+    bool isMinimized_ = false; ///< It was asked to be, while it goes.
+    QTimer looks_;
+    QElapsedTimer since_;
+    QElapsedTimer unseen_;
+};

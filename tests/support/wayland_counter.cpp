@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+//
+// The counter's picture (tests/support/counter_window.cpp tells of it) as a Wayland client, which
+// has no say in where it stands: it fills its screen, unless it is given a size.
+//
+//   wayland_counter [--size WxH] [--rate N] [--screen N]
+//
+// A line "WxH" on its standard input gives it another size. It writes "shown" to standard output
+// once it has been drawn on the screen, and "drawn N" with its processor's clock at every N that it
+// draws if it is asked to by --log.
+#include <QGuiApplication>
+#include <QPainter>
+#include <QRasterWindow>
+#include <QScreen>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <chrono>
+#include <cstdint>
+#include <cstdio>
+#include <string_view>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr int digits = 8;
+constexpr int cells = digits + 1;
+constexpr QRgb colours[] = {0xffe00000, 0xff00c000, 0xff0000e0, 0xffe0e000};
+constexpr QRgb background = 0xff202020;
+constexpr QRgb barColour = 0xfff0f0f0;
+constexpr int barSteps = 32;
+
+struct Options {
+    int width = 0, height = 0; // points; 0: the whole screen
+    double rate = 30;          // steps a second, above 0
+    int screen = 0;
+    bool log = false;
+};
+
+Options parse(int argc, char **argv) {
+    Options options;
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view name = argv[i];
+        if (name == "--log") {
+            options.log = true;
+            continue;
+        }
+        const char *value = i + 1 < argc ? argv[++i] : "";
+        const bool good = (name == "--size" &&
+                           std::sscanf(value, "%dx%d", &options.width, &options.height) == 2) ||
+                          (name == "--rate" && std::sscanf(value, "%lf", &options.rate) == 1) ||
+                          (name == "--screen" && std::sscanf(value, "%d", &options.screen) == 1);
+        if (!good) {
+            std::fprintf(stderr, "wayland_counter: cannot read %s %s\n", name.data(), value);
+            std::exit(2);
+        }
+    }
+    return options;
+}
+
+class CounterWindow : public QRasterWindow {
+public:
+    explicit CounterWindow(const Options &options) : options_(options) {
+        setTitle(QStringLiteral("counter"));
+        setFlags(Qt::FramelessWindowHint);
+        timer_.setTimerType(Qt::PreciseTimer);
+        connect(&timer_, &QTimer::timeout, this, [this] { tick(); });
+        timer_.start(1);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override {
+        QPainter painter(this);
+        const int width = this->width(), height = this->height();
+        painter.fillRect(0, 0, width, height, QColor(background));
+        const int step = static_cast<int>(number_ % barSteps);
+        painter.fillRect((width - width / 8) * step / (barSteps - 1), height / 16, width / 8,
+                         height * 3 / 8, QColor(barColour));
+        std::uint32_t sum = 0;
+        for (int cell = 0; cell < cells; ++cell) {
+            const std::uint32_t digit = cell < digits ? number_ >> (2 * cell) & 3U : sum & 3U;
+            sum += digit;
+            const int left = width * cell / cells;
+            painter.fillRect(left, height / 2, width * (cell + 1) / cells - left,
+                             height - height / 2, QColor(colours[digit]));
+        }
+        if (options_.log)
+            std::printf("drawn %u %lld\n", number_,
+                        static_cast<long long>(
+                            std::chrono::steady_clock::now().time_since_epoch().count()));
+        if (options_.log || !told_)
+            std::fflush(stdout);
+        if (!told_ && number_ > 0) {
+            told_ = true;
+            std::puts("shown");
+            std::fflush(stdout);
+        }
+    }
+
+private:
+    void tick() {
+        const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start_;
+        const auto due = static_cast<std::uint32_t>(passed.count() * options_.rate);
+        if (due == number_)
+            return;
+        number_ = due;
+        update();
+    }
+
+    Options options_;
+    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+    std::uint32_t number_ = 0;
+    bool told_ = false;
+    QTimer timer_;
+};
+
+} // namespace
+
+int main(int argc, char **argv) {
+    QGuiApplication application(argc, argv);
+    const Options options = parse(argc, argv);
+    CounterWindow window(options);
+    window.setScreen(QGuiApplication::screens().value(options.screen));
+    if (options.width > 0) {
+        window.resize(options.width, options.height);
+        window.show();
+    } else {
+        window.showFullScreen();
+    }
+    QSocketNotifier commands(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&commands, &QSocketNotifier::activated, &window, [&] {
+        char line[32] = {};
+        int width = 0, height = 0;
+        if (read(STDIN_FILENO, line, sizeof line - 1) <= 0)
+            commands.setEnabled(false);
+        else if (std::sscanf(line, "%dx%d", &width, &height) == 2)
+            window.resize(width, height);
+    });
+    return QGuiApplication::exec();
+}

@@ -1,0 +1,142 @@
+# SPDX-FileCopyrightText: 2026 The Tovarel authors
+# SPDX-License-Identifier: MIT
+"""A Wayland session without a screen: a compositor that draws in memory, PipeWire, and the desktop's
+own portal, whose dialogs are answered by portal_backend.py as a test wants it."""
+
+import json
+import os
+import pathlib
+import shutil
+import signal
+import socket
+import subprocess
+
+from session import Session
+from waiting import PATIENCE, wait_for
+
+HERE = pathlib.Path(__file__).parent
+PORTAL = "org.freedesktop.portal.Desktop"
+BACKEND = "org.freedesktop.impl.portal.desktop.tovareltest"
+# A machine may have the portal in either place.
+PORTAL_BINARIES = ("/usr/libexec/xdg-desktop-portal", "/usr/lib/xdg-desktop-portal")
+NEEDED = ("pipewire", "wireplumber", "mutter", "dbus-daemon")
+
+
+def missing():
+    """What this machine lacks for such a session, in words; empty when it lacks nothing."""
+    lacking = [name for name in NEEDED if not shutil.which(name)]
+    if not any(map(os.path.exists, PORTAL_BINARIES)):
+        lacking.append("xdg-desktop-portal")
+    return ", ".join(lacking)
+
+
+class WaylandSession(Session):
+    """See the module. `monitors` are sizes like "1280x720", the first one the portal's choice."""
+
+    def __init__(self, build, width=1280, height=720, monitors=None, **options):
+        super().__init__(build, width, height, **options)
+        self.monitors = monitors or [f"{width}x{height}"]
+        self.portal = True
+        self.pipewire = True
+        self.script = self.folder / "portal.json"
+        self.requests = self.folder / "requests"
+
+    def _start(self):
+        for folder in (self.home, self.documents, self.outputs):
+            folder.mkdir()
+        self.runtime.mkdir(mode=0o700)
+        portals = self.folder / "portals"
+        portals.mkdir()
+        (portals / "test.portal").write_text(
+            f"[portal]\nDBusName={BACKEND}\n"
+            "Interfaces=org.freedesktop.impl.portal.ScreenCast;\nUseIn=test\n")
+        if self.quality:
+            self.remember_quality(self.quality)
+        self.environment = {
+            "HOME": str(self.home),
+            "GSETTINGS_BACKEND": "memory",
+            "LC_ALL": os.environ.get("TOVAREL_TEST_LOCALE", "C.UTF-8"),
+            "LIBGL_ALWAYS_SOFTWARE": "1",
+            "PATH": os.environ["PATH"],
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "TMPDIR": str(self.folder),
+            "XDG_CURRENT_DESKTOP": "test",
+            "XDG_DESKTOP_PORTAL_DIR": str(portals),
+            "XDG_RUNTIME_DIR": str(self.runtime),
+            "XDG_SESSION_TYPE": "wayland",
+        }
+        for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "LOCPATH", "TZ"):
+            if name in os.environ:
+                self.environment[name] = os.environ[name]
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.announce(
+            "dbus-daemon", lambda end: ["dbus-daemon", "--session", "--nofork", "--nopidfile"]
+            + [f"--print-address={end}"])
+        self.answer_with()
+        if self.pipewire:
+            self._start_pipewire()
+        self._start_compositor()
+        if self.portal:
+            self.start_portal()
+        for name in [name for name in os.environ if name.startswith("XDG_")]:
+            del os.environ[name]
+        os.environ.pop("DISPLAY", None)
+        os.environ.update(self.environment)
+
+    def _start_pipewire(self):
+        # Without a system's login manager this part of it ends the whole (WirePlumber 0.4).
+        off = self.home / ".config" / "wireplumber" / "bluetooth.lua.d"
+        off.mkdir(parents=True)
+        (off / "51-off.lua").write_text("bluez_monitor.enabled = false\n")
+        self.start("pipewire", ["pipewire"])
+        wait_for("PipeWire", (self.runtime / "pipewire-0").exists)
+        self.start("wireplumber", ["wireplumber"])
+
+    def _start_compositor(self):
+        sizes = [word for size in self.monitors for word in ("--virtual-monitor", size)]
+        self.start("mutter", ["mutter", "--headless", "--wayland", "--no-x11", *sizes]
+                   + ["--wayland-display", "wayland-test"])
+        self.environment["WAYLAND_DISPLAY"] = "wayland-test"
+        wait_for("the compositor", self._compositor_answers)
+
+    def _compositor_answers(self):
+        try:
+            with socket.socket(socket.AF_UNIX) as end:
+                end.connect(str(self.runtime / "wayland-test"))
+        except OSError:
+            return False
+        return not self.pipewire or self.owned("org.gnome.Mutter.ScreenCast")
+
+    def start_portal(self):
+        self.start("backend", ["/usr/bin/python3", "-B", str(HERE / "portal_backend.py")]
+                   + [str(self.script), str(self.requests)])
+        wait_for("the portal's back end", lambda: self.owned(BACKEND))
+        binary = next(filter(os.path.exists, PORTAL_BINARIES))
+        self.start("portal", [binary, "-r"])
+        wait_for("the portal", lambda: self.owned(PORTAL))
+
+    def owned(self, name):
+        """Whether somebody has this name on the bus."""
+        done = subprocess.run(
+            ["dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus", "/"]
+            + ["org.freedesktop.DBus.NameHasOwner", f"string:{name}"], env=self.environment,
+            check=False, stdin=subprocess.DEVNULL, capture_output=True, timeout=PATIENCE)
+        return b"boolean true" in done.stdout
+
+    # The dialog ------------------------------------------------------------------------------
+
+    def answer_with(self, **answer):
+        """How the dialogs to come are answered; see portal_backend.py for the words."""
+        self.script.write_text(json.dumps(answer))
+
+    def asked(self):
+        """What the portal was asked so far: pairs of a method and its options."""
+        if not self.requests.exists():
+            return []
+        return [json.loads(line) for line in self.requests.read_text().splitlines()]
+
+    def end_casts(self):
+        """The desktop ends all screen casts, as its own button for that does."""
+        for number in self.processes():
+            command = pathlib.Path(f"/proc/{number}/cmdline").read_bytes()
+            if b"portal_backend.py" in command:
+                os.kill(number, signal.SIGUSR1)

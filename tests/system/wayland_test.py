@@ -1,0 +1,222 @@
+# SPDX-FileCopyrightText: 2026 The Tovarel authors
+# SPDX-License-Identifier: MIT
+"""The real program in a real Wayland session: a compositor, PipeWire and the desktop's portal, whose
+dialog is answered as each test wants it."""
+
+import os
+import signal
+import sys
+import time
+
+import case
+import counter
+import wayland_session
+from driver import Program, wait_for
+
+RATE = 10  # steps of the counter a second
+# What nothing else on the screen is painted in.
+OURS = (0xFF, 0x00, 0xFE)
+STYLE = "* { background: #ff00fe; color: #ff00fe }"
+CHOOSE = "Choose What to Record…"
+TOKEN = "ScreenCastToken"
+
+
+class Wayland(case.Case):
+    screen = (1280, 720)
+    session_type = wayland_session.WaylandSession
+
+    def setUp(self):
+        self.session.answer_with()
+        self.settings.unlink()
+        self.session.remember_quality("classic")
+        self.known = len(self.session.asked())
+        self.counters = 0
+
+    def tearDown(self):
+        super().tearDown()
+        for child in self.session.children:
+            if "wayland_counter" in str(child.args[0]) and child.poll() is None:
+                child.kill()
+                child.wait()
+
+    @property
+    def settings(self):
+        return self.session.home / ".config" / "Tovarel" / "Tovarel.conf"
+
+    # What a user does ------------------------------------------------------------------------
+
+    def show_counter(self, *options):
+        """The process of a counter that is on the screen."""
+        self.counters += 1
+        name = f"counter-{self.id()}-{self.counters}"
+        child = self.session.start(
+            name, [self.session.build / "tests/support/wayland_counter", "--rate", str(RATE)]
+            + [*options], stdin=-1)
+        wait_for("the counter's window", lambda: "shown" in self.session.output(name))
+        return child
+
+    def start_program(self):
+        sheet = self.session.folder / "ours.qss"
+        sheet.write_text(STYLE)
+        return Program(self.session, command=[
+            "sh", "-c", f'exec "$0" -stylesheet {sheet}'], remembering=True)
+
+    def choose(self, program, what="Monitor"):
+        program.press(CHOOSE)
+        self.await_label(program, what)
+
+    def await_label(self, program, words):
+        program.wait_for(words, lambda: any(words in label for label in program.labels()))
+
+    def asked(self, method):
+        """The options of the portal's questions of this test."""
+        return [options for name, options in self.session.asked()[self.known:] if name == method]
+
+    def away(self, program):
+        """Waits until a recording runs whose window has gone."""
+        program.wait_for("the recording", lambda: program.frame().get_name().startswith("Rec"))
+
+    def bring_back(self, program):
+        """As a click in the dock does: the program is started once more."""
+        Program(self.session, wait=False, remembering=True).status()
+        program.wait_for("the pause", lambda: program.frame().get_name().startswith("Paused"))
+
+    def frames(self):
+        return counter.decode(str(self.session.frames / "frame%08d.png"), pattern=True)
+
+    def check_frames(self, frames, fewest):
+        """Each holds a whole counter, in order, and nothing of our window."""
+        self.assertGreaterEqual(len(frames), fewest)
+        numbers = [counter.read(frame, 0, 0, *self.screen) for frame in frames]
+        self.assertNotIn(None, numbers)
+        self.assertEqual(numbers, sorted(numbers))
+        return numbers
+
+    # Tests -----------------------------------------------------------------------------------
+
+    def test_from_the_dialog_to_a_gif_without_our_window(self):
+        self.show_counter()
+        program = self.start_program()
+        self.assertFalse(program.enabled("Region"))
+        # Record asks by itself when nothing was chosen.
+        program.press("Record")
+        program.answer("gets out of the way", "Cancel")
+        self.assertEqual(program.frame().get_name(), "Tovarel")
+        program.press("Record")
+        program.answer("gets out of the way", "OK")
+        self.away(program)
+        time.sleep(1.5)
+        self.bring_back(program)
+        time.sleep(0.5)  # Our window is in every picture now, and must not be in any frame.
+        program.press("Record")  # which explains nothing any more
+        self.away(program)
+        time.sleep(1)
+        self.bring_back(program)
+        program.press("Stop")
+        program.await_tab("Cut")
+        self.assertEqual(len(self.asked("Start")), 1)
+        frames = self.frames()
+        self.check_frames(frames, 6)
+        for number, frame in enumerate(frames):
+            for y in range(0, frame.height, 40):
+                row = frame.data[y * frame.width * 3 : (y + 1) * frame.width * 3]
+                self.assertNotIn(bytes(OURS), row, f"our window in frame {number}")
+
+        program.enter("GIF")
+        target = self.session.folder / "wayland.gif"
+        pictures = self.check_gif(program, target)
+        self.check_frames(pictures, 6)
+
+        # The stream was given back with the tab, and is taken again without a question.
+        program.enter("Record")
+        self.await_label(program, "Monitor")
+        self.assertIn("restore_data", self.asked("SelectSources")[-1])
+        program.end()
+        self.assertIn(TOKEN, self.settings.read_text())
+        # A later start remembers, though it asks for nothing by itself.
+        count = len(self.asked("Start"))
+        program = self.start_program()
+        self.await_label(program, "Your desktop asks")
+        self.assertEqual(len(self.asked("Start")), count)
+        self.choose(program)
+        self.assertIn("restore_data", self.asked("SelectSources")[-1])
+        program.end()
+        # The portal may give the same one again, but it has to be the last one given.
+        self.assertIn(TOKEN, self.settings.read_text())
+
+    def test_a_refusal_is_no_error_and_nonsense_is_one_that_is_told(self):
+        program = self.start_program()
+        for answer, words in (("refuse", "Nothing was chosen"), ("nonsense", "no pictures")):
+            self.session.answer_with(answer=answer)
+            for button in (CHOOSE, "Record"):
+                program.press(button)
+                self.await_label(program, words)
+                self.assertIsNone(program.find("alert"))
+                self.assertEqual(program.frame().get_name(), "Tovarel")
+        self.session.answer_with()
+        self.choose(program)
+
+    def test_what_the_desktop_ends_is_kept(self):
+        program = self.start_program()
+        self.session.answer_with(answer="hang")
+        program.press(CHOOSE)
+        self.await_label(program, "in the desktop’s dialog")
+        wait_for("the question", lambda: self.asked("Start"))
+        self.session.end_casts()
+        self.await_label(program, "stopped sharing")
+        self.session.answer_with()
+        self.choose(program)
+        self.session.end_casts()
+        self.await_label(program, "stopped sharing")
+
+        self.show_counter()
+        self.choose(program)
+        program.press("Record")
+        program.answer("gets out of the way", "OK")
+        self.away(program)
+        time.sleep(1)
+        self.session.end_casts()
+        program.await_tab("Cut")
+        self.check_frames(self.frames(), 3)
+        program.enter("Record")
+        self.await_label(program, "stopped sharing")
+
+    def test_a_window_is_recorded_where_it_is_and_in_its_first_size(self):
+        self.session.answer_with(kind="window")
+        program = self.start_program()
+        window = self.show_counter("--size", "400x300")  # which has the focus, and so is chosen
+        self.choose(program, "A window 400 × 300")
+        program.press("Record")
+        program.recording_for(1)
+        window.stdin.write(b"600x300\n")
+        window.stdin.flush()
+        self.await_label(program, "its size has changed")
+        time.sleep(1)
+        program.press("Stop")
+        program.await_tab("Cut")
+        frames = self.frames()
+        self.assertEqual({(frame.width, frame.height) for frame in frames}, {(400, 300)})
+        self.assertIsNotNone(counter.read(frames[0], 0, 0, 400, 300))
+        # As wide as before, and less high: black above and below.
+        last = frames[-1]
+        self.assertIsNotNone(counter.read(last, 0, 50, 400, 200))
+        self.assertEqual({last.pixel(200, 10), last.pixel(200, 290)}, {(0, 0, 0)})
+
+    def test_without_pipewire_the_reason_is_told(self):
+        # Last of all, since it does not come back.
+        program = self.start_program()
+        self.choose(program)
+        for name in ("wireplumber", "pipewire"):
+            for number in self.session.processes(name):
+                os.kill(number, signal.SIGKILL)
+        self.await_label(program, "no pictures")
+        program.press(CHOOSE)
+        self.await_label(program, "no pictures")
+
+
+if __name__ == "__main__":
+    LACKING = wayland_session.missing()
+    if LACKING:
+        print(f"no Wayland session here: {LACKING} is not installed")
+        sys.exit(77)
+    case.main()
