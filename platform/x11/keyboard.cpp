@@ -129,6 +129,11 @@ std::optional<KeyPress> keyPress(xkb_state *state, std::uint32_t code) {
     return press;
 }
 
+bool Keyboard::isOffered(xcb_connection_t *connection) {
+    const auto *data = xcb_get_extension_data(connection, &xcb_xkb_id);
+    return data && data->present;
+}
+
 std::unique_ptr<Keyboard> Keyboard::create(xcb_connection_t *connection) {
     std::unique_ptr<Keyboard> keyboard(new Keyboard);
     keyboard->connection_ = connection;

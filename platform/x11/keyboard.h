@@ -29,6 +29,9 @@ std::optional<KeyPress> keyPress(xkb_state *state, std::uint32_t code);
 /// The layout and the state of a display's keyboard, kept true by the server's events.
 class Keyboard {
 public:
+    /// Whether the server tells what its keys mean.
+    static bool isOffered(xcb_connection_t *connection);
+
     /// Listens on this connection, which is borrowed and outlives it. Null when the server has no
     /// XKB.
     static std::unique_ptr<Keyboard> create(xcb_connection_t *connection);

@@ -53,8 +53,9 @@ std::unique_ptr<X11WindowServer> X11WindowServer::create(const Options &options,
 X11WindowServer::X11WindowServer(std::unique_ptr<x11::Connection> connection,
                                  x11::TransferMethod bestMethod)
     : connection_(std::move(connection)),
-      input_(x11::X11InputWatch::isOffered(*connection_) ? HandAccess::Granted
-                                                         : HandAccess::NotOffered),
+      clicks_(x11::X11InputWatch::isOffered(*connection_) ? HandAccess::Granted
+                                                          : HandAccess::NotOffered),
+      keys_(x11::Keyboard::isOffered(connection_->get()) ? clicks_ : HandAccess::NotOffered),
       model_(*connection_), underlay_(*connection_, model_),
       ring_(*connection_, model_.formats(), bestMethod) {
     watchWhileIdle();
@@ -87,8 +88,8 @@ WindowServerCapabilities X11WindowServer::capabilities() const {
             .canLeaveOut = true,
             .knowsDamage = true,
             .pointer = HandAccess::Granted,
-            .clicks = input_,
-            .keys = input_};
+            .clicks = clicks_,
+            .keys = keys_};
 }
 
 std::unique_ptr<PointerWatch> X11WindowServer::watchPointer() {

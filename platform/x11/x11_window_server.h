@@ -69,7 +69,7 @@ private:
     void watchWhileIdle();
 
     std::unique_ptr<x11::Connection> connection_;
-    HandAccess input_; // to buttons and keys
+    HandAccess clicks_, keys_;
     x11::DesktopModel model_;
     x11::Underlay underlay_;
     x11::PictureRing ring_;
