@@ -259,7 +259,6 @@ FileCardControls fileCardControls(const Ui::MainWindow &ui) {
             .cardStack = ui.cardStack,
             .labelFileName = ui.labelFileName,
             .labelFileFigures = ui.labelFileFigures,
-            .labelFileDrag = ui.labelFileDrag,
             .fileButtons = ui.fileButtons,
             .btnFileCopy = ui.btnFileCopy,
             .btnFileSave = ui.btnFileSave};

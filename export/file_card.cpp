@@ -41,7 +41,6 @@ QString figuresOf(const FinishedFile &file) {
 FileCard::FileCard(const FileCardControls &controls, Exporter &exporter, QObject *parent)
     : QObject(parent), ui_(controls), exporter_(exporter) {
     ui_.labelFileName->setElideMode(Qt::ElideMiddle); // the ending says what it is
-    ui_.labelFileDrag->setForegroundRole(QPalette::PlaceholderText);
     QFont bold = ui_.labelFileName->font();
     bold.setBold(true);
     ui_.labelFileName->setFont(bold);

@@ -19,7 +19,6 @@ struct FileCardControls {
     QStackedWidget *cardStack; ///< Its first page is the estimate, its second one the file.
     ElidedLabel *labelFileName;
     QLabel *labelFileFigures;
-    QLabel *labelFileDrag; ///< Says that it can be dragged.
     QWidget *fileButtons;
     QWidget *btnFileCopy;
     QWidget *btnFileSave; ///< In the place of Copy while the file is not saved.

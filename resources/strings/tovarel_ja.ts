@@ -865,7 +865,7 @@ It is still at %3.</source>
     </message>
     <message id="IDD_FILE_DRAG">
         <source>Drag it into another program</source>
-        <translation>他のプログラムへドラッグできます</translation>
+        <translation>ドラッグで他のプログラムへ</translation>
     </message>
     <message id="IDD_FILE_COPY">
         <source>Copy</source>
