@@ -120,6 +120,7 @@ void Connection::queryExtensions() {
 
 void Connection::internAtoms(int screenNumber) {
     const std::vector<std::pair<xcb_atom_t Atoms::*, std::string>> names = {
+        {&Atoms::activeWindow, "_NET_ACTIVE_WINDOW"},
         {&Atoms::clientList, "_NET_CLIENT_LIST"},
         {&Atoms::clientListStacking, "_NET_CLIENT_LIST_STACKING"},
         {&Atoms::compositingManager, "_NET_WM_CM_S" + std::to_string(screenNumber)},

@@ -52,6 +52,7 @@ struct Extensions {
 
 /// The names that we ask for, as the server's numbers (EWMH 1.5, and old custom).
 struct Atoms {
+    xcb_atom_t activeWindow = 0;
     xcb_atom_t clientList = 0;
     xcb_atom_t clientListStacking = 0;
     xcb_atom_t currentDesktop = 0;

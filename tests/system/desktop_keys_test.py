@@ -6,10 +6,13 @@ import contextlib
 import ctypes
 
 import case
-from driver import Program
+from driver import Program, wait_for
 
 CONTROL, MOD4 = 1 << 2, 1 << 6  # X11 protocol, KEYBUTMASK
-ASYNCHRONOUS = 1
+SYNCHRONOUS, ASYNCHRONOUS = 0, 1
+ANY_MODIFIER = 1 << 15
+NEXT_EVENT, REPLAY = 4, 5  # AllowEvents: SyncKeyboard, ReplayKeyboard
+SUPER_L = 0xffeb
 
 
 class DesktopKeys(case.Case):
@@ -35,6 +38,31 @@ class DesktopKeys(case.Case):
             x11.XGrabKey(display, code, CONTROL | MOD4, root, 0, ASYNCHRONOUS, ASYNCHRONOUS)
             x11.XSync(display, 0)
             yield
+
+    @contextlib.contextmanager
+    def desktop_that_wants_super(self):
+        """Another client that takes Super with whatever follows it: yields what answers it."""
+        with self.session.x11() as (x11, display):
+            root = ctypes.c_ulong(x11.XDefaultRootWindow(display))
+            x11.XGrabKey(display, x11.XKeysymToKeycode(display, ctypes.c_ulong(SUPER_L)),
+                         ANY_MODIFIER, root, 0, ASYNCHRONOUS, SYNCHRONOUS)
+            x11.XSync(display, 0)
+
+            def answer(mode):
+                wait_for("the key", lambda: x11.XPending(display))
+                x11.XNextEvent(display, ctypes.create_string_buffer(192))
+                x11.XAllowEvents(display, mode, ctypes.c_ulong(0))
+                x11.XSync(display, 0)
+            yield answer
+
+    def test_they_work_when_super_goes_down_first_on_a_desktop_that_wants_it(self):
+        program = self.start()
+        with self.desktop_that_wants_super() as answer:
+            for key, mode in (("super", NEXT_EVENT), ("ctrl", NEXT_EVENT), ("r", REPLAY)):
+                self.session.xdotool("keydown", key)
+                answer(mode)
+            self.session.xdotool("keyup", "r", "keyup", "ctrl", "keyup", "super")
+            program.wait_for("the recording", lambda: program.enabled("Pause"))
 
     def test_they_record_pause_and_stop_from_another_window_whatever_locks_are_on(self):
         program = self.start()

@@ -19,6 +19,7 @@ constexpr xcb_keysym_t numLockSymbol = 0xff7f;
 constexpr std::uint8_t kindMask = 0x7f; // without the bit of events that another client sent
 constexpr int modifierCount = 8;        // X11 protocol, SetModifierMapping
 constexpr std::uint16_t realModifiers = 0xff;
+constexpr std::uint8_t eventsToTheirOwner = 1;
 
 } // namespace
 
@@ -32,6 +33,9 @@ public:
           notifier_(xcb_get_file_descriptor(connection_->get()), QSocketNotifier::Read) {
         for (const std::string &letters : keys)
             keys_.push_back({.letters = letters});
+        const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+        xcb_change_window_attributes(connection_->get(), connection_->root(), XCB_CW_EVENT_MASK,
+                                     &mask);
         grabAll();
         QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this] { read(); });
     }
@@ -49,9 +53,7 @@ private:
         readKeyboard();
         for (Key &key : keys_)
             grabOneOf(key);
-        // Events that came while we waited for answers are queued without a notice.
-        QMetaObject::invokeMethod(
-            &notifier_, [this] { read(); }, Qt::QueuedConnection);
+        followActiveWindow();
     }
 
     void grabOneOf(Key &key) {
@@ -119,7 +121,6 @@ private:
     /// Grabs the key with the combination, whatever locks are on: all or nothing. The server
     /// answers BadAccess when another client has it (X11 protocol, GrabKey).
     bool grab(xcb_keycode_t code) {
-        constexpr std::uint8_t eventsToTheirOwner = 1;
         for (const std::uint16_t lock : locks()) {
             const xcb_void_cookie_t asked =
                 xcb_grab_key_checked(connection_->get(), eventsToTheirOwner, connection_->root(),
@@ -140,12 +141,50 @@ private:
         xcb_flush(connection_->get());
     }
 
+    xcb_window_t activeWindow() const {
+        const auto property = connection_->reply<xcb_get_property_reply>(
+            xcb_get_property(connection_->get(), 0, connection_->root(),
+                             connection_->atoms().activeWindow, XCB_ATOM_WINDOW, 0, 1));
+        if (!property || property->format != 32 || property->value_len != 1)
+            return XCB_NONE;
+        return *static_cast<xcb_window_t *>(xcb_get_property_value(property.get()));
+    }
+
+    /// Has what was granted on the active window, too. A desktop that wants Super alone takes the
+    /// keyboard with it, and gives back what follows by replaying it, which passes over all grabs
+    /// of the root window (X11 protocol, AllowEvents).
+    void followActiveWindow() {
+        active_ = activeWindow();
+        for (const Key &key : keys_)
+            for (const std::uint16_t lock : locks())
+                if (key.granted && active_ != XCB_NONE)
+                    xcb_grab_key(connection_->get(), eventsToTheirOwner, active_,
+                                 static_cast<std::uint16_t>(combination() | lock), key.code,
+                                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+        xcb_flush(connection_->get());
+        // Events that came while we waited for answers are queued without a notice.
+        QMetaObject::invokeMethod(
+            &notifier_, [this] { read(); }, Qt::QueuedConnection);
+    }
+
+    void leaveActiveWindow() {
+        for (const Key &key : keys_)
+            for (const std::uint16_t lock : locks())
+                if (key.granted && active_ != XCB_NONE)
+                    xcb_ungrab_key(connection_->get(), key.code, active_,
+                                   static_cast<std::uint16_t>(combination() | lock));
+    }
+
     void read() {
-        bool keyboardChanged = false;
+        bool keyboardChanged = false, windowChanged = false;
         while (const x11::Event event = connection_->nextEvent()) {
             const int kind = event->response_type & kindMask;
             if (kind == XCB_KEY_PRESS)
                 pressed(*reinterpret_cast<const xcb_key_press_event_t *>(event.get()));
+            if (kind == XCB_PROPERTY_NOTIFY)
+                windowChanged |=
+                    reinterpret_cast<const xcb_property_notify_event_t *>(event.get())->atom ==
+                    connection_->atoms().activeWindow;
             // Sent to every client, wanted or not.
             if (kind == XCB_MAPPING_NOTIFY)
                 keyboardChanged = true;
@@ -154,12 +193,16 @@ private:
             notifier_.setEnabled(false);
             return;
         }
-        if (!keyboardChanged)
-            return;
-        for (const Key &key : keys_)
-            if (key.granted)
-                ungrab(key.code);
-        grabAll();
+        if (keyboardChanged || windowChanged)
+            leaveActiveWindow();
+        if (keyboardChanged) {
+            for (const Key &key : keys_)
+                if (key.granted)
+                    ungrab(key.code);
+            grabAll();
+        } else if (windowChanged) {
+            followActiveWindow();
+        }
     }
 
     void pressed(const xcb_key_press_event_t &event) {
@@ -176,6 +219,7 @@ private:
     Handler handler_;
     QSocketNotifier notifier_;
     std::vector<Key> keys_;
+    xcb_window_t active_ = XCB_NONE;
     xcb_keycode_t first_ = 0;
     std::vector<xcb_keysym_t> symbols_;
     std::ptrdiff_t perCode_ = 1;
