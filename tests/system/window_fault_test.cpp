@@ -72,15 +72,23 @@ protected:
         EXPECT_EQ(status, 0) << "xrandr";
     }
 
-    void startCompositor() {
-        compositor.start(QStringLiteral("picom"),
-                         {QStringLiteral("--backend"), QStringLiteral("xrender"),
-                          QStringLiteral("--config"), QStringLiteral("/dev/null")});
-        ASSERT_TRUE(compositor.waitForStarted()) << "picom";
-    }
-    void endCompositor() {
-        compositor.kill();
-        compositor.waitForFinished();
+    /// Starts or ends picom, or runs the command by which the window manager under test switches
+    /// its own compositing on or off.
+    void setCompositing(bool on) {
+        composited = on;
+        if (const char *command =
+                std::getenv(on ? "TOVAREL_COMPOSITING_ON" : "TOVAREL_COMPOSITING_OFF")) {
+            compositor.startCommand(QString::fromUtf8(command));
+            EXPECT_TRUE(compositor.waitForFinished()) << command;
+        } else if (on) {
+            compositor.start(QStringLiteral("picom"),
+                             {QStringLiteral("--backend"), QStringLiteral("xrender"),
+                              QStringLiteral("--config"), QStringLiteral("/dev/null")});
+            EXPECT_TRUE(compositor.waitForStarted()) << "picom";
+        } else {
+            compositor.kill();
+            compositor.waitForFinished();
+        }
     }
 
     /// Holds more grabs than there are pictures that take turns, so that all of them exist.
@@ -94,6 +102,7 @@ protected:
     }
 
     QProcess compositor;
+    bool composited = false;
     bool hasMonitor = false;
 };
 
@@ -103,9 +112,16 @@ TEST_F(WindowFault, tenThousandEventsLeaveTheRightPictureAndNothingInTheServer) 
     const unsigned seed = seedOfThisRun(usualSeed);
     SCOPED_TRACE("TOVAREL_TEST_SEED=" + std::to_string(seed));
     std::mt19937 random(seed);
-    const auto withServer = clients().size();
+    setCompositing(false);
+    ASSERT_TRUE(eventually([this] { return !client.compositingManagerRuns(); }));
+    std::set<std::uint32_t> withServer;
+    // A window manager may bring clients of its own a little later.
+    do {
+        withServer = clients();
+        std::this_thread::sleep_for(300ms);
+    } while (withServer != clients());
     server.reset();
-    ASSERT_TRUE(eventually([&] { return clients().size() < withServer; }));
+    ASSERT_TRUE(eventually([&] { return clients().size() < withServer.size(); }));
     const auto others = clients();
     auto obstacle = Obstacle::NoDisplay;
     server = X11WindowServer::create({}, obstacle);
@@ -118,43 +134,40 @@ TEST_F(WindowFault, tenThousandEventsLeaveTheRightPictureAndNothingInTheServer) 
     const auto before = resources(ours.front());
     const QSize desktop = client.desktop().size();
 
+    // A window manager that is to switch its compositing has to get to it.
+    const unsigned longestRest = std::getenv("TOVAREL_COMPOSITING_ON") ? 100 : 20;
     auto vandal = std::make_unique<XClient>();
     std::atomic<int> acts = 0;
     std::atomic<bool> go = true;
-    std::thread thread([&vandal, &acts, &go, seed] {
+    std::thread thread([&vandal, &acts, &go, seed, longestRest] {
         std::mt19937 pace(seed);
         for (Unrest unrest(*vandal, seed); go && acts < allActs;) {
             for (auto burst = pace() % 40; burst > 0; --burst, ++acts)
                 unrest.act();
             vandal->sync();
-            std::this_thread::sleep_for(std::chrono::milliseconds(pace() % 20));
+            std::this_thread::sleep_for(std::chrono::milliseconds(pace() % longestRest));
         }
     });
     const auto end = qScopeGuard([&] {
         go = false;
         if (thread.joinable())
             thread.join();
-        endCompositor();
+        setCompositing(false);
     });
 
     std::deque<Image> held;
     auto due = std::chrono::steady_clock::now();
     int grabs = 0;
-    int compositors = 0;
+    int composedGrabs = 0;
     for (; acts < allActs; ++grabs) {
         const auto picture = server->composite(numbers());
         ASSERT_TRUE(picture) << "grab " << grabs;
         held.push_back(*picture);
         if (held.size() > heldGrabs)
             held.pop_front();
-        if (random() % 40 == 0) {
-            if (compositor.state() == QProcess::NotRunning) {
-                startCompositor();
-                ++compositors;
-            } else {
-                endCompositor();
-            }
-        }
+        if (random() % 40 == 0)
+            setCompositing(!composited);
+        composedGrabs += client.compositingManagerRuns() ? 1 : 0;
         if (random() % 40 == 0)
             setMonitor(!hasMonitor);
         if (random() % 40 == 0)
@@ -165,11 +178,12 @@ TEST_F(WindowFault, tenThousandEventsLeaveTheRightPictureAndNothingInTheServer) 
         std::this_thread::sleep_until(due += tick);
     }
     thread.join();
-    endCompositor();
+    setCompositing(false);
     ASSERT_TRUE(eventually([this] { return !client.compositingManagerRuns(); }));
-    std::printf("%d events, %d grabs, compositing manager started %d times\n", acts.load(), grabs,
-                compositors);
-    EXPECT_GT(compositors, 0);
+    std::printf("%d events, %d grabs, %d of them beside a compositing manager\n", acts.load(),
+                grabs, composedGrabs);
+    EXPECT_GT(composedGrabs, 0);
+    EXPECT_LT(composedGrabs, grabs);
     EXPECT_TRUE(looksLikeReference());
     client.resizeDesktop(desktop);
     EXPECT_TRUE(looksLikeReference());
@@ -178,5 +192,7 @@ TEST_F(WindowFault, tenThousandEventsLeaveTheRightPictureAndNothingInTheServer) 
     held.clear();
     setMonitor(false);
     useAllPictures();
-    EXPECT_EQ(resources(ours.front()), before);
+    // A window manager may have had windows then that it has no longer.
+    for (const auto &[kind, count] : resources(ours.front()))
+        EXPECT_LE(count, before.contains(kind) ? before.at(kind) : 0) << kind;
 }
