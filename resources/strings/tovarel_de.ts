@@ -292,7 +292,7 @@
         <translation>Die Arbeitsumgebung hat die Freigabe des Bildschirms beendet.</translation>
     </message>
     <message id="IDD_SOURCE_FAILED">
-        <source>The desktop hands out no pictures of the screen: %1</source>
+        <source>The desktop provides no pictures of the screen: %1</source>
         <translation>Die Arbeitsumgebung liefert keine Bilder des Bildschirms: %1</translation>
     </message>
     <message id="IDD_SOURCE_REFUSED">
@@ -300,16 +300,16 @@
         <translation>Es wurde nichts ausgewählt.</translation>
     </message>
     <message id="IDD_SOURCE_RESIZED">
-        <source>its size has changed: fitted</source>
-        <translation>Größe hat sich geändert: angepasst</translation>
+        <source>Size changed: scaled to fit</source>
+        <translation>Größe geändert: wird angepasst</translation>
     </message>
     <message id="IDD_CHOSEN_MONITOR">
         <source>Monitor %1 × %2</source>
         <translation>Monitor %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_WINDOW">
-        <source>A window %1 × %2</source>
-        <translation>Ein Fenster %1 × %2</translation>
+        <source>Window %1 × %2</source>
+        <translation>Fenster %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_OTHER">
         <source>Chosen: %1 × %2</source>
@@ -324,8 +324,8 @@
         <translation>Alles Sichtbare wird aufgenommen, deshalb wird dieses Fenster vorher minimiert. Zum Beenden holen Sie es mit einem Klick im Dock oder durch erneutes Starten von Tovarel zurück: Die Aufnahme pausiert, und „Stopp“ speichert sie.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
-        <source>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</source>
-        <translation>In einer Wayland-Sitzung kann nur das Fenster aufnehmen: Starten Sie Tovarel ohne Argumente, oder melden Sie sich in einer X11-Sitzung an.</translation>
+        <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
+        <translation>In einer Wayland-Sitzung kann Tovarel nur von seinem Fenster aus aufnehmen: Starten Sie es ohne Argumente, oder melden Sie sich in einer X11-Sitzung an.</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>

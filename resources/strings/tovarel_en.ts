@@ -292,24 +292,24 @@
         <translation>The desktop has stopped sharing the screen.</translation>
     </message>
     <message id="IDD_SOURCE_FAILED">
-        <source>The desktop hands out no pictures of the screen: %1</source>
-        <translation>The desktop hands out no pictures of the screen: %1</translation>
+        <source>The desktop provides no pictures of the screen: %1</source>
+        <translation>The desktop provides no pictures of the screen: %1</translation>
     </message>
     <message id="IDD_SOURCE_REFUSED">
         <source>Nothing was chosen.</source>
         <translation>Nothing was chosen.</translation>
     </message>
     <message id="IDD_SOURCE_RESIZED">
-        <source>its size has changed: fitted</source>
-        <translation>its size has changed: fitted</translation>
+        <source>Size changed: scaled to fit</source>
+        <translation>Size changed: scaled to fit</translation>
     </message>
     <message id="IDD_CHOSEN_MONITOR">
         <source>Monitor %1 × %2</source>
         <translation>Monitor %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_WINDOW">
-        <source>A window %1 × %2</source>
-        <translation>A window %1 × %2</translation>
+        <source>Window %1 × %2</source>
+        <translation>Window %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_OTHER">
         <source>Chosen: %1 × %2</source>
@@ -324,8 +324,8 @@
         <translation>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
-        <source>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</source>
-        <translation>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</translation>
+        <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
+        <translation>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>

@@ -292,7 +292,7 @@
         <translation>El escritorio ha dejado de compartir la pantalla.</translation>
     </message>
     <message id="IDD_SOURCE_FAILED">
-        <source>The desktop hands out no pictures of the screen: %1</source>
+        <source>The desktop provides no pictures of the screen: %1</source>
         <translation>El escritorio no proporciona imágenes de la pantalla: %1</translation>
     </message>
     <message id="IDD_SOURCE_REFUSED">
@@ -300,16 +300,16 @@
         <translation>No se ha elegido nada.</translation>
     </message>
     <message id="IDD_SOURCE_RESIZED">
-        <source>its size has changed: fitted</source>
-        <translation>su tamaño ha cambiado: ajustado</translation>
+        <source>Size changed: scaled to fit</source>
+        <translation>Tamaño cambiado: se ajusta</translation>
     </message>
     <message id="IDD_CHOSEN_MONITOR">
         <source>Monitor %1 × %2</source>
         <translation>Monitor %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_WINDOW">
-        <source>A window %1 × %2</source>
-        <translation>Una ventana %1 × %2</translation>
+        <source>Window %1 × %2</source>
+        <translation>Ventana %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_OTHER">
         <source>Chosen: %1 × %2</source>
@@ -324,8 +324,8 @@
         <translation>Se graba todo lo visible, por lo que esta ventana se minimiza antes. Para detener la grabación, recupere la ventana con un clic en el dock o iniciando Tovarel de nuevo: la grabación queda en pausa y «Detener» la guarda.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
-        <source>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</source>
-        <translation>En una sesión de Wayland solo puede grabar la ventana: inicie Tovarel sin argumentos o inicie una sesión de X11.</translation>
+        <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
+        <translation>En una sesión de Wayland, Tovarel solo puede grabar desde su ventana: inícielo sin argumentos o inicie una sesión de X11.</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>

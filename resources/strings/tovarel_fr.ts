@@ -292,7 +292,7 @@
         <translation>Le bureau a arrêté le partage de l’écran.</translation>
     </message>
     <message id="IDD_SOURCE_FAILED">
-        <source>The desktop hands out no pictures of the screen: %1</source>
+        <source>The desktop provides no pictures of the screen: %1</source>
         <translation>Le bureau ne fournit aucune image de l’écran&#xa0;: %1</translation>
     </message>
     <message id="IDD_SOURCE_REFUSED">
@@ -300,16 +300,16 @@
         <translation>Rien n’a été choisi.</translation>
     </message>
     <message id="IDD_SOURCE_RESIZED">
-        <source>its size has changed: fitted</source>
-        <translation>sa taille a changé&#xa0;: ajustée</translation>
+        <source>Size changed: scaled to fit</source>
+        <translation>Taille modifiée&#xa0;: images ajustées</translation>
     </message>
     <message id="IDD_CHOSEN_MONITOR">
         <source>Monitor %1 × %2</source>
         <translation>Moniteur %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_WINDOW">
-        <source>A window %1 × %2</source>
-        <translation>Une fenêtre %1 × %2</translation>
+        <source>Window %1 × %2</source>
+        <translation>Fenêtre %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_OTHER">
         <source>Chosen: %1 × %2</source>
@@ -324,8 +324,8 @@
         <translation>Tout ce qui est visible est enregistré&#xa0;: cette fenêtre est donc d’abord réduite. Pour arrêter, rappelez-la d’un clic dans le dock ou en lançant de nouveau Tovarel&#xa0;: l’enregistrement se met en pause, et «&#xa0;Arrêter&#xa0;» le sauvegarde.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
-        <source>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</source>
-        <translation>Dans une session Wayland, seule la fenêtre peut enregistrer&#xa0;: lancez Tovarel sans argument ou ouvrez une session X11.</translation>
+        <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
+        <translation>Dans une session Wayland, Tovarel ne peut enregistrer que depuis sa fenêtre&#xa0;: lancez-le sans argument ou ouvrez une session X11.</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>

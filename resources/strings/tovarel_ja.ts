@@ -291,7 +291,7 @@
         <translation>デスクトップが画面の共有を終了しました。</translation>
     </message>
     <message id="IDD_SOURCE_FAILED">
-        <source>The desktop hands out no pictures of the screen: %1</source>
+        <source>The desktop provides no pictures of the screen: %1</source>
         <translation>デスクトップから画面の画像を取得できません: %1</translation>
     </message>
     <message id="IDD_SOURCE_REFUSED">
@@ -299,15 +299,15 @@
         <translation>何も選択されていません。</translation>
     </message>
     <message id="IDD_SOURCE_RESIZED">
-        <source>its size has changed: fitted</source>
-        <translation>サイズが変わったため調整中</translation>
+        <source>Size changed: scaled to fit</source>
+        <translation>サイズ変更: 自動調整中</translation>
     </message>
     <message id="IDD_CHOSEN_MONITOR">
         <source>Monitor %1 × %2</source>
         <translation>モニター %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_WINDOW">
-        <source>A window %1 × %2</source>
+        <source>Window %1 × %2</source>
         <translation>ウィンドウ %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_OTHER">
@@ -323,7 +323,7 @@
         <translation>表示されているものはすべて録画されるため、このウィンドウは先に最小化されます。終了するには、ドックをクリックするか Tovarel をもう一度起動してウィンドウを戻してください。録画は一時停止し、「停止」で保存されます。</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
-        <source>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</source>
+        <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
         <translation>Wayland セッションでは、ウィンドウからのみ録画できます。引数なしで Tovarel を起動するか、X11 セッションにログインしてください。</translation>
     </message>
     <message id="IDD_STATE_RECORDING">

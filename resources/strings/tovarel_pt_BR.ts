@@ -292,7 +292,7 @@
         <translation>O ambiente parou de compartilhar a tela.</translation>
     </message>
     <message id="IDD_SOURCE_FAILED">
-        <source>The desktop hands out no pictures of the screen: %1</source>
+        <source>The desktop provides no pictures of the screen: %1</source>
         <translation>O ambiente não fornece imagens da tela: %1</translation>
     </message>
     <message id="IDD_SOURCE_REFUSED">
@@ -300,16 +300,16 @@
         <translation>Nada foi escolhido.</translation>
     </message>
     <message id="IDD_SOURCE_RESIZED">
-        <source>its size has changed: fitted</source>
-        <translation>o tamanho mudou: ajustado</translation>
+        <source>Size changed: scaled to fit</source>
+        <translation>Tamanho alterado: ajustado</translation>
     </message>
     <message id="IDD_CHOSEN_MONITOR">
         <source>Monitor %1 × %2</source>
         <translation>Monitor %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_WINDOW">
-        <source>A window %1 × %2</source>
-        <translation>Uma janela %1 × %2</translation>
+        <source>Window %1 × %2</source>
+        <translation>Janela %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_OTHER">
         <source>Chosen: %1 × %2</source>
@@ -324,8 +324,8 @@
         <translation>Tudo o que está visível é gravado, por isso esta janela é minimizada antes. Para parar, traga-a de volta com um clique no dock ou iniciando o Tovarel de novo: a gravação entra em pausa, e “Parar” a salva.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
-        <source>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</source>
-        <translation>Em uma sessão Wayland, só a janela pode gravar: inicie o Tovarel sem argumentos ou entre em uma sessão X11.</translation>
+        <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
+        <translation>Em uma sessão Wayland, o Tovarel só pode gravar a partir de sua janela: inicie-o sem argumentos ou entre em uma sessão X11.</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>

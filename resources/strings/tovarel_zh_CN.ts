@@ -291,7 +291,7 @@
         <translation>桌面已停止共享屏幕。</translation>
     </message>
     <message id="IDD_SOURCE_FAILED">
-        <source>The desktop hands out no pictures of the screen: %1</source>
+        <source>The desktop provides no pictures of the screen: %1</source>
         <translation>桌面未提供屏幕画面：%1</translation>
     </message>
     <message id="IDD_SOURCE_REFUSED">
@@ -299,15 +299,15 @@
         <translation>未选择任何内容。</translation>
     </message>
     <message id="IDD_SOURCE_RESIZED">
-        <source>its size has changed: fitted</source>
-        <translation>尺寸已变化：已适配</translation>
+        <source>Size changed: scaled to fit</source>
+        <translation>尺寸已变化：已自动适配</translation>
     </message>
     <message id="IDD_CHOSEN_MONITOR">
         <source>Monitor %1 × %2</source>
         <translation>显示器 %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_WINDOW">
-        <source>A window %1 × %2</source>
+        <source>Window %1 × %2</source>
         <translation>窗口 %1 × %2</translation>
     </message>
     <message id="IDD_CHOSEN_OTHER">
@@ -320,10 +320,10 @@
     </message>
     <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
         <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
-        <translation>所有可见内容都会被录制，因此会先将此窗口最小化。要停止录制，请在程序坞中点击或再次启动 Tovarel 恢复窗口：录制会暂停，按“停止”即可保存。</translation>
+        <translation>所有可见内容都会被录制，因此会先将此窗口最小化。要停止录制，请点击任务栏中的图标或再次启动 Tovarel 以恢复窗口：录制会暂停，按“停止”即可保存。</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
-        <source>In a Wayland session only the window can record: start Tovarel without arguments, or log in to an X11 session.</source>
+        <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
         <translation>在 Wayland 会话中只能通过窗口录制：请不带参数启动 Tovarel，或登录 X11 会话。</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
