@@ -316,7 +316,7 @@
     </message>
     <message id="IDD_STEP_ASIDE">
         <source>Tovarel gets out of the way while it records.</source>
-        <translation>录制时 Tovarel 会自动让开。</translation>
+        <translation>录制时 Tovarel 的窗口会最小化。</translation>
     </message>
     <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
         <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
