@@ -62,7 +62,9 @@ void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
     }
     ui.comboGIFSpeed->setAccessibleName(qtTrId("IDD_SPEED"));
     ui.labelWebPLoops->setText(qtTrId("IDD_WEBP_LOOPS"));
-    ui.labelWebPLoopsHint->setText(qtTrId("IDD_WEBP_LOOPS_HINT"));
+    ui.comboGIFRepeat->setAccessibleName(qtTrId("IDD_WEBP_LOOPS"));
+    ui.labelHold->setText(qtTrId("IDD_HOLD"));
+    ui.comboGIFHold->setAccessibleName(qtTrId("IDD_HOLD"));
     ui.txtWebPLoops->setAccessibleName(qtTrId("IDD_WEBP_LOOPS"));
 }
 

@@ -287,7 +287,10 @@ ExportControls exportControls(const Ui::MainWindow &ui) {
             .labelGIFSummary = ui.labelGIFSummary,
             .labelGIFThinned = ui.labelGIFThinned,
             .btnWebPGenerate = ui.btnWebPGenerate,
+            .comboGIFRepeat = ui.comboGIFRepeat,
             .txtWebPLoops = ui.txtWebPLoops,
             .labelWebPLoopsHint = ui.labelWebPLoopsHint,
+            .labelHold = ui.labelHold,
+            .comboGIFHold = ui.comboGIFHold,
             .menuitemActionGIFExport = ui.menuitemActionGIFExport};
 }

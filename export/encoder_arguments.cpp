@@ -58,11 +58,12 @@ int constantQuality(GifPreset preset) {
 
 /// The encoder's expression for the tick at which frame number N begins: rounded as `frame_timing`
 /// rounds it, in whole numbers that a double holds exactly.
-QString beginOfFrame(std::span<const frame_timing::TimedFrame> frames) {
+QString beginOfFrame(std::span<const frame_timing::TimedFrame> frames, std::uint64_t held) {
     const std::uint64_t count = frames.size();
-    return QStringLiteral("setpts=floor((") + QString::number(2 * frame_timing::length(frames)) +
-           QStringLiteral("*N+") + QString::number(count) + QStringLiteral(")/") +
-           QString::number(2 * count) + QLatin1Char(')');
+    const std::uint64_t length = frame_timing::length(frames) - held;
+    return QStringLiteral("setpts=floor((") + QString::number(2 * length) + QStringLiteral("*N+") +
+           QString::number(count) + QStringLiteral(")/") + QString::number(2 * count) +
+           QLatin1Char(')');
 }
 
 } // namespace
@@ -111,9 +112,9 @@ QStringList paletteArguments(const QString &paletteFolder) {
 
 QStringList gifArguments(const QString &exportFolder, const QString &paletteFolder,
                          std::span<const frame_timing::TimedFrame> frames, const QString &width,
-                         const QString &height) {
-    const QString filter = beginOfFrame(frames) + QLatin1Char(',') + scaleFilter(width, height) +
-                           QStringLiteral("[x];[x][1:v]paletteuse");
+                         const QString &height, const GifEnd &end) {
+    const QString filter = beginOfFrame(frames, end.held) + QLatin1Char(',') +
+                           scaleFilter(width, height) + QStringLiteral("[x];[x][1:v]paletteuse");
     // The rate only gives the frames' times their unit.
     const QString unit = QString::number(frame_timing::gifTicks.perSecond);
     const std::uint64_t lastDelay = frames.empty() ? 0 : frames.back().delay;
@@ -122,13 +123,16 @@ QStringList gifArguments(const QString &exportFolder, const QString &paletteFold
                           QStringLiteral("-i"),         inputPattern(exportFolder)};
     if (looksLikePattern(paletteFolder))
         arguments += {QStringLiteral("-f"), QStringLiteral("png_pipe")};
-    return arguments +=
-           {QStringLiteral("-i"), paletteFile(paletteFolder), QStringLiteral("-filter_complex"),
-            filter,
-            // As many frames as went in, each at its own time.
-            QStringLiteral("-fps_mode"), QStringLiteral("passthrough"),
-            // No frame follows that would end the last one.
-            QStringLiteral("-final_delay"), QString::number(lastDelay), gifFile(exportFolder)};
+    arguments += {QStringLiteral("-i"), paletteFile(paletteFolder),
+                  QStringLiteral("-filter_complex"), filter,
+                  // As many frames as went in, each at its own time.
+                  QStringLiteral("-fps_mode"), QStringLiteral("passthrough"),
+                  // No frame follows that would end the last one.
+                  QStringLiteral("-final_delay"), QString::number(lastDelay)};
+    // Without it a GIF plays forever; to this tool, -1 is once.
+    if (end.repeats != 0)
+        arguments += {QStringLiteral("-loop"), QString::number(end.repeats ? *end.repeats : -1)};
+    return arguments += gifFile(exportFolder);
 }
 
 QStringList scalingArguments(const QString &exportFolder, const QString &width,

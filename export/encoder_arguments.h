@@ -40,12 +40,19 @@ QStringList paletteVideoArguments(const QString &paletteFolder);
 /// Second run: the palette of that video.
 QStringList paletteArguments(const QString &paletteFolder);
 
+/// How a GIF ends.
+struct GifEnd {
+    /// How often a player begins again, 0 for forever; none plays it once.
+    std::optional<std::uint16_t> repeats = 0;
+    std::uint64_t held = 0; ///< That the last frame is shown longer, in hundredths of a second.
+};
+
 /// Third run: the GIF of the staged frames, each shown as long as `frames`, the same frames in the
 /// same order, say in hundredths of a second. `width` and `height` are the user's texts as they
 /// stand, since it is the encoder that judges them.
 QStringList gifArguments(const QString &exportFolder, const QString &paletteFolder,
                          std::span<const frame_timing::TimedFrame> frames, const QString &width,
-                         const QString &height);
+                         const QString &height, const GifEnd &end = {});
 
 /// The run that scales the staged frames for the WebP, as the GIF's are scaled. It counts them at
 /// one a second, which its time stamps go by.

@@ -18,6 +18,8 @@
 namespace {
 
 constexpr double largeType = 1.3; // of the desktop's font
+constexpr int offeredLoops[] = {2, 3, 5, 10};
+constexpr double offeredHolds[] = {0, 0.5, 1, 2, 3, 4, 5}; // seconds
 
 /// Lets the export's shortcut reach the menu while a field has the focus: a line of text would take
 /// it for the end of the line, which has a key of its own.
@@ -77,7 +79,7 @@ void ExportOptions::listen() {
     };
     field(ui_.textGIFWidth, &ExportOptions::OnGIFChangeWidth);
     field(ui_.textGIFHeigth, &ExportOptions::OnGIFChangeHeigth);
-    connect(ui_.txtWebPLoops, &QLineEdit::textChanged, this, &ExportOptions::updateWebPLoopsHint);
+    fillRepeats();
     connect(ui_.txtWebPLoops, &QLineEdit::textChanged, this, &ExportOptions::updateEstimate);
 
     auto *passage = new ShortcutPassage(*ui_.menuitemActionGIFExport, this);
@@ -113,7 +115,7 @@ void ExportOptions::listen() {
         ui_.btnWebPGenerate->setToolTip(qtTrId("IDD_GENERATE_WEBP_TIP") + u'\n' +
                                         qtTrId("IDD_WEBP_ABOUT").arg(number_text::bytes(bytes)));
     });
-    for (const QComboBox *list : {ui_.comboGIFFPS, ui_.comboGIFSpeed})
+    for (const QComboBox *list : {ui_.comboGIFFPS, ui_.comboGIFSpeed, ui_.comboGIFHold})
         connect(list, &QComboBox::currentIndexChanged, this, &ExportOptions::updateGIFSummary);
 }
 
@@ -144,6 +146,22 @@ bool ExportOptions::eventFilter(QObject *watched, QEvent *event) {
         estimate();
     }
     return QObject::eventFilter(watched, event);
+}
+
+void ExportOptions::fillRepeats() {
+    QComboBox &list = *ui_.comboGIFRepeat;
+    list.setLineEdit(ui_.txtWebPLoops);
+    // It would make a 10 of a 1.
+    list.setCompleter(nullptr);
+    list.addItems({qtTrId("IDD_LOOP_FOREVER"), qtTrId("IDD_LOOP_ONCE")});
+    for (const int times : offeredLoops)
+        list.addItem(QString::number(times));
+    connect(ui_.txtWebPLoops, &QLineEdit::textChanged, this, [this] {
+        updateWebPLoopsHint();
+        updateEstimate();
+    });
+    for (const double hold : offeredHolds)
+        ui_.comboGIFHold->addItem(qtTrId("IDD_HOLD_SECONDS").arg(QLocale().toString(hold)), hold);
 }
 
 void ExportOptions::fillLimits() {

@@ -38,6 +38,7 @@ constexpr auto rateChoice = "ExportRate";
 constexpr auto speedChoice = "ExportSpeed";
 constexpr auto limitChoice = "ExportLimit"; // in MB
 constexpr auto loopsChoice = "WebPLoops";
+constexpr auto holdChoice = "ExportHold"; // in seconds
 constexpr double bytesPerMegabyte = 1e6;
 const QString yes = QStringLiteral("1");
 const QString no = QStringLiteral("0");
@@ -60,10 +61,12 @@ void ExportOptions::resetGIFOptions() {
                                  ui_.btnGIFSize75,
                                  ui_.btnGIFSize50,
                                  ui_.labelSpeed,
-                                 ui_.comboGIFSpeed};
+                                 ui_.comboGIFSpeed,
+                                 ui_.comboGIFRepeat,
+                                 ui_.labelHold,
+                                 ui_.comboGIFHold};
     for (QWidget *control : controls)
         control->setEnabled(isUsable_);
-    ui_.txtWebPLoops->setEnabled(isUsable_);
     enableLimit();
     if (isUsable_) {
         if (!std::exchange(isRecalled_, true))
@@ -113,7 +116,12 @@ void ExportOptions::recall() {
         ui_.comboFitUnder->setEditText(QLocale().toString(limit));
     const QString loops = settings::readChoice(loopsChoice);
     if (!loops.isEmpty() && loopsTextProblem(loops) == LoopsTextProblem::None)
-        ui_.txtWebPLoops->setText(loops);
+        ui_.txtWebPLoops->setText(loops == QLatin1String("0")   ? qtTrId("IDD_LOOP_FOREVER")
+                                  : loops == QLatin1String("1") ? qtTrId("IDD_LOOP_ONCE")
+                                                                : loops);
+    const int hold = ui_.comboGIFHold->findData(settings::readChoice(holdChoice).toDouble());
+    if (hold >= 0)
+        ui_.comboGIFHold->setCurrentIndex(hold);
 }
 
 void ExportOptions::remember() const {
@@ -131,6 +139,7 @@ void ExportOptions::remember() const {
                                                            bytesPerMegabyte)
                                          : QString());
     settings::writeChoice(loopsChoice, now.loops);
+    settings::writeChoice(holdChoice, QString::number(now.hold));
 }
 
 void ExportOptions::OnGIFOriginalResolution() {
@@ -233,6 +242,13 @@ void ExportOptions::updateGIFDimensionHint() {
     ui_.labelDimensionHint->setVisible(!hint.isEmpty());
 }
 
+QString ExportOptions::loops() const {
+    const QString text = ui_.txtWebPLoops->text();
+    if (text == qtTrId("IDD_LOOP_FOREVER"))
+        return QStringLiteral("0");
+    return text == qtTrId("IDD_LOOP_ONCE") ? QStringLiteral("1") : text;
+}
+
 FitLimit ExportOptions::limit() const {
     const QString text = ui_.comboFitUnder->currentText();
     return text == qtTrId("IDD_NO_LIMIT") ? FitLimit() : fitLimitOf(text);
@@ -298,9 +314,10 @@ ExportChoices ExportOptions::choices() {
 ExportChoices ExportOptions::chosen() const {
     ExportChoices chosen{.width = ui_.textGIFWidth->text(),
                          .height = ui_.textGIFHeigth->text(),
-                         .loops = ui_.txtWebPLoops->text(),
+                         .loops = loops(),
                          .preset = presetOfWord(ui_.comboGIFQuality->currentData().toString()),
                          .speed = ui_.comboGIFSpeed->currentData().toDouble(),
+                         .hold = ui_.comboGIFHold->currentData().toDouble(),
                          .customSize = ui_.radioGIFCustomDimension->isChecked(),
                          .limit = limit()};
     if (ui_.radioGIFCustomFPS->isChecked())

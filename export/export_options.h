@@ -44,8 +44,11 @@ struct ExportControls {
     QLabel *labelGIFSummary;
     QLabel *labelGIFThinned;
     QAbstractButton *btnWebPGenerate;
-    QLineEdit *txtWebPLoops;
+    QComboBox *comboGIFRepeat;
+    QLineEdit *txtWebPLoops; ///< In which that list is typed.
     QLabel *labelWebPLoopsHint;
+    QLabel *labelHold;
+    QComboBox *comboGIFHold;
     const QAction *menuitemActionGIFExport; ///< Its shortcut works while a field has the focus.
 };
 
@@ -104,8 +107,11 @@ private:
     void finishEditingGIFSize();
     /// Says beside the size fields what is wrong with what is typed there, if anything.
     void updateGIFDimensionHint();
-    /// Says beside the loop field what is wrong with what is typed there, or else what 0 means.
+    /// Says beside the loop field what is wrong with what is typed there.
     void updateWebPLoopsHint();
+    /// How often the file is to be played, as an encoder takes it: 0 for forever.
+    QString loops() const;
+    void fillRepeats();
     /// Says what the file will hold: frames, seconds, and the rate that comes of it.
     void updateGIFSummary();
     void fillLimits();

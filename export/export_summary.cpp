@@ -14,9 +14,10 @@ using namespace frame_timing;
 
 namespace {
 
-QString summaryOf(std::span<const TimedFrame> frames, Ticks ticks) {
+QString summaryOf(std::span<const TimedFrame> frames, Ticks ticks, double hold) {
     return qtTrId("IDD_GIF_SUMMARY", static_cast<int>(frames.size()))
-        .arg(number_text::decimal(seconds(frames, ticks)), number_text::rate(rate(frames, ticks)));
+        .arg(number_text::decimal(seconds(frames, ticks)),
+             number_text::rate(rate(frames, ticks, hold)));
 }
 
 } // namespace
@@ -33,22 +34,22 @@ void ExportOptions::updateGIFSummary() {
     }
     const Request request = exporter_.timingRequest(chosen());
     const std::vector<TimedFrame> gif = timedFrames(request, gifTicks);
-    QString summary = summaryOf(gif, gifTicks);
+    QString summary = summaryOf(gif, gifTicks, request.hold);
     if (isThinned(request, gifTicks)) {
         ui_.labelGIFThinned->setText(qtTrId("IDD_GIF_THINNED"));
         // The WebP is thinned later, if at all.
         const std::vector<TimedFrame> webp = timedFrames(request, webpTicks);
-        summary = qtTrId("IDD_GIF_WEBP_SUMMARY").arg(summary, summaryOf(webp, webpTicks));
+        summary =
+            qtTrId("IDD_GIF_WEBP_SUMMARY").arg(summary, summaryOf(webp, webpTicks, request.hold));
     }
     ui_.labelGIFSummary->setText(summary);
 }
 
 void ExportOptions::updateWebPLoopsHint() {
-    const bool isWrong = loopsTextProblem(ui_.txtWebPLoops->text()) != LoopsTextProblem::None;
+    const bool isWrong = loopsTextProblem(loops()) != LoopsTextProblem::None;
     const QString problem =
         isWrong ? qtTrId("IDD_LOOPS_RANGE").arg(number_text::count(mostLoops)) : QString();
     ui_.txtWebPLoops->setAccessibleDescription(problem);
-    const QString hint = problem.isEmpty() ? qtTrId("IDD_WEBP_LOOPS_HINT") : problem;
-    ui_.labelWebPLoopsHint->setText(hint);
-    ui_.labelWebPLoopsHint->setToolTip(hint);
+    ui_.labelWebPLoopsHint->setText(problem);
+    ui_.labelWebPLoopsHint->setToolTip(problem);
 }

@@ -38,7 +38,8 @@ frame_timing::Request Exporter::timingRequest(const ExportChoices &choices) cons
     return {.kept = editor_.keptFrames(),
             .recordedRate = recorder_.recording.exactRate(),
             .chosenRate = choices.rate,
-            .speed = choices.speed};
+            .speed = choices.speed,
+            .hold = choices.hold};
 }
 
 std::optional<QString> Exporter::refusal(const ExportChoices &choices) const {

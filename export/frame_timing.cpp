@@ -42,6 +42,14 @@ std::uint64_t wholeTicks(const Request &request, Ticks ticks) {
     return std::max(whole, ticks.shortest);
 }
 
+void holdLast(std::vector<TimedFrame> &frames, std::uint64_t held, Ticks ticks) {
+    const TimedFrame last = frames.back();
+    if (!ticks.isSteady)
+        frames.back().delay += held;
+    else
+        frames.insert(frames.end(), (held + last.delay / 2) / last.delay, last);
+}
+
 } // namespace
 
 std::vector<TimedFrame> timedFrames(const Request &request, Ticks ticks) {
@@ -59,7 +67,12 @@ std::vector<TimedFrame> timedFrames(const Request &request, Ticks ticks) {
     for (std::uint64_t index = 0; index < frames; ++index)
         result.push_back({.source = request.kept.at(index * count / frames),
                           .delay = begin(index + 1) - begin(index)});
+    holdLast(result, heldTicks(request.hold, ticks), ticks);
     return result;
+}
+
+std::uint64_t heldTicks(double hold, Ticks ticks) {
+    return nearest(hold * static_cast<double>(ticks.perSecond));
 }
 
 std::uint64_t length(std::span<const TimedFrame> frames) {
@@ -80,8 +93,9 @@ double seconds(std::span<const TimedFrame> frames, Ticks ticks) {
     return static_cast<double>(length(frames)) / static_cast<double>(ticks.perSecond);
 }
 
-double rate(std::span<const TimedFrame> frames, Ticks ticks) {
-    return frames.empty() ? 0.0 : static_cast<double>(frames.size()) / seconds(frames, ticks);
+double rate(std::span<const TimedFrame> frames, Ticks ticks, double hold) {
+    return frames.empty() ? 0.0
+                          : static_cast<double>(frames.size()) / (seconds(frames, ticks) - hold);
 }
 
 bool isThinned(const Request &request, Ticks ticks) {

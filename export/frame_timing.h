@@ -24,6 +24,8 @@ struct Ticks {
     /// The shortest delay that viewers honour. One below it is played many times too long, so none
     /// is ever written: there are fewer frames instead.
     std::uint64_t shortest = 1;
+    /// All frames are shown equally long: one that is held is repeated.
+    bool isSteady = false;
 };
 
 /// GIF89a, 23 (Graphic Control Extension): hundredths of a second. Browsers play a delay of 1/100
@@ -34,7 +36,7 @@ inline constexpr Ticks gifTicks{.perSecond = 100, .shortest = 2};
 inline constexpr Ticks webpTicks{.perSecond = 1000, .shortest = 11};
 
 /// A video: microseconds, and as many frames as were asked for.
-inline constexpr Ticks videoTicks{.perSecond = 1'000'000, .shortest = 1};
+inline constexpr Ticks videoTicks{.perSecond = 1'000'000, .shortest = 1, .isSteady = true};
 
 /// Frames per second that such a file holds at most.
 constexpr std::uint64_t highestRate(Ticks ticks) { return ticks.perSecond / ticks.shortest; }
@@ -52,6 +54,8 @@ struct Request {
     std::optional<double> chosenRate = {};
     /// How many times as fast as it was recorded, above 0.
     double speed = 1.0;
+    /// How much longer the last frame is shown, in seconds, at any speed.
+    double hold = 0.0;
 
     bool operator==(const Request &) const = default;
 };
@@ -75,10 +79,13 @@ std::uint64_t length(std::span<const TimedFrame> frames);
 /// When the last frame begins, in seconds: 0 without one.
 double beginOfLast(std::span<const TimedFrame> frames, Ticks ticks);
 
-/// How long the file plays in seconds, and the frames per second that come of it; 0 without a
-/// frame.
+/// The ticks that so many seconds of holding take.
+std::uint64_t heldTicks(double hold, Ticks ticks);
+
+/// How long the file plays in seconds, and the frames per second that come of it while it is not
+/// held; 0 without a frame.
 double seconds(std::span<const TimedFrame> frames, Ticks ticks);
-double rate(std::span<const TimedFrame> frames, Ticks ticks);
+double rate(std::span<const TimedFrame> frames, Ticks ticks, double hold = 0.0);
 
 /// Whether there are fewer frames than were asked for, because their delays would be too short.
 bool isThinned(const Request &request, Ticks ticks);

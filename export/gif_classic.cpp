@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/encoder_arguments.h"
 #include "export/exporter.h"
+#include "export/loops_text.h"
 #include "export/made_file.h"
 #include "export/staging.h"
 #include "export/tool_failure.h"
@@ -49,9 +50,12 @@ std::optional<QString> Exporter::runClassicEncoder(Frames frames, const ExportCh
     surroundings_.progress.setText(qtTrId("IDD_PROGRESS_PICTURES"));
     exporting.setI_Orig_Duration_in_Seconds(
         frame_timing::beginOfLast(frames, frame_timing::gifTicks));
-    const ToolExit exit =
-        RunToolWithProgress(tool, gifArguments(surroundings_.shell.s_Export_Folder(), palette,
-                                               frames, choices.width, choices.height));
+    const ToolExit exit = RunToolWithProgress(
+        tool,
+        gifArguments(surroundings_.shell.s_Export_Folder(), palette, frames, choices.width,
+                     choices.height,
+                     {.repeats = repeatsOf(choices.loops),
+                      .held = frame_timing::heldTicks(choices.hold, frame_timing::gifTicks)}));
     if (!exit.succeeded())
         return refusedSizeText(encoder, exit, choices.width, choices.height);
     const QString gif = gifFile(surroundings_.shell.s_Export_Folder());

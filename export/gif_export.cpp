@@ -7,6 +7,7 @@
 #include "export/frame_store_source.h"
 #include "export/gif_failure.h"
 #include "export/gif_plan.h"
+#include "export/loops_text.h"
 #include "export/made_file.h"
 #include "export/save_request.h"
 #include "platform/text_number.h"
@@ -85,6 +86,9 @@ void Exporter::generateGIF(bool mayLowerChosen) {
         if (!reason && wanted.limit.isWrong)
             reason = qtTrId("IDD_LIMIT_NOT_NUMBER");
     }
+    const LoopsTextProblem loops = loopsTextProblem(wanted.loops);
+    if (!reason && (loops == LoopsTextProblem::Negative || loops == LoopsTextProblem::TooLarge))
+        reason = qtTrId("IDD_LOOPS_REFUSED").arg(number_text::count(mostLoops));
     if (reason) {
         surroundings_.alerts.run(AlertKind::Error, *reason);
         return;
@@ -126,6 +130,7 @@ GifFileJob Exporter::jobFor(Frames frames, const ExportChoices &choices) const {
                                  static_cast<int>(integerValue(choices.height))),
                    .tolerance = presetTolerance(choices.preset),
                    .file = {},
+                   .repeats = repeatsOf(choices.loops),
                    .frames = frames.size()};
     auto stored = storedFrames(recorder_.recording.array_Images, frames);
     if (stored.empty()) {

@@ -38,6 +38,7 @@ gif::Outcome encode(const GifFileJob &job, const gif::Sink &takeBytes, const std
     };
     gif::Options options{.width = job.size.width(), .height = job.size.height()};
     options.tolerance = job.tolerance;
+    options.repeats = job.repeats;
     options.threads = gifThreads;
     options.sizeLimit = job.sizeLimit;
     options.progress = [&job, &bytes, &firstFrame](std::int64_t frames) {

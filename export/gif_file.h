@@ -23,6 +23,8 @@ struct GifFileJob {
     /// For the user alone (mode 0600); replaced when it is there. An empty name: only the bytes are
     /// counted.
     QString file;
+    /// How often a player begins again, 0 for forever; none plays it once.
+    std::optional<std::uint16_t> repeats = 0;
     /// How many frames the source has, where that is known.
     std::size_t frames = 0;
     /// The encoder gives up once the file is sure to be larger than this, in bytes.

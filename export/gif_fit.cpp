@@ -19,8 +19,9 @@ constexpr int mostAttempts = 6; // those that are too large are given up on the 
 
 MadeFile Exporter::makeFittingGIF(const ExportChoices &choices, bool mayLowerChosen) {
     using namespace frame_timing;
-    const FitChoice asked{.tolerance = presetTolerance(choices.preset),
-                          .rate = rate(timedFrames(timingRequest(choices), gifTicks), gifTicks)};
+    const FitChoice asked{
+        .tolerance = presetTolerance(choices.preset),
+        .rate = rate(timedFrames(timingRequest(choices), gifTicks), gifTicks, choices.hold)};
     const auto attempt = [this](const ExportChoices &lowered, const FitChoice &choice,
                                 const QString &trial, std::optional<std::uint64_t> sizeLimit) {
         GifPlan plan = planGIF(lowered);

@@ -4,6 +4,8 @@
 
 #include "platform/text_number.h"
 
+#include <algorithm>
+
 namespace {
 
 /// The reading of numbers answers 0 to a text without one, too.
@@ -23,4 +25,11 @@ LoopsTextProblem loopsTextProblem(QStringView text) {
     if (loops < 0)
         return LoopsTextProblem::Negative;
     return loops > mostLoops ? LoopsTextProblem::TooLarge : LoopsTextProblem::None;
+}
+
+std::optional<std::uint16_t> repeatsOf(QStringView text) {
+    const std::int64_t plays = std::clamp<std::int64_t>(integerValue(text.trimmed()), 0, mostLoops);
+    if (plays == 1)
+        return std::nullopt;
+    return static_cast<std::uint16_t>(plays == 0 ? 0 : plays - 1);
 }

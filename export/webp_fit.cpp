@@ -66,7 +66,7 @@ MadeFile Exporter::makeFittingWebP(Frames frames, const ExportChoices &choices,
                                    bool mayLowerChosen) {
     using namespace frame_timing;
     const FitChoice asked{.tolerance = presetTolerance(choices.preset),
-                          .rate = rate(frames, webpTicks)};
+                          .rate = rate(frames, webpTicks, choices.hold)};
     FitLaw law;
     if (asked.tolerance < gif::smallTolerance)
         law = lawOfWebP(frames, choices, asked.tolerance);

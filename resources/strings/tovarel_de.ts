@@ -1069,12 +1069,28 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Erzeugt ein WebP mit der hier gewählten Größe, Bildrate und Geschwindigkeit</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
-        <source>WebP loops</source>
-        <translation>WebP-Wiederholungen</translation>
+        <source>Repeat</source>
+        <translation>Wiederholung</translation>
     </message>
-    <message id="IDD_WEBP_LOOPS_HINT">
-        <source>0 = loop forever</source>
-        <translation>0 = endlos</translation>
+    <message id="IDD_LOOP_FOREVER">
+        <source>Forever</source>
+        <translation>Endlos</translation>
+    </message>
+    <message id="IDD_LOOP_ONCE">
+        <source>Once</source>
+        <translation>Einmal</translation>
+    </message>
+    <message id="IDD_LOOPS_REFUSED">
+        <source>Repeat takes a number from 0 to %1.</source>
+        <translation>Die Wiederholung verlangt eine Zahl von 0 bis %1.</translation>
+    </message>
+    <message id="IDD_HOLD">
+        <source>Hold last frame</source>
+        <translation>Letztes Bild halten</translation>
+    </message>
+    <message id="IDD_HOLD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message id="IDD_LOOPS_RANGE">
         <source>0 to %1</source>

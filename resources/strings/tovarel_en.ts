@@ -1069,12 +1069,28 @@ It is still at %3.</translation>
         <translation>Generates a WebP with the size, frame rate and speed chosen here</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
-        <source>WebP loops</source>
-        <translation>WebP loops</translation>
+        <source>Repeat</source>
+        <translation>Repeat</translation>
     </message>
-    <message id="IDD_WEBP_LOOPS_HINT">
-        <source>0 = loop forever</source>
-        <translation>0 = loop forever</translation>
+    <message id="IDD_LOOP_FOREVER">
+        <source>Forever</source>
+        <translation>Forever</translation>
+    </message>
+    <message id="IDD_LOOP_ONCE">
+        <source>Once</source>
+        <translation>Once</translation>
+    </message>
+    <message id="IDD_LOOPS_REFUSED">
+        <source>Repeat takes a number from 0 to %1.</source>
+        <translation>Repeat takes a number from 0 to %1.</translation>
+    </message>
+    <message id="IDD_HOLD">
+        <source>Hold last frame</source>
+        <translation>Hold last frame</translation>
+    </message>
+    <message id="IDD_HOLD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message id="IDD_LOOPS_RANGE">
         <source>0 to %1</source>

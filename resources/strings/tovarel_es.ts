@@ -1069,12 +1069,28 @@ Sigue en %3.</translation>
         <translation>Crea un WebP con el tamaño, la frecuencia de fotogramas y la velocidad elegidos aquí</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
-        <source>WebP loops</source>
-        <translation>Repeticiones del WebP</translation>
+        <source>Repeat</source>
+        <translation>Repetición</translation>
     </message>
-    <message id="IDD_WEBP_LOOPS_HINT">
-        <source>0 = loop forever</source>
-        <translation>0 = sin fin</translation>
+    <message id="IDD_LOOP_FOREVER">
+        <source>Forever</source>
+        <translation>Sin fin</translation>
+    </message>
+    <message id="IDD_LOOP_ONCE">
+        <source>Once</source>
+        <translation>Una vez</translation>
+    </message>
+    <message id="IDD_LOOPS_REFUSED">
+        <source>Repeat takes a number from 0 to %1.</source>
+        <translation>La repetición requiere un número del 0 al %1.</translation>
+    </message>
+    <message id="IDD_HOLD">
+        <source>Hold last frame</source>
+        <translation>Mantener el último fotograma</translation>
+    </message>
+    <message id="IDD_HOLD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message id="IDD_LOOPS_RANGE">
         <source>0 to %1</source>

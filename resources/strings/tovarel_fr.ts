@@ -1069,12 +1069,28 @@ Il reste à l’emplacement %3.</translation>
         <translation>Crée un WebP avec la taille, la fréquence d’images et la vitesse choisies ici</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
-        <source>WebP loops</source>
-        <translation>Répétitions du WebP</translation>
+        <source>Repeat</source>
+        <translation>Répétition</translation>
     </message>
-    <message id="IDD_WEBP_LOOPS_HINT">
-        <source>0 = loop forever</source>
-        <translation>0 = sans fin</translation>
+    <message id="IDD_LOOP_FOREVER">
+        <source>Forever</source>
+        <translation>Sans fin</translation>
+    </message>
+    <message id="IDD_LOOP_ONCE">
+        <source>Once</source>
+        <translation>Une fois</translation>
+    </message>
+    <message id="IDD_LOOPS_REFUSED">
+        <source>Repeat takes a number from 0 to %1.</source>
+        <translation>La répétition attend un nombre de 0 à %1.</translation>
+    </message>
+    <message id="IDD_HOLD">
+        <source>Hold last frame</source>
+        <translation>Maintien de la dernière image</translation>
+    </message>
+    <message id="IDD_HOLD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message id="IDD_LOOPS_RANGE">
         <source>0 to %1</source>

@@ -1062,12 +1062,28 @@ It is still at %3.</source>
         <translation>ここで選択したサイズ、フレームレート、速度で WebP を作成します</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
-        <source>WebP loops</source>
-        <translation>WebP の繰り返し回数</translation>
+        <source>Repeat</source>
+        <translation>繰り返し</translation>
     </message>
-    <message id="IDD_WEBP_LOOPS_HINT">
-        <source>0 = loop forever</source>
-        <translation>0 = 無限</translation>
+    <message id="IDD_LOOP_FOREVER">
+        <source>Forever</source>
+        <translation>無限</translation>
+    </message>
+    <message id="IDD_LOOP_ONCE">
+        <source>Once</source>
+        <translation>1&#xa0;回</translation>
+    </message>
+    <message id="IDD_LOOPS_REFUSED">
+        <source>Repeat takes a number from 0 to %1.</source>
+        <translation>繰り返しには&#xa0;0～%1&#xa0;の数を指定してください。</translation>
+    </message>
+    <message id="IDD_HOLD">
+        <source>Hold last frame</source>
+        <translation>最後のフレームを保持</translation>
+    </message>
+    <message id="IDD_HOLD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;秒</translation>
     </message>
     <message id="IDD_LOOPS_RANGE">
         <source>0 to %1</source>

@@ -1069,12 +1069,28 @@ Ele continua em %3.</translation>
         <translation>Cria um WebP com o tamanho, a taxa de quadros e a velocidade escolhidos aqui</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
-        <source>WebP loops</source>
-        <translation>Repetições WebP</translation>
+        <source>Repeat</source>
+        <translation>Repetição</translation>
     </message>
-    <message id="IDD_WEBP_LOOPS_HINT">
-        <source>0 = loop forever</source>
-        <translation>0 = sem fim</translation>
+    <message id="IDD_LOOP_FOREVER">
+        <source>Forever</source>
+        <translation>Sem fim</translation>
+    </message>
+    <message id="IDD_LOOP_ONCE">
+        <source>Once</source>
+        <translation>Uma vez</translation>
+    </message>
+    <message id="IDD_LOOPS_REFUSED">
+        <source>Repeat takes a number from 0 to %1.</source>
+        <translation>A repetição requer um número de 0 a %1.</translation>
+    </message>
+    <message id="IDD_HOLD">
+        <source>Hold last frame</source>
+        <translation>Manter o último quadro</translation>
+    </message>
+    <message id="IDD_HOLD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message id="IDD_LOOPS_RANGE">
         <source>0 to %1</source>

@@ -1062,12 +1062,28 @@ It is still at %3.</source>
         <translation>按此处选择的尺寸、帧率和速度生成 WebP</translation>
     </message>
     <message id="IDD_WEBP_LOOPS">
-        <source>WebP loops</source>
-        <translation>WebP 循环次数</translation>
+        <source>Repeat</source>
+        <translation>循环</translation>
     </message>
-    <message id="IDD_WEBP_LOOPS_HINT">
-        <source>0 = loop forever</source>
-        <translation>0 表示无限循环</translation>
+    <message id="IDD_LOOP_FOREVER">
+        <source>Forever</source>
+        <translation>无限</translation>
+    </message>
+    <message id="IDD_LOOP_ONCE">
+        <source>Once</source>
+        <translation>一次</translation>
+    </message>
+    <message id="IDD_LOOPS_REFUSED">
+        <source>Repeat takes a number from 0 to %1.</source>
+        <translation>循环次数须为&#xa0;0&#xa0;到&#xa0;%1&#xa0;之间的数字。</translation>
+    </message>
+    <message id="IDD_HOLD">
+        <source>Hold last frame</source>
+        <translation>保持最后一帧</translation>
+    </message>
+    <message id="IDD_HOLD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;秒</translation>
     </message>
     <message id="IDD_LOOPS_RANGE">
         <source>0 to %1</source>

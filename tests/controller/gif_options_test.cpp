@@ -202,6 +202,12 @@ TEST_F(GifOptions, SayWhileTypingWhatIsWrongWithTheLoops) {
     type(ui.txtWebPLoops, QStringLiteral("3"));
     EXPECT_EQ(ui.labelWebPLoopsHint->text(), usual);
     EXPECT_TRUE(ui.txtWebPLoops->accessibleDescription().isEmpty());
+    for (const auto &[entry, loops] : {std::pair(0, "0"), {1, "1"}, {3, "3"}}) {
+        ui.comboGIFRepeat->setCurrentIndex(entry);
+        EXPECT_EQ(controller.exportOptions->choices().loops, QLatin1String(loops));
+    }
+    ui.comboGIFHold->setCurrentIndex(3);
+    EXPECT_EQ(controller.exporter.timingRequest(controller.exportOptions->choices()).hold, 2.0);
 }
 
 TEST_F(GifOptions, ActOnAnEditThatTheExportsShortcutFinds) {

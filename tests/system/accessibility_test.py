@@ -101,7 +101,7 @@ class Accessibility(case.Case):
                         for what in ("size", "frame rate"))
         shares = self.buttons("75%", "50%")
         rest = (("combo box", "Quality"), ("combo box", "Fit under"), ("combo box", "Speed"),
-                ("text", "WebP loops"),
+                ("combo box", "Repeat"), ("combo box", "Hold last frame"),
                 *self.buttons("Generate GIF", "Saving Options", "Generate WebP", "Generate MP4"))
         self.check_order((BAR, "GIF"), sizes, *shares, rates, *rest)
         # One Tab for the whole of a choice, the arrows within it; what it enables comes next.

@@ -30,6 +30,17 @@ TEST(EncoderArguments, AreTheThreeRunsInOrder) {
               "-f|image2|-framerate|100|-i|/d/Ex/image%d.png|-i|/d/Pal/palette.png|-filter_complex|"
               "setpts=floor((200*N+3)/6),scale=320pxx%1:flags=lanczos[x];[x][1:v]paletteuse|"
               "-fps_mode|passthrough|-final_delay|33|/d/Ex/output.gif");
+    // Held for two seconds, and played three times: begun again twice.
+    const frame_timing::TimedFrame held[] = {{0, 33}, {1, 34}, {2, 233}};
+    const QStringList ending =
+        gifArguments(exports, palette, held, {}, {}, {.repeats = repeatsOf(u"3"), .held = 200});
+    EXPECT_TRUE(ending.join(u'|').contains(QStringLiteral("floor((200*N+3)/6)")));
+    EXPECT_EQ(ending.mid(12).join(u'|').toStdString(), "-final_delay|233|-loop|2|/d/Ex/output.gif");
+    EXPECT_TRUE(gifArguments(exports, palette, frames, {}, {}, {.repeats = repeatsOf(u" 1 ")})
+                    .contains(QStringLiteral("-1")))
+        << "once";
+    EXPECT_EQ(repeatsOf(u"forever"), 0);
+    EXPECT_EQ(repeatsOf(u"70000"), 65534);
 }
 
 TEST(EncoderArguments, KeepAPercentSignOfTheFolderFromBeingTakenForANumber) {

@@ -71,6 +71,19 @@ TEST(FrameTiming, neverWritesADelayThatViewersDoNotHonour) {
     EXPECT_TRUE(timedFrames({.kept = FrameRuns::of(0, 0)}, gifTicks).empty());
 }
 
+TEST(FrameTiming, holdsTheLastFrameAtAnySpeed) {
+    const Request held{
+        .kept = FrameRuns::of(0, 4), .recordedRate = 10.0, .speed = 2.0, .hold = 1.5};
+    EXPECT_EQ(timedFrames(held, gifTicks),
+              (std::vector<TimedFrame>{{0, 5}, {1, 5}, {2, 5}, {3, 155}}));
+    EXPECT_NEAR(rate(timedFrames(held, gifTicks), gifTicks, held.hold), 20.0, 1e-9);
+    // A video has no delays: the last frame comes again.
+    const auto video = timedFrames(held, videoTicks);
+    ASSERT_EQ(video.size(), 4u + 30u);
+    EXPECT_EQ(video.back(), video[3]);
+    EXPECT_NEAR(seconds(video, videoTicks), 1.7, 1e-9);
+}
+
 TEST(FrameTiming, isTrueToTheTickForEveryRateSpeedAndLength) {
     for (const Ticks ticks : {gifTicks, webpTicks})
         for (const double recorded : {0.3, 0.97, 4.85, 9.83, 14.99, 24.0, 29.7, 43.2, 59.94, 61.0})
