@@ -152,7 +152,12 @@ public:
     // Region: region/region_chooser.h ---------------------------------------------------------
 
     void OnRecordFullScreen(QObject *) { regionChooser.OnRecordFullScreen(); }
-    void OnRecordRegion(QObject *) { regionChooser.OnRecordRegion(); }
+    void OnRecordRegion(QObject *) {
+        if (recorder.choosesRegionOnStill())
+            recorder.OnRecordRegionOnStill();
+        else
+            regionChooser.OnRecordRegion();
+    }
 
     // Trim editor: trim/trim_editor.h ---------------------------------------------------------
 

@@ -56,11 +56,7 @@ std::vector<Command> recordCommands(AppDelegate &controller) {
          .icon = "region",
          .shortcut = "Ctrl+Shift+R",
          .action = [&controller] { controller.OnMenuActionRecordRegion(); },
-         // An overlay shows what is beneath it only where windows can be told apart.
-         .enabled =
-             [choosing, &recorder] {
-                 return choosing() && !recorder.source().capabilities().asksUser;
-             },
+         .enabled = stopped,
          .opensDialog = true},
         {.button = ui.btnChooseSource,
          .text = qtTrId("IDD_CHOOSE_SOURCE"),

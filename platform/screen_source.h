@@ -71,6 +71,8 @@ public:
         /// Names what was chosen an earlier time, so that the desktop need not ask again; empty to
         /// be asked. The desktop may ask all the same.
         QString restoreToken = {};
+        /// Pictures show the mouse pointer, where the source draws it and `watchPointer` is null.
+        bool pointer = false;
     };
 
     virtual ScreenSourceCapabilities capabilities() const = 0;

@@ -51,7 +51,8 @@ void Recorder::createMultiWindowShot(std::span<const WindowEntry> selection) {
     const auto grab = source().latest(newWindowListFromSelection(selection), part);
     if (!grab)
         return;
-    capture.setGrabbedPart(part);
+    // A picture of what was chosen is always all of it.
+    capture.setGrabbedPart(grab->pixelsPerPoint ? std::nullopt : part);
     capture.marks = hands.look(capture.windowsOnScreen);
     // A region keeps its place in a recording, whatever becomes of what is recorded.
     if (grab->pixelsPerPoint && recording.m_RecordStatus() == RECORD_STATUS_STOP)

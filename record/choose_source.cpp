@@ -3,8 +3,11 @@
 #include "record/recorder.h"
 #include "region/region_chooser.h"
 #include "shell/settings.h"
+#include "shell/surroundings.h"
 
+#include <QGuiApplication>
 #include <QPainter>
+#include <QScreen>
 
 #include <algorithm>
 #include <cmath>
@@ -18,6 +21,24 @@ constexpr double doubtful = 0.15;
 /// Frames that may have been stored while the news was waiting to be read.
 constexpr std::uint64_t storedMeanwhile = 1;
 
+/// The screen that shows what was chosen, as far as can be told: the place is not to be trusted,
+/// but a size that only one has is.
+QScreen &screenOf(const ChosenSource &chosen) {
+    QScreen *best = QGuiApplication::primaryScreen();
+    int score = 0;
+    for (QScreen *screen : QGuiApplication::screens()) {
+        if (!chosen.place)
+            break;
+        const int size = screen->size() == chosen.place->size() ? 2 : 0;
+        const int place = screen->geometry().topLeft() == chosen.place->topLeft() ? 1 : 0;
+        if (size + place > score) {
+            score = size + place;
+            best = screen;
+        }
+    }
+    return *best;
+}
+
 } // namespace
 
 bool Recorder::isSourceOpen() const {
@@ -28,13 +49,48 @@ bool Recorder::isSourceOpen() const {
 
 void Recorder::OnChooseSource() { openSource(settings::readRestoreToken()); }
 
-void Recorder::OnChooseAnotherSource() { openSource({}); }
+void Recorder::OnChooseAnotherSource() {
+    // A region is one of what was chosen before.
+    chooser_.OnRecordFullScreen();
+    openSource({});
+}
+
+bool Recorder::choosesRegionOnStill() const { return source().capabilities().asksUser; }
+
+void Recorder::OnRecordRegionOnStill() {
+    if (recording.m_RecordStatus() != RECORD_STATUS_STOP)
+        return;
+    if (source().state() != SourceState::Live) {
+        choosesRegionOnceLive_ = true;
+        if (!isSourceOpen() && source().state() != SourceState::Asking)
+            OnChooseSource();
+        return;
+    }
+    // What a window shows has no place on the screen where a region could be drawn.
+    if (source().capabilities().leavesOwnOut) {
+        surroundings_.showStatus(qtTrId("IDD_REGION_OF_WINDOW"));
+        return;
+    }
+    if (chooser_.explainRegion())
+        steppingAside_.goQuietly([this] { takeStill(); });
+}
+
+void Recorder::takeStill() {
+    const auto picture = source().latest({}, {});
+    const auto chosen = source().chosen();
+    if (picture && chosen)
+        chooser_.chooseOnStill(picture->image.toQImage(), screenOf(*chosen));
+    steppingAside_.comeBack();
+    updateCaptureMode();
+}
 
 void Recorder::openSource(const QString &restoreToken) {
     if (recording.m_RecordStatus() != RECORD_STATUS_STOP || source().obstacle())
         return;
     forgetPicture();
-    source().start({.rate = recording.u_FPS(), .restoreToken = restoreToken});
+    source().start({.rate = recording.u_FPS(),
+                    .restoreToken = restoreToken,
+                    .pointer = hands.isPointerShown()});
 }
 
 void Recorder::closeSource() {
@@ -73,13 +129,15 @@ void Recorder::followSource() {
         steppingAside_.comeBack();
         forgetPicture();
         if (state == SourceState::Ended || state == SourceState::Refused)
-            recordsOnceOpen_ = reopens_ = false;
+            recordsOnceOpen_ = choosesRegionOnceLive_ = reopens_ = false;
     }
     updateCaptureMode();
     Q_EMIT sourceChanged();
     Q_EMIT stateChanged();
     if (isSourceOpen() && std::exchange(recordsOnceOpen_, false))
         OnRecordRecord();
+    else if (state == SourceState::Live && std::exchange(choosesRegionOnceLive_, false))
+        OnRecordRegionOnStill();
 }
 
 bool Recorder::mustChoose() {

@@ -228,6 +228,10 @@ void Recorder::TimerDebug1SecondRoutine() {
 
 void Recorder::OnRecordPointer() {
     hands.showPointer(!hands.isPointerShown());
+    // Where the desktop draws it, it has to be asked again; in silence, if it remembers.
+    const QString token = settings::readRestoreToken();
+    if (source().capabilities().asksUser && isSourceOpen() && !token.isEmpty())
+        openSource(token);
     Q_EMIT stateChanged();
 }
 

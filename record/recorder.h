@@ -74,6 +74,11 @@ public:
     void OnChooseSource();
     /// Lets the user choose again.
     void OnChooseAnotherSource();
+    /// Whether a region is chosen on a still picture of what the source shows.
+    bool choosesRegionOnStill() const;
+    /// Lets one be chosen, once a source is open whose pictures have room for one and our own
+    /// window is out of sight. Returns at once.
+    void OnRecordRegionOnStill();
     /// Gives back what was chosen, while nobody looks at it, and takes it again.
     void closeSource();
     void reopenSource();
@@ -203,6 +208,7 @@ private:
     void countdownEnded(const QString &status);
     void grabPlaceChanged();
     void openSource(const QString &restoreToken);
+    void takeStill();
     void followSource();
     void forgetPicture();
     /// Whether the user has to choose first what is recorded; if so Record is pressed again then.
@@ -223,6 +229,7 @@ private:
     void takeRecording(std::vector<Image> frames, const RecordingNote &note);
 
     SteppingAside steppingAside_{surroundings_};
+    bool choosesRegionOnceLive_ = false;
     bool recordsOnceOpen_ = false;      ///< Record was pressed before anything was chosen.
     bool reopens_ = false;              ///< Something was chosen when it was given back.
     std::uint64_t framesBeforeRun_ = 0; ///< Stored when the recording began or went on.

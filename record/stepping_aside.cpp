@@ -67,6 +67,13 @@ bool SteppingAside::mustGo(std::function<void()> goOn) {
     return true;
 }
 
+void SteppingAside::goQuietly(std::function<void()> goOn) {
+    if (place_ != Place::Here || surroundings_.alerts.isAsking())
+        return;
+    quiet_ = true;
+    go(std::move(goOn));
+}
+
 void SteppingAside::explain(std::function<void()> goOn) {
     const Question question{.message = qtTrId("IDD_STEP_ASIDE"),
                             .detail = qtTrId("IDD_STEP_ASIDE_HOW_TO_STOP"),
@@ -131,7 +138,7 @@ void SteppingAside::look() {
 
 bool SteppingAside::eventFilter(QObject *watched, QEvent *event) {
     // While it goes the news may still be of the time before.
-    if (place_ == Place::Away && showsOneOfOurs(watched, *event))
+    if (place_ == Place::Away && !quiet_ && showsOneOfOurs(watched, *event))
         arrive();
     return false;
 }
@@ -139,6 +146,7 @@ bool SteppingAside::eventFilter(QObject *watched, QEvent *event) {
 void SteppingAside::arrive() {
     qApp->removeEventFilter(this);
     place_ = Place::Here;
+    quiet_ = false;
     goOn_ = nullptr;
     looks_.stop();
     Q_EMIT cameBack();

@@ -26,6 +26,10 @@ public:
     /// time the user is told before, and may think better of it.
     bool mustGo(std::function<void()> goOn);
 
+    /// Lets our windows go, without a word to the user, as `mustGo` does. Then other windows of
+    /// ours than the main one may show themselves; `comeBack` brings that back.
+    void goQuietly(std::function<void()> goOn);
+
     /// Shows the main window again if it has stepped aside.
     void comeBack();
 
@@ -47,6 +51,7 @@ private:
 
     Surroundings &surroundings_;
     Place place_ = Place::Here;
+    bool quiet_ = false; ///< It is not to be told that something of ours is seen.
     std::function<void()> goOn_;
     bool isMinimized_ = false; ///< It was asked to be, while it goes.
     QTimer looks_;

@@ -92,12 +92,20 @@ QString RegionChooser::monitor() const { return recordedMonitor() ? monitor_ : Q
 
 void RegionChooser::OnRecordRegion() {
     // Assistive technology reaches the command past a modal window.
-    if (QApplication::activeModalWidget())
+    if (QApplication::activeModalWidget() || !explainRegion())
         return;
-    if (region.b_Show_Select_Region_How_To() == 1 &&
-        Window_Region_How_It_Works(surroundings_.shell.window(), region).exec() !=
-            QDialog::Accepted)
-        return;
+    choose(surroundings_.shell.window()->screen(), {});
+}
+
+void RegionChooser::chooseOnStill(const QImage &still, QScreen &screen) { choose(&screen, still); }
+
+bool RegionChooser::explainRegion() {
+    return region.b_Show_Select_Region_How_To() != 1 ||
+           Window_Region_How_It_Works(surroundings_.shell.window(), region).exec() ==
+               QDialog::Accepted;
+}
+
+void RegionChooser::choose(QScreen *screen, const QImage &still) {
     const CaptureType typeBefore = region.i_Type_Screen_Capture();
     const QRectF rectangleBefore = region.rect_Screen_Region();
     const std::optional<coordinates::Screen> screenBefore = region.screenOfRegion();
@@ -105,8 +113,8 @@ void RegionChooser::OnRecordRegion() {
     surroundings_.updateScreen();
     region.setSize_Region(startingSize);
     int code = Window_Transparent_Region::cancelled;
-    if (QScreen *screen = surroundings_.shell.window()->screen()) {
-        Window_Transparent_Region overlay(*screen, *this);
+    if (screen) {
+        Window_Transparent_Region overlay(*screen, *this, still);
         region.setPFullScreen(&overlay);
         code = overlay.runModal();
         region.setPFullScreen(nullptr);

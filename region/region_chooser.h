@@ -7,6 +7,7 @@
 #include "region/region_geometry.h"
 #include "region/region_place.h"
 
+#include <QImage>
 #include <QObject>
 #include <QRect>
 #include <QString>
@@ -45,6 +46,13 @@ public:
     /// Explains, unless the user has had enough of it, and lets a region be chosen on the main
     /// window's screen; when that is cancelled, what is recorded stays as it was. Returns after it.
     void OnRecordRegion();
+
+    /// Explains it, unless the user has had enough of that; false when the user thinks better of
+    /// it.
+    bool explainRegion();
+    /// Lets a region of `still` be chosen, a picture of all that can be recorded, which `screen`
+    /// shows; for where an overlay cannot show what is beneath it. Otherwise as above.
+    void chooseOnStill(const QImage &still, QScreen &screen);
 
     /// Works out the region from the overlay's squares and stores it.
     void storeRegion();
@@ -87,6 +95,7 @@ public:
 private:
     const QScreen *recordedMonitor() const;
     void remember() const;
+    void choose(QScreen *screen, const QImage &still);
 
     Surroundings &surroundings_;
     region_place::Inputs placeInputs() const;

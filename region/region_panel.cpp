@@ -166,3 +166,8 @@ bool RegionPanel::eventFilter(QObject *watched, QEvent *event) {
 }
 
 void RegionPanel::mousePressEvent(QMouseEvent *event) { event->accept(); }
+
+void RegionPanel::hidePicking() {
+    pick_->hide();
+    adjustSize();
+}

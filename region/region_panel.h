@@ -31,6 +31,9 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    /// For where there is no window to be picked.
+    void hidePicking();
+
 Q_SIGNALS:
     /// The user wants the region to be there.
     void wanted(const QRect &recorded);

@@ -124,7 +124,7 @@ void View_Transparent_Region::paintPicked(QPainter &painter) const {
 }
 
 QPoint View_Transparent_Region::screenInWindow() const {
-    return screen_.topLeft() - window()->geometry().topLeft();
+    return window()->isFullScreen() ? QPoint() : screen_.topLeft() - window()->geometry().topLeft();
 }
 
 region_drawing::Pieces View_Transparent_Region::pieces(const Squares &squares,

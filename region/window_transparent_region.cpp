@@ -17,6 +17,7 @@
 #include <QMainWindow>
 #include <QMouseEvent>
 #include <QMoveEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QTimerEvent>
 #include <QWindow>
@@ -50,10 +51,14 @@ QString cornerName(const Place &place) {
 
 } // namespace
 
-Window_Transparent_Region::Window_Transparent_Region(QScreen &screen, RegionChooser &chooser)
-    : QWidget(chooser.surroundings().shell.window(),
-              Qt::Tool | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint),
-      chooser_(chooser), screenFrame_(screen.geometry()),
+Window_Transparent_Region::Window_Transparent_Region(QScreen &screen, RegionChooser &chooser,
+                                                     QImage still)
+    // On a still it stands by itself: the main window is out of sight, and so would be its child.
+    : QWidget(still.isNull() ? chooser.surroundings().shell.window() : nullptr,
+              still.isNull() ? Qt::Tool | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint
+                             : Qt::Window | Qt::FramelessWindowHint),
+      chooser_(chooser), still_(std::move(still)),
+      screenFrame_(still_.isNull() ? screen.geometry() : QRect(QPoint(), screen.size())),
       viewTransparentRegion_(new View_Transparent_Region(this, screenFrame_, chooser)),
       panel_(new RegionPanel(this, screenFrame_.width())) {
     setObjectName(QStringLiteral("Window_Transparent_Region"));
@@ -67,6 +72,8 @@ Window_Transparent_Region::Window_Transparent_Region(QScreen &screen, RegionChoo
     awakeFromNib(screen);
     windowDidLoad();
     makePanel();
+    if (isOnStill())
+        panel_->hidePicking();
 }
 
 Window_Transparent_Region::~Window_Transparent_Region() = default;
@@ -83,6 +90,8 @@ void Window_Transparent_Region::awakeFromNib(QScreen &screen) {
     // Past the window manager: it would keep the window clear of the desktop's panels or, for a
     // window that asks for the full screen, take the panels away from what is to be framed.
     setScreen(&screen);
+    if (isOnStill())
+        return setGeometry(screen.geometry());
     setGeometry(screenFrame_);
     // A visual with alpha, on which nothing is drawn but what the view draws.
     setAttribute(Qt::WA_TranslucentBackground);
@@ -102,7 +111,19 @@ void Window_Transparent_Region::windowDidLoad() {
     }
     controller_squares::write(fields,
                               region_drag::squaresOf(region_drag::within(start, screenInPoints())));
-    fields.setScreenOfRegion(coordinates::screenOnDesktop(*screen()));
+    fields.setScreenOfRegion(ground());
+}
+
+coordinates::Screen Window_Transparent_Region::ground() const {
+    if (!isOnStill())
+        return coordinates::screenOnDesktop(*screen());
+    return {.height = static_cast<double>(screenFrame_.height()),
+            .ratio = static_cast<double>(still_.width()) / screenFrame_.width()};
+}
+
+QPoint Window_Transparent_Region::screenInWindow() const {
+    // Where a window is that fills the screen is known, whatever the toolkit says of it.
+    return isOnStill() ? QPoint() : screenFrame_.topLeft() - geometry().topLeft();
 }
 
 int Window_Transparent_Region::runModal() {
@@ -111,7 +132,10 @@ int Window_Transparent_Region::runModal() {
     blended_ = desktopBlendsWindows();
     viewTransparentRegion_->setShaped(!blended_);
     squaresChanged();
-    show();
+    if (isOnStill())
+        showFullScreen();
+    else
+        show();
     raise();
     activateWindow();
     setFocus();
@@ -173,14 +197,14 @@ void Window_Transparent_Region::mouseDragged(Point pointer, bool keepsRatio) {
 region_drag::Screen Window_Transparent_Region::screenInPoints() const {
     return {.width = static_cast<double>(screenFrame_.width()),
             .height = static_cast<double>(screenFrame_.height()),
-            .pixel = 1.0 / devicePixelRatioF()};
+            .pixel = 1.0 / (isOnStill() ? ground().ratio : devicePixelRatioF())};
 }
 
 void Window_Transparent_Region::mouseUp() { setB_Mouse_Down(false); }
 
 Point Window_Transparent_Region::fromScreenCorner(QPointF inWindow) const {
     // The toolkit's position in the widget and on the desktop both lose their fractions.
-    const QPointF inScreen = inWindow + geometry().topLeft() - screenFrame_.topLeft();
+    const QPointF inScreen = inWindow - screenInWindow();
     return {inScreen.x(), coordinates::flipped(inScreen.y(), 0, screenFrame_.height())};
 }
 
@@ -322,7 +346,7 @@ void Window_Transparent_Region::showPanel() {
         problem = qtTrId("IDD_REGION_TOO_SMALL").arg(smallestSide);
     panel_->showRegion(recorded, problem);
     const Region region = region_geometry::boundingRegion(now);
-    const QPoint corner = screenFrame_.topLeft() - geometry().topLeft();
+    const QPoint corner = screenInWindow();
     const int top =
         static_cast<int>(coordinates::flipped(region.y, region.height, screenFrame_.height()));
     const auto [x, y] =
@@ -376,6 +400,8 @@ void Window_Transparent_Region::setRecordedSize(QSize size) {
 }
 
 void Window_Transparent_Region::setPicking(bool picking) {
+    if (isOnStill())
+        return;
     if (picking == picking_)
         return;
     picking_ = picking;
@@ -422,6 +448,8 @@ void Window_Transparent_Region::frameWindowAt(Point pointer) {
 void Window_Transparent_Region::adaptToDesktop() {
     if (!isActiveWindow())
         activateWindow();
+    if (isOnStill())
+        return;
     const bool blended = desktopBlendsWindows();
     if (blended != std::exchange(blended_, blended)) {
         viewTransparentRegion_->setShaped(!blended);
@@ -442,6 +470,14 @@ void Window_Transparent_Region::timerEvent(QTimerEvent *event) {
         adaptToDesktop();
     else
         QWidget::timerEvent(event);
+}
+
+void Window_Transparent_Region::paintEvent(QPaintEvent *event) {
+    if (!isOnStill())
+        return QWidget::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(rect(), still_);
 }
 
 void Window_Transparent_Region::resizeEvent(QResizeEvent *) {

@@ -4,8 +4,10 @@
 
 #include "region/region_drag.h"
 #include "region/region_geometry.h"
+#include "shell/coordinates.h"
 
 #include <QBasicTimer>
+#include <QImage>
 #include <QWidget>
 
 #include <cstdint>
@@ -37,7 +39,11 @@ public:
     /// Covers `screen` and lays out the squares for the desk's region if one was chosen
     /// before, else for its `size_Region`, which must be set before, centred. The region is
     /// measured on `screen` from then on. Not shown yet. `chooser` is borrowed and outlives it.
-    Window_Transparent_Region(QScreen &screen, RegionChooser &chooser);
+    ///
+    /// With `still` it is opaque and shows that picture of the whole screen: for a desktop on which
+    /// nobody knows what lies beneath a window. It then is a full-screen window by itself, and the
+    /// region is measured in points of it.
+    Window_Transparent_Region(QScreen &screen, RegionChooser &chooser, QImage still = {});
     ~Window_Transparent_Region() override;
 
     /// Shows the overlay and turns events until it is accepted, cancelled or ended from outside;
@@ -74,6 +80,7 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
     bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
@@ -81,6 +88,11 @@ protected:
 private:
     void awakeFromNib(QScreen &screen);
     void windowDidLoad();
+    bool isOnStill() const { return !still_.isNull(); }
+    /// The screen as the region is measured on it.
+    coordinates::Screen ground() const;
+    /// Of the screen in the window.
+    QPoint screenInWindow() const;
     /// The pointer in points from the screen's lower left corner.
     region_geometry::Point fromScreenCorner(QPointF inWindow) const;
     region_drag::Screen screenInPoints() const;
@@ -110,6 +122,7 @@ private:
     void setSquares(const region_geometry::Squares &squares);
 
     RegionChooser &chooser_;
+    QImage still_;
     bool b_Mouse_Down_ = false;
     std::int32_t i_button_index_ = -1;
     region_drag::Grip grip_; // while the button is held

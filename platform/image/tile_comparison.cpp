@@ -24,8 +24,8 @@ bool differs(const PixelRows &a, const PixelRows &b, const QRect &place, std::ui
     for (int y = place.top(); y <= place.bottom(); ++y) {
         const std::uint32_t *rowA = a.first + y * a.stride + place.x();
         const std::uint32_t *rowB = b.first + y * b.stride + place.x();
-        if (mask == everyBit ? std::memcmp(rowA, rowB, bytes) != 0
-                             : differsInBits(rowA, rowB, place.width(), mask))
+        if (std::memcmp(rowA, rowB, bytes) != 0 &&
+            (mask == everyBit || differsInBits(rowA, rowB, place.width(), mask)))
             return true;
     }
     return false;

@@ -24,7 +24,7 @@ ScreenSourceCapabilities PortalScreenSource::capabilities() const {
     const auto what = chosen();
     return {.asksUser = true,
             .leavesOwnOut = what && what->kind == ChosenSource::Kind::Window,
-            .pointer = HandAccess::NotOffered,
+            .pointer = HandAccess::Granted,
             .clicks = HandAccess::NotOffered,
             .keys = HandAccess::NotOffered};
 }
@@ -80,7 +80,7 @@ void PortalScreenSource::begin() {
     connect(session_, &ScreenCastSession::closed, this, [this] { end(SourceState::Ended); });
     connect(session_, &ScreenCastSession::failed, this,
             [this](const QString &words) { end(SourceState::Ended, words); });
-    session_->start(how_.restoreToken);
+    session_->start(how_.restoreToken, how_.pointer);
 }
 
 void PortalScreenSource::openStream(int descriptor, quint32 node) {

@@ -22,6 +22,7 @@ const QString sessionInterface = QStringLiteral("org.freedesktop.portal.Session"
 constexpr uint monitorType = 1;
 constexpr uint windowType = 2;
 constexpr uint hiddenCursor = 1;
+constexpr uint embeddedCursor = 2;
 constexpr uint versionWithCursor = 2;
 constexpr uint versionWithTokens = 4;
 constexpr uint untilRevoked = 2; // persist_mode
@@ -97,8 +98,9 @@ ScreenCastSession::~ScreenCastSession() {
                                                  sessionInterface, QStringLiteral("Close")));
 }
 
-void ScreenCastSession::start(const QString &restoreToken) {
+void ScreenCastSession::start(const QString &restoreToken, bool pointer) {
     restoreToken_ = restoreToken;
+    pointer_ = pointer;
     const QString token = PortalRequest::newToken();
     // Known before it exists, so that nothing that happens to it is missed.
     session_ = PortalRequest::handlePath(bus_, QStringLiteral("session"), token);
@@ -140,8 +142,9 @@ QVariantMap ScreenCastSession::sourceOptions() const {
     const uint types = (monitorType | windowType) & offer_.types;
     QVariantMap options{{QStringLiteral("types"), types ? types : monitorType},
                         {QStringLiteral("multiple"), false}};
-    if (offer_.version >= versionWithCursor && (offer_.cursorModes & hiddenCursor))
-        options[QStringLiteral("cursor_mode")] = hiddenCursor;
+    const uint cursor = pointer_ ? embeddedCursor : hiddenCursor;
+    if (offer_.version >= versionWithCursor && (offer_.cursorModes & cursor))
+        options[QStringLiteral("cursor_mode")] = cursor;
     if (offer_.version >= versionWithTokens) {
         options[QStringLiteral("persist_mode")] = untilRevoked;
         if (!restoreToken_.isEmpty())

@@ -25,8 +25,9 @@ public:
     ScreenCastSession(const QDBusConnection &bus, const ScreenCastOffer &offer);
     ~ScreenCastSession() override;
 
-    /// To be called once. With `restoreToken` the desktop need not ask.
-    void start(const QString &restoreToken);
+    /// To be called once. With `restoreToken` the desktop need not ask. With `pointer` the pictures
+    /// show the mouse pointer, where that is offered.
+    void start(const QString &restoreToken, bool pointer);
 
     /// What was chosen, once it started.
     const ChosenSource &chosen() const { return chosen_; }
@@ -57,6 +58,7 @@ private:
 
     QDBusConnection bus_;
     ScreenCastOffer offer_;
+    bool pointer_ = false;
     QString session_; // its path
     QString restoreToken_;
     ChosenSource chosen_;

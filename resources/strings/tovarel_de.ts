@@ -327,6 +327,10 @@
         <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
         <translation>In einer Wayland-Sitzung kann Tovarel nur von seinem Fenster aus aufnehmen: Starten Sie es ohne Argumente, oder melden Sie sich in einer X11-Sitzung an.</translation>
     </message>
+    <message id="IDD_REGION_OF_WINDOW">
+        <source>A window is recorded as a whole. Choose a monitor to record a region of it.</source>
+        <translation>Ein Fenster wird als Ganzes aufgenommen. Wählen Sie einen Monitor, um einen Bereich davon aufzunehmen.</translation>
+    </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
         <translation>Aufnahme läuft</translation>

@@ -327,6 +327,10 @@
         <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
         <translation>En una sesión de Wayland, Tovarel solo puede grabar desde su ventana: inícielo sin argumentos o inicie una sesión de X11.</translation>
     </message>
+    <message id="IDD_REGION_OF_WINDOW">
+        <source>A window is recorded as a whole. Choose a monitor to record a region of it.</source>
+        <translation>Una ventana se graba completa. Elija un monitor para grabar una zona.</translation>
+    </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
         <translation>Grabando</translation>

@@ -327,6 +327,10 @@
         <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
         <translation>Dans une session Wayland, Tovarel ne peut enregistrer que depuis sa fenêtre&#xa0;: lancez-le sans argument ou ouvrez une session X11.</translation>
     </message>
+    <message id="IDD_REGION_OF_WINDOW">
+        <source>A window is recorded as a whole. Choose a monitor to record a region of it.</source>
+        <translation>Une fenêtre est enregistrée en entier. Choisissez un moniteur pour en enregistrer une zone.</translation>
+    </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
         <translation>Enregistrement en cours</translation>

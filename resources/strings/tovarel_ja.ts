@@ -326,6 +326,10 @@
         <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
         <translation>Wayland セッションでは、ウィンドウからのみ録画できます。引数なしで Tovarel を起動するか、X11 セッションにログインしてください。</translation>
     </message>
+    <message id="IDD_REGION_OF_WINDOW">
+        <source>A window is recorded as a whole. Choose a monitor to record a region of it.</source>
+        <translation>ウィンドウは全体が録画されます。範囲を録画するにはモニターを選択してください。</translation>
+    </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
         <translation>録画中</translation>

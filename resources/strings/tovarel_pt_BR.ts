@@ -327,6 +327,10 @@
         <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
         <translation>Em uma sessão Wayland, o Tovarel só pode gravar a partir de sua janela: inicie-o sem argumentos ou entre em uma sessão X11.</translation>
     </message>
+    <message id="IDD_REGION_OF_WINDOW">
+        <source>A window is recorded as a whole. Choose a monitor to record a region of it.</source>
+        <translation>Uma janela é gravada por inteiro. Escolha um monitor para gravar uma área dele.</translation>
+    </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
         <translation>Gravando</translation>

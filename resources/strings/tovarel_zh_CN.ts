@@ -326,6 +326,10 @@
         <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
         <translation>在 Wayland 会话中只能通过窗口录制：请不带参数启动 Tovarel，或登录 X11 会话。</translation>
     </message>
+    <message id="IDD_REGION_OF_WINDOW">
+        <source>A window is recorded as a whole. Choose a monitor to record a region of it.</source>
+        <translation>窗口只能整体录制。要录制区域，请选择显示器。</translation>
+    </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
         <translation>正在录制</translation>

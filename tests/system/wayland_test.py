@@ -11,13 +11,15 @@ import time
 import case
 import counter
 import wayland_session
-from driver import Program, wait_for
+from driver import Program, act, wait_for
 
 RATE = 10  # steps of the counter a second
 # What nothing else on the screen is painted in.
 OURS = (0xFF, 0x00, 0xFE)
 STYLE = "* { background: #ff00fe; color: #ff00fe }"
 CHOOSE = "Choose What to Record…"
+HOW_TO = "MACBrenmoor_Lumsey_b_Show_Select_Region_How_To"
+HIDDEN, EMBEDDED = "1", "2"  # cursor modes of the portal
 TOKEN = "ScreenCastToken"
 
 
@@ -97,7 +99,6 @@ class Wayland(case.Case):
     def test_from_the_dialog_to_a_gif_without_our_window(self):
         self.show_counter()
         program = self.start_program()
-        self.assertFalse(program.enabled("Region"))
         # Record asks by itself when nothing was chosen.
         program.press("Record")
         program.answer("gets out of the way", "Cancel")
@@ -155,6 +156,43 @@ class Wayland(case.Case):
                 self.assertEqual(program.frame().get_name(), "Tovarel")
         self.session.answer_with()
         self.choose(program)
+        # The compositor draws the pointer, or not, as the switch says.
+        self.assertEqual(self.asked("SelectSources")[-1]["cursor_mode"], EMBEDDED)
+        act(program.await_control("check box", "Pointer"))
+        wait_for("a session without it", lambda: self.asked("SelectSources")[-1]["cursor_mode"] == HIDDEN)
+        self.await_label(program, "Monitor")
+
+    def test_a_region_is_chosen_on_a_still_and_recorded_to_the_pixel(self):
+        # As a monitor at the scale 1.25 is told: pixels of the picture count.
+        self.session.answer_with(size=[1024, 576])
+        self.show_counter()
+        with open(self.settings, "a", encoding="utf-8") as settings:
+            settings.write(f"{HOW_TO}=0\n")  # Its explanation is another test's.
+        program = self.start_program()
+        program.press("Region")
+        program.await_control("dialog", "Select a Region")
+        for name, value in (("Width", 300), ("Height", 200), ("X", 100), ("Y", 300)):
+            program.await_control("spin button", name).set_current_value(value)
+        self.await_label(program, "Region 300 × 200 at 100,\xa0300")
+        program.press("Use Region")
+        program.wait_for("the end of it", lambda: not program.find("dialog", "Select a Region"))
+        program.press("Record")
+        program.answer("gets out of the way", "OK")
+        self.away(program)
+        time.sleep(1)
+        self.bring_back(program)
+        program.press("Stop")
+        program.await_tab("Cut")
+        # The counter's cells begin in the middle of the screen, and are a ninth of it wide.
+        edges = {self.screen[0] * cell // counter.CELLS - 100 for cell in range(counter.CELLS)}
+        seen = set()
+        for frame in self.frames():
+            self.assertEqual((frame.width, frame.height), (300, 200))
+            self.assertEqual(frame.pixel(20, 59), (0x20, 0x20, 0x20))
+            self.assertIn(frame.pixel(20, 60), counter.COLOURS)
+            seen |= {x for x in range(1, 300) if frame.pixel(x, 150) != frame.pixel(x - 1, 150)}
+        self.assertTrue(seen)
+        self.assertLessEqual(seen, edges)
 
     def test_what_the_desktop_ends_is_kept(self):
         program = self.start_program()
