@@ -1085,8 +1085,8 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Einmal</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Repeat takes a number from 0 to %1.</source>
-        <translation>Die Wiederholung verlangt eine Zahl von 0 bis %1.</translation>
+        <source>Enter a number from 0 to %1 for Repeat.</source>
+        <translation>Geben Sie bei „Wiederholung“ eine Zahl von 0 bis %1 ein.</translation>
     </message>
     <message id="IDD_HOLD">
         <source>Hold last frame</source>

@@ -1085,8 +1085,8 @@ It is still at %3.</translation>
         <translation>Once</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Repeat takes a number from 0 to %1.</source>
-        <translation>Repeat takes a number from 0 to %1.</translation>
+        <source>Enter a number from 0 to %1 for Repeat.</source>
+        <translation>Enter a number from 0 to %1 for Repeat.</translation>
     </message>
     <message id="IDD_HOLD">
         <source>Hold last frame</source>

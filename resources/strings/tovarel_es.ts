@@ -329,7 +329,7 @@
     </message>
     <message id="IDD_REGION_OF_WINDOW">
         <source>A window is recorded as a whole. Choose a monitor to record a region of it.</source>
-        <translation>Una ventana se graba completa. Elija un monitor para grabar una zona.</translation>
+        <translation>Una ventana se graba completa. Elija un monitor para grabar una zona de él.</translation>
     </message>
     <message id="IDD_STATE_RECORDING">
         <source>Recording</source>
@@ -1085,8 +1085,8 @@ Sigue en %3.</translation>
         <translation>Una vez</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Repeat takes a number from 0 to %1.</source>
-        <translation>La repetición requiere un número del 0 al %1.</translation>
+        <source>Enter a number from 0 to %1 for Repeat.</source>
+        <translation>Escriba en «Repetición» un número del 0 al %1.</translation>
     </message>
     <message id="IDD_HOLD">
         <source>Hold last frame</source>

@@ -1085,8 +1085,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>Une fois</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Repeat takes a number from 0 to %1.</source>
-        <translation>La répétition attend un nombre de 0 à %1.</translation>
+        <source>Enter a number from 0 to %1 for Repeat.</source>
+        <translation>Saisissez pour «&#xa0;Répétition&#xa0;» un nombre de 0 à %1.</translation>
     </message>
     <message id="IDD_HOLD">
         <source>Hold last frame</source>

@@ -1078,8 +1078,8 @@ It is still at %3.</source>
         <translation>1&#xa0;回</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Repeat takes a number from 0 to %1.</source>
-        <translation>繰り返しには&#xa0;0～%1&#xa0;の数を指定してください。</translation>
+        <source>Enter a number from 0 to %1 for Repeat.</source>
+        <translation>「繰り返し」には 0～%1 の数を指定してください。</translation>
     </message>
     <message id="IDD_HOLD">
         <source>Hold last frame</source>

@@ -1085,8 +1085,8 @@ Ele continua em %3.</translation>
         <translation>Uma vez</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Repeat takes a number from 0 to %1.</source>
-        <translation>A repetição requer um número de 0 a %1.</translation>
+        <source>Enter a number from 0 to %1 for Repeat.</source>
+        <translation>Digite em “Repetição” um número de 0 a %1.</translation>
     </message>
     <message id="IDD_HOLD">
         <source>Hold last frame</source>

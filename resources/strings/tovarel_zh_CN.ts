@@ -1078,8 +1078,8 @@ It is still at %3.</source>
         <translation>一次</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Repeat takes a number from 0 to %1.</source>
-        <translation>循环次数须为&#xa0;0&#xa0;到&#xa0;%1&#xa0;之间的数字。</translation>
+        <source>Enter a number from 0 to %1 for Repeat.</source>
+        <translation>“循环”须为 0 到 %1 之间的数字。</translation>
     </message>
     <message id="IDD_HOLD">
         <source>Hold last frame</source>
