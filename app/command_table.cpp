@@ -56,7 +56,7 @@ std::vector<Command> recordCommands(AppDelegate &controller) {
          .icon = "region",
          .shortcut = "Ctrl+Shift+R",
          .action = [&controller] { controller.OnMenuActionRecordRegion(); },
-         .enabled = stopped,
+         .enabled = choosing,
          .opensDialog = true},
         {.button = ui.btnChooseSource,
          .text = qtTrId("IDD_CHOOSE_SOURCE"),
