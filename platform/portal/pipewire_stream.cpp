@@ -57,7 +57,7 @@ bool hasPixels(const spa_buffer &buffer) {
     const spa_chunk &chunk = *buffer.datas[0].chunk;
     const auto *header = static_cast<const spa_meta_header *>(
         spa_buffer_find_meta_data(&buffer, SPA_META_Header, sizeof(spa_meta_header)));
-    const bool corrupted = (chunk.flags & SPA_CHUNK_FLAG_CORRUPTED) ||
+    const bool corrupted = (static_cast<std::uint32_t>(chunk.flags) & SPA_CHUNK_FLAG_CORRUPTED) ||
                            (header && (header->flags & SPA_META_HEADER_FLAG_CORRUPTED));
     return chunk.size > 0 && !corrupted;
 }
