@@ -221,7 +221,7 @@ TEST_F(WithoutAScreen, theReasonStandsInThePreviewsPlaceAndRecordIsOff) {
 
 TEST_F(Recording, theCaptureTimerRunsAtTheRateChosenInTheDialogAndOnlyAfterOK) {
     delegate->recorder.restartCaptureTimer();
-    EXPECT_EQ(delegate->recording.timerVideoRefresh->interval(), 0.20000000298023224);
+    EXPECT_EQ(delegate->recording.timerVideoRefresh->interval(), 0.06666667014360428);
     const RepeatingTimer *timer = delegate->recording.timerVideoRefresh.get();
     const auto during = [this](auto action) {
         QTimer::singleShot(0, delegate.get(), [action] {
@@ -231,7 +231,7 @@ TEST_F(Recording, theCaptureTimerRunsAtTheRateChosenInTheDialogAndOnlyAfterOK) {
     };
     during([](Window_FPS &dialog) {
         EXPECT_EQ(dialog.comboScreenFPS()->count(), 60);
-        EXPECT_EQ(dialog.comboScreenFPS()->currentText(), QStringLiteral("5"));
+        EXPECT_EQ(dialog.comboScreenFPS()->currentText(), QStringLiteral("15"));
         EXPECT_FALSE(dialog.comboScreenFPS()->isEditable());
         dialog.comboScreenFPS()->setCurrentIndex(59);
         dialog.OnCancel(nullptr);

@@ -71,6 +71,7 @@ class Session:
         self.runtime.mkdir(mode=0o700)
         if self.quality:
             self.remember_quality(self.quality)
+            self.remember("Rate", 5)  # most tests want few frames
         self.remember("ShowPointer", int(self.pointer))
         self.environment = {
             "HOME": str(self.home),
