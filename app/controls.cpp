@@ -73,9 +73,9 @@ void Controls::setUp() {
         controller_.shell.tabviewMain()->addTab(label);
     // Chosen last: a letter depends on the texts around it.
     const QString taken = mnemonics::mark(*ui_.menubar, *ui_.tabBar, *ui_.tabStack,
-                                          {ui_.btnSaveResult, ui_.btnLastFile, ui_.btnSaveAgain});
+                                          {ui_.btnSaveResult, ui_.btnSaveAgain});
     for (const QWidget *page : {ui_.pageRecord, ui_.pageCut, ui_.pageGIF})
-        mnemonics::mark(*page, taken, {ui_.fileButtons, ui_.otherFormats});
+        mnemonics::mark(*page, taken, {ui_.fileButtons, ui_.btnGIFExport, ui_.otherFormats});
 }
 
 void Controls::makeMenus() {

@@ -200,8 +200,9 @@ void mark(const QWidget &page, const QString &taken,
           std::initializer_list<const QWidget *> without) {
     Group controls;
     for (QWidget *each : page.findChildren<QWidget *>()) {
-        if (std::ranges::any_of(without,
-                                [each](const QWidget *part) { return part->isAncestorOf(each); }))
+        if (std::ranges::any_of(without, [each](const QWidget *part) {
+                return part == each || part->isAncestorOf(each);
+            }))
             continue;
         if (auto *button = qobject_cast<QAbstractButton *>(each);
             button && !button->text().isEmpty())

@@ -37,8 +37,8 @@ QString mark(const QMenuBar &bar, QTabBar &tabs, const QStackedWidget &pages,
              std::initializer_list<QAbstractButton *> beneath);
 
 /// Marks the controls of a page or a dialog: buttons that show a text, and labels that have a
-/// buddy. Those within `without` get none: a page has more of them than there are letters, and
-/// these are in a menu as well.
+/// buddy. Those that are or lie within one of `without` get none: a page has more of them than
+/// there are letters, and these are in a menu as well.
 void mark(const QWidget &page, const QString &taken = {},
           std::initializer_list<const QWidget *> without = {});
 

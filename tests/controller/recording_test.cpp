@@ -180,8 +180,8 @@ TEST_F(Recording, withoutAFrameSaysSoAndStays) {
     EXPECT_EQ(delegate->shell.tabviewMain()->selectedIndex(), 0);
     EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_NOTHING_RECORDED"));
     EXPECT_EQ(enabled(), "111001");
-    EXPECT_EQ(delegate->recording.u_FPS(), 5u);
-    EXPECT_EQ(delegate->recording.u_Record_Current_FPS(), 5u);
+    EXPECT_EQ(delegate->recording.u_FPS(), defaultFramesPerSecond);
+    EXPECT_EQ(delegate->recording.u_Record_Current_FPS(), defaultFramesPerSecond);
 }
 
 TEST_F(Recording, savesTheVeryFramesAgainWhenSomethingStoodInTheWay) {
@@ -240,7 +240,7 @@ TEST_F(Recording, theCaptureTimerRunsAtTheRateChosenInTheDialogAndOnlyAfterOK) {
         dialog.comboScreenFPS()->setCurrentIndex(59);
         dialog.close();
     });
-    EXPECT_EQ(delegate->recording.u_FPS(), 5u);
+    EXPECT_EQ(delegate->recording.u_FPS(), defaultFramesPerSecond);
     EXPECT_EQ(delegate->recording.timerVideoRefresh.get(), timer);
     during([](Window_FPS &dialog) {
         dialog.comboScreenFPS()->setCurrentIndex(59);
