@@ -47,10 +47,8 @@ public:
     static QString handlePath(const QDBusConnection &bus, const QString &kind,
                               const QString &token);
 
-private Q_SLOTS:
-    void responded(uint code, const QVariantMap &results);
-
 private:
+    Q_SLOT void responded(uint code, const QVariantMap &results);
     void listen(const QString &path);
     void finish(const Answer &answer);
 

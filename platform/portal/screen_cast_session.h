@@ -44,10 +44,8 @@ Q_SIGNALS:
     /// The desktop has ended it.
     void closed();
 
-private Q_SLOTS:
-    void sessionClosed();
-
 private:
+    Q_SLOT void sessionClosed();
     void ask(const QString &method, const QVariantList &arguments, const QVariantMap &options,
              void (ScreenCastSession::*next)(const QVariantMap &results));
     void created(const QVariantMap &results);
