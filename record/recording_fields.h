@@ -24,7 +24,7 @@ enum RecordStatus : std::uint64_t {
     RECORD_STATUS_PAUSE = 2,
 };
 
-/// The capture rate of the first start, in frames per second; later ones begin with the last choice.
+/// The first start's capture rate, in frames per second; later ones begin with the last choice.
 inline constexpr std::uint64_t defaultFramesPerSecond = 15;
 
 /// State of the recording and its frame store. `record/` owns the behaviour.
