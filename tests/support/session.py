@@ -71,7 +71,6 @@ class Session:
         self.runtime.mkdir(mode=0o700)
         if self.quality:
             self.remember_quality(self.quality)
-            self.remember("Rate", 5)  # most tests want few frames
         self.remember("ShowPointer", int(self.pointer))
         self.environment = {
             "HOME": str(self.home),
@@ -121,6 +120,8 @@ class Session:
             kept = ("[", "MAC", "GIFQuality", "LastSaveFolder", "Show")
             lines = [line for line in settings.read_text().splitlines() if line.startswith(kept)]
             settings.write_text("\n".join(lines) + "\n")
+        if self.quality:
+            self.remember("Rate", 5)  # most tests want few frames
 
     def start_display(self, name):
         """Starts a display: its name in DISPLAY. The server looks for a free number itself."""
