@@ -245,10 +245,22 @@ void XClient::redraw(xcb_window_t window) {
     for (const auto child : std::span(xcb_query_tree_children(tree.get()), tree->children_len)) {
         const auto size =
             connection_->reply<xcb_get_geometry_reply>(xcb_get_geometry(get(), child));
+        if (size && window == root())
+            redrawWithChildren(child, {size->width, size->height});
         if (size)
             copy(child, child, {size->width, size->height});
         redraw(child);
     }
+}
+
+// The borders of windows within are nobody's to draw but the server's, which does not say so.
+void XClient::redrawWithChildren(xcb_window_t window, const QSize &size) {
+    const auto context = contextFor(window);
+    const std::uint32_t mode = XCB_SUBWINDOW_MODE_INCLUDE_INFERIORS;
+    xcb_change_gc(get(), context, XCB_GC_SUBWINDOW_MODE, &mode);
+    xcb_copy_area(get(), window, window, context, 0, 0, 0, 0, extent(size.width()),
+                  extent(size.height()));
+    xcb_free_gc(get(), context);
 }
 
 void XClient::actAsCompositingManager(bool active) {

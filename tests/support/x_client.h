@@ -92,6 +92,7 @@ public:
 private:
     xcb_visualid_t alphaVisual() const;
     void redraw(xcb_window_t window);
+    void redrawWithChildren(xcb_window_t window, const QSize &size);
 
     std::unique_ptr<x11::Connection> connection_;
     xcb_colormap_t alphaColors_ = 0;

@@ -51,8 +51,9 @@ TEST(FrameRuns, areWhatASetOfFramesWouldBe) {
             const auto next = frames.lower_bound(first);
             ASSERT_EQ(runs.nextFrom(first),
                       next == frames.end() ? std::nullopt : std::optional(*next));
-            ASSERT_EQ(runs.at(step), *std::next(frames.begin(), std::min<std::ptrdiff_t>(
-                                                                    step, std::ssize(frames) - 1)));
+            const auto last = std::ssize(frames) - 1;
+            ASSERT_EQ(runs.at(static_cast<std::uint64_t>(step)),
+                      *std::next(frames.begin(), std::min<std::ptrdiff_t>(step, last)));
         }
     }
 }
