@@ -187,8 +187,8 @@ def played(build):
         program.recording_for(LENGTH)
         program.press("Stop")
         program.await_tab("Cut", patience=240)
-        rate = int(next(re.search(r"second: (\d+)", text).group(1)
-                        for text in program.labels() if "second: " in text))
+        rate = next(float(found[1]) for text in program.labels()
+                    if (found := re.search(r"Frames: [\d,]+ · ([\d.]+)", text)))
         numbers = [counter.read(counter.decode(path)[0], *inside)
                    for path in sorted(session.frames.glob("frame*.png"))]
         for number in session.processes("counter_window"):
