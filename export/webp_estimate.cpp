@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "export/webp_estimate.h"
 
+#include "export/fit_search.h"
 #include "export/gif_plan.h"
 #include "export/tool_process.h"
+#include "export/webp_sample.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,9 +16,7 @@ using encoder_arguments::WebPFrame;
 
 namespace {
 
-constexpr std::size_t sampled = 6;    // frames in a row
-constexpr int pollEvery = 50;         // milliseconds
-constexpr double powerOfPixels = 0.8; // by which the size follows them, measured on interfaces
+constexpr int pollEvery = 50; // milliseconds
 
 /// Bytes of these frames as a WebP; 0 where there is none.
 std::uint64_t bytesOf(const WebPPlan &plan, std::span<const WebPFrame> frames,
@@ -42,8 +42,8 @@ std::uint64_t forecast(const WebPPlan &plan, const WebPCoding &coding,
     const std::uint64_t first = bytesOf(plan, frames.first(1), coding, stop);
     forecast.add(1, first);
     if (const auto weightiest = forecast.weightiestFrame(); first > 0 && weightiest) {
-        const std::size_t from = *weightiest - std::min(*weightiest, sampled / 2);
-        const auto sample = frames.subspan(from, std::min(sampled, frames.size() - from));
+        const std::size_t from = *weightiest - std::min(*weightiest, webpSampled / 2);
+        const auto sample = frames.subspan(from, std::min(webpSampled, frames.size() - from));
         const std::uint64_t whole = bytesOf(plan, sample, coding, stop);
         const std::uint64_t alone =
             from == 0 ? first : bytesOf(plan, sample.first(1), coding, stop);
@@ -63,5 +63,5 @@ std::optional<std::uint64_t> estimateWebP(const WebPPlan &plan, const std::stop_
             std::min(bytes, forecast(plan, {.lossy = true, .quality = *plan.lossyQuality}, stop));
     if (bytes == 0 || stop.stop_requested())
         return std::nullopt;
-    return std::llround(static_cast<double>(bytes) * std::pow(plan.pixels, powerOfPixels));
+    return std::llround(static_cast<double>(bytes) * std::pow(plan.pixels, FitLaw().powerOfPixels));
 }

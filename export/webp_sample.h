@@ -6,10 +6,12 @@
 #include <cstddef>
 #include <span>
 
+/// Pictures that show how a coding deals with them.
+inline constexpr std::size_t webpSampled = 6;
+
 /// A few of the pictures, in a row, so that what changes between them counts as it will: enough to
 /// see how a coding deals with them.
 template <typename Picture> std::span<Picture> webpSample(std::span<Picture> pictures) {
-    constexpr std::size_t most = 6;
-    const std::size_t count = std::min(pictures.size(), most);
+    const std::size_t count = std::min(pictures.size(), webpSampled);
     return pictures.subspan((pictures.size() - count) / 2, count);
 }
