@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QPixmap>
+#include <QWindow>
 
 class RecordPreview : public ControllerFixture {
 protected:
@@ -205,7 +206,10 @@ TEST_F(RecordPreview, showsClicksAndKeysWhileTheyAreSwitchedOnAndNotThoseForUs) 
         undo.modifiers = Qt::ControlModifier;
         server->keys.push_back({std::chrono::steady_clock::now(), undo});
     };
-    QApplication::setActiveWindow(nullptr);
+    QWindow another; // of another program, for all that our windows know
+    another.show();
+    another.requestActivate();
+    settle();
     press();
     EXPECT_NE(shown().copy(200, 340, 200, 60), plain.copy(200, 340, 200, 60));
     delegate->OnRecordRecord(nullptr);
