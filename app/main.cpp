@@ -132,7 +132,7 @@ command_line::Command readCommandLine(int argc, char **argv) {
 }
 
 int recordWithoutWindow(const command_line::Recording &wanted) {
-    ScriptedRecording recording(wanted, makeWindowServer());
+    ScriptedRecording recording(wanted, makeScreenSource());
     const TerminationNotice notice([&recording] { recording.interrupt(); });
     return recording.run();
 }

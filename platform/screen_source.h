@@ -73,6 +73,8 @@ public:
         QString restoreToken = {};
         /// Pictures show the mouse pointer, where the source draws it and `watchPointer` is null.
         bool pointer = false;
+        /// No window can be chosen, whatever `restoreToken` names. For a source that asks.
+        bool onlyMonitors = false;
     };
 
     virtual ScreenSourceCapabilities capabilities() const = 0;

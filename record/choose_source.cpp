@@ -49,6 +49,8 @@ bool Recorder::isSourceOpen() const {
 
 void Recorder::OnChooseSource() { openSource(settings::readRestoreToken()); }
 
+void Recorder::chooseMonitor() { openSource(settings::readRestoreToken(), true); }
+
 void Recorder::OnChooseAnotherSource() {
     // A region is one of what was chosen before.
     chooser_.OnRecordFullScreen();
@@ -84,13 +86,14 @@ void Recorder::takeStill() {
     updateCaptureMode();
 }
 
-void Recorder::openSource(const QString &restoreToken) {
+void Recorder::openSource(const QString &restoreToken, bool onlyMonitors) {
     if (recording.m_RecordStatus() != RECORD_STATUS_STOP || source().obstacle())
         return;
     forgetPicture();
     source().start({.rate = recording.u_FPS(),
                     .restoreToken = restoreToken,
-                    .pointer = hands.isPointerShown()});
+                    .pointer = hands.isPointerShown(),
+                    .onlyMonitors = onlyMonitors});
 }
 
 void Recorder::closeSource() {
@@ -156,7 +159,8 @@ void Recorder::beginOnceAway(bool goesOn) {
         !isSourceOpen())
         return;
     const ScreenSourceCapabilities capabilities = source().capabilities();
-    const bool isSeen = capabilities.asksUser && !capabilities.leavesOwnOut;
+    const bool isSeen =
+        surroundings_.shell.window() && capabilities.asksUser && !capabilities.leavesOwnOut;
     if (!isSeen || !steppingAside_.mustGo([this, goesOn] { beginOnceAway(goesOn); }))
         begin(goesOn);
 }

@@ -72,6 +72,8 @@ public:
     /// Lets the user choose, or takes what was chosen last where the desktop still knows it. Does
     /// nothing during a recording.
     void OnChooseSource();
+    /// The same of monitors alone.
+    void chooseMonitor();
     /// Lets the user choose again.
     void OnChooseAnotherSource();
     /// Whether a region is chosen on a still picture of what the source shows.
@@ -207,7 +209,7 @@ private:
     void secondPassed();
     void countdownEnded(const QString &status);
     void grabPlaceChanged();
-    void openSource(const QString &restoreToken);
+    void openSource(const QString &restoreToken, bool onlyMonitors = false);
     void takeStill();
     void followSource();
     void forgetPicture();

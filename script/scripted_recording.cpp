@@ -5,7 +5,8 @@
 #include "export/preset_name.h"
 #include "export/safe_move.h"
 #include "platform/bundle.h"
-#include "platform/window_server_source.h"
+#include "platform/screen_source.h"
+#include "record/source_text.h"
 #include "shell/obstacle_text.h"
 #include "shell/working_folders.h"
 
@@ -28,11 +29,12 @@ using command_line::Status;
 namespace {
 
 constexpr std::chrono::milliseconds refreshing{200}; // of the line of progress
-constexpr qint64 patience = 5000;                    // milliseconds, for the first grab
+constexpr qint64 patience = 10000;                   // milliseconds, for the first grab
 
 /// What another window of this program covers is known once it was drawn again: grabs go on from
-/// the first one, as they do in the window before Record is pressed.
-constexpr std::chrono::milliseconds settling{500};
+/// the first one, as they do in the window before Record is pressed. A dialog of the desktop's
+/// takes as long to fade away.
+constexpr std::chrono::milliseconds settling{600};
 
 std::chrono::milliseconds milliseconds(double seconds) {
     return std::chrono::milliseconds(std::lround(seconds * 1000));
@@ -51,9 +53,8 @@ QRect pixelsOf(const QScreen &screen) {
 } // namespace
 
 ScriptedRecording::ScriptedRecording(command_line::Recording wanted,
-                                     std::unique_ptr<WindowServer> server)
-    : wanted_(std::move(wanted)),
-      recorder_(surroundings_, chooser_, std::make_unique<WindowServerSource>(std::move(server))) {
+                                     std::unique_ptr<ScreenSource> source)
+    : wanted_(std::move(wanted)), recorder_(surroundings_, chooser_, std::move(source)) {
     clock_.setSingleShot(true);
     clock_.setTimerType(Qt::PreciseTimer);
     listen();
@@ -81,6 +82,7 @@ void ScriptedRecording::listen() {
         if (recorder_.recording.m_RecordStatus() == RECORD_STATUS_PAUSE)
             QMetaObject::invokeMethod(this, &ScriptedRecording::finish, Qt::QueuedConnection);
     });
+    connect(&recorder_, &Recorder::sourceChanged, this, &ScriptedRecording::followSource);
     connect(&recorder_, &Recorder::recordingReady, this, &ScriptedRecording::makeFile,
             Qt::QueuedConnection);
     connect(&display_, &QTimer::timeout, this, &ScriptedRecording::follow);
@@ -89,6 +91,11 @@ void ScriptedRecording::listen() {
 Status ScriptedRecording::run() {
     if (const auto obstacle = recorder_.source().obstacle()) {
         terminal_.say(obstacleText(obstacle));
+        return Status::cannotRecord;
+    }
+    const bool asks = recorder_.source().capabilities().asksUser;
+    if (asks && (wanted_.window || wanted_.monitor)) {
+        terminal_.say(qtTrId("IDD_CLI_DESKTOP_CHOOSES"));
         return Status::cannotRecord;
     }
     ShellFields &shell = surroundings_.shell;
@@ -111,6 +118,8 @@ Status ScriptedRecording::run() {
     recorder_.recording.setU_FPS(wanted_.rate);
     connect(&recorder_, &Recorder::ticked, this, &ScriptedRecording::aimOnce);
     waited_.start();
+    if (asks)
+        recorder_.chooseMonitor();
     recorder_.restartCaptureTimer();
     display_.start(refreshing);
     while (!status_)
@@ -129,12 +138,33 @@ void ScriptedRecording::fail(Status status, const QString &text) {
     end(status);
 }
 
+void ScriptedRecording::followSource() {
+    const SourceState state = recorder_.source().state();
+    if (stopped_ || (state != SourceState::Ended && state != SourceState::Refused))
+        return;
+    const QString words = sourceStateText(recorder_.source());
+    if (recorder_.recordingCounts().storedFrames == 0) {
+        fail(Status::cannotRecord, words);
+        return;
+    }
+    // The recorder has stopped; what there is must be enough.
+    terminal_.say(words);
+    stopped_ = true;
+    clock_.stop();
+    recorder_.stopRecordTimers();
+}
+
 void ScriptedRecording::aimOnce() {
     if (aimed_ || status_)
         return;
-    const QSize desktop = recorder_.capture.imgScreenCapture().size();
+    const Image &halved = recorder_.capture.imgScreenCapture();
+    const Image &whole = recorder_.capture.grabBeforeHalving();
+    const QSize desktop = whole.isEmpty() ? halved.size() : whole.size();
     if (desktop.isEmpty()) {
-        if (waited_.hasExpired(patience))
+        // Nobody is hurried who reads a dialog.
+        if (recorder_.source().state() == SourceState::Asking)
+            waited_.start();
+        else if (waited_.hasExpired(patience))
             fail(Status::cannotRecord, qtTrId("IDD_CLI_NO_PICTURE"));
         return;
     }
@@ -159,8 +189,11 @@ std::optional<QString> ScriptedRecording::aim(QSize desktop) {
             return qtTrId("IDD_CLI_NO_SCREEN").arg(*wanted_.monitor).arg(screens.size());
         return aimAt(pixelsOf(*screens[*wanted_.monitor - 1]), desktop);
     }
-    if (!wanted_.window)
-        return std::nullopt;
+    if (!wanted_.window) {
+        // Pixels are recorded as they are, also where the window records half as many.
+        const bool isHalved = !recorder_.capture.grabBeforeHalving().isEmpty();
+        return isHalved ? aimAt(QRect(QPoint(), desktop), desktop) : std::nullopt;
+    }
     // Front to back; a title that is meant as a whole goes first.
     const TitledWindow *found = nullptr;
     const std::vector<TitledWindow> windows = recorder_.source().titledWindows();
@@ -204,7 +237,9 @@ void ScriptedRecording::follow() {
         terminal_.progress(qtTrId("IDD_CLI_RECORDING")
                                .arg(tenths(counts.passedSeconds), tenths(wanted_.seconds),
                                     QLocale().toString(qulonglong{counts.storedFrames})));
-    } else if (aimed_ && !making_ && clock_.isActive()) {
+    } else if (!aimed_) {
+        terminal_.progress(sourceStateText(recorder_.source()));
+    } else if (!making_ && clock_.isActive()) {
         const double left = static_cast<double>(clock_.remainingTime()) / 1000;
         terminal_.progress(qtTrId("IDD_CLI_STARTS").arg(tenths(left)));
     }
@@ -225,6 +260,8 @@ void ScriptedRecording::finish() {
     clock_.stop();
     recorder_.stopRecordTimers();
     recorder_.OnRecordStop();
+    // The desktop shows no longer that the screen is shared.
+    recorder_.closeSource();
 }
 
 void ScriptedRecording::makeFile() {

@@ -19,7 +19,7 @@
 #include <memory>
 #include <optional>
 
-class WindowServer;
+class ScreenSource;
 
 /// One recording without a window, from the first grab to the finished file: the desks at work in
 /// folders of their own, so that it can be made beside a running window. What there is to say goes
@@ -28,7 +28,7 @@ class ScriptedRecording : public QObject {
     Q_OBJECT
 
 public:
-    ScriptedRecording(command_line::Recording wanted, std::unique_ptr<WindowServer> server);
+    ScriptedRecording(command_line::Recording wanted, std::unique_ptr<ScreenSource> source);
 
     /// Makes it, while events are processed; what the program ends with.
     command_line::Status run();
@@ -42,9 +42,12 @@ private:
     void end(command_line::Status status);
     /// Says why there is none.
     void fail(command_line::Status status, const QString &text);
+    /// What the desktop's dialog came to, or its end of sharing.
+    void followSource();
     /// The first grab tells how large the desktop is.
     void aimOnce();
-    /// The wanted part of the desktop, whose size this is, in pixels; or why there is none.
+    /// The wanted part of the desktop, or of the monitor that was chosen, whose size this is, in
+    /// pixels; or why there is none.
     std::optional<QString> aim(QSize desktop);
     std::optional<QString> aimAt(const QRect &part, QSize desktop);
     void begin();

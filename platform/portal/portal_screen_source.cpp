@@ -8,6 +8,8 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
+#include <unistd.h>
+
 PortalScreenSource::PortalScreenSource(const QDBusConnection &bus) : bus_(bus) {
     if (bus_.isConnected())
         learnWhatIsOffered();
@@ -80,11 +82,19 @@ void PortalScreenSource::begin() {
     connect(session_, &ScreenCastSession::closed, this, [this] { end(SourceState::Ended); });
     connect(session_, &ScreenCastSession::failed, this,
             [this](const QString &words) { end(SourceState::Ended, words); });
-    session_->start(how_.restoreToken, how_.pointer);
+    session_->start(how_);
 }
 
 void PortalScreenSource::openStream(int descriptor, quint32 node) {
     restoreToken_ = session_->restoreToken();
+    const bool isWindow = session_->chosen().kind == ChosenSource::Kind::Window;
+    if (isWindow && how_.onlyMonitors && !how_.restoreToken.isEmpty()) {
+        // It was chosen an earlier time, when windows were offered.
+        close(descriptor);
+        letGo();
+        how_.restoreToken.clear();
+        return begin();
+    }
     stream_ = new PipeWireStream(descriptor, node, how_.rate);
     connect(stream_, &PipeWireStream::began, this, [this] { setState(SourceState::Live); });
     connect(stream_, &PipeWireStream::ended, this,

@@ -98,9 +98,8 @@ ScreenCastSession::~ScreenCastSession() {
                                                  sessionInterface, QStringLiteral("Close")));
 }
 
-void ScreenCastSession::start(const QString &restoreToken, bool pointer) {
-    restoreToken_ = restoreToken;
-    pointer_ = pointer;
+void ScreenCastSession::start(const ScreenSource::Start &how) {
+    how_ = how;
     const QString token = PortalRequest::newToken();
     // Known before it exists, so that nothing that happens to it is missed.
     session_ = PortalRequest::handlePath(bus_, QStringLiteral("session"), token);
@@ -139,16 +138,17 @@ void ScreenCastSession::created(const QVariantMap &) {
 
 QVariantMap ScreenCastSession::sourceOptions() const {
     // A type that is not offered, or such a cursor mode, ends the session.
-    const uint types = (monitorType | windowType) & offer_.types;
+    const uint wanted = how_.onlyMonitors ? monitorType : monitorType | windowType;
+    const uint types = wanted & offer_.types;
     QVariantMap options{{QStringLiteral("types"), types ? types : monitorType},
                         {QStringLiteral("multiple"), false}};
-    const uint cursor = pointer_ ? embeddedCursor : hiddenCursor;
+    const uint cursor = how_.pointer ? embeddedCursor : hiddenCursor;
     if (offer_.version >= versionWithCursor && (offer_.cursorModes & cursor))
         options[QStringLiteral("cursor_mode")] = cursor;
     if (offer_.version >= versionWithTokens) {
         options[QStringLiteral("persist_mode")] = untilRevoked;
-        if (!restoreToken_.isEmpty())
-            options[QStringLiteral("restore_token")] = restoreToken_;
+        if (!how_.restoreToken.isEmpty())
+            options[QStringLiteral("restore_token")] = how_.restoreToken;
     }
     return options;
 }

@@ -25,9 +25,9 @@ public:
     ScreenCastSession(const QDBusConnection &bus, const ScreenCastOffer &offer);
     ~ScreenCastSession() override;
 
-    /// To be called once. With `restoreToken` the desktop need not ask. With `pointer` the pictures
-    /// show the mouse pointer, where that is offered.
-    void start(const QString &restoreToken, bool pointer);
+    /// To be called once. The pointer is shown, and windows are left out of the dialog, where the
+    /// portal offers that.
+    void start(const ScreenSource::Start &how);
 
     /// What was chosen, once it started.
     const ChosenSource &chosen() const { return chosen_; }
@@ -56,7 +56,7 @@ private:
 
     QDBusConnection bus_;
     ScreenCastOffer offer_;
-    bool pointer_ = false;
+    ScreenSource::Start how_;
     QString session_; // its path
     QString restoreToken_;
     ChosenSource chosen_;

@@ -704,8 +704,8 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>W × H Pixel des Desktops aufnehmen, X nach rechts und Y nach unten von seiner linken oberen Ecke aus</translation>
     </message>
     <message id="IDD_CLI_SCREEN">
-        <source>Record monitor number N, counted from 1; without N all monitors</source>
-        <translation>Den Monitor mit der Nummer N aufnehmen, ab 1 gezählt; ohne N alle Monitore</translation>
+        <source>Record monitor number N, counted from 1; without N all monitors, or on Wayland the one that you choose</source>
+        <translation>Den Monitor mit der Nummer N aufnehmen, ab 1 gezählt; ohne N alle Monitore, unter Wayland den, den Sie wählen</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
         <source>Record the part of the screen where the window with TITLE in its title is</source>
@@ -802,6 +802,10 @@ Sie liegt weiterhin unter %3.</translation>
     <message id="IDD_CLI_NO_SCREEN">
         <source>There is no monitor number %1. Monitors: %2</source>
         <translation>Es gibt keinen Monitor mit der Nummer %1. Monitore: %2</translation>
+    </message>
+    <message id="IDD_CLI_DESKTOP_CHOOSES">
+        <source>Here the desktop’s own dialog decides which monitor is recorded: use --screen without a number, or --region.</source>
+        <translation>Hier bestimmt der Dialog der Arbeitsumgebung, welcher Monitor aufgenommen wird: Verwenden Sie --screen ohne Nummer oder --region.</translation>
     </message>
     <message id="IDD_CLI_NO_WINDOW">
         <source>No window on the screen has “%1” in its title.</source>

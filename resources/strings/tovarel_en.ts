@@ -704,8 +704,8 @@ It is still at %3.</translation>
         <translation>Record W × H pixels of the desktop, X to the right and Y down from its upper left corner</translation>
     </message>
     <message id="IDD_CLI_SCREEN">
-        <source>Record monitor number N, counted from 1; without N all monitors</source>
-        <translation>Record monitor number N, counted from 1; without N all monitors</translation>
+        <source>Record monitor number N, counted from 1; without N all monitors, or on Wayland the one that you choose</source>
+        <translation>Record monitor number N, counted from 1; without N all monitors, or on Wayland the one that you choose</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
         <source>Record the part of the screen where the window with TITLE in its title is</source>
@@ -802,6 +802,10 @@ It is still at %3.</translation>
     <message id="IDD_CLI_NO_SCREEN">
         <source>There is no monitor number %1. Monitors: %2</source>
         <translation>There is no monitor number %1. Monitors: %2</translation>
+    </message>
+    <message id="IDD_CLI_DESKTOP_CHOOSES">
+        <source>Here the desktop’s own dialog decides which monitor is recorded: use --screen without a number, or --region.</source>
+        <translation>Here the desktop’s own dialog decides which monitor is recorded: use --screen without a number, or --region.</translation>
     </message>
     <message id="IDD_CLI_NO_WINDOW">
         <source>No window on the screen has “%1” in its title.</source>

@@ -704,8 +704,8 @@ Sigue en %3.</translation>
         <translation>Grabar W × H píxeles del escritorio, a X hacia la derecha y a Y hacia abajo desde su esquina superior izquierda</translation>
     </message>
     <message id="IDD_CLI_SCREEN">
-        <source>Record monitor number N, counted from 1; without N all monitors</source>
-        <translation>Grabar el monitor número N, contando desde 1; sin N, todos los monitores</translation>
+        <source>Record monitor number N, counted from 1; without N all monitors, or on Wayland the one that you choose</source>
+        <translation>Grabar el monitor número N, contando desde 1; sin N, todos los monitores, o en Wayland el que usted elija</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
         <source>Record the part of the screen where the window with TITLE in its title is</source>
@@ -802,6 +802,10 @@ Sigue en %3.</translation>
     <message id="IDD_CLI_NO_SCREEN">
         <source>There is no monitor number %1. Monitors: %2</source>
         <translation>No hay ningún monitor número %1. Monitores: %2</translation>
+    </message>
+    <message id="IDD_CLI_DESKTOP_CHOOSES">
+        <source>Here the desktop’s own dialog decides which monitor is recorded: use --screen without a number, or --region.</source>
+        <translation>Aquí el cuadro de diálogo del escritorio decide qué monitor se graba: use --screen sin número, o --region.</translation>
     </message>
     <message id="IDD_CLI_NO_WINDOW">
         <source>No window on the screen has “%1” in its title.</source>

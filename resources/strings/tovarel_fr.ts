@@ -704,8 +704,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>Enregistrer W × H pixels du bureau, à X vers la droite et Y vers le bas de son coin supérieur gauche</translation>
     </message>
     <message id="IDD_CLI_SCREEN">
-        <source>Record monitor number N, counted from 1; without N all monitors</source>
-        <translation>Enregistrer le moniteur numéro N, à partir de 1&#x202f;; sans N, tous les moniteurs</translation>
+        <source>Record monitor number N, counted from 1; without N all monitors, or on Wayland the one that you choose</source>
+        <translation>Enregistrer le moniteur numéro N, à partir de 1&#x202f;; sans N, tous les moniteurs, ou sous Wayland celui que vous choisissez</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
         <source>Record the part of the screen where the window with TITLE in its title is</source>
@@ -802,6 +802,10 @@ Il reste à l’emplacement %3.</translation>
     <message id="IDD_CLI_NO_SCREEN">
         <source>There is no monitor number %1. Monitors: %2</source>
         <translation>Il n’y a pas de moniteur numéro %1. Moniteurs&#xa0;: %2</translation>
+    </message>
+    <message id="IDD_CLI_DESKTOP_CHOOSES">
+        <source>Here the desktop’s own dialog decides which monitor is recorded: use --screen without a number, or --region.</source>
+        <translation>Ici, c’est la boîte de dialogue du bureau qui détermine le moniteur à enregistrer&#xa0;: utilisez --screen sans numéro, ou --region.</translation>
     </message>
     <message id="IDD_CLI_NO_WINDOW">
         <source>No window on the screen has “%1” in its title.</source>

@@ -700,8 +700,8 @@ It is still at %3.</source>
         <translation>デスクトップの左上から右へ X、下へ Y の位置にある W × H ピクセルを録画</translation>
     </message>
     <message id="IDD_CLI_SCREEN">
-        <source>Record monitor number N, counted from 1; without N all monitors</source>
-        <translation>N 番目（1 から数える）のモニターを録画。N がなければすべてのモニター</translation>
+        <source>Record monitor number N, counted from 1; without N all monitors, or on Wayland the one that you choose</source>
+        <translation>N 番目（1 から数える）のモニターを録画。N がなければすべてのモニター、Wayland では選択したモニター</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
         <source>Record the part of the screen where the window with TITLE in its title is</source>
@@ -798,6 +798,10 @@ It is still at %3.</source>
     <message id="IDD_CLI_NO_SCREEN">
         <source>There is no monitor number %1. Monitors: %2</source>
         <translation>%1 番目のモニターはありません。モニター数: %2</translation>
+    </message>
+    <message id="IDD_CLI_DESKTOP_CHOOSES">
+        <source>Here the desktop’s own dialog decides which monitor is recorded: use --screen without a number, or --region.</source>
+        <translation>ここでは、録画するモニターをデスクトップのダイアログで選択します。番号なしの --screen か --region を使ってください。</translation>
     </message>
     <message id="IDD_CLI_NO_WINDOW">
         <source>No window on the screen has “%1” in its title.</source>

@@ -704,8 +704,8 @@ Ele continua em %3.</translation>
         <translation>Gravar W × H pixels da área de trabalho, a X para a direita e Y para baixo do canto superior esquerdo</translation>
     </message>
     <message id="IDD_CLI_SCREEN">
-        <source>Record monitor number N, counted from 1; without N all monitors</source>
-        <translation>Gravar o monitor número N, contando a partir de 1; sem N, todos os monitores</translation>
+        <source>Record monitor number N, counted from 1; without N all monitors, or on Wayland the one that you choose</source>
+        <translation>Gravar o monitor número N, contando a partir de 1; sem N, todos os monitores, ou no Wayland o que você escolher</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
         <source>Record the part of the screen where the window with TITLE in its title is</source>
@@ -802,6 +802,10 @@ Ele continua em %3.</translation>
     <message id="IDD_CLI_NO_SCREEN">
         <source>There is no monitor number %1. Monitors: %2</source>
         <translation>Não há monitor número %1. Monitores: %2</translation>
+    </message>
+    <message id="IDD_CLI_DESKTOP_CHOOSES">
+        <source>Here the desktop’s own dialog decides which monitor is recorded: use --screen without a number, or --region.</source>
+        <translation>Aqui, a caixa de diálogo do ambiente decide qual monitor é gravado: use --screen sem número, ou --region.</translation>
     </message>
     <message id="IDD_CLI_NO_WINDOW">
         <source>No window on the screen has “%1” in its title.</source>

@@ -700,8 +700,8 @@ It is still at %3.</source>
         <translation>录制桌面上 W × H 像素的区域，从左上角向右 X、向下 Y 处开始</translation>
     </message>
     <message id="IDD_CLI_SCREEN">
-        <source>Record monitor number N, counted from 1; without N all monitors</source>
-        <translation>录制第 N 个显示器（从 1 开始）；不带 N 时录制所有显示器</translation>
+        <source>Record monitor number N, counted from 1; without N all monitors, or on Wayland the one that you choose</source>
+        <translation>录制第 N 个显示器（从 1 开始）；不带 N 时录制所有显示器，在 Wayland 上录制您选择的那个</translation>
     </message>
     <message id="IDD_CLI_WINDOW">
         <source>Record the part of the screen where the window with TITLE in its title is</source>
@@ -798,6 +798,10 @@ It is still at %3.</source>
     <message id="IDD_CLI_NO_SCREEN">
         <source>There is no monitor number %1. Monitors: %2</source>
         <translation>没有第 %1 个显示器。显示器数量：%2</translation>
+    </message>
+    <message id="IDD_CLI_DESKTOP_CHOOSES">
+        <source>Here the desktop’s own dialog decides which monitor is recorded: use --screen without a number, or --region.</source>
+        <translation>此处由桌面的对话框决定录制哪个显示器：请使用不带编号的 --screen，或使用 --region。</translation>
     </message>
     <message id="IDD_CLI_NO_WINDOW">
         <source>No window on the screen has “%1” in its title.</source>

@@ -6,7 +6,7 @@ The real xdg-desktop-portal asks it as it asks a desktop. What it answers stands
 read anew for each question, as a JSON object:
 
     answer     "grant" (the usual one), "refuse", "hang" or "nonsense"
-    kind       "monitor" (the usual one) or "window"
+    kind       "monitor" (the usual one) or "window", if windows are asked for or it was chosen before
     connector  of the monitor; "Meta-0" is the first one
     size       the monitor's size in points as it is told, [width, height]
 
@@ -14,6 +14,7 @@ The streams are a headless mutter's. Each question is a line of the file REQUEST
 method and its options. SIGUSR1 ends all casts.
 """
 
+import contextlib
 import json
 import pathlib
 import signal
@@ -53,7 +54,9 @@ class CastSession(dbus.service.Object):
 
     def end(self):
         if self.cast:
-            self.cast.Stop()
+            # The window that it showed may have closed, and ended it.
+            with contextlib.suppress(dbus.DBusException):
+                self.cast.Stop()
         self.cast = None
         if list(self.locations):
             self.remove_from_connection()
@@ -122,7 +125,9 @@ class Backend(dbus.service.Object):
         session.cast = dbus.Interface(self.bus.get_object(MUTTER, path), MUTTER + ".Session")
         mode = CURSOR_MODES[int(session.options.get("cursor_mode", 1))]
         how = dbus.Dictionary({"cursor-mode": dbus.UInt32(mode)}, signature="sv")
-        window = script.get("kind") == "window"
+        offered = int(session.options.get("types", MONITOR)) & WINDOW
+        window = script.get("kind") == "window" and (
+            offered or "restore_data" in session.options)
         stream = (session.cast.RecordWindow(how) if window else
                   session.cast.RecordMonitor(script.get("connector", "Meta-0"), how))
         told = dbus.Dictionary(

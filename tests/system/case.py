@@ -3,10 +3,12 @@
 """What every test of the real program shares: a session for the whole file, no program left over
 from one test to the next, and no sanitizer's report overlooked."""
 
+import contextlib
 import os
 import re
 import shutil
 import signal
+import subprocess
 import unittest
 
 import counter
@@ -35,6 +37,31 @@ class Case(unittest.TestCase):
         for log in self.session.outputs.glob("tovarel-*.log"):
             said = log.read_text(encoding="utf-8", errors="replace")
             self.assertIsNone(REPORT.search(said), said)
+
+    # The command line -------------------------------------------------------------------------
+
+    @contextlib.contextmanager
+    def running(self, *arguments, environment=None, stderr=subprocess.PIPE):
+        """The program on its command line, begun."""
+        with subprocess.Popen(
+            [self.session.build / driver.BINARY, *map(str, arguments)], text=True,
+            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=stderr,
+            cwd=self.session.folder,
+            env={**self.session.environment, **(environment or {})}) as process:
+            try:
+                yield process
+            except BaseException:
+                process.kill()
+                raise
+
+    def run_it(self, *arguments, environment=None):
+        """What it ends with, what it says and what it complains of."""
+        with self.running(*arguments, environment=environment) as process:
+            said, complained = process.communicate(timeout=driver.PATIENCE)
+        self.assertIsNone(REPORT.search(complained), complained)
+        return process.returncode, said, complained
+
+    # The window -------------------------------------------------------------------------------
 
     def end_programs(self, wanted):
         for number in self.session.processes(driver.BINARY):

@@ -12,19 +12,6 @@ from driver import Program, wait_for
 
 
 class Script(case.Case):
-    def command(self, *arguments, environment=None):
-        return [self.session.build / driver.BINARY, *map(str, arguments)], {
-            "text": True, "stdin": subprocess.DEVNULL, "stdout": subprocess.PIPE,
-            "stderr": subprocess.PIPE, "cwd": self.session.folder,
-            "env": {**self.session.environment, **(environment or {})}}
-
-    def run_it(self, *arguments, environment=None):
-        command, options = self.command(*arguments, environment=environment)
-        with subprocess.Popen(command, **options) as process:
-            said, complained = process.communicate(timeout=driver.PATIENCE)
-        self.assertIsNone(case.REPORT.search(complained), complained)
-        return process.returncode, said, complained
-
     def tearDown(self):
         super().tearDown()
         self.assertEqual([], list(self.session.folder.glob("Tovarel-*")), "nothing is left behind")
@@ -71,9 +58,9 @@ class Script(case.Case):
 
     def test_an_interrupt_writes_what_there_is(self):
         place = self.session.counter()
-        command, options = self.command(
-            "record", "--window", "COUNTER", "--seconds", 600, "--rate", 20, "-o", "c.webp")
-        with subprocess.Popen(command, **options) as process:
+        with self.running(
+                "record", "--window", "COUNTER", "--seconds", 600, "--rate", 20,
+                "-o", "c.webp") as process:
             # Its folders are there once it records; how long that takes is not known.
             frames = wait_for("the recording", lambda: list(self.session.folder.glob("Tovarel-*")))
             self.assertEqual(len(frames), 1)

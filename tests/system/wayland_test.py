@@ -3,7 +3,9 @@
 """The real program in a real Wayland session: a compositor, PipeWire and the desktop's portal, whose
 dialog is answered as each test wants it."""
 
+import contextlib
 import os
+import pty
 import signal
 import sys
 import time
@@ -93,6 +95,16 @@ class Wayland(case.Case):
         self.assertNotIn(None, numbers)
         self.assertEqual(numbers, sorted(numbers))
         return numbers
+
+    def await_words(self, terminal, words):
+        said = ""
+
+        def has_them():
+            nonlocal said
+            with contextlib.suppress(BlockingIOError):
+                said += os.read(terminal, 4096).decode()
+            return words in said
+        wait_for(words, has_them)
 
     # Tests -----------------------------------------------------------------------------------
 
@@ -239,6 +251,66 @@ class Wayland(case.Case):
         last = frames[-1]
         self.assertIsNotNone(counter.read(last, 0, 50, 400, 200))
         self.assertEqual({last.pixel(200, 10), last.pixel(200, 290)}, {(0, 0, 0)})
+
+    def test_a_script_records_a_monitor_that_the_desktop_asks_for(self):
+        # As a monitor at the scale 2 is told, whose picture the window would halve. A window that
+        # was chosen the last time is none.
+        self.session.answer_with(kind="window", size=[640, 360])
+        self.show_counter()
+        program = self.start_program()
+        self.choose(program, "Window")
+        program.end()
+        target = self.session.folder / "script.gif"
+        asked = ("record", "--seconds", 1, "--rate", 10, "-o", target)
+        self.assertEqual(self.run_it(*asked, "--screen")[:2], (0, f"{target}\n"))
+        self.check_frames(counter.decode(str(target)), 5)
+        self.assertGreaterEqual(sum(counter.durations(str(target))), 0.95)
+        self.assertIn("restore_data", self.asked("SelectSources")[-2])
+        self.assertNotIn("restore_data", self.asked("SelectSources")[-1])
+
+        # What the script was granted is what the next one begins with. The desktop ends this one.
+        self.session.answer_with(size=[640, 360])
+        cut = (16, 360, 400, 300)
+        x, y, width, height = cut
+        terminal, its_end = pty.openpty()
+        os.set_blocking(terminal, False)
+        with self.running("record", "--region", f"{width}x{height}+{x}+{y}", "--seconds", 600,
+                          "--rate", 10, "-o", target, "--force", stderr=its_end) as process:
+            os.close(its_end)
+            self.await_words(terminal, "Frames: 10")
+            self.session.end_casts()
+            self.await_words(terminal, "stopped sharing")
+            said, _ = process.communicate(timeout=case.driver.PATIENCE)
+        os.close(terminal)
+        self.assertEqual((process.returncode, said), (0, f"{target}\n"))
+        self.assertIn("restore_data", self.asked("SelectSources")[-1])
+        edges = {self.screen[0] * cell // counter.CELLS - x for cell in range(counter.CELLS)}
+        for picture in counter.decode(str(target)):
+            self.assertEqual((picture.width, picture.height), (width, height))
+            seen = {at for at in range(1, width)
+                    if picture.pixel(at, 150) != picture.pixel(at - 1, 150)}
+            self.assertLessEqual(seen, edges)
+        self.assertEqual([], list(self.session.folder.glob("Tovarel-*")), "nothing is left behind")
+
+    def test_a_script_is_told_what_cannot_be_recorded(self):
+        whole = ("record", "--screen", "--seconds", 1, "-o", "none.gif")
+        for answer, arguments, words in (
+                ("refuse", whole, "Nothing was chosen"),
+                ("nonsense", whole, "no pictures"),
+                ("grant", ("record", "--region", "1280x720+1+0", "--seconds", 1), "1280 × 720"),
+                ("grant", ("record", "--screen", 1, "--seconds", 1), "dialog"),
+                ("grant", ("record", "--window", "counter", "--seconds", 1), "dialog")):
+            self.session.answer_with(answer=answer)
+            status, said, complained = self.run_it(*arguments)
+            self.assertEqual((status, said), (3, ""), arguments)
+            self.assertIn(words, complained)
+        # The question stands for as long as it takes; an interrupt ends it.
+        self.session.answer_with(answer="hang")
+        count = len(self.asked("Start"))
+        with self.running(*whole) as process:
+            wait_for("the question", lambda: len(self.asked("Start")) > count)
+            process.send_signal(signal.SIGINT)
+            self.assertEqual(process.wait(case.driver.PATIENCE), 130)
 
     def test_without_pipewire_the_reason_is_told(self):
         # Last of all, since it does not come back.
