@@ -132,10 +132,8 @@ void AppDelegate::OnMenuHelpSubmitTicket() { help::open("ticket.html"); }
 void AppDelegate::OnMenuAbout() { showAbout(surroundings); }
 
 void AppDelegate::listenToDesktopKeys() {
-    const ScreenSource &source = recorder.source();
-    // Where the desktop decides what is recorded, it also keeps the keys to itself.
-    if (!source.obstacle() && !source.capabilities().asksUser)
-        desktopKeys_ = std::make_unique<DesktopKeys>(*ui, surroundings, regionChooser);
+    if (!recorder.source().obstacle())
+        desktopKeys_ = std::make_unique<DesktopKeys>(*ui, surroundings, recorder);
     if (regionChooser.wasRegionMoved())
         surroundings.showStatus(qtTrId("IDD_REGION_MOVED"));
 }

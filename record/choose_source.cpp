@@ -47,6 +47,12 @@ bool Recorder::isSourceOpen() const {
            state == SourceState::Live;
 }
 
+bool Recorder::isAtRest() const {
+    return recording.m_RecordStatus() == RECORD_STATUS_STOP && !isCountingDown() &&
+           !recordsOnceOpen_ && !choosesRegionOnceLive_ && steppingAside_.isHere() &&
+           !surroundings_.alerts.isAsking();
+}
+
 void Recorder::OnChooseSource() { openSource(settings::readRestoreToken()); }
 
 void Recorder::chooseMonitor() { openSource(settings::readRestoreToken(), true); }

@@ -69,6 +69,8 @@ public:
 
     /// Whether pictures come, or will as soon as there are any. Always where no dialog decides.
     bool isSourceOpen() const;
+    /// Whether no recording runs, or is about to begin, nor anything of what comes before it.
+    bool isAtRest() const;
     /// Lets the user choose, or takes what was chosen last where the desktop still knows it. Does
     /// nothing during a recording.
     void OnChooseSource();

@@ -33,6 +33,7 @@ public:
     /// Shows the main window again if it has stepped aside.
     void comeBack();
 
+    bool isHere() const { return place_ == Place::Here; }
     bool isAway() const { return place_ == Place::Away; }
 
 Q_SIGNALS:

@@ -241,6 +241,10 @@
         <source>Shortcuts in any window, with %1: %2</source>
         <translation>In jedem Fenster, mit %1: %2</translation>
     </message>
+    <message id="IDD_KEYS_BOUND">
+        <source>Shortcuts in any window: %1</source>
+        <translation>In jedem Fenster: %1</translation>
+    </message>
     <message id="IDD_KEYS_TAKEN">
         <source>Used by another program, with %1: %2</source>
         <translation>Von einem anderen Programm belegt, mit %1: %2</translation>

@@ -240,6 +240,10 @@
         <source>Shortcuts in any window, with %1: %2</source>
         <translation>どのウィンドウでも（%1 と同時押し）: %2</translation>
     </message>
+    <message id="IDD_KEYS_BOUND">
+        <source>Shortcuts in any window: %1</source>
+        <translation>どのウィンドウでも: %1</translation>
+    </message>
     <message id="IDD_KEYS_TAKEN">
         <source>Used by another program, with %1: %2</source>
         <translation>他のプログラムが使用中（%1 と同時押し）: %2</translation>

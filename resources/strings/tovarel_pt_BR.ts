@@ -241,6 +241,10 @@
         <source>Shortcuts in any window, with %1: %2</source>
         <translation>De qualquer janela, com %1: %2</translation>
     </message>
+    <message id="IDD_KEYS_BOUND">
+        <source>Shortcuts in any window: %1</source>
+        <translation>De qualquer janela: %1</translation>
+    </message>
     <message id="IDD_KEYS_TAKEN">
         <source>Used by another program, with %1: %2</source>
         <translation>Em uso por outro programa, com %1: %2</translation>

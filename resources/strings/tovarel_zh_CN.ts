@@ -240,6 +240,10 @@
         <source>Shortcuts in any window, with %1: %2</source>
         <translation>任意窗口可用（与 %1 同时按）：%2</translation>
     </message>
+    <message id="IDD_KEYS_BOUND">
+        <source>Shortcuts in any window: %1</source>
+        <translation>任意窗口可用：%1</translation>
+    </message>
     <message id="IDD_KEYS_TAKEN">
         <source>Used by another program, with %1: %2</source>
         <translation>已被其他程序占用（与 %1 同时按）：%2</translation>

@@ -267,6 +267,11 @@ void checkStatusLine(const Ui::MainWindow &ui, Places &places) {
                   QStringLiteral("R %1 · P %2 · S %3")
                       .arg(qtTrId("IDD_RECORD"), qtTrId("IDD_PAUSE"), qtTrId("IDD_STOP"))),
          nullptr},
+        {RECORD_STATUS_STOP,
+         qtTrId("IDD_KEYS_BOUND")
+             .arg(QStringLiteral("Super+Ctrl+R %1 · F8 %2 · F9 %3")
+                      .arg(qtTrId("IDD_RECORD"), qtTrId("IDD_PAUSE"), qtTrId("IDD_STOP"))),
+         nullptr},
     };
     for (const auto &[state, text, button] : cases) {
         ui.recordingIndicator->setState(state);

@@ -9,9 +9,12 @@ read anew for each question, as a JSON object:
     kind       "monitor" (the usual one) or "window", if windows are asked for or it was chosen before
     connector  of the monitor; "Meta-0" is the first one
     size       the monitor's size in points as it is told, [width, height]
+    keys       what is granted of the keys that are asked for: an object of their names and what to
+               press for them; "answer" has no say in it
+    press      the name of a key, for SIGUSR2
 
 The streams are a headless mutter's. Each question is a line of the file REQUESTS: a JSON list of the
-method and its options. SIGUSR1 ends all casts.
+method and its options. SIGUSR1 ends all casts, SIGUSR2 presses a key.
 """
 
 import contextlib
@@ -27,6 +30,8 @@ from gi.repository import GLib
 
 NAME = "org.freedesktop.impl.portal.desktop.tovareltest"
 SCREEN_CAST = "org.freedesktop.impl.portal.ScreenCast"
+SHORTCUTS = "org.freedesktop.impl.portal.GlobalShortcuts"
+SHORTCUTS_PROPERTIES = {"version": dbus.UInt32(1)}
 MUTTER = "org.gnome.Mutter.ScreenCast"
 PROPERTIES = {"AvailableSourceTypes": dbus.UInt32(3), "AvailableCursorModes": dbus.UInt32(7),
               "version": dbus.UInt32(4)}
@@ -62,16 +67,16 @@ class CastSession(dbus.service.Object):
             self.remove_from_connection()
 
 
-class Backend(dbus.service.Object):
-    """What the portal asks."""
+class Keys(dbus.service.Object):
+    """What the portal asks about keys. A class of its own, since methods of two interfaces have the
+    same name."""
 
     # pylint: disable=invalid-name, too-many-arguments
 
     def __init__(self, bus, script, requests):
         super().__init__(bus, "/org/freedesktop/portal/desktop")
         self.bus, self.script, self.requests = bus, script, requests
-        self.sessions = {}
-        self.tokens = 0
+        self.session = None
 
     def note(self, method, options):
         plain = {str(key): str(value) for key, value in options.items()}
@@ -81,13 +86,51 @@ class Backend(dbus.service.Object):
     def answer(self):
         return json.loads(self.script.read_text(encoding="utf-8"))
 
+    @dbus.service.method(SHORTCUTS, "oosa{sv}", "ua{sv}")
+    def CreateSession(self, _handle, session, _app, _options):
+        CastSession(self.bus, session)
+        self.session = session
+        return 0, {}
+
+    @dbus.service.method(SHORTCUTS, "ooa(sa{sv})sa{sv}", "ua{sv}")
+    def BindShortcuts(self, _handle, _session, shortcuts, _parent, _options):
+        self.note("BindShortcuts", {name: how["preferred_trigger"] for name, how in shortcuts})
+        # As a desktop does whose word is not to be believed.
+        return 2, {}
+
+    @dbus.service.method(SHORTCUTS, "oo", "ua{sv}")
+    def ListShortcuts(self, _handle, _session):
+        granted = [(name, {"trigger_description": what})
+                   for name, what in self.answer().get("keys", {}).items()]
+        return 0, {"shortcuts": dbus.Array(granted, signature="(sa{sv})")}
+
+    @dbus.service.signal(SHORTCUTS, "osta{sv}")
+    def Activated(self, session, name, time, options):
+        """Tells the portal that a key was pressed."""
+
+    def press(self):
+        self.Activated(self.session, self.answer()["press"],
+                       dbus.UInt64(1), dbus.Dictionary({}, signature="sv"))
+        return GLib.SOURCE_CONTINUE
+
+
+class Backend(Keys):
+    """What the portal asks."""
+
+    # pylint: disable=invalid-name, too-many-arguments
+
+    def __init__(self, bus, script, requests):
+        super().__init__(bus, script, requests)
+        self.sessions = {}
+        self.tokens = 0
+
     @dbus.service.method("org.freedesktop.DBus.Properties", "ss", "v")
     def Get(self, _interface, name):
-        return PROPERTIES[name]
+        return {**SHORTCUTS_PROPERTIES, **PROPERTIES}[name]
 
     @dbus.service.method("org.freedesktop.DBus.Properties", "s", "a{sv}")
     def GetAll(self, interface):
-        return PROPERTIES if interface == SCREEN_CAST else {}
+        return {SCREEN_CAST: PROPERTIES, SHORTCUTS: SHORTCUTS_PROPERTIES}.get(interface, {})
 
     @dbus.service.method(SCREEN_CAST, "oosa{sv}", "ua{sv}")
     def CreateSession(self, _handle, session, _app, _options):
@@ -167,6 +210,7 @@ def main():
     name = dbus.service.BusName(NAME, bus)
     backend = Backend(bus, pathlib.Path(sys.argv[1]), sys.argv[2])
     GLib.unix_signal_add(GLib.PRIORITY_DEFAULT, signal.SIGUSR1, backend.end_casts)
+    GLib.unix_signal_add(GLib.PRIORITY_DEFAULT, signal.SIGUSR2, backend.press)
     GLib.MainLoop().run()
     del name
 

@@ -166,13 +166,40 @@ class Wayland(case.Case):
                 self.await_label(program, words)
                 self.assertIsNone(program.find("alert"))
                 self.assertEqual(program.frame().get_name(), "Tovarel")
-        self.session.answer_with()
+        self.session.answer_with(keys={"record": "Super+Ctrl+R", "pause": "Super+Ctrl+P"})
         self.choose(program)
+        self.await_label(program, "in any window, with Super+Ctrl: R Record · P Pause")
         # The compositor draws the pointer, or not, as the switch says.
         self.assertEqual(self.asked("SelectSources")[-1]["cursor_mode"], EMBEDDED)
         act(program.await_control("check box", "Pointer"))
         wait_for("a session without it", lambda: self.asked("SelectSources")[-1]["cursor_mode"] == HIDDEN)
         self.await_label(program, "Monitor")
+
+    def test_keys_of_the_desktop_record_and_stop(self):
+        keys = {"record": "Super+Ctrl+R", "stop": "F9"}
+        self.session.answer_with(keys=keys)
+        self.show_counter()
+        self.settings.write_text(self.settings.read_text() + "SteppingAsideExplained=1\n")
+        program = self.start_program()
+        self.assertEqual(self.asked("BindShortcuts"), [])
+        self.choose(program)
+        self.await_label(program, "Shortcuts in any window: Super+Ctrl+R Record · F9 Stop")
+        self.assertEqual(self.asked("BindShortcuts"), [
+            {"record": "LOGO+CTRL+r", "pause": "LOGO+CTRL+p", "stop": "LOGO+CTRL+s"}])
+        self.session.press_key("record", keys=keys)
+        self.away(program)
+        time.sleep(1)
+        self.session.press_key("stop", keys=keys)
+        program.await_tab("Cut")
+        program.end()
+        # What was granted once is asked for in time for a recording that begins by itself.
+        program = self.start_program()
+        program.press("Record")
+        wait_for("the question", lambda: len(self.asked("BindShortcuts")) == 2)
+        self.away(program)
+        time.sleep(1)
+        self.session.press_key("stop", keys=keys)
+        program.await_tab("Cut")
 
     def test_a_region_is_chosen_on_a_still_and_recorded_to_the_pixel(self):
         # As a monitor at the scale 1.25 is told: pixels of the picture count.
