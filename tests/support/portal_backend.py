@@ -5,10 +5,11 @@
 The real xdg-desktop-portal asks it as it asks a desktop. What it answers stands in the file SCRIPT,
 read anew for each question, as a JSON object:
 
-    answer     "grant" (the usual one), "refuse", "hang" or "nonsense"
+    answer     "grant" (the usual one), "refuse", "hang", or nonsense: "odd" or "no node"
     kind       "monitor" (the usual one) or "window", if windows are asked for or it was chosen before
     connector  of the monitor; "Meta-0" is the first one
-    size       the monitor's size in points as it is told, [width, height]
+    size       the monitor's size in points, [width, height], if it is not to be told as it is
+    position   likewise
     keys       what is granted of the keys that are asked for: an object of their names and what to
                press for them; "answer" has no say in it
     press      the name of a key, for SIGUSR2
@@ -153,8 +154,12 @@ class Backend(Keys):
         if wanted == "refuse":
             ok(dbus.UInt32(1), {})
             return
-        if wanted == "nonsense":
+        if wanted == "odd":
             ok(dbus.UInt32(0), {"streams": dbus.Array([dbus.String("?")], signature="s")})
+            return
+        if wanted == "no node":
+            ok(dbus.UInt32(0), {"streams": dbus.Array([(dbus.UInt32(999999), {})],
+                                                      signature="(ua{sv})")})
             return
         try:
             self.cast(self.sessions[session], script, ok)
@@ -175,10 +180,12 @@ class Backend(Keys):
                   session.cast.RecordMonitor(script.get("connector", "Meta-0"), how))
         told = dbus.Dictionary(
             {"source_type": dbus.UInt32(WINDOW if window else MONITOR)}, signature="sv")
-        if "size" in script:
-            told["size"] = dbus.Struct(map(dbus.Int32, script["size"]), signature="ii")
-            told["position"] = dbus.Struct(
-                map(dbus.Int32, script.get("position", [0, 0])), signature="ii")
+        is_so = self.bus.get_object(MUTTER, stream).Get(
+            MUTTER + ".Stream", "Parameters", dbus_interface=dbus.PROPERTIES_IFACE)
+        for what in ("size", "position"):
+            if what in script or what in is_so:
+                told[what] = dbus.Struct(
+                    map(dbus.Int32, script.get(what) or is_so[what]), signature="ii")
 
         def added(node):
             results = {"streams": dbus.Array([(dbus.UInt32(node), told)], signature="(ua{sv})")}

@@ -122,7 +122,10 @@ int main(int argc, char **argv) {
     QGuiApplication application(argc, argv);
     const Options options = parse(argc, argv);
     CounterWindow window(options);
-    window.setScreen(QGuiApplication::screens().value(options.screen));
+    QScreen *screen = QGuiApplication::screens().value(options.screen);
+    window.setScreen(screen);
+    // Without a place of its own the toolkit would move it to the pointer's screen.
+    window.setGeometry(screen->geometry());
     if (options.width > 0) {
         window.resize(options.width, options.height);
         window.show();

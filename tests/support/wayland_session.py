@@ -60,7 +60,7 @@ class WaylandSession(Session):
             self.remember_quality(self.quality)
         self.environment = {
             "HOME": str(self.home),
-            "GSETTINGS_BACKEND": "memory",
+            "GSETTINGS_BACKEND": "keyfile",
             "LC_ALL": os.environ.get("TOVAREL_TEST_LOCALE", "C.UTF-8"),
             "LIBGL_ALWAYS_SOFTWARE": "1",
             "PATH": os.environ["PATH"],
@@ -104,6 +104,11 @@ class WaylandSession(Session):
         self.start("wireplumber", ["wireplumber"])
 
     def _start_compositor(self):
+        # Without it a scale is a whole number.
+        settings = self.home / ".config/glib-2.0/settings"
+        settings.mkdir(parents=True)
+        (settings / "keyfile").write_text(
+            "[org/gnome/mutter]\nexperimental-features=['scale-monitor-framebuffer']\n")
         sizes = [word for size in self.monitors for word in ("--virtual-monitor", size)]
         self.start("mutter", ["mutter", "--headless", "--wayland", "--no-x11", *sizes]
                    + ["--wayland-display", "wayland-test"])
@@ -133,6 +138,24 @@ class WaylandSession(Session):
             + ["org.freedesktop.DBus.NameHasOwner", f"string:{name}"], env=self.environment,
             check=False, stdin=subprocess.DEVNULL, capture_output=True, timeout=PATIENCE)
         return b"boolean true" in done.stdout
+
+    def scale(self, wanted):
+        """Gives all monitors the scale that is nearest to this one, of those they can have."""
+        import dbus  # pylint: disable=import-outside-toplevel; of few tests
+        name = "org.gnome.Mutter.DisplayConfig"
+        display = dbus.Interface(
+            dbus.SessionBus().get_object(name, "/" + name.replace(".", "/")), name)
+        serial, monitors, _logical, _properties = display.GetCurrentState()
+        places, x = [], 0
+        for monitor, modes, _ in monitors:
+            mode, width, scales = modes[0][0], modes[0][1], modes[0][5]
+            scale = min(scales, key=lambda each: abs(each - wanted))
+            places.append((dbus.Int32(x), dbus.Int32(0), dbus.Double(scale), dbus.UInt32(0), x == 0,
+                           [(monitor[0], mode, dbus.Dictionary({}, signature="sv"))]))
+            x += round(width / scale)
+        display.ApplyMonitorsConfig(
+            serial, dbus.UInt32(1), dbus.Array(places, signature="(iiduba(ssa{sv}))"),
+            dbus.Dictionary({}, signature="sv"))
 
     # The dialog ------------------------------------------------------------------------------
 

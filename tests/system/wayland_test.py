@@ -4,6 +4,7 @@
 dialog is answered as each test wants it."""
 
 import contextlib
+import functools
 import os
 import pty
 import signal
@@ -27,7 +28,8 @@ TOKEN = "ScreenCastToken"
 
 class Wayland(case.Case):
     screen = (1280, 720)
-    session_type = wayland_session.WaylandSession
+    # Two monitors of one size: their places tell them apart.
+    session_type = functools.partial(wayland_session.WaylandSession, monitors=["1280x720"] * 2)
 
     def setUp(self):
         self.session.answer_with()
@@ -159,7 +161,7 @@ class Wayland(case.Case):
 
     def test_a_refusal_is_no_error_and_nonsense_is_one_that_is_told(self):
         program = self.start_program()
-        for answer, words in (("refuse", "Nothing was chosen"), ("nonsense", "no pictures")):
+        for answer, words in (("refuse", "Nothing was chosen"), ("odd", "no pictures")):
             self.session.answer_with(answer=answer)
             for button in (CHOOSE, "Record"):
                 program.press(button)
@@ -201,37 +203,62 @@ class Wayland(case.Case):
         self.session.press_key("stop", keys=keys)
         program.await_tab("Cut")
 
-    def test_a_region_is_chosen_on_a_still_and_recorded_to_the_pixel(self):
-        # As a monitor at the scale 1.25 is told: pixels of the picture count.
-        self.session.answer_with(size=[1024, 576])
-        self.show_counter()
+    def region_frames(self, place):
+        """Frames of this region, (x, y, width, height), of the monitor that was chosen."""
         with open(self.settings, "a", encoding="utf-8") as settings:
-            settings.write(f"{HOW_TO}=0\n")  # Its explanation is another test's.
+            # What explains them is another test's, and the pointer may stand anywhere.
+            settings.write(f"{HOW_TO}=0\nSteppingAsideExplained=1\nShowPointer=0\n")
         program = self.start_program()
         program.press("Region")
         program.await_control("dialog", "Select a Region")
-        for name, value in (("Width", 300), ("Height", 200), ("X", 100), ("Y", 300)):
+        for name, value in zip(("X", "Y", "Width", "Height"), place):
             program.await_control("spin button", name).set_current_value(value)
-        self.await_label(program, "Region 300 × 200 at 100,\xa0300")
+        self.await_label(
+            program, "Region {2} × {3} at {0},\xa0{1}".format(*place))
         program.press("Use Region")
         program.wait_for("the end of it", lambda: not program.find("dialog", "Select a Region"))
         program.press("Record")
-        program.answer("gets out of the way", "OK")
         self.away(program)
         time.sleep(1)
         self.bring_back(program)
         program.press("Stop")
         program.await_tab("Cut")
+        frames = self.frames()
+        self.assertEqual({(frame.width, frame.height) for frame in frames}, {place[2:]})
+        return frames
+
+    def test_a_region_is_chosen_on_a_still_and_recorded_to_the_pixel(self):
+        # As a monitor at the scale 1.25 is told: pixels of the picture count, and the monitor is
+        # known by its place.
+        self.session.answer_with(connector="Meta-1", size=[1024, 576])
+        self.show_counter("--screen", "1")
+        place = (100, 300, 300, 200)
         # The counter's cells begin in the middle of the screen, and are a ninth of it wide.
         edges = {self.screen[0] * cell // counter.CELLS - 100 for cell in range(counter.CELLS)}
         seen = set()
-        for frame in self.frames():
-            self.assertEqual((frame.width, frame.height), (300, 200))
+        for frame in self.region_frames(place):
             self.assertEqual(frame.pixel(20, 59), (0x20, 0x20, 0x20))
             self.assertIn(frame.pixel(20, 60), counter.COLOURS)
             seen |= {x for x in range(1, 300) if frame.pixel(x, 150) != frame.pixel(x - 1, 150)}
         self.assertTrue(seen)
         self.assertLessEqual(seen, edges)
+
+    def test_at_a_broken_scale_a_region_is_where_it_was_framed(self):
+        # The toolkit draws everything at the scale 2, and the compositor makes 1.5 of it.
+        self.session.scale(1.5)
+        try:
+            self.show_counter()
+            for frame in self.region_frames((100, 300, 300, 200)):
+                seen = [x for x in range(1, 300)
+                        if max(map(abs, map(int.__sub__, frame.pixel(x, 150),
+                                            frame.pixel(x - 1, 150)))) > 60]
+                for cell in range(1, 3):
+                    edge = self.screen[0] * cell // counter.CELLS - 100
+                    self.assertTrue(all(abs(x - edge) <= 2 for x in seen if abs(x - edge) < 70), seen)
+                self.assertEqual(frame.pixel(20, 56), (0x20, 0x20, 0x20))
+                self.assertIn(frame.pixel(20, 64), counter.COLOURS)
+        finally:
+            self.session.scale(1)
 
     def test_what_the_desktop_ends_is_kept(self):
         program = self.start_program()
@@ -323,7 +350,8 @@ class Wayland(case.Case):
         whole = ("record", "--screen", "--seconds", 1, "-o", "none.gif")
         for answer, arguments, words in (
                 ("refuse", whole, "Nothing was chosen"),
-                ("nonsense", whole, "no pictures"),
+                ("odd", whole, "no pictures"),
+                ("no node", whole, "stopped sharing"),
                 ("grant", ("record", "--region", "1280x720+1+0", "--seconds", 1), "1280 × 720"),
                 ("grant", ("record", "--screen", 1, "--seconds", 1), "dialog"),
                 ("grant", ("record", "--window", "counter", "--seconds", 1), "dialog")):
@@ -349,6 +377,27 @@ class Wayland(case.Case):
         self.await_label(program, "no pictures")
         program.press(CHOOSE)
         self.await_label(program, "no pictures")
+
+
+class WithoutAPart(case.Case):
+    """Sessions that lack something from the beginning."""
+
+    @classmethod
+    def setUpClass(cls):
+        pass
+
+    def tearDown(self):
+        pass
+
+    def test_what_is_missing_is_told(self):
+        for part, words in (("pipewire", "no pictures"), ("portal", "has no portal")):
+            session = wayland_session.WaylandSession(os.environ["TOVAREL_BUILD"], *self.screen)
+            setattr(session, part, False)
+            with session:
+                self.session = session
+                status, said, complained = self.run_it("record", "--screen", "--seconds", 1)
+            self.assertEqual((status, said), (3, ""))
+            self.assertIn(words, complained)
 
 
 if __name__ == "__main__":
