@@ -8,7 +8,14 @@
 #include "shell/settings.h"
 #include "ui_MainWindow.h"
 
+#include <cstdint>
+#include <limits>
+
 namespace {
+
+constexpr std::int64_t manyFrames = 10; // of a longer step
+/// As far as it goes.
+constexpr std::uint64_t lastFrame = std::numeric_limits<std::uint64_t>::max();
 
 /// What a switch for what hands do says: what it is for, or why it cannot be used.
 QString handsTip(const QString &tip, HandAccess access) {
@@ -133,6 +140,54 @@ std::vector<Command> recordCommands(AppDelegate &controller) {
     };
 }
 
+/// The commands that go to a frame, or set a handle there.
+std::vector<Command> frameCommands(AppDelegate &controller) {
+    const Ui::MainWindow &ui = *controller.ui;
+    const auto mayShow = [&editor = controller.trimEditor] { return editor.mayShowFrames(); };
+    return {
+        {.item = ui.menuitemActionCutPrevious,
+         .text = qtTrId("IDD_CUT_PREVIOUS"),
+         .shortcut = "Left",
+         .action = [&controller] { controller.trimEditor.step(-1); },
+         .enabled = mayShow},
+        {.item = ui.menuitemActionCutNext,
+         .text = qtTrId("IDD_CUT_NEXT"),
+         .shortcut = "Right",
+         .action = [&controller] { controller.trimEditor.step(1); },
+         .enabled = mayShow},
+        {.item = ui.menuitemActionCutBackTen,
+         .text = qtTrId("IDD_CUT_BACK_TEN"),
+         .shortcut = "Shift+Left",
+         .action = [&controller] { controller.trimEditor.step(-manyFrames); },
+         .enabled = mayShow},
+        {.item = ui.menuitemActionCutForwardTen,
+         .text = qtTrId("IDD_CUT_FORWARD_TEN"),
+         .shortcut = "Shift+Right",
+         .action = [&controller] { controller.trimEditor.step(manyFrames); },
+         .enabled = mayShow},
+        {.item = ui.menuitemActionCutToStart,
+         .text = qtTrId("IDD_CUT_TO_START"),
+         .shortcut = "Home",
+         .action = [&controller] { controller.trimEditor.showFrame(0); },
+         .enabled = mayShow},
+        {.item = ui.menuitemActionCutToEnd,
+         .text = qtTrId("IDD_CUT_TO_END"),
+         .shortcut = "End",
+         .action = [&controller] { controller.trimEditor.showFrame(lastFrame); },
+         .enabled = mayShow},
+        {.item = ui.menuitemActionCutStartHere,
+         .text = qtTrId("IDD_CUT_START_HERE"),
+         .shortcut = "I",
+         .action = [&controller] { controller.trimEditor.moveHandleHere(RangeEnd::First); },
+         .enabled = mayShow},
+        {.item = ui.menuitemActionCutEndHere,
+         .text = qtTrId("IDD_CUT_END_HERE"),
+         .shortcut = "O",
+         .action = [&controller] { controller.trimEditor.moveHandleHere(RangeEnd::Last); },
+         .enabled = mayShow},
+    };
+}
+
 std::vector<Command> cutCommands(AppDelegate &controller) {
     const Ui::MainWindow &ui = *controller.ui;
     const InterfaceStrings &texts = controller.texts;
@@ -142,14 +197,14 @@ std::vector<Command> cutCommands(AppDelegate &controller) {
          .button = ui.btnCutPlay,
          .text = texts.s_IDD_PLAY(),
          .icon = "play",
-         .shortcut = "Ctrl+L",
+         .shortcut = "Space; Ctrl+L; Return; Enter",
          .action = [&controller] { controller.OnMenuActionCutPlay(); },
          .enabled = [&editor] { return editor.mayPlay(); }},
         {.item = ui.menuitemActionCutPause,
          .button = ui.btnCutPause,
          .text = texts.s_IDD_PAUSE(),
          .icon = "pause",
-         .shortcut = "Ctrl+P",
+         .shortcut = "Space; Ctrl+P",
          .action = [&controller] { controller.OnMenuActionCutPause(); },
          .enabled = [&editor] { return editor.mayPause(); }},
         {.item = ui.menuitemActionCutStop,
@@ -321,8 +376,8 @@ std::vector<Command> programCommands(AppDelegate &controller) {
 std::vector<Command> commandTable(AppDelegate &controller) {
     std::vector<Command> all;
     for (const auto &part :
-         {recordCommands(controller), cutCommands(controller), exportCommands(controller),
-          fileCommands(controller), programCommands(controller)})
+         {recordCommands(controller), cutCommands(controller), frameCommands(controller),
+          exportCommands(controller), fileCommands(controller), programCommands(controller)})
         all.insert(all.end(), part.begin(), part.end());
     return all;
 }

@@ -4,6 +4,7 @@
 
 #include "app/app_delegate.h"
 #include "app/control_texts.h"
+#include "app/key_users.h"
 #include "app/tabs.h"
 #include "app/task_bar_state.h"
 #include "record/source_text.h"
@@ -66,6 +67,7 @@ void Controls::setUp() {
     commands_ = commandTable(controller_);
     ::setUp(commands_, this);
     offerStillLengths();
+    new KeyUsers(*controller_.shell.window());
     const InterfaceStrings &texts = controller_.texts;
     nameControls(ui_, texts, controller_.shell.s_App_Name());
     showSource();
@@ -184,6 +186,8 @@ void Controls::listenToRecorder() {
 void Controls::listenToOthers() {
     connect(&controller_.trimEditor, &TrimEditor::stateChanged, this, &Controls::refresh);
     connect(&controller_.trimEditor, &TrimEditor::rangeTextChanged, ui_.labelCutRange,
+            &QLabel::setText);
+    connect(&controller_.trimEditor, &TrimEditor::timeTextChanged, ui_.labelCutTime,
             &QLabel::setText);
     connect(controller_.exportOptions.get(), &ExportOptions::entered, this, &Controls::refresh);
 }

@@ -9,6 +9,21 @@
 
 namespace {
 
+QList<QKeySequence> shortcutsOf(const Command &command) {
+    return command.shortcut ? QKeySequence::listFromString(QLatin1String(command.shortcut))
+                            : QList<QKeySequence>();
+}
+
+QString tipOf(const Command &command) {
+    if (!command.tip.isEmpty())
+        return command.tip;
+    const QList<QKeySequence> shortcuts = shortcutsOf(command);
+    if (!command.icon || shortcuts.isEmpty())
+        return command.text;
+    return qtTrId("IDD_TIP_SHORTCUT")
+        .arg(command.text, shortcuts.first().toString(QKeySequence::NativeText));
+}
+
 void setUpButton(const Command &command, QObject *context, Qt::ConnectionType type) {
     QAbstractButton &button = *command.button;
     if (command.icon) {
@@ -20,7 +35,7 @@ void setUpButton(const Command &command, QObject *context, Qt::ConnectionType ty
         if (!command.face.isEmpty())
             button.setAccessibleName(command.text);
     }
-    button.setToolTip(command.tip.isEmpty() ? command.text : command.tip);
+    button.setToolTip(tipOf(command));
     if (!command.checked) {
         QObject::connect(
             &button, &QAbstractButton::clicked, context, [action = command.action] { action(); },
@@ -40,8 +55,7 @@ void setUpButton(const Command &command, QObject *context, Qt::ConnectionType ty
 
 void setUpItem(const Command &command, QObject *context, Qt::ConnectionType type) {
     command.item->setText(command.text);
-    if (command.shortcut)
-        command.item->setShortcut(QKeySequence(QLatin1String(command.shortcut)));
+    command.item->setShortcuts(shortcutsOf(command));
     QObject::connect(
         command.item, &QAction::triggered, context, [action = command.action] { action(); }, type);
 }

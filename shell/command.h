@@ -20,11 +20,13 @@ struct Command {
     /// Of the menu item. A button without an icon shows it, one with an icon has it as its tool tip
     /// and as its name for those who cannot see the icon.
     QString text;
-    QString face = {};              ///< What the button shows where its text has no room.
-    QString tip = {};               ///< The button's tool tip, where it is not the text.
-    const char *icon = nullptr;     ///< The button's drawing, by its name in the resources.
-    QColor accent = {};             ///< Of the drawing, where it has a colour of its own.
-    const char *shortcut = nullptr; ///< Of the menu item, in portable text ("Ctrl+R").
+    QString face = {};          ///< What the button shows where its text has no room.
+    QString tip = {};           ///< The button's tool tip, where it is not text and shortcut.
+    const char *icon = nullptr; ///< The button's drawing, by its name in the resources.
+    QColor accent = {};         ///< Of the drawing, where it has a colour of its own.
+    /// Of the menu item, in portable text ("Ctrl+R"). Of several, with "; " between them, menu and
+    /// tip show the first.
+    const char *shortcut = nullptr;
     /// Without one, whatever else works the controls has named them, too.
     std::function<void()> action = {};
     /// Whether it can be used now. Without one it always can.

@@ -17,8 +17,11 @@ QString count(std::uint64_t number);
 /// "12.4", or "12" where nothing is left behind the decimal sign. For frames per second.
 QString rate(double perSecond);
 
-/// "7.30" with two `decimals`. For seconds.
+/// "7.30" with two `decimals`, halves rounded up. For seconds.
 QString decimal(double number, int decimals = 1);
+
+/// "0:02.1": minutes, seconds and tenths, for a place in a recording. `seconds` is not negative.
+QString time(double seconds);
 
 /// "512 bytes", "1.2 MB": files and memory alike in units of 1,000 (SI). The unit does not part
 /// from the number at the end of a line.

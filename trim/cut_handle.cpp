@@ -9,8 +9,6 @@
 
 #include <algorithm>
 
-using range_rules::Handle;
-
 namespace {
 
 class AccessibleHandle : public QAccessibleObject,
@@ -28,25 +26,28 @@ public:
     QAccessible::Role role() const override { return QAccessible::Slider; }
 
     QString text(QAccessible::Text kind) const override {
-        if (kind == QAccessible::Name)
-            return handle().handle() == Handle::Menor ? qtTrId("IDD_HANDLE_FIRST")
-                                                      : qtTrId("IDD_HANDLE_LAST");
-        if (kind == QAccessible::Value)
-            return currentValue().toString();
-        return {};
+        switch (kind) {
+        case QAccessible::Name:
+            return name();
+        case QAccessible::Value:
+        case QAccessible::Description: // of a slider's value the bus knows the number alone
+            return strip().textOf(handle().part());
+        default:
+            return {};
+        }
     }
 
     QAccessible::State state() const override {
         QAccessible::State state;
         state.focusable = true;
-        state.focused = strip().hasFocus() && strip().chosenHandle() == handle().handle();
+        state.focused = strip().hasFocus() && strip().chosenPart() == handle().part();
         state.disabled = !strip().isEnabled();
         state.invisible = !strip().isVisible();
         return state;
     }
 
     QRect rect() const override {
-        const QRect area = strip().handleArea(handle().handle());
+        const QRect area = strip().areaOf(handle().part());
         return {strip().mapToGlobal(area.topLeft()), area.size()};
     }
 
@@ -59,28 +60,43 @@ public:
     }
 
     QVariant currentValue() const override {
-        return static_cast<qulonglong>(strip().frameOf(handle().handle()));
+        return static_cast<qulonglong>(strip().frameOf(handle().part()));
     }
     void setCurrentValue(const QVariant &value) override {
         const double frame = std::max(value.toDouble(), 0.0);
-        strip().moveToFrame(handle().handle(), static_cast<std::uint64_t>(
-                                                   std::min(frame, static_cast<double>(frames()))));
+        strip().moveToFrame(handle().part(), static_cast<std::uint64_t>(
+                                                 std::min(frame, static_cast<double>(frames()))));
     }
-    QVariant maximumValue() const override { return static_cast<qulonglong>(frames()); }
+    QVariant maximumValue() const override {
+        // A handle may be at the end, behind the last frame.
+        const bool isPlayhead = handle().part() == StripPart::Playhead;
+        return static_cast<qulonglong>(isPlayhead && frames() > 0 ? frames() - 1 : frames());
+    }
     QVariant minimumValue() const override { return 0; }
     QVariant minimumStepSize() const override { return 1; }
 
     QStringList actionNames() const override { return {increaseAction(), decreaseAction()}; }
     void doAction(const QString &name) override {
-        const std::uint64_t frame = strip().frameOf(handle().handle());
+        const std::uint64_t frame = strip().frameOf(handle().part());
         if (name == increaseAction())
-            strip().moveToFrame(handle().handle(), frame + 1);
+            strip().moveToFrame(handle().part(), frame + 1);
         else if (name == decreaseAction() && frame > 0)
-            strip().moveToFrame(handle().handle(), frame - 1);
+            strip().moveToFrame(handle().part(), frame - 1);
     }
     QStringList keyBindingsForAction(const QString &) const override { return {}; }
 
 private:
+    QString name() const {
+        switch (handle().part()) {
+        case StripPart::Menor:
+            return qtTrId("IDD_HANDLE_FIRST");
+        case StripPart::Maior:
+            return qtTrId("IDD_HANDLE_LAST");
+        case StripPart::Playhead:
+            break;
+        }
+        return qtTrId("IDD_PLAYHEAD");
+    }
     CutHandle &handle() const { return *static_cast<CutHandle *>(object()); }
     View_Cut_Range &strip() const { return handle().strip(); }
     std::uint64_t frames() const { return strip().frameCount(); }
@@ -99,7 +115,7 @@ public:
     }
     QAccessibleInterface *focusChild() const override {
         const auto *strip = static_cast<View_Cut_Range *>(widget());
-        return strip->hasFocus() ? child(strip->chosenHandle() == Handle::Menor ? 0 : 1) : nullptr;
+        return strip->hasFocus() ? child(static_cast<int>(strip->chosenPart())) : nullptr;
     }
 
 private:
@@ -118,14 +134,14 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object) {
 
 } // namespace
 
-CutHandle::CutHandle(View_Cut_Range &strip, Handle handle)
-    : QObject(&strip), strip_(strip), handle_(handle) {
+CutHandle::CutHandle(View_Cut_Range &strip, StripPart part)
+    : QObject(&strip), strip_(strip), part_(part) {
     // Installing the same function again changes nothing.
     QAccessible::installFactory(makeInterface);
 }
 
 void CutHandle::announceValue() {
-    QAccessibleValueChangeEvent event(this, static_cast<qulonglong>(strip_.frameOf(handle_)));
+    QAccessibleValueChangeEvent event(this, static_cast<qulonglong>(strip_.frameOf(part_)));
     QAccessible::updateAccessibility(&event);
 }
 

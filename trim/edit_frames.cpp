@@ -16,22 +16,20 @@ constexpr int secondsDecimals = 1;
 } // namespace
 
 void TrimEditor::select(std::uint64_t from, std::uint64_t to) {
-    const std::uint64_t frames = recorder_.recording.u_Record_Current_Frame();
+    const std::uint64_t frames = frameCount();
     if (frames == 0 || trim.m_PlayStatus() == PLAY_STATUS_PLAY)
         return;
     const std::uint64_t end = std::min(to, frames - 1);
     const std::uint64_t begin = std::min(from, frames - 1);
     selection_ = FrameRuns::Run{std::min(begin, end), std::max(begin, end)};
-    pointed_ = end;
-    Q_EMIT viewsChanged();
+    showFrame(end);
     Q_EMIT stateChanged();
 }
 
 void TrimEditor::clearSelection() {
-    if (!selection_ && !pointed_)
+    if (!selection_)
         return;
     selection_.reset();
-    pointed_.reset();
     Q_EMIT viewsChanged();
     Q_EMIT stateChanged();
 }
@@ -105,8 +103,8 @@ void TrimEditor::redo() {
 
 void TrimEditor::edited() {
     selection_.reset();
-    pointed_.reset();
-    if (trim.m_PlayStatus() != PLAY_STATUS_STOP)
+    // What was cut out is no longer looked at; what follows it is.
+    if (trim.m_PlayStatus() != PLAY_STATUS_STOP || isPlaced_)
         trim.setUCurrentFrame(
             keptFrames().nextFrom(trim.uCurrentFrame()).value_or(trim.uCurrentFrame()));
     Q_EMIT viewsChanged();

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int ringWidth = 4;   // points, all of it outside the strip
 constexpr int lineWidth = 2;   // points
-constexpr int markOverlap = 3; // points by which a mark is wider than its handle, on either side
+constexpr int markOverlap = 3; // points by which a mark is wider than its part, on either side
 
 } // namespace
 
@@ -19,7 +19,7 @@ FocusRing::FocusRing(View_Cut_Range &strip) : QWidget(strip.parentWidget()), str
     setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
     strip.installEventFilter(this);
-    connect(&strip, &View_Cut_Range::chosenHandleChanged, this, qOverload<>(&QWidget::update));
+    connect(&strip, &View_Cut_Range::chosenPartChanged, this, qOverload<>(&QWidget::update));
 }
 
 bool FocusRing::eventFilter(QObject *watched, QEvent *event) {
@@ -56,8 +56,8 @@ void FocusRing::paintEvent(QPaintEvent *) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(colour, lineWidth));
     painter.drawRoundedRect(ring, lineWidth, lineWidth);
-    const QRect handle = strip_.handleArea(strip_.chosenHandle()).translated(ringWidth, 0);
-    const QRect mark(handle.x() - markOverlap, 0, handle.width() + 2 * markOverlap, ringWidth);
+    const QRect part = strip_.areaOf(strip_.chosenPart()).translated(ringWidth, 0);
+    const QRect mark(part.x() - markOverlap, 0, part.width() + 2 * markOverlap, ringWidth);
     painter.fillRect(mark, colour);
     painter.fillRect(mark.translated(0, height() - ringWidth), colour);
 }

@@ -7,7 +7,7 @@
 class View_Cut_Range;
 
 /// Shows the keyboard's focus around the strip, in the margin beside it, so that the strip's own
-/// picture stays as it is; two marks at the edge stand at the chosen handle. A sibling of the strip
+/// picture stays as it is; two marks at the edge stand at the chosen part. A sibling of the strip
 /// that follows it; owned by the strip's parent.
 class FocusRing : public QWidget {
     Q_OBJECT

@@ -10,13 +10,23 @@ namespace range_rules {
 
 namespace {
 
-// Handles and playhead are placed in double precision and then rounded to single precision, so that
-// every part of the strip meets the next one at the same number.
+// Handles are placed in double precision and then rounded to single precision, so that every part
+// of the strip meets the next one at the same number.
 float placeOf(double percent, double stripWidth) {
     return static_cast<float>(percent * stripWidth / 100.0);
 }
 
 constexpr float handleWidthSingle = static_cast<float>(handleWidth);
+
+/// Handles that are less than this apart stand at one place, in points.
+constexpr double together = 1.0;
+
+/// How far x is from the stretch, 0 within it.
+double distance(Stretch stretch, double x) {
+    return std::max({stretch.x - x, x - (stretch.x + stretch.width), 0.0});
+}
+
+double fromMiddle(Stretch stretch, double x) { return std::abs(stretch.x + stretch.width / 2 - x); }
 
 } // namespace
 
@@ -34,7 +44,21 @@ Stretch bandBetween(Handles handles, double stripWidth) {
     return {left, right - left};
 }
 
-bool contains(Stretch stretch, double x) { return stretch.x <= x && x < stretch.x + stretch.width; }
+std::optional<Handle> handleNear(Handles handles, double x, double stripWidth) {
+    const Stretch lower = lowerHandle(handles.menor, stripWidth);
+    const Stretch upper = upperHandle(handles.maior, stripWidth);
+    const double toLower = distance(lower, x);
+    const double toUpper = distance(upper, x);
+    if (!(std::min(toLower, toUpper) <= handleReach))
+        return {};
+    const bool lowerCanMove = handles.menor > 0.0f;
+    const bool upperCanMove = handles.maior < 100.0f;
+    if (upper.x + upper.width - lower.x < together && lowerCanMove != upperCanMove)
+        return lowerCanMove ? Handle::Menor : Handle::Maior;
+    const bool isLower =
+        toLower == toUpper ? fromMiddle(lower, x) <= fromMiddle(upper, x) : toLower < toUpper;
+    return isLower ? Handle::Menor : Handle::Maior;
+}
 
 std::optional<Handles> dragged(Handles handles, Handle handle, double x, double previewWidth) {
     // Written so that a pointer or a width that is no number moves nothing.
@@ -89,11 +113,10 @@ std::uint64_t frameAtX(double x, std::uint64_t frames, double stripWidth) {
     return std::min(static_cast<std::uint64_t>(share * static_cast<double>(frames)), frames - 1);
 }
 
-Stretch playhead(std::uint64_t current, std::uint64_t first, std::uint64_t last,
-                 double stripWidth) {
-    const bool atBegin = current <= first || last <= first;
-    const std::uint64_t percent = atBegin ? 0 : (current - first) * 100 / (last - first);
-    return {placeOf(static_cast<double>(percent), stripWidth), handleWidth};
+Stretch playhead(std::uint64_t current, std::uint64_t frames, double stripWidth) {
+    if (frames == 0)
+        return {0.0, playheadWidth};
+    return {static_cast<double>(current) * stripWidth / static_cast<double>(frames), playheadWidth};
 }
 
 std::optional<std::uint64_t> existingFrame(std::uint64_t frame, std::uint64_t frames) {

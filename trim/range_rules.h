@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <optional>
 
-/// The arithmetic of the trim editor: where the handles are, which frames are between them, where
-/// the playhead is drawn. Percentages are of the recording, in single precision; x and widths are
-/// points from the strip's left end. No drawing and no state.
+/// The arithmetic of the trim editor: where the handles are, which frames are between them, what a
+/// press goes to, where the playhead is drawn. Percentages are of the recording, in single
+/// precision; x and widths are points from the strip's left end. No drawing and no state.
 namespace range_rules {
 
 /// The two handles' percentages, `menor` (lower) and `maior` (upper).
@@ -25,8 +25,12 @@ struct Stretch {
     double width = 0.0;
 };
 
-/// Width of a handle and of the playhead, in points.
-inline constexpr double handleWidth = 5.0;
+/// Width of a handle, in points: enough to be gripped.
+inline constexpr double handleWidth = 12.0;
+/// A press this far beside a handle still grips it, in points.
+inline constexpr double handleReach = 12.0;
+/// Width of the playhead's line, in points.
+inline constexpr double playheadWidth = 2.0;
 
 /// The lower handle is right of its percentage, the upper one left of it.
 Stretch lowerHandle(float percent, double stripWidth);
@@ -35,8 +39,9 @@ Stretch upperHandle(float percent, double stripWidth);
 /// The band between the handles; its width is negative where they overlap.
 Stretch bandBetween(Handles handles, double stripWidth);
 
-/// Whether the stretch contains x; its right end is not part of it.
-bool contains(Stretch stretch, double x);
+/// The handle that a press at x goes to: the nearer one, none beyond `handleReach`. Where both
+/// stand at one place, which only one of them can leave in its own direction, it is that one.
+std::optional<Handle> handleNear(Handles handles, double x, double stripWidth);
 
 /// One step of a drag: `handle` follows the pointer at x, in a preview of `previewWidth`, to the
 /// end where the pointer is beyond it. None without a width. When the lower one passes the upper
@@ -69,9 +74,9 @@ Stretch placeOfFrames(std::uint64_t first, std::uint64_t last, std::uint64_t fra
 /// The frame at x, 0 to the last one; 0 in a recording without frames.
 std::uint64_t frameAtX(double x, std::uint64_t frames, double stripWidth);
 
-/// The playhead at `current` in the range from `first` to `last`. It is at the left end in an empty
-/// range, and while `current` is still before the range, as in a pause before anything was played.
-Stretch playhead(std::uint64_t current, std::uint64_t first, std::uint64_t last, double stripWidth);
+/// The playhead at the frame `current` of `frames`: where that frame begins. At the left end in a
+/// recording without frames.
+Stretch playhead(std::uint64_t current, std::uint64_t frames, double stripWidth);
 
 /// The frame that is shown for the number `frame`: the last one of the recording where there is no
 /// such frame. None in a recording without frames.

@@ -9,29 +9,25 @@
 
 namespace {
 
-constexpr int secondsDecimals = 2; // a frame at 60 per second still counts
+constexpr int keptDecimals = 1;
+constexpr int selectionDecimals = 2; // a frame at 60 per second still counts
 
-QString secondsText(std::uint64_t frames, double rate) {
-    return number_text::decimal(static_cast<double>(frames) / rate, secondsDecimals);
-}
+double secondsOf(std::uint64_t frames, double rate) { return static_cast<double>(frames) / rate; }
 
 /// What an export would hold, in the user's words.
-QString textOfKept(const FrameRuns &kept, double rate) {
-    if (kept.isEmpty())
+QString textOfKept(std::uint64_t kept, std::uint64_t frames, double rate) {
+    if (kept == 0)
         return qtTrId("IDD_RANGE_EMPTY");
-    const QString seconds = secondsText(kept.count(), rate);
-    // People count from 1.
-    const QString first = number_text::count(kept.first() + 1);
-    if (kept.count() == 1)
-        return qtTrId("IDD_RANGE_ONE").arg(first, seconds);
-    return qtTrId("IDD_RANGE_HOLDS", static_cast<int>(kept.count()))
-        .arg(first, number_text::count(kept.last() + 1), seconds);
+    return qtTrId("IDD_CUT_KEPT", static_cast<int>(frames))
+        .arg(number_text::decimal(secondsOf(kept, rate), keptDecimals),
+             number_text::decimal(secondsOf(frames, rate), keptDecimals), number_text::count(kept));
 }
 
 QString textOfSelection(FrameRuns::Run selection, double rate) {
+    // People count from 1.
     return qtTrId("IDD_CUT_SELECTED")
         .arg(number_text::count(selection.first + 1), number_text::count(selection.last + 1),
-             secondsText(selection.count(), rate));
+             number_text::decimal(secondsOf(selection.count(), rate), selectionDecimals));
 }
 
 } // namespace
@@ -55,8 +51,11 @@ void TrimEditor::enter() {
 
 void TrimEditor::OnCutPlay() {
     clearSelection();
-    if (trim.m_PlayStatus() == PLAY_STATUS_STOP)
-        trim.setUCurrentFrame(keptFrames().nextFrom(0).value_or(trim.uFirstFrame()));
+    if (trim.m_PlayStatus() == PLAY_STATUS_STOP) {
+        const FrameRuns kept = keptFrames();
+        const auto here = isPlaced_ ? kept.nextFrom(trim.uCurrentFrame()) : std::nullopt;
+        trim.setUCurrentFrame(here.value_or(kept.nextFrom(0).value_or(trim.uFirstFrame())));
+    }
     trim.setM_PlayStatus(PLAY_STATUS_PLAY);
     trim.timerPlayRefresh.reset();
     trim.timerPlayRefresh = std::make_unique<RepeatingTimer>(1.0 / recorder_.recording.exactRate(),
@@ -86,6 +85,7 @@ void TrimEditor::OnCutStop() {
     isPlayable_ = true;
     trim.setM_PlayStatus(PLAY_STATUS_STOP);
     trim.setPreviewedEnd(RangeEnd::First);
+    isPlaced_ = false;
     clearSelection();
     Q_EMIT viewsChanged();
     Q_EMIT stateChanged();
@@ -98,14 +98,8 @@ void TrimEditor::keepWholeRecording() {
     leftOut_ = {};
     undo_.clear();
     redo_.clear();
+    isPlaced_ = false;
     clearSelection();
-}
-
-void TrimEditor::togglePlayback() {
-    if (mayPause())
-        OnCutPause();
-    else if (mayPlay())
-        OnCutPlay();
 }
 
 void TrimEditor::updateTrimmedRange() {
@@ -123,16 +117,22 @@ FrameRuns TrimEditor::keptFrames() const {
 }
 
 void TrimEditor::showTrimmedRange(bool recordingExists) {
-    // Every drawing comes by here: the text is made again only when it says something else.
+    // Every drawing comes by here: the texts are made again only when they say something else.
     const Shown now{.recordingExists = recordingExists,
                     .kept = keptFrames(),
                     .selection = selection_,
+                    .frames = frameCount(),
+                    .frame = shownFrame(),
                     .rate = recorder_.recording.exactRate()};
     if (shown_ == now)
         return;
     shown_ = now;
-    QString text;
-    if (recordingExists)
-        text = selection_ ? textOfSelection(*selection_, now.rate) : textOfKept(now.kept, now.rate);
-    Q_EMIT rangeTextChanged(text);
+    if (!recordingExists) {
+        Q_EMIT rangeTextChanged({});
+        Q_EMIT timeTextChanged({});
+        return;
+    }
+    Q_EMIT rangeTextChanged(selection_ ? textOfSelection(*selection_, now.rate)
+                                       : textOfKept(now.kept.count(), now.frames, now.rate));
+    Q_EMIT timeTextChanged(number_text::time(secondsOf(now.frame, now.rate)));
 }

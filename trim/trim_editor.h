@@ -36,14 +36,32 @@ public:
     bool mayPause() const { return trim.m_PlayStatus() == PLAY_STATUS_PLAY; }
     bool mayStop() const { return trim.m_PlayStatus() != PLAY_STATUS_STOP; }
 
-    /// Plays from the first frame of the trimmed range, or on from where it was paused.
+    /// Plays on from where it was paused, or where the playhead was put, at the next frame that is
+    /// kept; else from the first one.
     void OnCutPlay();
     void OnCutPause();
     void OnCutStop();
-    /// Pauses what plays, plays what does not, if there is something to play.
-    void togglePlayback();
     /// The playback tick: the next frame, and the first one again after the last.
     void TimerRefreshPlayRoutine();
+
+    /// The frame in the preview, 0 to the last one: that at the playhead while it plays or is
+    /// paused, and while stopped once the playhead was put somewhere; until then the one at the
+    /// handle that was moved last.
+    std::uint64_t shownFrame() const;
+    /// Whether other frames can be shown.
+    bool mayShowFrames() const { return isPlayable_; }
+    /// Puts the playhead there, at the last frame at most, whether it is kept or not. What plays
+    /// goes on from there. Does nothing without a recording.
+    void showFrame(std::uint64_t frame);
+    /// So many frames on, or back; pauses what plays.
+    void step(std::int64_t frames);
+    /// The number of a frame and its time, in words for those who do not see the strip.
+    QString textOfFrame(std::uint64_t frame) const;
+
+    /// Moves the handles; the frame at the one in hand is shown.
+    void moveHandles(float menor, float maior, RangeEnd inHand);
+    /// Moves one to the frame that is shown, which stays. They change places where they pass.
+    void moveHandleHere(RangeEnd end);
 
     /// Puts the handles to the ends: a new recording is kept whole.
     void keepWholeRecording();
@@ -57,12 +75,10 @@ public:
 
     /// The part that is selected for what is done next; none while it plays.
     const std::optional<FrameRuns::Run> &selection() const { return selection_; }
-    /// Selects the frames between these two, both included and in any order, and shows the latter
-    /// while nothing plays. Does nothing while it plays, and without a recording.
+    /// Selects the frames between these two, both included and in any order, and shows the latter.
+    /// Does nothing while it plays, and without a recording.
     void select(std::uint64_t from, std::uint64_t to);
     void clearSelection();
-    /// The frame that the preview shows in place of a handle's.
-    const std::optional<std::uint64_t> &pointedFrame() const { return pointed_; }
 
     /// Leaves the selected frames out.
     bool mayDelete() const { return selection_.has_value(); }
@@ -80,7 +96,8 @@ public:
     void undo();
     void redo();
 
-    /// Says under the preview what an export would hold; nothing without a recording.
+    /// Says under the strip what an export would hold, and the time of the frame that is shown;
+    /// nothing without a recording.
     void showTrimmedRange(bool recordingExists);
 
 Q_SIGNALS:
@@ -90,18 +107,23 @@ Q_SIGNALS:
     void viewsChanged();
     /// What an export would hold, in the user's words; empty without a recording.
     void rangeTextChanged(const QString &text);
+    /// The time of the frame that is shown; empty likewise.
+    void timeTextChanged(const QString &text);
 
 private:
-    /// What the text under the preview follows from.
+    /// What the texts under the strip follow from.
     struct Shown {
         bool recordingExists = false;
         FrameRuns kept = {};
         std::optional<FrameRuns::Run> selection = {};
+        std::uint64_t frames = 0;
+        std::uint64_t frame = 0;
         double rate = 0;
 
         bool operator==(const Shown &) const = default;
     };
 
+    std::uint64_t frameCount() const;
     void leaveOut(const FrameRuns &leftOut);
     /// What is left out is another now.
     void edited();
@@ -115,6 +137,6 @@ private:
     std::vector<FrameRuns> redo_;
     double stillLength_ = stillLengths[1];
     std::optional<FrameRuns::Run> selection_;
-    std::optional<std::uint64_t> pointed_;
+    bool isPlaced_ = false; // the playhead was put somewhere since it stopped
     std::optional<Shown> shown_;
 };

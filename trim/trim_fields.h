@@ -41,11 +41,12 @@ public:
     std::uint64_t uLastFrame() const { return uLastFrame_; }
     void setULastFrame(std::uint64_t frame) { uLastFrame_ = frame; }
 
-    /// Frame shown while playing or paused.
+    /// The frame at the playhead; see `TrimEditor::shownFrame`.
     std::uint64_t uCurrentFrame() const { return uCurrentFrame_; }
     void setUCurrentFrame(std::uint64_t frame) { uCurrentFrame_ = frame; }
 
-    /// The end that the preview shows while nothing plays: that of the handle that was moved last.
+    /// The end that the preview shows while nothing plays and the playhead was not put anywhere:
+    /// that of the handle that was moved last.
     RangeEnd previewedEnd() const { return previewedEnd_; }
     void setPreviewedEnd(RangeEnd end) { previewedEnd_ = end; }
 

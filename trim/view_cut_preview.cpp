@@ -10,7 +10,7 @@
 #include "trim/trim_editor.h"
 
 #include <QFontMetricsF>
-#include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 namespace {
@@ -22,7 +22,6 @@ constexpr int noVideoSize = 46; // points of the screen, which the toolkit calls
 View_Cut_Preview::View_Cut_Preview(QWidget *parent) : QWidget(parent) {
     // Every pixel is painted by the view itself: nothing beneath needs to be.
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setFocusPolicy(Qt::ClickFocus);
 }
 
 void View_Cut_Preview::setEditor(TrimEditor &editor) {
@@ -62,11 +61,8 @@ void View_Cut_Preview::drawNoVideo(QPainter &painter) const {
 void View_Cut_Preview::drawFrame(QPainter &painter) {
     const TrimFields &trim = editor_->trim;
     const auto &frames = editor_->recorder().recording.array_Images;
-    const bool stopped = trim.m_PlayStatus() == PLAY_STATUS_STOP;
-    const std::uint64_t atHandle = editor_->pointedFrame().value_or(
-        trim.previewedEnd() == RangeEnd::Last ? trim.uLastFrame() : trim.uFirstFrame());
-    const auto number = range_rules::existingFrame(stopped ? atHandle : trim.uCurrentFrame(),
-                                                   frames ? frames->size() : 0);
+    const auto number =
+        range_rules::existingFrame(editor_->shownFrame(), frames ? frames->size() : 0);
     if (!number)
         return;
     const Image &frame = (*frames)[*number];
@@ -81,10 +77,4 @@ void View_Cut_Preview::drawFrame(QPainter &painter) {
     painter.drawImage(corner,
                       scaler_.scaled(frame, pixels, ratio,
                                      moving ? ImageScaler::Care::Quick : ImageScaler::Care::Fine));
-}
-
-void View_Cut_Preview::keyPressEvent(QKeyEvent *event) {
-    if (event->key() == Qt::Key_Space && editor_)
-        return editor_->togglePlayback();
-    QWidget::keyPressEvent(event);
 }

@@ -22,7 +22,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void drawNoVideo(QPainter &painter) const;

@@ -535,16 +535,56 @@
         <source>Last frame</source>
         <translation>Letztes Bild</translation>
     </message>
-    <message id="IDD_RANGE_HOLDS" numerus="yes">
-        <source>Frames %1 to %2: %Ln frames, %3&#xa0;s</source>
+    <message id="IDD_CUT_KEPT" numerus="yes">
+        <source>Kept: %1&#xa0;s of %2&#xa0;s · %3 of %Ln frames</source>
         <translation>
-            <numerusform>Bilder %1 bis %2: %Ln Bild, %3&#xa0;s</numerusform>
-            <numerusform>Bilder %1 bis %2: %Ln Bilder, %3&#xa0;s</numerusform>
+            <numerusform>Behalten: %1&#xa0;s von %2&#xa0;s · %3 von %Ln Bild</numerusform>
+            <numerusform>Behalten: %1&#xa0;s von %2&#xa0;s · %3 von %Ln Bildern</numerusform>
         </translation>
     </message>
-    <message id="IDD_RANGE_ONE">
-        <source>Frame %1 only, %2&#xa0;s</source>
-        <translation>Nur Bild %1, %2&#xa0;s</translation>
+    <message id="IDD_CUT_PREVIOUS">
+        <source>Previous Frame</source>
+        <translation>Vorheriges Bild</translation>
+    </message>
+    <message id="IDD_CUT_NEXT">
+        <source>Next Frame</source>
+        <translation>Nächstes Bild</translation>
+    </message>
+    <message id="IDD_CUT_BACK_TEN">
+        <source>Back 10&#xa0;Frames</source>
+        <translation>10&#xa0;Bilder zurück</translation>
+    </message>
+    <message id="IDD_CUT_FORWARD_TEN">
+        <source>Forward 10&#xa0;Frames</source>
+        <translation>10&#xa0;Bilder vor</translation>
+    </message>
+    <message id="IDD_CUT_TO_START">
+        <source>Go to Start</source>
+        <translation>Zum Anfang</translation>
+    </message>
+    <message id="IDD_CUT_TO_END">
+        <source>Go to End</source>
+        <translation>Zum Ende</translation>
+    </message>
+    <message id="IDD_CUT_START_HERE">
+        <source>Start Here</source>
+        <translation>Hier beginnen</translation>
+    </message>
+    <message id="IDD_CUT_END_HERE">
+        <source>End Here</source>
+        <translation>Hier enden</translation>
+    </message>
+    <message id="IDD_PLAYHEAD">
+        <source>Playhead</source>
+        <translation>Abspielposition</translation>
+    </message>
+    <message id="IDD_CUT_FRAME">
+        <source>Frame %1 of %2, at %3&#xa0;s</source>
+        <translation>Bild %1 von %2, bei %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_TIP_SHORTCUT">
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>

@@ -535,16 +535,56 @@
         <source>Last frame</source>
         <translation>Last frame</translation>
     </message>
-    <message id="IDD_RANGE_HOLDS" numerus="yes">
-        <source>Frames %1 to %2: %Ln frames, %3&#xa0;s</source>
+    <message id="IDD_CUT_KEPT" numerus="yes">
+        <source>Kept: %1&#xa0;s of %2&#xa0;s · %3 of %Ln frames</source>
         <translation>
-            <numerusform>Frames %1 to %2: %Ln frame, %3&#xa0;s</numerusform>
-            <numerusform>Frames %1 to %2: %Ln frames, %3&#xa0;s</numerusform>
+            <numerusform>Kept: %1&#xa0;s of %2&#xa0;s · %3 of %Ln frame</numerusform>
+            <numerusform>Kept: %1&#xa0;s of %2&#xa0;s · %3 of %Ln frames</numerusform>
         </translation>
     </message>
-    <message id="IDD_RANGE_ONE">
-        <source>Frame %1 only, %2&#xa0;s</source>
-        <translation>Frame %1 only, %2&#xa0;s</translation>
+    <message id="IDD_CUT_PREVIOUS">
+        <source>Previous Frame</source>
+        <translation>Previous Frame</translation>
+    </message>
+    <message id="IDD_CUT_NEXT">
+        <source>Next Frame</source>
+        <translation>Next Frame</translation>
+    </message>
+    <message id="IDD_CUT_BACK_TEN">
+        <source>Back 10&#xa0;Frames</source>
+        <translation>Back 10&#xa0;Frames</translation>
+    </message>
+    <message id="IDD_CUT_FORWARD_TEN">
+        <source>Forward 10&#xa0;Frames</source>
+        <translation>Forward 10&#xa0;Frames</translation>
+    </message>
+    <message id="IDD_CUT_TO_START">
+        <source>Go to Start</source>
+        <translation>Go to Start</translation>
+    </message>
+    <message id="IDD_CUT_TO_END">
+        <source>Go to End</source>
+        <translation>Go to End</translation>
+    </message>
+    <message id="IDD_CUT_START_HERE">
+        <source>Start Here</source>
+        <translation>Start Here</translation>
+    </message>
+    <message id="IDD_CUT_END_HERE">
+        <source>End Here</source>
+        <translation>End Here</translation>
+    </message>
+    <message id="IDD_PLAYHEAD">
+        <source>Playhead</source>
+        <translation>Playhead</translation>
+    </message>
+    <message id="IDD_CUT_FRAME">
+        <source>Frame %1 of %2, at %3&#xa0;s</source>
+        <translation>Frame %1 of %2, at %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_TIP_SHORTCUT">
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>

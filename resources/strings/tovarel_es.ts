@@ -535,16 +535,56 @@
         <source>Last frame</source>
         <translation>Último fotograma</translation>
     </message>
-    <message id="IDD_RANGE_HOLDS" numerus="yes">
-        <source>Frames %1 to %2: %Ln frames, %3&#xa0;s</source>
+    <message id="IDD_CUT_KEPT" numerus="yes">
+        <source>Kept: %1&#xa0;s of %2&#xa0;s · %3 of %Ln frames</source>
         <translation>
-            <numerusform>Fotogramas %1 a %2: %Ln fotograma, %3&#xa0;s</numerusform>
-            <numerusform>Fotogramas %1 a %2: %Ln fotogramas, %3&#xa0;s</numerusform>
+            <numerusform>Se conserva: %1&#xa0;s de %2&#xa0;s · %3 de %Ln fotograma</numerusform>
+            <numerusform>Se conserva: %1&#xa0;s de %2&#xa0;s · %3 de %Ln fotogramas</numerusform>
         </translation>
     </message>
-    <message id="IDD_RANGE_ONE">
-        <source>Frame %1 only, %2&#xa0;s</source>
-        <translation>Solo el fotograma %1, %2&#xa0;s</translation>
+    <message id="IDD_CUT_PREVIOUS">
+        <source>Previous Frame</source>
+        <translation>Fotograma anterior</translation>
+    </message>
+    <message id="IDD_CUT_NEXT">
+        <source>Next Frame</source>
+        <translation>Fotograma siguiente</translation>
+    </message>
+    <message id="IDD_CUT_BACK_TEN">
+        <source>Back 10&#xa0;Frames</source>
+        <translation>Retroceder 10&#xa0;fotogramas</translation>
+    </message>
+    <message id="IDD_CUT_FORWARD_TEN">
+        <source>Forward 10&#xa0;Frames</source>
+        <translation>Avanzar 10&#xa0;fotogramas</translation>
+    </message>
+    <message id="IDD_CUT_TO_START">
+        <source>Go to Start</source>
+        <translation>Ir al principio</translation>
+    </message>
+    <message id="IDD_CUT_TO_END">
+        <source>Go to End</source>
+        <translation>Ir al final</translation>
+    </message>
+    <message id="IDD_CUT_START_HERE">
+        <source>Start Here</source>
+        <translation>Empezar aquí</translation>
+    </message>
+    <message id="IDD_CUT_END_HERE">
+        <source>End Here</source>
+        <translation>Terminar aquí</translation>
+    </message>
+    <message id="IDD_PLAYHEAD">
+        <source>Playhead</source>
+        <translation>Cabezal de reproducción</translation>
+    </message>
+    <message id="IDD_CUT_FRAME">
+        <source>Frame %1 of %2, at %3&#xa0;s</source>
+        <translation>Fotograma %1 de %2, en %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_TIP_SHORTCUT">
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>

@@ -535,16 +535,56 @@
         <source>Last frame</source>
         <translation>Dernière image</translation>
     </message>
-    <message id="IDD_RANGE_HOLDS" numerus="yes">
-        <source>Frames %1 to %2: %Ln frames, %3&#xa0;s</source>
+    <message id="IDD_CUT_KEPT" numerus="yes">
+        <source>Kept: %1&#xa0;s of %2&#xa0;s · %3 of %Ln frames</source>
         <translation>
-            <numerusform>Images %1 à %2&#xa0;: %Ln image, %3&#xa0;s</numerusform>
-            <numerusform>Images %1 à %2&#xa0;: %Ln images, %3&#xa0;s</numerusform>
+            <numerusform>Conservé&#xa0;: %1&#xa0;s sur %2&#xa0;s · %3 sur %Ln image</numerusform>
+            <numerusform>Conservé&#xa0;: %1&#xa0;s sur %2&#xa0;s · %3 sur %Ln images</numerusform>
         </translation>
     </message>
-    <message id="IDD_RANGE_ONE">
-        <source>Frame %1 only, %2&#xa0;s</source>
-        <translation>Image %1 seulement, %2&#xa0;s</translation>
+    <message id="IDD_CUT_PREVIOUS">
+        <source>Previous Frame</source>
+        <translation>Image précédente</translation>
+    </message>
+    <message id="IDD_CUT_NEXT">
+        <source>Next Frame</source>
+        <translation>Image suivante</translation>
+    </message>
+    <message id="IDD_CUT_BACK_TEN">
+        <source>Back 10&#xa0;Frames</source>
+        <translation>Reculer de 10&#xa0;images</translation>
+    </message>
+    <message id="IDD_CUT_FORWARD_TEN">
+        <source>Forward 10&#xa0;Frames</source>
+        <translation>Avancer de 10&#xa0;images</translation>
+    </message>
+    <message id="IDD_CUT_TO_START">
+        <source>Go to Start</source>
+        <translation>Aller au début</translation>
+    </message>
+    <message id="IDD_CUT_TO_END">
+        <source>Go to End</source>
+        <translation>Aller à la fin</translation>
+    </message>
+    <message id="IDD_CUT_START_HERE">
+        <source>Start Here</source>
+        <translation>Commencer ici</translation>
+    </message>
+    <message id="IDD_CUT_END_HERE">
+        <source>End Here</source>
+        <translation>Terminer ici</translation>
+    </message>
+    <message id="IDD_PLAYHEAD">
+        <source>Playhead</source>
+        <translation>Tête de lecture</translation>
+    </message>
+    <message id="IDD_CUT_FRAME">
+        <source>Frame %1 of %2, at %3&#xa0;s</source>
+        <translation>Image %1 sur %2, à %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_TIP_SHORTCUT">
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>

@@ -532,15 +532,55 @@
         <source>Last frame</source>
         <translation>最後のフレーム</translation>
     </message>
-    <message id="IDD_RANGE_HOLDS" numerus="yes">
-        <source>Frames %1 to %2: %Ln frames, %3&#xa0;s</source>
+    <message id="IDD_CUT_KEPT" numerus="yes">
+        <source>Kept: %1&#xa0;s of %2&#xa0;s · %3 of %Ln frames</source>
         <translation>
-            <numerusform>フレーム %1～%2: %Ln フレーム、%3&#xa0;秒</numerusform>
+            <numerusform>残す部分: %1&#xa0;秒 / %2&#xa0;秒 · %3 / %Ln&#xa0;フレーム</numerusform>
         </translation>
     </message>
-    <message id="IDD_RANGE_ONE">
-        <source>Frame %1 only, %2&#xa0;s</source>
-        <translation>フレーム %1 のみ、%2&#xa0;秒</translation>
+    <message id="IDD_CUT_PREVIOUS">
+        <source>Previous Frame</source>
+        <translation>前のフレーム</translation>
+    </message>
+    <message id="IDD_CUT_NEXT">
+        <source>Next Frame</source>
+        <translation>次のフレーム</translation>
+    </message>
+    <message id="IDD_CUT_BACK_TEN">
+        <source>Back 10&#xa0;Frames</source>
+        <translation>10&#xa0;フレーム戻る</translation>
+    </message>
+    <message id="IDD_CUT_FORWARD_TEN">
+        <source>Forward 10&#xa0;Frames</source>
+        <translation>10&#xa0;フレーム進む</translation>
+    </message>
+    <message id="IDD_CUT_TO_START">
+        <source>Go to Start</source>
+        <translation>先頭へ移動</translation>
+    </message>
+    <message id="IDD_CUT_TO_END">
+        <source>Go to End</source>
+        <translation>末尾へ移動</translation>
+    </message>
+    <message id="IDD_CUT_START_HERE">
+        <source>Start Here</source>
+        <translation>ここから開始</translation>
+    </message>
+    <message id="IDD_CUT_END_HERE">
+        <source>End Here</source>
+        <translation>ここで終了</translation>
+    </message>
+    <message id="IDD_PLAYHEAD">
+        <source>Playhead</source>
+        <translation>再生ヘッド</translation>
+    </message>
+    <message id="IDD_CUT_FRAME">
+        <source>Frame %1 of %2, at %3&#xa0;s</source>
+        <translation>%2&#xa0;フレーム中の %1 番目、%3&#xa0;秒</translation>
+    </message>
+    <message id="IDD_TIP_SHORTCUT">
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>

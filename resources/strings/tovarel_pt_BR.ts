@@ -535,16 +535,56 @@
         <source>Last frame</source>
         <translation>Último quadro</translation>
     </message>
-    <message id="IDD_RANGE_HOLDS" numerus="yes">
-        <source>Frames %1 to %2: %Ln frames, %3&#xa0;s</source>
+    <message id="IDD_CUT_KEPT" numerus="yes">
+        <source>Kept: %1&#xa0;s of %2&#xa0;s · %3 of %Ln frames</source>
         <translation>
-            <numerusform>Quadros %1 a %2: %Ln quadro, %3&#xa0;s</numerusform>
-            <numerusform>Quadros %1 a %2: %Ln quadros, %3&#xa0;s</numerusform>
+            <numerusform>Mantido: %1&#xa0;s de %2&#xa0;s · %3 de %Ln quadro</numerusform>
+            <numerusform>Mantido: %1&#xa0;s de %2&#xa0;s · %3 de %Ln quadros</numerusform>
         </translation>
     </message>
-    <message id="IDD_RANGE_ONE">
-        <source>Frame %1 only, %2&#xa0;s</source>
-        <translation>Só o quadro %1, %2&#xa0;s</translation>
+    <message id="IDD_CUT_PREVIOUS">
+        <source>Previous Frame</source>
+        <translation>Quadro anterior</translation>
+    </message>
+    <message id="IDD_CUT_NEXT">
+        <source>Next Frame</source>
+        <translation>Próximo quadro</translation>
+    </message>
+    <message id="IDD_CUT_BACK_TEN">
+        <source>Back 10&#xa0;Frames</source>
+        <translation>Voltar 10&#xa0;quadros</translation>
+    </message>
+    <message id="IDD_CUT_FORWARD_TEN">
+        <source>Forward 10&#xa0;Frames</source>
+        <translation>Avançar 10&#xa0;quadros</translation>
+    </message>
+    <message id="IDD_CUT_TO_START">
+        <source>Go to Start</source>
+        <translation>Ir para o início</translation>
+    </message>
+    <message id="IDD_CUT_TO_END">
+        <source>Go to End</source>
+        <translation>Ir para o fim</translation>
+    </message>
+    <message id="IDD_CUT_START_HERE">
+        <source>Start Here</source>
+        <translation>Começar aqui</translation>
+    </message>
+    <message id="IDD_CUT_END_HERE">
+        <source>End Here</source>
+        <translation>Terminar aqui</translation>
+    </message>
+    <message id="IDD_PLAYHEAD">
+        <source>Playhead</source>
+        <translation>Indicador de reprodução</translation>
+    </message>
+    <message id="IDD_CUT_FRAME">
+        <source>Frame %1 of %2, at %3&#xa0;s</source>
+        <translation>Quadro %1 de %2, em %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_TIP_SHORTCUT">
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
     <message id="IDD_CUT_PREVIEW">
         <source>Frame preview</source>

@@ -3,6 +3,7 @@
 #include "shell/tab_view.h"
 #include "tests/controller/controller_fixture.h"
 #include "tests/support/files.h"
+#include "trim/strip_look.h"
 #include "trim/view_cut_preview.h"
 #include "trim/view_cut_range.h"
 
@@ -10,9 +11,8 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cmath>
 #include <random>
-
-using range_rules::Handle;
 
 namespace {
 
@@ -43,13 +43,24 @@ protected:
         return -1;
     }
 
+    /// What the strip shows at x.
+    QColor stripColour(double x) {
+        return strip->grab().toImage().pixelColor(static_cast<int>(x), filmMiddle);
+    }
+
+    void settlePictures() {
+        strip->grab(); // asks for them
+        ASSERT_TRUE(QTest::qWaitFor([this] { return strip->arePicturesComplete(); }));
+    }
+
     void drag(double from, double to) {
-        const int y = strip->height() / 2;
+        const int y = filmMiddle;
         QTest::mousePress(strip, Qt::LeftButton, {}, QPoint(static_cast<int>(from), y));
         QTest::mouseMove(strip, QPoint(static_cast<int>(to), y));
         QTest::mouseRelease(strip, Qt::LeftButton, {}, QPoint(static_cast<int>(to), y));
     }
 
+    static constexpr int filmMiddle = strip_look::filmTop + strip_look::filmHeight / 2;
     View_Cut_Range *strip = ui().viewCutRange;
     View_Cut_Preview *preview = ui().viewCutPreview;
 };
@@ -76,37 +87,253 @@ TEST_F(CutTab, withoutARecordingItSaysSoInWhiteOnBlack) {
         white |= shown.pixelColor(x, shown.height() / 2) == QColor(Qt::white);
     EXPECT_TRUE(white);
     EXPECT_EQ(shown.pixelColor(2, 2), QColor(Qt::black));
-    delegate->trimEditor.togglePlayback();
+    ui().menuitemActionCutPlay->trigger();
     EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_STOP);
 }
 
-TEST_F(CutTab, stripShowsHandlesAndBandInTheirColoursAndAPlayheadWhilePlaying) {
+TEST_F(CutTab, thePicturesAreOfTheirTimesAndPartsThatAreLeftOutAreDarkened) {
     haveRecording(10, 5);
+    settlePictures();
     const double W = strip->width();
-    const auto colourAt = [&](double x) {
-        return strip->grab().toImage().pixelColor(static_cast<int>(x), strip->height() / 2);
+    const auto isFrame = [this](QColor colour, int frame) { return colour == colourOf(frame); };
+    for (const int frame : {1, 3, 5, 8})
+        EXPECT_TRUE(isFrame(stripColour(W * (frame + 0.5) / 10), frame)) << frame;
+    // Beyond a handle.
+    strip->moveToFrame(StripPart::Menor, 3);
+    delegate->trimEditor.showFrame(9);
+    const QColor out = stripColour(W * 0.15);
+    EXPECT_LT(out.lightness(), colourOf(1).lightness() / 2);
+    EXPECT_TRUE(isFrame(stripColour(W * 0.55), 5));
+    // What was deleted is darkened as well, and hatched in both tones.
+    delegate->trimEditor.select(5, 6);
+    EXPECT_NE(stripColour(W * 0.55), colourOf(5)) << "marked";
+    delegate->trimEditor.deleteSelection();
+    const QImage strips = strip->grab().toImage();
+    int light = 0;
+    int dark = 0;
+    for (int x = static_cast<int>(W * 0.51); x < W * 0.69; ++x) {
+        const int tone = strips.pixelColor(x, filmMiddle).lightness();
+        light += tone > 150 ? 1 : 0;
+        dark += tone < 60 ? 1 : 0;
+    }
+    EXPECT_GT(light, 5);
+    EXPECT_GT(dark, 20);
+    EXPECT_TRUE(isFrame(stripColour(W * 0.75), 7)) << "and the rest as before";
+
+    // Another recording, in which the same frames show something else and files are missing.
+    auto &frames = *delegate->recording.array_Images;
+    std::ranges::reverse(frames);
+    delegate->trimEditor.keepWholeRecording();
+    strip->grab();
+    settlePictures();
+    EXPECT_TRUE(isFrame(stripColour(W * 0.35), 6));
+    // Without a store, the files; one that cannot be read stays blank.
+    for (int frame = 0; frame < 10; ++frame)
+        if (frame != 2)
+            frames[static_cast<std::size_t>(frame)].toQImage().save(frameFile(frame));
+    delegate->recording.array_Images.reset();
+    strip->grab();
+    settlePictures();
+    EXPECT_TRUE(isFrame(stripColour(W * 0.35), 6));
+    EXPECT_EQ(stripColour(W * 0.25).rgb(), strip->palette().color(QPalette::Mid).rgb());
+}
+
+TEST_F(CutTab, everyShapeHasALightAndADarkEdgeAtEveryScaleOfColours) {
+    haveRecording(10, 5);
+    settlePictures();
+    delegate->trimEditor.showFrame(5);
+    const auto luminance = [](QColor colour) {
+        const auto part = [](double share) {
+            return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
+               0.0722 * part(colour.blueF());
     };
-    EXPECT_EQ(colourAt(2), QColor(255, 0, 0));
-    EXPECT_EQ(colourAt(W - 3), QColor(255, 0, 0));
-    EXPECT_EQ(colourAt(W / 2), QColor(0, 255, 0));
-    drag(2, W / 4);
-    EXPECT_EQ(colourAt(2).red(), colourAt(2).blue());
-    EXPECT_NEAR(colourAt(2).red(), 128, 1);
+    for (const QColor accent : {QColor(Qt::white), QColor(Qt::black), QColor(48, 140, 198)}) {
+        QPalette palette = strip->palette();
+        palette.setColor(QPalette::Highlight, accent);
+        strip->setPalette(palette);
+        const QImage shown = strip->grab().toImage();
+        for (const QRectF &shape :
+             {strip->rectMenor(), strip->rectMaior(), strip->rectPlayhead()}) {
+            double darkest = 1;
+            double lightest = 0;
+            for (double x = shape.left() - 2; x < shape.right() + 2; ++x) {
+                const int at = std::clamp(static_cast<int>(x), 0, shown.width() - 1);
+                const double tone = luminance(shown.pixelColor(at, filmMiddle));
+                darkest = std::min(darkest, tone);
+                lightest = std::max(lightest, tone);
+            }
+            EXPECT_GE((lightest + 0.05) / (darkest + 0.05), 3.0) << shape.left();
+        }
+    }
+}
+
+TEST_F(CutTab, thePlayheadHasARectangleOfItsOwnAndHandlesStayWhatTheyAre) {
+    haveRecording(10, 60);
+    const double W = strip->width();
+    strip->grab();
+    EXPECT_EQ(strip->rectMenor().left(), 0.0);
+    EXPECT_EQ(strip->rectMenor().width(), 12.0);
+    EXPECT_EQ(strip->rectMaior().right(), W);
+    delegate->OnCutPlay(nullptr);
+    delegate->trim.timerPlayRefresh.reset(); // From here the test is the clock.
+    for (int tick = 0; tick < 4; ++tick)
+        delegate->TimerRefreshPlayRoutine();
+    strip->grab();
+    EXPECT_NEAR(strip->rectPlayhead().left(), 4 * W / 10, 0.01);
+    EXPECT_EQ(strip->rectMenor().left(), 0.0);
+    EXPECT_EQ(strip->rectMaior().right(), W);
+    // A handle can be dragged while it plays; that pauses, and shows the frame at the handle.
+    drag(W - 3, W * 0.65);
+    EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_PAUSE);
+    EXPECT_NEAR(delegate->trim.f_Cut_Percent_Maior(), 65.0f, 0.5f);
+    EXPECT_EQ(shownFrame(), 7);
+    // And so can the playhead, by its knob, beyond what is kept.
+    delegate->OnCutPlay(nullptr);
+    delegate->trim.timerPlayRefresh.reset();
+    strip->grab();
+    const QPoint knob = strip->areaOf(StripPart::Playhead).center();
+    const int far = static_cast<int>(W * 0.85);
+    QTest::mousePress(strip, Qt::LeftButton, {}, knob);
+    EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_PLAY);
+    QTest::mouseMove(strip, QPoint(far, knob.y() + 20));
+    QTest::mouseRelease(strip, Qt::LeftButton, {}, QPoint(far, knob.y() + 20));
+    EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_PAUSE);
+    EXPECT_EQ(shownFrame(), 8);
+    EXPECT_FALSE(delegate->trimEditor.selection());
+}
+
+TEST_F(CutTab, aClickShowsAFrameWhereverItIsAndADragOfFourPointsSelects) {
+    haveRecording(10, 60);
+    const double W = strip->width();
+    const auto click = [this](double x) {
+        QTest::mouseClick(strip, Qt::LeftButton, {}, QPoint(static_cast<int>(x), filmMiddle));
+    };
+    const auto playFrom = [this] {
+        delegate->OnCutPlay(nullptr);
+        delegate->trim.timerPlayRefresh.reset();
+        const int first = shownFrame();
+        delegate->OnCutStop(nullptr);
+        return first;
+    };
+    delegate->trimEditor.select(4, 5);
+    delegate->trimEditor.deleteSelection();
+    strip->moveToFrame(StripPart::Maior, 7);
+    strip->grab();
+    const struct {
+        double at;
+        int frame;
+        int playedFrom;
+    } cases[] = {{0.25, 2, 2}, {0.45, 4, 6}, {0.95, 9, 0}};
+    for (const auto &[at, frame, playedFrom] : cases) {
+        click(W * at);
+        EXPECT_EQ(delegate->trim.uCurrentFrame(), static_cast<std::uint64_t>(frame));
+        EXPECT_EQ(shownFrame(), frame);
+        EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_STOP);
+        EXPECT_TRUE(delegate->tabViewShouldSelectTabViewItem(QStringLiteral("3")));
+        EXPECT_EQ(playFrom(), playedFrom);
+        EXPECT_EQ(shownFrame(), 0) << "after Stop";
+    }
+    EXPECT_EQ(playFrom(), 0) << "nothing was chosen since Stop";
+
+    drag(W * 0.25, W * 0.25 + 3);
+    EXPECT_FALSE(delegate->trimEditor.selection());
+    drag(W * 0.25, W * 0.25 + 5);
+    ASSERT_TRUE(delegate->trimEditor.selection());
+    drag(W * 0.2, W * 0.35);
+    click(W * 0.3);
+    EXPECT_TRUE(delegate->trimEditor.selection()) << "within it";
+    click(W * 0.55);
+    EXPECT_FALSE(delegate->trimEditor.selection());
 
     delegate->OnCutPlay(nullptr);
-    EXPECT_EQ(colourAt(2), QColor(0, 0, 255));
-    EXPECT_NEAR(colourAt(W / 2).red(), 128, 1);
-    // Nothing can be moved now, not even by a press that hits the playhead.
-    const float before = delegate->trim.f_Cut_Percent_Menor();
-    drag(2, W / 2);
-    QTest::keyClick(strip, Qt::Key_Right);
-    EXPECT_EQ(delegate->trim.f_Cut_Percent_Menor(), before);
+    delegate->trim.timerPlayRefresh.reset();
+    click(W * 0.65);
+    EXPECT_EQ(shownFrame(), 6);
+    EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_PLAY) << "it goes on from there";
+    delegate->TimerRefreshPlayRoutine();
+    EXPECT_EQ(shownFrame(), 7);
+    delegate->OnCutPause(nullptr);
+    click(W * 0.85);
+    EXPECT_EQ(shownFrame(), 8);
+    EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_PAUSE);
+}
+
+TEST_F(CutTab, keysAreCommandsOfThisTabUnlessWhatHasTheFocusUsesThem) {
+    haveRecording(30, 60);
+    window()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+    const auto press = [](Qt::Key key, Qt::KeyboardModifiers with = {}) {
+        QTest::keyClick(QApplication::focusWidget(), key, with);
+    };
+    strip->setFocus();
+    QTest::mouseClick(strip, Qt::LeftButton, {}, QPoint(strip->width() / 2, filmMiddle));
+    const struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers with;
+        int shown;
+    } cases[] = {{Qt::Key_Right, {}, 16},
+                 {Qt::Key_Left, {}, 15},
+                 {Qt::Key_Left, Qt::ShiftModifier, 5},
+                 {Qt::Key_Right, Qt::ShiftModifier, 15},
+                 {Qt::Key_Right, Qt::ShiftModifier, 25},
+                 {Qt::Key_Right, Qt::ShiftModifier, 29},
+                 {Qt::Key_Home, {}, 0},
+                 {Qt::Key_End, {}, 29}};
+    for (const auto &[key, with, shown] : cases) {
+        press(key, with);
+        EXPECT_EQ(shownFrame(), shown) << key;
+    }
+    press(Qt::Key_Home);
+    press(Qt::Key_Right, Qt::ShiftModifier);
+    press(Qt::Key_I);
+    EXPECT_EQ(strip->frameOf(StripPart::Menor), 10u);
+    press(Qt::Key_Right, Qt::ShiftModifier);
+    press(Qt::Key_O);
+    EXPECT_EQ(strip->frameOf(StripPart::Maior), 20u);
+    EXPECT_EQ(shownFrame(), 20);
+    // A selection from the playhead on.
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    ASSERT_TRUE(delegate->trimEditor.selection());
+    EXPECT_EQ(*delegate->trimEditor.selection(), (FrameRuns::Run{19, 20}));
+    press(Qt::Key_Delete);
+    EXPECT_EQ(delegate->trimEditor.leftOut().count(), 2u);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(delegate->trimEditor.leftOut().count(), 0u);
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(delegate->trimEditor.leftOut().count(), 2u);
+
+    press(Qt::Key_Space);
+    EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_PLAY);
+    press(Qt::Key_Space);
+    EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_PAUSE);
+    press(Qt::Key_Return);
+    EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_PLAY);
+    // A button takes Space for itself, the tabs take the arrows.
+    ui().btnCutStop->setFocus();
+    press(Qt::Key_Space);
+    EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_STOP);
+    delegate->trimEditor.showFrame(12);
+    ui().btnCutUndo->setFocus();
+    press(Qt::Key_Right);
+    EXPECT_EQ(shownFrame(), 13);
+    ui().tabBar->setFocus();
+    press(Qt::Key_Left);
+    EXPECT_EQ(delegate->shell.tabviewMain()->selectedIndex(), 0);
+    // Not on another tab.
+    ui().btnRecordRegion->setFocus();
+    press(Qt::Key_Home);
+    press(Qt::Key_I);
+    EXPECT_EQ(delegate->trim.uCurrentFrame(), 13u);
+    EXPECT_EQ(strip->frameOf(StripPart::Menor), 10u);
 }
 
 TEST_F(CutTab, playbackLoopsOverTheRangePausesResumesAndStartsAfreshAfterStop) {
     haveRecording(10, 60);
-    strip->moveToFrame(Handle::Menor, 3);
-    strip->moveToFrame(Handle::Maior, 6);
+    strip->moveToFrame(StripPart::Menor, 3);
+    strip->moveToFrame(StripPart::Maior, 6);
     delegate->OnCutPlay(nullptr);
     ASSERT_TRUE(delegate->trim.timerPlayRefresh);
     EXPECT_EQ(delegate->trim.timerPlayRefresh->interval(), 1.0 / 60.0);
@@ -161,7 +388,7 @@ TEST_F(CutTab, thePreviewShowsTheFrameAtTheHandleInHandAndTheFirstAfterStop) {
 
 TEST_F(CutTab, aRangeAtTheVeryEndShowsTheLastFrameInPlaybackToo) {
     haveRecording(10, 5);
-    strip->moveToFrame(Handle::Menor, 10);
+    strip->moveToFrame(StripPart::Menor, 10);
     EXPECT_EQ(shownFrame(), 9);
     EXPECT_EQ(delegate->trim.uFirstFrame(), 10u);
     delegate->OnCutPlay(nullptr);
@@ -182,15 +409,15 @@ TEST_F(CutTab, whateverIsPressedTheHandlesStayInOrderAndAKeyMovesOneFrame) {
     window()->activateWindow();
     strip->setFocus();
     const auto frames = [&] {
-        return std::pair(strip->frameOf(Handle::Menor), strip->frameOf(Handle::Maior));
+        return std::pair(strip->frameOf(StripPart::Menor), strip->frameOf(StripPart::Maior));
     };
     const Qt::Key keys[] = {Qt::Key_Left,   Qt::Key_Right,    Qt::Key_Tab,  Qt::Key_Backtab,
                             Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
     for (int step = 0; step < 400; ++step) {
         const Qt::Key key = keys[upTo(7)];
         const auto before = frames();
-        const bool stopped = delegate->trim.m_PlayStatus() == PLAY_STATUS_STOP;
-        const std::uint64_t chosen = strip->frameOf(strip->chosenHandle());
+        const bool onHandle = strip->chosenPart() != StripPart::Playhead;
+        const std::uint64_t chosen = strip->frameOf(strip->chosenPart());
         const bool atEnd = key == Qt::Key_Left ? chosen == 0 : chosen == strip->frameCount();
         const QRectF handle = upTo(1) == 0 ? strip->rectMenor() : strip->rectMaior();
         switch (upTo(8)) {
@@ -213,7 +440,7 @@ TEST_F(CutTab, whateverIsPressedTheHandlesStayInOrderAndAKeyMovesOneFrame) {
             QTest::keyClick(strip, key);
             const auto after = frames();
             if (key == Qt::Key_Left || key == Qt::Key_Right) {
-                ASSERT_EQ(after != before, stopped && !atEnd) << "step " << step;
+                ASSERT_EQ(after != before, onHandle && !atEnd) << "step " << step;
                 ASSERT_LE(distance(before.first, after.first) +
                               distance(before.second, after.second),
                           1u);
@@ -239,24 +466,26 @@ TEST_F(CutTab, aSelectedPartIsLeftOutOfEverythingAndComesBack) {
         delegate->OnCutStop(nullptr);
         return frames;
     };
-    const auto redAt = [&](double x) {
-        return strip->grab().toImage().pixelColor(static_cast<int>(x), 3);
-    };
     EXPECT_FALSE(ui().btnCutDelete->isEnabled());
     drag(W * 0.35, W * 0.58);
     ASSERT_TRUE(delegate->trimEditor.selection());
     EXPECT_EQ(*delegate->trimEditor.selection(), (FrameRuns::Run{3, 5}));
     EXPECT_EQ(shownFrame(), 5) << "where the drag is";
-    EXPECT_NE(redAt(W * 0.45), QColor(0, 255, 0)) << "marked";
     ASSERT_TRUE(ui().btnCutDelete->isEnabled());
     ui().menuitemActionCutDelete->trigger();
     EXPECT_FALSE(ui().btnCutDelete->isEnabled());
-    EXPECT_NE(redAt(W * 0.45), QColor(0, 255, 0)) << "hatched";
-    EXPECT_EQ(redAt(W * 0.7), QColor(0, 255, 0));
-    EXPECT_EQ(shown(), QList<int>({0, 1, 2, 6, 7, 8, 9, 0, 1, 2}));
+    EXPECT_EQ(shownFrame(), 6) << "what follows it";
+    EXPECT_EQ(shown(), QList<int>({6, 7, 8, 9, 0, 1, 2, 6, 7, 8}));
     EXPECT_EQ(delegate->exporter.timingRequest({}).kept.count(), 7u);
 
+    preview->grab();
+    EXPECT_EQ(ui().labelCutRange->text(),
+              QStringLiteral("Kept: 1.4\u00a0s of 2.0\u00a0s · 7 of 10 frames"));
+    EXPECT_EQ(ui().labelCutTime->text(), QStringLiteral("0:00.0"));
+
     // By keys, from the frame at the handle on: the first step selects that frame.
+    strip->clearFocus();
+    strip->setFocus(Qt::TabFocusReason);
     QTest::keyClick(strip, Qt::Key_Right, Qt::ShiftModifier);
     QTest::keyClick(strip, Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_EQ(*delegate->trimEditor.selection(), (FrameRuns::Run{0, 1}));
@@ -265,7 +494,7 @@ TEST_F(CutTab, aSelectedPartIsLeftOutOfEverythingAndComesBack) {
     drag(W * 0.85, W * 0.65);
     EXPECT_EQ(*delegate->trimEditor.selection(), (FrameRuns::Run{6, 8}));
     ui().btnCutDelete->click();
-    EXPECT_EQ(shown(), QList<int>({0, 1, 2, 9, 0, 1, 2, 9, 0, 1}));
+    EXPECT_EQ(shown(), QList<int>({9, 0, 1, 2, 9, 0, 1, 2, 9, 0}));
 
     ui().menuitemActionCutUndo->trigger();
     ui().menuitemActionCutUndo->trigger();
@@ -273,8 +502,6 @@ TEST_F(CutTab, aSelectedPartIsLeftOutOfEverythingAndComesBack) {
     EXPECT_EQ(delegate->exporter.timingRequest({}).kept.count(), 10u);
     ui().menuitemActionCutRedo->trigger();
     EXPECT_EQ(delegate->exporter.timingRequest({}).kept.count(), 7u);
-    QTest::mouseClick(strip, Qt::LeftButton, {}, QPoint(static_cast<int>(W / 2), 5));
-    EXPECT_FALSE(delegate->trimEditor.selection()) << "a click selects nothing";
     delegate->trimEditor.keepWholeRecording();
     EXPECT_FALSE(delegate->trimEditor.mayUndo() || delegate->trimEditor.mayRedo());
 }

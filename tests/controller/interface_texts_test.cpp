@@ -226,7 +226,8 @@ void fillIn(const Ui::MainWindow &ui) {
     using namespace number_text;
     ui.labelCaptureMode->setText(qtTrId("IDD_MODE_REGION").arg(1920).arg(1080).arg(1234).arg(567));
     ui.labelCutRange->setText(
-        qtTrId("IDD_RANGE_HOLDS", 1234).arg(count(123), count(1356), decimal(123.4, 2)));
+        qtTrId("IDD_CUT_KEPT", 12345).arg(decimal(123.4), decimal(1234.5), count(1234)));
+    ui.labelCutTime->setText(time(754.3));
     const QString summary = qtTrId("IDD_GIF_SUMMARY", 1234).arg(decimal(123.4), rate(12.4));
     ui.labelGIFSummary->setText(qtTrId("IDD_GIF_WEBP_SUMMARY").arg(summary, summary));
     ui.labelGIFThinned->setText(qtTrId("IDD_GIF_THINNED"));

@@ -93,7 +93,8 @@ class Accessibility(case.Case):
     def test_the_other_tabs_and_an_alert(self):
         self.program.record(1)
         self.await_keys()
-        self.check_order((BAR, "Cut"), ("slider", "First frame"), ("slider", "Last frame"),
+        self.check_order((BAR, "Cut"), ("slider", "First frame"), ("slider", "Playhead"),
+                         ("slider", "Last frame"),
                          *self.buttons("Shorten Still Time", "Play"))
         self.program.enter("GIF")
         self.program.choose_quality("Balanced")  # the other encoder knows no limit

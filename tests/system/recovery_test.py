@@ -15,7 +15,7 @@ from driver import Program
 
 STILL_THERE = "An earlier recording is still there"
 RECORDED = 3  # seconds
-KEPT = re.compile(r"Frames 1 to (\d+): (\d+) frames, ([\d.,]+)\ss")
+KEPT = re.compile(r"Kept: ([\d.,]+)\ss of [\d.,]+\ss · (\d+) of (\d+) frames")
 
 
 class Recovery(case.Case):
@@ -33,8 +33,8 @@ class Recovery(case.Case):
         """Number of frames and seconds, as the Cut tab shows them."""
         found = [match for text in program.labels() if (match := KEPT.search(text))]
         self.assertTrue(found, program.labels())
-        self.assertEqual(found[0][1], found[0][2])
-        return int(found[0][2]), float(found[0][3].replace(",", "."))
+        self.assertEqual(found[0][2], found[0][3])
+        return int(found[0][2]), float(found[0][1].replace(",", "."))
 
     def check_nothing_is_offered(self):
         program = Program(self.session, recover=True)

@@ -11,20 +11,33 @@ using namespace range_rules;
 TEST(RangeRules, handlesStandInsideTheirPercentagesAndTheBandFillsWhatIsLeft) {
     const Handles whole{0.0f, 100.0f};
     EXPECT_EQ(lowerHandle(whole.menor, 600).x, 0.0);
-    EXPECT_EQ(upperHandle(whole.maior, 600).x, 595.0);
-    EXPECT_EQ(bandBetween(whole, 600).x, 5.0);
-    EXPECT_EQ(bandBetween(whole, 600).width, 590.0);
+    EXPECT_EQ(upperHandle(whole.maior, 600).x, 588.0);
+    EXPECT_EQ(bandBetween(whole, 600).x, 12.0);
+    EXPECT_EQ(bandBetween(whole, 600).width, 576.0);
     // Places are single precision: a third of 1000 points is the float next to it.
     EXPECT_EQ(lowerHandle(33.333332f, 1000).x, static_cast<double>(333.33332f));
     EXPECT_LT(bandBetween({50.0f, 50.5f}, 600).width, 0.0);
 }
 
-TEST(RangeRules, aHandleContainsItsLeftEndAndNotItsRightOne) {
-    const Stretch handle{10.0, 5.0};
-    EXPECT_TRUE(contains(handle, 10.0));
-    EXPECT_TRUE(contains(handle, 14.999));
-    EXPECT_FALSE(contains(handle, 15.0));
-    EXPECT_FALSE(contains(handle, 9.999));
+TEST(RangeRules, aPressGoesToTheNearerHandleWithinReachAndToTheOneThatCanStillMove) {
+    constexpr Handle menor = Handle::Menor;
+    constexpr Handle maior = Handle::Maior;
+    const struct {
+        Handles handles;
+        double x;
+        std::optional<Handle> goesTo;
+    } cases[] = {
+        {{10, 90}, 100, menor},    {{10, 90}, 88, menor},    {{10, 90}, 87.9, {}},
+        {{10, 90}, 124, menor},    {{10, 90}, 124.1, {}},    {{10, 90}, 500, {}},
+        {{10, 90}, 888, maior},    {{10, 90}, 912, maior},   {{10, 90}, 912.1, {}},
+        {{10, 14}, 117, menor},    {{10, 14}, 123, maior}, // in reach of both
+        {{50, 50}, 505, menor},    {{50, 50}, 495, maior}, // beside one another, each can move
+        {{50, 50.5f}, 498, maior}, {{0, 1}, 9, menor},     // one over the other
+        {{0, 0}, 5, maior},        {{100, 100}, 995, menor}, {{0, 100}, 0, menor},
+    };
+    for (const auto &[handles, x, goesTo] : cases)
+        EXPECT_EQ(handleNear(handles, x, 1000), goesTo) << handles.menor << " press at " << x;
+    EXPECT_FALSE(handleNear({0, 100}, std::numeric_limits<double>::quiet_NaN(), 1000));
 }
 
 TEST(RangeRules, aDragFollowsThePointerAndStaysAtTheEndBeyondIt) {
@@ -78,11 +91,12 @@ TEST(RangeRules, everyFrameNumberHasAPercentageThatLeadsBackToIt) {
     EXPECT_EQ(percentFor(0, 10), 0.0f);
 }
 
-TEST(RangeRules, thePlayheadStandsAtAWholePercentageAndAtTheLeftOfAnEmptyRange) {
-    EXPECT_EQ(playhead(5, 0, 10, 640).x, 320.0);
-    EXPECT_EQ(playhead(1, 0, 3, 600).x, 198.0); // 33 percent, the third is cut off
-    EXPECT_EQ(playhead(7, 7, 7, 600).x, 0.0);
-    EXPECT_EQ(playhead(2, 7, 9, 600).x, 0.0);
+TEST(RangeRules, thePlayheadStandsWhereItsFrameBegins) {
+    EXPECT_EQ(playhead(5, 10, 640).x, 320.0);
+    EXPECT_EQ(playhead(1, 3, 600).x, 200.0);
+    EXPECT_EQ(playhead(0, 0, 600).x, 0.0);
+    for (std::uint64_t frame = 0; frame < 18'000; frame += 7)
+        ASSERT_EQ(frameAtX(playhead(frame, 18'000, 696).x + 1e-6, 18'000, 696), frame);
 }
 
 TEST(RangeRules, whatIsShownAndExportedExists) {
