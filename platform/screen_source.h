@@ -10,6 +10,7 @@
 #include <QSize>
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -118,6 +119,12 @@ public:
     /// knows no numbers and always gives all that was chosen.
     virtual std::optional<ScreenPicture> latest(std::span<const std::uint32_t> numbers,
                                                 const std::optional<QRect> &part) = 0;
+
+    /// When the newest picture was drawn, be it the same as before; none before the first, or of a
+    /// source that is asked for a picture when one is needed.
+    virtual std::optional<std::chrono::steady_clock::time_point> newestPicture() const {
+        return {};
+    }
 
 Q_SIGNALS:
     /// State, obstacle, or what was chosen may be another now.

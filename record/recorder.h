@@ -232,7 +232,7 @@ private:
     void frameLoaded(std::uint64_t done);
     void takeRecording(std::vector<Image> frames, const RecordingNote &note);
 
-    SteppingAside steppingAside_{surroundings_};
+    SteppingAside steppingAside_{surroundings_, [this] { return source().newestPicture(); }};
     bool choosesRegionOnceLive_ = false;
     bool recordsOnceOpen_ = false;      ///< Record was pressed before anything was chosen.
     bool reopens_ = false;              ///< Something was chosen when it was given back.

@@ -15,10 +15,15 @@
 namespace {
 
 using std::chrono::milliseconds;
+using Clock = std::chrono::steady_clock;
 
-/// From the request to be out of sight to the first frame that counts, at least: a compositor on a
-/// slow machine takes half a second, and may let the window fly away.
+/// From the request to be out of sight to the first picture that counts, at least: a compositor on
+/// a slow machine takes half a second, and may let the window fly away.
 constexpr milliseconds untilGone{600};
+/// After so long without another picture nothing flies any more.
+constexpr milliseconds stillForSure{700};
+/// If nothing at all has changed for so long, the window was not in the pictures.
+constexpr milliseconds neverSeen{3000};
 /// A compositor that still shows the window after so long does not minimize windows.
 constexpr milliseconds longestWait{2000};
 constexpr milliseconds betweenLooks{50};
@@ -48,7 +53,14 @@ bool showsOneOfOurs(QObject *watched, const QEvent &event) {
 
 } // namespace
 
-SteppingAside::SteppingAside(Surroundings &surroundings) : surroundings_(surroundings) {
+bool isGoneFromPictures(Clock::time_point newest, Clock::time_point left, Clock::time_point now) {
+    if (newest <= left)
+        return now - left >= neverSeen;
+    return newest - left >= untilGone || now - newest >= stillForSure;
+}
+
+SteppingAside::SteppingAside(Surroundings &surroundings, NewestPicture newestPicture)
+    : surroundings_(surroundings), newestPicture_(std::move(newestPicture)) {
     looks_.setInterval(betweenLooks);
     connect(&looks_, &QTimer::timeout, this, &SteppingAside::look);
 }
@@ -103,8 +115,17 @@ void SteppingAside::go(std::function<void()> goOn) {
 void SteppingAside::minimize() {
     isMinimized_ = true;
     surroundings_.shell.window()->showMinimized();
+    left_ = Clock::now();
     since_.start();
     unseen_.start();
+}
+
+bool SteppingAside::isGone() const {
+    if (milliseconds(since_.elapsed()) < untilGone ||
+        milliseconds(unseen_.elapsed()) < unseenForSure)
+        return false;
+    const auto newest = newestPicture_();
+    return !newest || isGoneFromPictures(*newest, left_, Clock::now());
 }
 
 void SteppingAside::look() {
@@ -125,10 +146,10 @@ void SteppingAside::look() {
     if (isSeen && milliseconds(since_.elapsed()) >= longestWait) {
         // A start of the program while it runs brings it back.
         window.hide();
+        left_ = Clock::now();
         since_.start();
     }
-    if (milliseconds(since_.elapsed()) < untilGone ||
-        milliseconds(unseen_.elapsed()) < unseenForSure)
+    if (!isGone())
         return;
     looks_.stop();
     place_ = Place::Away;

@@ -6,9 +6,18 @@
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
 #include <functional>
+#include <optional>
 
 class Surroundings;
+
+/// Whether pictures no longer show windows that were asked to go at `left`, now and from `now` on;
+/// the newest of them was drawn at `newest`. A compositor that is busy with their leaving may hand
+/// out no picture for seconds, and then a clock alone tells nothing.
+bool isGoneFromPictures(std::chrono::steady_clock::time_point newest,
+                        std::chrono::steady_clock::time_point left,
+                        std::chrono::steady_clock::time_point now);
 
 /// Keeps our own windows out of pictures that hold everything visible, as a Wayland desktop hands
 /// them out: they get out of the way before the first frame counts, and whoever listens learns at
@@ -17,8 +26,11 @@ class SteppingAside : public QObject {
     Q_OBJECT
 
 public:
+    /// When the newest picture was drawn; none where nobody knows.
+    using NewestPicture = std::function<std::optional<std::chrono::steady_clock::time_point>()>;
+
     /// `surroundings` are borrowed and outlive it.
-    explicit SteppingAside(Surroundings &surroundings);
+    SteppingAside(Surroundings &surroundings, NewestPicture newestPicture);
     ~SteppingAside() override;
 
     /// Whether our windows still have to go first. If so they begin to, and `goOn` is called when
@@ -50,7 +62,11 @@ private:
     void arrive();
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    bool isGone() const;
+
     Surroundings &surroundings_;
+    NewestPicture newestPicture_;
+    std::chrono::steady_clock::time_point left_; ///< When it was asked to be out of sight.
     Place place_ = Place::Here;
     bool quiet_ = false; ///< It is not to be told that something of ours is seen.
     std::function<void()> goOn_;

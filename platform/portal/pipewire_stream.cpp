@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstring>
 
@@ -52,11 +53,27 @@ QRect pictureIn(const spa_buffer &buffer, QSize frame) {
         .intersected(all);
 }
 
+using Clock = std::chrono::steady_clock;
+
+const spa_meta_header *headerOf(const spa_buffer &buffer) {
+    return static_cast<const spa_meta_header *>(
+        spa_buffer_find_meta_data(&buffer, SPA_META_Header, sizeof(spa_meta_header)));
+}
+
+/// When the frame was drawn. The steady clock is the one that compositors go by; what cannot be is
+/// not believed.
+Clock::time_point drawnAt(const spa_buffer &buffer) {
+    constexpr std::chrono::seconds longestWay{10};
+    const Clock::time_point now = Clock::now();
+    const spa_meta_header *header = headerOf(buffer);
+    const Clock::time_point told{std::chrono::nanoseconds(header ? header->pts : 0)};
+    return told <= now && now - told < longestWay ? told : now;
+}
+
 /// A frame that only tells where the pointer is has no pixels.
 bool hasPixels(const spa_buffer &buffer) {
     const spa_chunk &chunk = *buffer.datas[0].chunk;
-    const auto *header = static_cast<const spa_meta_header *>(
-        spa_buffer_find_meta_data(&buffer, SPA_META_Header, sizeof(spa_meta_header)));
+    const spa_meta_header *header = headerOf(buffer);
     const bool corrupted = (static_cast<std::uint32_t>(chunk.flags) & SPA_CHUNK_FLAG_CORRUPTED) ||
                            (header && (header->flags & SPA_META_HEADER_FLAG_CORRUPTED));
     return chunk.size > 0 && !corrupted;
@@ -75,6 +92,8 @@ public:
     void setRate(std::uint64_t rate);
 
     StreamPicture picture;
+    /// When the newest frame was drawn; the clock's beginning before it came.
+    std::atomic<Clock::time_point> newest{Clock::time_point()};
 
 private:
     bool connect(int descriptor, std::uint32_t node, std::uint64_t rate);
@@ -266,6 +285,7 @@ void PipeWireStream::Thread::read(const spa_buffer &buffer, const Mapping &mappi
     const auto *first = reinterpret_cast<const std::uint32_t *>(bytes) +
                         part.top() * (stride / bytesPerPixel) + part.left();
     picture.put({first, stride / bytesPerPixel}, part.size(), order_);
+    newest = drawnAt(buffer);
     if (began_)
         return;
     began_ = true;
@@ -282,5 +302,10 @@ PipeWireStream::PipeWireStream(int descriptor, std::uint32_t node, std::uint64_t
 PipeWireStream::~PipeWireStream() = default;
 
 void PipeWireStream::setRate(std::uint64_t rate) { thread_->setRate(rate); }
+
+std::optional<Clock::time_point> PipeWireStream::newest() const {
+    const Clock::time_point newest = thread_->newest;
+    return newest == Clock::time_point() ? std::nullopt : std::optional(newest);
+}
 
 std::optional<Image> PipeWireStream::take() { return thread_->picture.take(); }

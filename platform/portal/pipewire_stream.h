@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -27,6 +28,9 @@ public:
 
     /// The newest picture, the same until something changed in it; none before the first frame.
     std::optional<Image> take();
+
+    /// When the newest frame was drawn as the compositor tells, else when it came; none before.
+    std::optional<std::chrono::steady_clock::time_point> newest() const;
 
 Q_SIGNALS:
     /// The first picture can be taken.

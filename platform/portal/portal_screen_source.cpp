@@ -153,3 +153,7 @@ std::optional<ScreenPicture> PortalScreenSource::latest(std::span<const std::uin
         picture.pixelsPerPoint = static_cast<double>(picture.image.width()) / what.place->width();
     return picture;
 }
+
+std::optional<std::chrono::steady_clock::time_point> PortalScreenSource::newestPicture() const {
+    return stream_ ? stream_->newest() : std::nullopt;
+}

@@ -31,6 +31,7 @@ public:
     std::vector<WindowDescription> windows() override { return {}; }
     std::optional<ScreenPicture> latest(std::span<const std::uint32_t> numbers,
                                         const std::optional<QRect> &part) override;
+    std::optional<std::chrono::steady_clock::time_point> newestPicture() const override;
 
 private:
     void learnWhatIsOffered();

@@ -4,6 +4,7 @@
 #include "record/grab_geometry.h"
 #include "record/rates.h"
 #include "record/recording_clock.h"
+#include "record/stepping_aside.h"
 
 #include <gtest/gtest.h>
 
@@ -118,6 +119,26 @@ TEST(RecordingClock, leavesPausesOut) {
     EXPECT_EQ(clock.seconds(start + seconds(10)), 2.0);
     clock.run(start + seconds(10));
     EXPECT_EQ(clock.seconds(start + seconds(11)), 3.0);
+}
+
+TEST(SteppingAside, waitsForPicturesWithoutOurWindows) {
+    using std::chrono::milliseconds;
+    constexpr std::chrono::steady_clock::time_point left(std::chrono::hours(5));
+    const struct {
+        int newest; // milliseconds after they left
+        int now;
+        bool gone;
+    } cases[] = {
+        {-100, 700, false},                      // the compositor is still busy with it
+        {-100, 2900, false}, {-100, 3000, true}, // they were never in the picture
+        {250, 700, false},   {250, 950, true},   // they flew away over a screen that is still
+        {590, 610, false},   {600, 610, true},   // over one that moves
+        {600, 5000, true},
+    };
+    for (const auto &[newest, now, gone] : cases)
+        EXPECT_EQ(isGoneFromPictures(left + milliseconds(newest), left, left + milliseconds(now)),
+                  gone)
+            << newest << ' ' << now;
 }
 
 TEST(GrabGeometry, scalesTheLargerSideAndLetsTheOtherFollow) {
