@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 /// What the bytes of window properties mean. Any client may put anything into them; nothing here
@@ -23,5 +24,9 @@ QString textFromProperty(QByteArrayView bytes);
 
 /// The values of a property of 32 bits a value; bytes at the end that make no whole one are left.
 std::vector<std::uint32_t> wordsFromProperty(QByteArrayView bytes);
+
+/// The whole number of this name among the settings of a desktop (XSETTINGS 0.5, the property
+/// _XSETTINGS_SETTINGS); none where it is missing, is no number, or the bytes are no such property.
+std::optional<std::int32_t> settingFromProperty(QByteArrayView bytes, std::string_view name);
 
 } // namespace x11

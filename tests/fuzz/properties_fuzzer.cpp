@@ -20,5 +20,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const auto words = x11::wordsFromProperty(bytes);
     REQUIRE(words.size() == size / 4);
     REQUIRE(words.empty() || std::memcmp(words.data(), data, words.size() * 4) == 0);
+
+    // Every name that is found is in there.
+    for (const std::string_view setting : {"Gtk/EnableAnimations", "a", ""})
+        if (x11::settingFromProperty(bytes, setting))
+            REQUIRE(bytes.contains(QByteArrayView(setting.data(), qsizetype(setting.size()))));
     return 0;
 }
