@@ -280,9 +280,9 @@ std::vector<Command> fileCommands(AppDelegate &controller) {
     const Ui::MainWindow &ui = *controller.ui;
     FileCard &card = *controller.fileCard;
     const Exporter &exporter = controller.exporter;
-    const auto shown = [&card] { return card.showsFile(); };
+    const auto shown = [&card] { return card.isSound(); };
     const auto saved = [&card, &exporter] {
-        return card.showsFile() && !exporter.hasUnsavedResult();
+        return card.isSound() && !exporter.hasUnsavedResult();
     };
     return {
         {.item = ui.menuitemSaveWithoutAsking,

@@ -53,7 +53,6 @@ void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
         button->setToolTip(qtTrId("IDD_PERCENT_TIP").arg(percent));
     }
     ui.viewFilePicture->setAccessibleName(qtTrId("IDD_FILE_PICTURE"));
-    ui.labelFileDrag->setText(qtTrId("IDD_FILE_DRAG"));
     for (const auto &[arrow, name] : {std::pair(ui.btnGenerateMenu, qtTrId("IDD_SAVING_OPTIONS")),
                                       {ui.btnRecordMenu, qtTrId("IDD_COUNTDOWN")},
                                       {ui.btnFullScreenMenu, qtTrId("IDD_MONITORS")}}) {

@@ -263,13 +263,19 @@ FileCardControls fileCardControls(const Ui::MainWindow &ui) {
             .cardStack = ui.cardStack,
             .labelFileName = ui.labelFileName,
             .labelFileFigures = ui.labelFileFigures,
+            .labelFileDrag = ui.labelFileDrag,
             .fileButtons = ui.fileButtons,
             .btnFileCopy = ui.btnFileCopy,
-            .btnFileSave = ui.btnFileSave};
+            .btnFileSave = ui.btnFileSave,
+            .btnGIFExport = ui.btnGIFExport};
 }
 
 ExportControls exportControls(const Ui::MainWindow &ui) {
-    return {.radioGIFOriginalDimension = ui.radioGIFOriginalDimension,
+    return {.pageGIF = ui.pageGIF,
+            .gifOptions = ui.gifOptions,
+            .customSizeRow = ui.customSizeRow,
+            .customRateRow = ui.customRateRow,
+            .radioGIFOriginalDimension = ui.radioGIFOriginalDimension,
             .radioGIFCustomDimension = ui.radioGIFCustomDimension,
             .textGIFWidth = ui.textGIFWidth,
             .textGIFHeigth = ui.textGIFHeigth,
@@ -290,7 +296,10 @@ ExportControls exportControls(const Ui::MainWindow &ui) {
             .labelGIFEstimate = ui.labelGIFEstimate,
             .labelGIFSummary = ui.labelGIFSummary,
             .labelGIFThinned = ui.labelGIFThinned,
+            .labelInstructions = ui.labelInstructions,
             .btnWebPGenerate = ui.btnWebPGenerate,
+            .labelFPS = ui.labelFPS,
+            .labelWebPLoops = ui.labelWebPLoops,
             .comboGIFRepeat = ui.comboGIFRepeat,
             .txtWebPLoops = ui.txtWebPLoops,
             .labelWebPLoopsHint = ui.labelWebPLoopsHint,

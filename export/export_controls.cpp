@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "export/export_options.h"
 #include "export/exporter.h"
+#include "export/return_key.h"
+#include "export/scrolling_options.h"
 #include "shell/number_text.h"
 #include "shell/settings.h"
 
@@ -45,7 +47,14 @@ private:
 
 ExportOptions::ExportOptions(const ExportControls &controls, Exporter &exporter, QObject *parent)
     : QObject(parent), ui_(controls), exporter_(exporter), estimator_(exporter, this) {
+    ui_.gifOptions->addFoldingRow(*ui_.customSizeRow);
+    ui_.gifOptions->addFoldingRow(*ui_.customRateRow);
     listen();
+    auto *key = new ReturnKey(*ui_.pageGIF, this);
+    key->addField(*ui_.textGIFWidth, [this] { OnGIFChangeWidth(); });
+    key->addField(*ui_.textGIFHeigth, [this] { OnGIFChangeHeigth(); });
+    key->addField(*ui_.comboFitUnder, [this] { finishLimit(); });
+    key->addField(*ui_.comboGIFRepeat, [] {}); // it is heeded as it is typed
 }
 
 void ExportOptions::listen() {
@@ -80,7 +89,6 @@ void ExportOptions::listen() {
     field(ui_.textGIFWidth, &ExportOptions::OnGIFChangeWidth);
     field(ui_.textGIFHeigth, &ExportOptions::OnGIFChangeHeigth);
     fillRepeats();
-    connect(ui_.txtWebPLoops, &QLineEdit::textChanged, this, &ExportOptions::updateEstimate);
 
     auto *passage = new ShortcutPassage(*ui_.menuitemActionGIFExport, this);
     for (QLineEdit *edit : {ui_.textGIFWidth, ui_.textGIFHeigth, ui_.txtWebPLoops})
@@ -104,17 +112,20 @@ void ExportOptions::listen() {
     large.setBold(true);
     ui_.labelGIFEstimate->setFont(large);
     connect(&estimator_, &SizeEstimator::unknown, this, [this] {
-        ui_.labelGIFEstimate->clear();
+        estimate_.reset();
+        showEstimate();
         ui_.btnWebPGenerate->setToolTip(qtTrId("IDD_GENERATE_WEBP_TIP"));
     });
     connect(&estimator_, &SizeEstimator::estimated, this, [this](quint64 bytes, bool isExact) {
-        ui_.labelGIFEstimate->setText((isExact ? qtTrId("IDD_GIF_SIZE") : qtTrId("IDD_ABOUT_SIZE"))
-                                          .arg(number_text::bytes(bytes)));
+        estimate_ = bytes;
+        isExact_ = isExact;
+        showEstimate();
     });
     connect(&estimator_, &SizeEstimator::webpEstimated, this, [this](quint64 bytes) {
         ui_.btnWebPGenerate->setToolTip(qtTrId("IDD_GENERATE_WEBP_TIP") + u'\n' +
                                         qtTrId("IDD_WEBP_ABOUT").arg(number_text::bytes(bytes)));
     });
+    updateGIFDimensionHint();
     for (const QComboBox *list : {ui_.comboGIFFPS, ui_.comboGIFSpeed, ui_.comboGIFHold})
         connect(list, &QComboBox::currentIndexChanged, this, &ExportOptions::updateGIFSummary);
 }
@@ -169,6 +180,33 @@ void ExportOptions::fillLimits() {
     list.addItem(qtTrId("IDD_NO_LIMIT"));
     for (const int limit : offeredLimits)
         list.addItem(qtTrId("IDD_LIMIT_MB").arg(QLocale().toString(limit)), limit);
-    connect(&list, &QComboBox::editTextChanged, this, &ExportOptions::updateLimitHint);
+    connect(&list, &QComboBox::editTextChanged, this, [this] {
+        updateLimitHint();
+        showEstimate();
+        if (isUsable_)
+            Q_EMIT edited(choicesAfterEdits());
+    });
+    connect(list.lineEdit(), &QLineEdit::editingFinished, this, &ExportOptions::finishLimit);
     updateLimitHint();
+}
+
+void ExportOptions::finishLimit() {
+    if (const FitLimit typed = limit(); typed.bytes)
+        ui_.comboFitUnder->setEditText(fitLimitText(*typed.bytes));
+}
+
+std::optional<std::uint64_t> ExportOptions::limitOfGIF() const {
+    // The other encoder knows none.
+    return ui_.comboFitUnder->isEnabled() ? limit().bytes : std::nullopt;
+}
+
+void ExportOptions::showEstimate() {
+    const std::optional<std::uint64_t> most = limitOfGIF();
+    QString text;
+    if (most && isUsable_ && estimate_.value_or(*most + 1) > *most)
+        text = qtTrId("IDD_AT_MOST_SIZE").arg(fitLimitText(*most));
+    else if (estimate_)
+        text = (isExact_ ? qtTrId("IDD_GIF_SIZE") : qtTrId("IDD_ABOUT_SIZE"))
+                   .arg(number_text::bytes(*estimate_));
+    ui_.labelGIFEstimate->setText(text);
 }

@@ -20,6 +20,7 @@
 #include <QRadioButton>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -62,6 +63,8 @@ void ExportOptions::resetGIFOptions() {
                                  ui_.btnGIFSize50,
                                  ui_.labelSpeed,
                                  ui_.comboGIFSpeed,
+                                 ui_.labelFPS,
+                                 ui_.labelWebPLoops,
                                  ui_.comboGIFRepeat,
                                  ui_.labelHold,
                                  ui_.comboGIFHold};
@@ -113,7 +116,8 @@ void ExportOptions::recall() {
     if (const int offered = ui_.comboFitUnder->findData(limit); limit > 0 && offered >= 0)
         ui_.comboFitUnder->setCurrentIndex(offered);
     else if (limit > 0)
-        ui_.comboFitUnder->setEditText(QLocale().toString(limit));
+        ui_.comboFitUnder->setEditText(
+            fitLimitText(static_cast<std::uint64_t>(std::llround(limit * bytesPerMegabyte))));
     const QString loops = settings::readChoice(loopsChoice);
     if (!loops.isEmpty() && loopsTextProblem(loops) == LoopsTextProblem::None)
         ui_.txtWebPLoops->setText(loops == QLatin1String("0")   ? qtTrId("IDD_LOOP_FOREVER")
@@ -136,7 +140,8 @@ void ExportOptions::remember() const {
     if (!now.limit.isWrong)
         settings::writeChoice(
             limitChoice, now.limit.bytes ? QString::number(static_cast<double>(*now.limit.bytes) /
-                                                           bytesPerMegabyte)
+                                                               bytesPerMegabyte,
+                                                           'g', QLocale::FloatingPointShortest)
                                          : QString());
     settings::writeChoice(loopsChoice, now.loops);
     settings::writeChoice(holdChoice, QString::number(now.hold));
@@ -258,6 +263,13 @@ void ExportOptions::updateLimitHint() {
     const QString hint = limit().isWrong ? qtTrId("IDD_LIMIT_NOT_NUMBER") : QString();
     ui_.comboFitUnder->setAccessibleDescription(hint);
     ui_.labelFitUnderHint->setText(hint);
+    showHints();
+}
+
+void ExportOptions::showHints() {
+    const bool ofLoops = !ui_.labelWebPLoopsHint->text().isEmpty();
+    ui_.labelWebPLoopsHint->setVisible(ofLoops);
+    ui_.labelFitUnderHint->setVisible(!ofLoops || !ui_.labelFitUnderHint->text().isEmpty());
 }
 
 void ExportOptions::enableLimit() {
@@ -266,6 +278,7 @@ void ExportOptions::enableLimit() {
     for (QWidget *control :
          {static_cast<QWidget *>(ui_.labelFitUnder), static_cast<QWidget *>(ui_.comboFitUnder)})
         control->setEnabled(isUsable_ && isKnown);
+    showEstimate();
 }
 
 ExportChoices ExportOptions::choicesAfterEdits() const {

@@ -9,19 +9,27 @@
 #include <QSize>
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 
 class Exporter;
 class QAbstractButton;
 class QAction;
+class QBoxLayout;
 class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
 class QRadioButton;
+class QWidget;
+class ScrollingOptions;
 
 /// The controls in which an export is chosen, by their established names; borrowed.
 struct ExportControls {
+    QWidget *pageGIF;
+    ScrollingOptions *gifOptions;
+    QBoxLayout *customSizeRow; ///< Rows that fold where they have no room.
+    QBoxLayout *customRateRow;
     QRadioButton *radioGIFOriginalDimension;
     QRadioButton *radioGIFCustomDimension;
     QLineEdit *textGIFWidth;
@@ -43,7 +51,10 @@ struct ExportControls {
     QLabel *labelGIFEstimate;
     QLabel *labelGIFSummary;
     QLabel *labelGIFThinned;
+    QLabel *labelInstructions; ///< Without a recording, behind what is to be done first.
     QAbstractButton *btnWebPGenerate;
+    QLabel *labelFPS;
+    QLabel *labelWebPLoops;
     QComboBox *comboGIFRepeat;
     QLineEdit *txtWebPLoops; ///< In which that list is typed.
     QLabel *labelWebPLoopsHint;
@@ -119,6 +130,13 @@ private:
     void enableLimit();
     /// Says what is wrong with the limit that is typed, if anything.
     void updateLimitHint();
+    /// The two share a line, whose place is kept while it is empty.
+    void showHints();
+    /// Writes the limit with its unit, as it is understood.
+    void finishLimit();
+    /// Says how large the GIF will be: what is known of it, or the limit where that is less.
+    void showEstimate();
+    std::optional<std::uint64_t> limitOfGIF() const;
     FitLimit limit() const;
     /// Chooses a size of that share of the recording's.
     void chooseShare(int percent);
@@ -132,6 +150,8 @@ private:
     const ExportControls ui_;
     Exporter &exporter_;
     SizeEstimator estimator_;
+    std::optional<std::uint64_t> estimate_; ///< bytes; none while nothing is known
+    bool isExact_ = false;
     bool isUsable_ = false;
     bool isShown_ = false;
     bool isRecalled_ = false;

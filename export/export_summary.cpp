@@ -26,8 +26,11 @@ void ExportOptions::updateGIFSummary() {
     updateEstimate();
     ui_.labelGIFThinned->clear();
     ui_.labelGIFSummary->clear();
-    if (!exporter_.surroundings().firstFrameFileExists() || ui_.comboGIFFPS->currentIndex() < 0)
+    ui_.labelInstructions->setVisible(!isUsable_);
+    if (!exporter_.surroundings().firstFrameFileExists() || ui_.comboGIFFPS->currentIndex() < 0) {
+        ui_.labelGIFSummary->setText(qtTrId("IDD_RECORD_FIRST"));
         return;
+    }
     if (exporter_.hasTooFewFrames()) {
         ui_.labelGIFSummary->setText(exporter_.surroundings().texts.s_IDD_LOW_FRAME_NUMBER());
         return;
@@ -52,4 +55,5 @@ void ExportOptions::updateWebPLoopsHint() {
     ui_.txtWebPLoops->setAccessibleDescription(problem);
     ui_.labelWebPLoopsHint->setText(problem);
     ui_.labelWebPLoopsHint->setToolTip(problem);
+    showHints();
 }

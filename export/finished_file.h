@@ -5,7 +5,7 @@
 #include "export/export_choices.h"
 #include "export/frame_timing.h"
 
-#include <QImage>
+#include <QDateTime>
 #include <QSize>
 #include <QString>
 
@@ -14,7 +14,8 @@ struct FinishedFile {
     QString path; ///< Where it is; in the export folder as long as it is not saved.
     QSize pixels;
     double seconds = 0.0; ///< That it plays once.
-    QImage picture;       ///< Its first picture, made smaller; empty where there is none to be had.
+    QDateTime made;
+    QString note; ///< What there is to say about it; may be empty.
     /// What it was made of and how.
     ExportChoices choices;
     frame_timing::Request timing;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
 #include <QStringView>
 
 #include <cstdint>
@@ -18,6 +19,9 @@ struct FitLimit {
 /// The limits that the list offers, in MB (1,000,000 bytes).
 inline constexpr int offeredLimits[] = {5, 10, 25};
 
-/// A number of MB, with the locale's decimal sign or a point, "MB" behind it or not; an empty text
-/// is no limit.
+/// A number, with the locale's decimal sign or a point, and "kB" or "MB" behind it (1,000 and
+/// 1,000,000 bytes; "ko" and "Mo" in French); MB without one. An empty text is no limit.
 FitLimit fitLimitOf(QStringView text);
+
+/// That many bytes as such a text, with the unit, as the user writes it.
+QString fitLimitText(std::uint64_t bytes);

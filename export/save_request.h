@@ -16,3 +16,6 @@ struct SaveRequest {
     /// When it was made: the name that is offered says so, however late it is saved.
     QDateTime made = QDateTime::currentDateTime();
 };
+
+/// What users call such a file: "GIF", "WebP", "MP4".
+QString kindOf(const SaveRequest &request);

@@ -19,6 +19,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMainWindow>
+#include <QMimeDatabase>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -58,18 +59,39 @@ QString freeName(const SaveRequest &request, const QString &folder) {
                       });
 }
 
+/// The path with the ending that other programs know such a file by, in the place of an ending that
+/// says something else ("demo.txt"). One that says nothing belongs to the name ("version 1.2").
+QString withSuffix(const QString &path, const QString &suffix) {
+    const QFileInfo file(path);
+    if (file.suffix().compare(suffix, Qt::CaseInsensitive) == 0)
+        return path;
+    const bool isKind = file.suffix().size() > 1 &&
+                        !QMimeDatabase().mimeTypesForFileName(file.fileName()).isEmpty();
+    const QString stem = isKind ? path.chopped(file.suffix().size() + 1) : path;
+    return stem + QLatin1Char('.') + suffix;
+}
+
 /// Asks for the place; an empty text when the user cancels.
 QString runSavePanel(QWidget *parent, const SaveRequest &request, const QString &folder) {
-    QFileDialog panel(parent, request.panelTitle, folder);
-    panel.setObjectName(QStringLiteral("savePanel"));
-    panel.setAcceptMode(QFileDialog::AcceptSave);
-    panel.setFileMode(QFileDialog::AnyFile);
-    panel.selectFile(freeName(request, folder));
-    // A name typed without an ending gets the one that other programs know the file by.
-    panel.setDefaultSuffix(QFileInfo(request.file).suffix());
-    if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty())
-        return {};
-    return panel.selectedFiles().first();
+    const QString suffix = QFileInfo(request.file).suffix();
+    QString offered = freeName(request, folder);
+    for (;;) {
+        QFileDialog panel(parent, request.panelTitle, folder);
+        panel.setObjectName(QStringLiteral("savePanel"));
+        panel.setAcceptMode(QFileDialog::AcceptSave);
+        panel.setFileMode(QFileDialog::AnyFile);
+        panel.setNameFilter(QStringLiteral("%1 (*.%2)").arg(kindOf(request), suffix));
+        panel.selectFile(offered);
+        // A name typed without an ending gets it.
+        panel.setDefaultSuffix(suffix);
+        if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty())
+            return {};
+        const QString chosen = panel.selectedFiles().first();
+        offered = withSuffix(chosen, suffix);
+        // The panel has asked about a file of the name that was typed, and about no other.
+        if (offered == chosen || !QFileInfo::exists(offered))
+            return offered;
+    }
 }
 
 int evenSide(const QString &typed) {
@@ -86,10 +108,6 @@ void Exporter::saveResult(const SaveRequest &request, Frames frames, frame_timin
         return;
     }
     exporting.unsaved = request;
-    QImage picture = firstPicture(request.file);
-    // The toolkit does not read every format that the encoders write.
-    if (picture.isNull())
-        picture = firstPicture(firstKeptFile());
     QSize pixels = pictureSize(request.file);
     // A video has even sides, see `mp4Arguments`.
     if (pixels.isEmpty())
@@ -97,7 +115,8 @@ void Exporter::saveResult(const SaveRequest &request, Frames frames, frame_timin
     exporting.finished = {.path = request.file,
                           .pixels = pixels,
                           .seconds = frame_timing::seconds(frames, ticks),
-                          .picture = picture,
+                          .made = request.made,
+                          .note = request.note,
                           .choices = choices,
                           .timing = timingRequest(choices)};
     const QMainWindow *window = surroundings_.shell.window();

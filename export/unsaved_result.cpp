@@ -8,15 +8,10 @@
 #include <QFile>
 #include <QFileInfo>
 
-namespace {
-
-/// What users call the file.
 QString kindOf(const SaveRequest &request) {
     const QString suffix = QFileInfo(request.file).suffix();
     return suffix == QLatin1String("webp") ? QStringLiteral("WebP") : suffix.toUpper();
 }
-
-} // namespace
 
 bool Exporter::hasUnsavedResult() const {
     return exporting.unsaved && QFileInfo::exists(exporting.unsaved->file);
@@ -71,6 +66,7 @@ bool Exporter::mustAskFirst(std::function<void()> goOn) {
                                      saveUnsavedResult();
                                  } else if (exporting.unsaved) {
                                      QFile::remove(exporting.unsaved->file);
+                                     exporting.finished.reset();
                                      forgetResult();
                                      surroundings_.showStatus({});
                                  }

@@ -132,6 +132,10 @@
         <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
         <translation>Wählen Sie Größe, Bildrate und Geschwindigkeit, und erzeugen Sie dann das GIF.</translation>
     </message>
+    <message id="IDD_RECORD_FIRST">
+        <source>There is no recording yet. Make one on the Record tab.</source>
+        <translation>Es gibt noch keine Aufnahme. Nehmen Sie zuerst unter „Aufnehmen“ etwas auf.</translation>
+    </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
         <translation>Größe der Aufnahme</translation>
@@ -912,8 +916,8 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Letzte Datei</translation>
     </message>
     <message id="IDD_FILE_PICTURE">
-        <source>First picture of the file</source>
-        <translation>Erstes Bild der Datei</translation>
+        <source>Picture of the file</source>
+        <translation>Bild der Datei</translation>
     </message>
     <message id="IDD_FILE_FIGURES">
         <source>%1 · %2 × %3 · %4&#xa0;s</source>
@@ -940,8 +944,16 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Kopiert: %1. Fügen Sie die Datei in ein anderes Programm ein.</translation>
     </message>
     <message id="IDD_FILE_GONE">
-        <source>The file is no longer there.</source>
-        <translation>Die Datei ist nicht mehr vorhanden.</translation>
+        <source>The file has been deleted or moved. Generate it again if you need it.</source>
+        <translation>Die Datei wurde gelöscht oder verschoben. Bei Bedarf erzeugen Sie sie neu.</translation>
+    </message>
+    <message id="IDD_FILE_UNSAVED">
+        <source>Not saved yet</source>
+        <translation>Noch nicht gespeichert</translation>
+    </message>
+    <message id="IDD_FILE_REPLACED">
+        <source>Another program has changed this file. Generate it again.</source>
+        <translation>Ein anderes Programm hat diese Datei geändert. Erzeugen Sie sie neu.</translation>
     </message>
     <message id="IDD_FILE_NOT_OPENED">
         <source>No program was found to open %1.</source>
@@ -1029,9 +1041,13 @@ Sie liegt weiterhin unter %3.</translation>
         <source>%1 MB</source>
         <translation>%1 MB</translation>
     </message>
+    <message id="IDD_LIMIT_KB">
+        <source>%1 kB</source>
+        <translation>%1 kB</translation>
+    </message>
     <message id="IDD_LIMIT_NOT_NUMBER">
-        <source>Type a file size in MB, such as 8, or choose “No limit”.</source>
-        <translation>Geben Sie eine Dateigröße in MB ein, zum Beispiel 8, oder wählen Sie „Unbegrenzt“.</translation>
+        <source>Type a file size, such as 8&#xa0;MB or 500&#xa0;kB, or choose “No limit”.</source>
+        <translation>Geben Sie eine Dateigröße wie 8&#xa0;MB oder 500&#xa0;kB ein, oder wählen Sie „Unbegrenzt“.</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
         <source>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
@@ -1064,6 +1080,10 @@ Sie liegt weiterhin unter %3.</translation>
     <message id="IDD_ABOUT_SIZE">
         <source>GIF: about %1</source>
         <translation>GIF: etwa %1</translation>
+    </message>
+    <message id="IDD_AT_MOST_SIZE">
+        <source>GIF: at most %1</source>
+        <translation>GIF: höchstens %1</translation>
     </message>
     <message id="IDD_GIF_SIZE">
         <source>GIF: %1</source>

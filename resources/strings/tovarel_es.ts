@@ -132,6 +132,10 @@
         <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
         <translation>Elija el tamaño, la frecuencia de fotogramas y la velocidad, y luego cree el GIF.</translation>
     </message>
+    <message id="IDD_RECORD_FIRST">
+        <source>There is no recording yet. Make one on the Record tab.</source>
+        <translation>Aún no hay ninguna grabación. Grabe primero algo en la pestaña «Grabar».</translation>
+    </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
         <translation>Tamaño de la grabación</translation>
@@ -912,8 +916,8 @@ Sigue en %3.</translation>
         <translation>Último archivo</translation>
     </message>
     <message id="IDD_FILE_PICTURE">
-        <source>First picture of the file</source>
-        <translation>Primera imagen del archivo</translation>
+        <source>Picture of the file</source>
+        <translation>Imagen del archivo</translation>
     </message>
     <message id="IDD_FILE_FIGURES">
         <source>%1 · %2 × %3 · %4&#xa0;s</source>
@@ -940,8 +944,16 @@ Sigue en %3.</translation>
         <translation>Copiado: %1. Péguelo en otro programa.</translation>
     </message>
     <message id="IDD_FILE_GONE">
-        <source>The file is no longer there.</source>
-        <translation>El archivo ya no existe.</translation>
+        <source>The file has been deleted or moved. Generate it again if you need it.</source>
+        <translation>El archivo se ha eliminado o movido. Vuelva a crearlo si lo necesita.</translation>
+    </message>
+    <message id="IDD_FILE_UNSAVED">
+        <source>Not saved yet</source>
+        <translation>Aún sin guardar</translation>
+    </message>
+    <message id="IDD_FILE_REPLACED">
+        <source>Another program has changed this file. Generate it again.</source>
+        <translation>Otro programa ha modificado este archivo. Vuelva a crearlo.</translation>
     </message>
     <message id="IDD_FILE_NOT_OPENED">
         <source>No program was found to open %1.</source>
@@ -1029,9 +1041,13 @@ Sigue en %3.</translation>
         <source>%1 MB</source>
         <translation>%1 MB</translation>
     </message>
+    <message id="IDD_LIMIT_KB">
+        <source>%1 kB</source>
+        <translation>%1 kB</translation>
+    </message>
     <message id="IDD_LIMIT_NOT_NUMBER">
-        <source>Type a file size in MB, such as 8, or choose “No limit”.</source>
-        <translation>Escriba un tamaño de archivo en MB, por ejemplo 8, o elija «Sin límite».</translation>
+        <source>Type a file size, such as 8&#xa0;MB or 500&#xa0;kB, or choose “No limit”.</source>
+        <translation>Escriba un tamaño de archivo, por ejemplo 8&#xa0;MB o 500&#xa0;kB, o elija «Sin límite».</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
         <source>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
@@ -1064,6 +1080,10 @@ Sigue en %3.</translation>
     <message id="IDD_ABOUT_SIZE">
         <source>GIF: about %1</source>
         <translation>GIF: aproximadamente %1</translation>
+    </message>
+    <message id="IDD_AT_MOST_SIZE">
+        <source>GIF: at most %1</source>
+        <translation>GIF: %1 como máximo</translation>
     </message>
     <message id="IDD_GIF_SIZE">
         <source>GIF: %1</source>

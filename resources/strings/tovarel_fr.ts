@@ -132,6 +132,10 @@
         <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
         <translation>Choisissez la taille, la fréquence d’images et la vitesse, puis créez le GIF.</translation>
     </message>
+    <message id="IDD_RECORD_FIRST">
+        <source>There is no recording yet. Make one on the Record tab.</source>
+        <translation>Il n’y a pas encore d’enregistrement. Enregistrez d’abord quelque chose dans l’onglet «&#xa0;Enregistrer&#xa0;».</translation>
+    </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
         <translation>Taille de l’enregistrement</translation>
@@ -912,8 +916,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>Dernier fichier</translation>
     </message>
     <message id="IDD_FILE_PICTURE">
-        <source>First picture of the file</source>
-        <translation>Première image du fichier</translation>
+        <source>Picture of the file</source>
+        <translation>Image du fichier</translation>
     </message>
     <message id="IDD_FILE_FIGURES">
         <source>%1 · %2 × %3 · %4&#xa0;s</source>
@@ -940,8 +944,16 @@ Il reste à l’emplacement %3.</translation>
         <translation>Copié&#xa0;: %1. Collez-le dans un autre programme.</translation>
     </message>
     <message id="IDD_FILE_GONE">
-        <source>The file is no longer there.</source>
-        <translation>Le fichier n’existe plus.</translation>
+        <source>The file has been deleted or moved. Generate it again if you need it.</source>
+        <translation>Le fichier a été supprimé ou déplacé. Créez-le de nouveau si nécessaire.</translation>
+    </message>
+    <message id="IDD_FILE_UNSAVED">
+        <source>Not saved yet</source>
+        <translation>Pas encore sauvegardé</translation>
+    </message>
+    <message id="IDD_FILE_REPLACED">
+        <source>Another program has changed this file. Generate it again.</source>
+        <translation>Un autre programme a modifié ce fichier. Créez-le de nouveau.</translation>
     </message>
     <message id="IDD_FILE_NOT_OPENED">
         <source>No program was found to open %1.</source>
@@ -1029,9 +1041,13 @@ Il reste à l’emplacement %3.</translation>
         <source>%1 MB</source>
         <translation>%1 Mo</translation>
     </message>
+    <message id="IDD_LIMIT_KB">
+        <source>%1 kB</source>
+        <translation>%1 ko</translation>
+    </message>
     <message id="IDD_LIMIT_NOT_NUMBER">
-        <source>Type a file size in MB, such as 8, or choose “No limit”.</source>
-        <translation>Saisissez une taille de fichier en Mo, par exemple 8, ou choisissez «&#xa0;Sans limite&#xa0;».</translation>
+        <source>Type a file size, such as 8&#xa0;MB or 500&#xa0;kB, or choose “No limit”.</source>
+        <translation>Saisissez une taille de fichier, par exemple 8&#xa0;Mo ou 500&#xa0;ko, ou choisissez «&#xa0;Sans limite&#xa0;».</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
         <source>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
@@ -1064,6 +1080,10 @@ Il reste à l’emplacement %3.</translation>
     <message id="IDD_ABOUT_SIZE">
         <source>GIF: about %1</source>
         <translation>GIF&#xa0;: environ %1</translation>
+    </message>
+    <message id="IDD_AT_MOST_SIZE">
+        <source>GIF: at most %1</source>
+        <translation>GIF&#xa0;: au maximum %1</translation>
     </message>
     <message id="IDD_GIF_SIZE">
         <source>GIF: %1</source>

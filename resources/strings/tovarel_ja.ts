@@ -131,6 +131,10 @@
         <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
         <translation>サイズ、フレームレート、速度を選んで、GIF を作成します。</translation>
     </message>
+    <message id="IDD_RECORD_FIRST">
+        <source>There is no recording yet. Make one on the Record tab.</source>
+        <translation>録画はまだありません。まず「録画」タブで録画してください。</translation>
+    </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
         <translation>録画と同じサイズ</translation>
@@ -908,8 +912,8 @@ It is still at %3.</source>
         <translation>最後のファイル</translation>
     </message>
     <message id="IDD_FILE_PICTURE">
-        <source>First picture of the file</source>
-        <translation>ファイルの最初の画像</translation>
+        <source>Picture of the file</source>
+        <translation>ファイルの画像</translation>
     </message>
     <message id="IDD_FILE_FIGURES">
         <source>%1 · %2 × %3 · %4&#xa0;s</source>
@@ -936,8 +940,16 @@ It is still at %3.</source>
         <translation>コピーしました: %1。他のプログラムに貼り付けられます。</translation>
     </message>
     <message id="IDD_FILE_GONE">
-        <source>The file is no longer there.</source>
-        <translation>ファイルはもうありません。</translation>
+        <source>The file has been deleted or moved. Generate it again if you need it.</source>
+        <translation>ファイルが見つかりません。もう一度作成できます。</translation>
+    </message>
+    <message id="IDD_FILE_UNSAVED">
+        <source>Not saved yet</source>
+        <translation>未保存</translation>
+    </message>
+    <message id="IDD_FILE_REPLACED">
+        <source>Another program has changed this file. Generate it again.</source>
+        <translation>このファイルは他のプログラムによって変更されました。もう一度作成してください。</translation>
     </message>
     <message id="IDD_FILE_NOT_OPENED">
         <source>No program was found to open %1.</source>
@@ -1023,9 +1035,13 @@ It is still at %3.</source>
         <source>%1 MB</source>
         <translation>%1 MB</translation>
     </message>
+    <message id="IDD_LIMIT_KB">
+        <source>%1 kB</source>
+        <translation>%1 kB</translation>
+    </message>
     <message id="IDD_LIMIT_NOT_NUMBER">
-        <source>Type a file size in MB, such as 8, or choose “No limit”.</source>
-        <translation>ファイルサイズを MB 単位で入力するか（例: 8）、「制限なし」を選択してください。</translation>
+        <source>Type a file size, such as 8&#xa0;MB or 500&#xa0;kB, or choose “No limit”.</source>
+        <translation>ファイルサイズ（例: 8&#xa0;MB、500&#xa0;kB）を入力するか、「制限なし」を選択してください。</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
         <source>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
@@ -1058,6 +1074,10 @@ It is still at %3.</source>
     <message id="IDD_ABOUT_SIZE">
         <source>GIF: about %1</source>
         <translation>GIF: 約 %1</translation>
+    </message>
+    <message id="IDD_AT_MOST_SIZE">
+        <source>GIF: at most %1</source>
+        <translation>GIF: 最大 %1</translation>
     </message>
     <message id="IDD_GIF_SIZE">
         <source>GIF: %1</source>

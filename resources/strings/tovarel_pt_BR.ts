@@ -132,6 +132,10 @@
         <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
         <translation>Escolha o tamanho, a taxa de quadros e a velocidade e depois crie o GIF.</translation>
     </message>
+    <message id="IDD_RECORD_FIRST">
+        <source>There is no recording yet. Make one on the Record tab.</source>
+        <translation>Ainda não há nenhuma gravação. Grave algo primeiro na aba “Gravar”.</translation>
+    </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
         <translation>Tamanho da gravação</translation>
@@ -912,8 +916,8 @@ Ele continua em %3.</translation>
         <translation>Último arquivo</translation>
     </message>
     <message id="IDD_FILE_PICTURE">
-        <source>First picture of the file</source>
-        <translation>Primeira imagem do arquivo</translation>
+        <source>Picture of the file</source>
+        <translation>Imagem do arquivo</translation>
     </message>
     <message id="IDD_FILE_FIGURES">
         <source>%1 · %2 × %3 · %4&#xa0;s</source>
@@ -940,8 +944,16 @@ Ele continua em %3.</translation>
         <translation>Copiado: %1. Cole-o em outro programa.</translation>
     </message>
     <message id="IDD_FILE_GONE">
-        <source>The file is no longer there.</source>
-        <translation>O arquivo não existe mais.</translation>
+        <source>The file has been deleted or moved. Generate it again if you need it.</source>
+        <translation>O arquivo foi excluído ou movido. Crie-o novamente se precisar dele.</translation>
+    </message>
+    <message id="IDD_FILE_UNSAVED">
+        <source>Not saved yet</source>
+        <translation>Ainda não salvo</translation>
+    </message>
+    <message id="IDD_FILE_REPLACED">
+        <source>Another program has changed this file. Generate it again.</source>
+        <translation>Outro programa alterou este arquivo. Crie-o novamente.</translation>
     </message>
     <message id="IDD_FILE_NOT_OPENED">
         <source>No program was found to open %1.</source>
@@ -1029,9 +1041,13 @@ Ele continua em %3.</translation>
         <source>%1 MB</source>
         <translation>%1 MB</translation>
     </message>
+    <message id="IDD_LIMIT_KB">
+        <source>%1 kB</source>
+        <translation>%1 kB</translation>
+    </message>
     <message id="IDD_LIMIT_NOT_NUMBER">
-        <source>Type a file size in MB, such as 8, or choose “No limit”.</source>
-        <translation>Digite um tamanho de arquivo em MB, por exemplo 8, ou escolha “Sem limite”.</translation>
+        <source>Type a file size, such as 8&#xa0;MB or 500&#xa0;kB, or choose “No limit”.</source>
+        <translation>Digite um tamanho de arquivo, por exemplo 8&#xa0;MB ou 500&#xa0;kB, ou escolha “Sem limite”.</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
         <source>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
@@ -1064,6 +1080,10 @@ Ele continua em %3.</translation>
     <message id="IDD_ABOUT_SIZE">
         <source>GIF: about %1</source>
         <translation>GIF: cerca de %1</translation>
+    </message>
+    <message id="IDD_AT_MOST_SIZE">
+        <source>GIF: at most %1</source>
+        <translation>GIF: no máximo %1</translation>
     </message>
     <message id="IDD_GIF_SIZE">
         <source>GIF: %1</source>

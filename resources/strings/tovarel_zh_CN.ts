@@ -131,6 +131,10 @@
         <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
         <translation>选择尺寸、帧率和速度，然后生成 GIF。</translation>
     </message>
+    <message id="IDD_RECORD_FIRST">
+        <source>There is no recording yet. Make one on the Record tab.</source>
+        <translation>还没有录制内容。请先在“录制”标签页中录制。</translation>
+    </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
         <translation>与录制内容相同的尺寸</translation>
@@ -908,8 +912,8 @@ It is still at %3.</source>
         <translation>最近的文件</translation>
     </message>
     <message id="IDD_FILE_PICTURE">
-        <source>First picture of the file</source>
-        <translation>文件的第一张图像</translation>
+        <source>Picture of the file</source>
+        <translation>文件的图像</translation>
     </message>
     <message id="IDD_FILE_FIGURES">
         <source>%1 · %2 × %3 · %4&#xa0;s</source>
@@ -936,8 +940,16 @@ It is still at %3.</source>
         <translation>已复制：%1。可粘贴到其他程序中。</translation>
     </message>
     <message id="IDD_FILE_GONE">
-        <source>The file is no longer there.</source>
-        <translation>该文件已不存在。</translation>
+        <source>The file has been deleted or moved. Generate it again if you need it.</source>
+        <translation>文件已被删除或移动。如有需要，请重新生成。</translation>
+    </message>
+    <message id="IDD_FILE_UNSAVED">
+        <source>Not saved yet</source>
+        <translation>尚未保存</translation>
+    </message>
+    <message id="IDD_FILE_REPLACED">
+        <source>Another program has changed this file. Generate it again.</source>
+        <translation>此文件已被其他程序更改。请重新生成。</translation>
     </message>
     <message id="IDD_FILE_NOT_OPENED">
         <source>No program was found to open %1.</source>
@@ -1023,9 +1035,13 @@ It is still at %3.</source>
         <source>%1 MB</source>
         <translation>%1 MB</translation>
     </message>
+    <message id="IDD_LIMIT_KB">
+        <source>%1 kB</source>
+        <translation>%1 kB</translation>
+    </message>
     <message id="IDD_LIMIT_NOT_NUMBER">
-        <source>Type a file size in MB, such as 8, or choose “No limit”.</source>
-        <translation>请输入以 MB 为单位的文件大小（例如 8），或选择“不限”。</translation>
+        <source>Type a file size, such as 8&#xa0;MB or 500&#xa0;kB, or choose “No limit”.</source>
+        <translation>请输入文件大小（例如 8&#xa0;MB 或 500&#xa0;kB），或选择“不限”。</translation>
     </message>
     <message id="IDD_FIT_IMPOSSIBLE">
         <source>The file does not fit under %1: even at the lowest frame rate and half the size it takes %2. Choose a higher limit or a smaller size, or keep less of the recording.</source>
@@ -1058,6 +1074,10 @@ It is still at %3.</source>
     <message id="IDD_ABOUT_SIZE">
         <source>GIF: about %1</source>
         <translation>GIF：约 %1</translation>
+    </message>
+    <message id="IDD_AT_MOST_SIZE">
+        <source>GIF: at most %1</source>
+        <translation>GIF：最大 %1</translation>
     </message>
     <message id="IDD_GIF_SIZE">
         <source>GIF: %1</source>

@@ -11,6 +11,8 @@
 #include <QMessageBox>
 #include <QTest>
 
+#include <utility>
+
 namespace {
 
 constexpr int frameWidth = 64;
@@ -49,6 +51,8 @@ void Answerer::answer() {
         // Later: the panel may ask about an existing file, and this timer must tick for that.
         QMetaObject::invokeMethod(panel, savePath.isEmpty() ? "reject" : "accept",
                                   Qt::QueuedConnection);
+        if (savePathAfter)
+            savePath = *std::exchange(savePathAfter, std::nullopt);
     }
 }
 

@@ -11,6 +11,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <optional>
 #include <vector>
 
 /// Answers the alerts and save panels that an export shows, and keeps what they said. Anything else
@@ -25,6 +26,7 @@ public:
     Answerer();
 
     QString savePath; ///< Where the save panel is sent; it is cancelled when this is empty.
+    std::optional<QString> savePathAfter; ///< Where the next one is sent instead.
     std::vector<Alert> alerts;
     QStringList panels; ///< Title and offered name of each save panel, joined by a bar.
     QString folder;     ///< What the last save panel showed.

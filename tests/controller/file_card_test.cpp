@@ -10,7 +10,12 @@
 #include <QImage>
 #include <QImageReader>
 #include <QMimeData>
+#include <QStandardPaths>
+#include <QTest>
 #include <QUrl>
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace {
 
@@ -28,6 +33,15 @@ protected:
     void generate() {
         ui.btnGIFExport->click();
         ASSERT_TRUE(finish());
+    }
+    /// Whether the card shows that frame, as nearly as a video has it.
+    bool isShowing(int frame) const {
+        const QImage &picture = ui.viewFilePicture->picture();
+        const QColor wanted = colourOf(frame);
+        const QColor seen = picture.pixelColor(picture.rect().center());
+        return picture.size() == QSize(64, 48) && std::abs(seen.red() - wanted.red()) < 8 &&
+               std::abs(seen.green() - wanted.green()) < 8 &&
+               std::abs(seen.blue() - wanted.blue()) < 8;
     }
     QStringList names() const { return QDir(saved).entryList(QDir::Files); }
     void emptyExportFolder() { working_folders::removeContent(controller.shell.s_Export_Folder()); }
@@ -47,6 +61,7 @@ TEST_F(FileCardTest, isTheFileThatOtherProgramsTakeFromTheClipboard) {
     ASSERT_EQ(copied->urls(), QList<QUrl>{QUrl::fromLocalFile(answers.savePath)});
     EXPECT_EQ(copied->data(QStringLiteral("x-special/gnome-copied-files")),
               "copy\n" + copied->urls().first().toEncoded());
+    EXPECT_EQ(copied->text().toUtf8(), copied->urls().first().toEncoded());
     EXPECT_EQ(copied->data(QStringLiteral("image/gif")), contentOf(answers.savePath));
     EXPECT_EQ(qvariant_cast<QImage>(copied->imageData()).size(), QSize(64, 48));
 
@@ -57,17 +72,98 @@ TEST_F(FileCardTest, isTheFileThatOtherProgramsTakeFromTheClipboard) {
         ASSERT_TRUE(finish());
         EXPECT_EQ(ui.labelFileName->text(), QString::fromLatin1(name));
         EXPECT_TRUE(ui.labelFileFigures->text().contains(QStringLiteral("64 × 48 · 0.3")));
+        // What is seen is decoded from it.
+        EXPECT_TRUE(QTest::qWaitFor([this] { return isShowing(0); })) << name;
+        EXPECT_TRUE(button == ui.btnMP4Generate ||
+                    QTest::qWaitFor([this] { return isShowing(2); }));
     }
+}
 
-    QFile::remove(answers.savePath);
-    ui.btnFileCopy->click();
-    EXPECT_EQ(ui.cardStack->currentWidget(), ui.cardEstimate);
-    EXPECT_EQ(ui.labelStatus->text(), qtTrId("IDD_FILE_GONE"));
+TEST_F(FileCardTest, isNoLongerGivenAwayWhenItIsDeletedOrReplaced) {
+    ui.menuitemSaveWithoutAsking->trigger();
+    generate();
+    const QString path = saved + u'/' + names().value(0);
+    const QPushButton *const buttons[] = {ui.btnFileCopy, ui.btnFileOpen, ui.btnFileShow};
+    const auto says = [&](const QString &text, bool usable) {
+        return QTest::qWaitFor([&] { return ui.labelFileDrag->text() == text; }) &&
+               std::ranges::all_of(buttons,
+                                   [usable](auto *each) { return each->isEnabled() == usable; }) &&
+               ui.btnFileCopy->isDefault() == usable && ui.btnGIFExport->isDefault() != usable;
+    };
+    EXPECT_TRUE(says(qtTrId("IDD_FILE_DRAG"), true));
+    ASSERT_TRUE(QFile::rename(path, path + QStringLiteral(".bak")));
+    EXPECT_TRUE(says(qtTrId("IDD_FILE_GONE"), false));
+    ASSERT_TRUE(QFile::rename(path + QStringLiteral(".bak"), path));
+    EXPECT_TRUE(says(qtTrId("IDD_FILE_DRAG"), true)) << "it came back";
+    QFile::remove(path);
+    put(path, contentOf(frameFile(0)));
+    ui.btnFileCopy->click(); // sooner than the watch
+    EXPECT_EQ(ui.labelStatus->text(), qtTrId("IDD_FILE_REPLACED"));
+    EXPECT_TRUE(says(qtTrId("IDD_FILE_REPLACED"), false));
+    EXPECT_FALSE(controller.fileCard->isPlaying());
+    generate();
+    EXPECT_TRUE(says(qtTrId("IDD_FILE_DRAG"), true));
+}
+
+TEST_F(FileCardTest, playsWhileItIsSeenAndTheDesktopLetsThingsMove) {
+    ui.menuitemSaveWithoutAsking->trigger();
+    generate();
+    const auto plays = [this](bool expected) {
+        return QTest::qWaitFor(
+            [&] { return controller.fileCard->isPlaying() == expected && isShowing(0); });
+    };
+    EXPECT_TRUE(plays(true));
+    controller.OnMenuTabRecord();
+    EXPECT_FALSE(controller.fileCard->isPlaying());
+    controller.OnMenuTabGIF();
+    EXPECT_TRUE(plays(true));
+    window()->showMinimized();
+    EXPECT_FALSE(controller.fileCard->isPlaying());
+    window()->showNormal();
+    EXPECT_TRUE(plays(true));
+
+    const auto *button = ui.viewFilePicture->findChild<QAbstractButton *>();
+    EXPECT_FALSE(button->isVisible());
+    controller.OnMenuTabRecord();
+    qputenv("XDG_CURRENT_DESKTOP", "KDE");
+    const QString settings =
+        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    QDir().mkpath(settings);
+    put(settings + QStringLiteral("/kdeglobals"), "[KDE]\nAnimationDurationFactor=0\n");
+    controller.OnMenuTabGIF();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return button->isVisible(); }));
+    EXPECT_TRUE(plays(false));
+    EXPECT_EQ(button->accessibleName(), qtTrId("IDD_PLAY"));
+    ui.viewFilePicture->findChild<QAbstractButton *>()->click();
+    EXPECT_TRUE(plays(true));
+    EXPECT_EQ(button->accessibleName(), qtTrId("IDD_PAUSE"));
+    qunsetenv("XDG_CURRENT_DESKTOP");
+    QFile::remove(settings + QStringLiteral("/kdeglobals"));
+}
+
+TEST_F(FileCardTest, getsTheEndingOfItsFormat) {
+    answers.savePath = saved + QStringLiteral("/demo.txt");
+    generate();
+    answers.savePath = saved + QStringLiteral("/version 1.2");
+    generate();
+    EXPECT_EQ(names(),
+              QStringList({QStringLiteral("demo.gif"), QStringLiteral("version 1.2.gif")}));
+    EXPECT_EQ(answers.panels.size(), 2);
+    // The panel has not asked whether this one may be replaced.
+    answers.savePath = saved + QStringLiteral("/demo.txt");
+    const QByteArray before = contentOf(saved + QStringLiteral("/demo.gif"));
+    answers.savePathAfter = QString();
+    generate();
+    EXPECT_EQ(answers.panels.size(), 4);
+    EXPECT_TRUE(answers.panels.last().endsWith(QStringLiteral("|demo.gif")));
+    EXPECT_EQ(contentOf(saved + QStringLiteral("/demo.gif")), before);
 }
 
 TEST_F(FileCardTest, givesAwayAFileThatStaysWhereNoneWasSaved) {
     generate(); // the panel is cancelled
     EXPECT_TRUE(ui.btnFileSave->isVisible() && !ui.btnFileCopy->isVisible());
+    EXPECT_TRUE(ui.btnFileSave->isDefault());
+    EXPECT_EQ(ui.labelFileName->text(), qtTrId("IDD_FILE_UNSAVED"));
     ui.menuitemFileCopy->trigger();
     emptyExportFolder();
     const QList<QUrl> copied = QGuiApplication::clipboard()->mimeData()->urls();

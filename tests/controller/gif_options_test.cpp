@@ -210,6 +210,38 @@ TEST_F(GifOptions, SayWhileTypingWhatIsWrongWithTheLoops) {
     EXPECT_EQ(controller.exporter.timingRequest(controller.exportOptions->choices()).hold, 2.0);
 }
 
+TEST_F(GifOptions, ShowTheLimitAsItIsUnderstoodAndTheNextReturnGenerates) {
+    enterTab();
+    choose(GifPreset::Balanced);
+    QLineEdit *field = ui.comboFitUnder->lineEdit();
+    for (const auto &[typed, shown, bytes] :
+         {std::tuple("8", "8\u00a0MB", 8'000'000), {"200 kB", "200\u00a0kB", 200'000}}) {
+        type(field, QString::fromUtf8(typed));
+        QTest::keyClick(ui.comboFitUnder, Qt::Key_Return);
+        EXPECT_EQ(field->text().replace(QChar(u' '), QChar::Nbsp), QString::fromUtf8(shown));
+        EXPECT_EQ(controller.exportOptions->choices().limit.bytes, std::uint64_t(bytes));
+        EXPECT_EQ(ui.labelGIFEstimate->text(), qtTrId("IDD_AT_MOST_SIZE").arg(field->text()));
+    }
+    EXPECT_TRUE(answers.alerts.empty());
+    controller.trim.setULastFrame(1); // an export that ends at its first check
+    QTest::keyClick(ui.comboFitUnder, Qt::Key_Return);
+    EXPECT_EQ(answers.alerts.size(), 1u);
+    ui.radioGIFOriginalFPS->setFocus();
+    QTest::keyClick(ui.radioGIFOriginalFPS, Qt::Key_Enter);
+    EXPECT_EQ(answers.alerts.size(), 2u);
+    ui.comboGIFQuality->setFocus();
+    choose(GifPreset::Classic);
+    EXPECT_TRUE(ui.labelGIFEstimate->text().isEmpty()) << "it knows no limit";
+}
+
+TEST_F(GifOptions, SayWhatToDoFirstWhereNothingWasRecorded) {
+    controller.OnMenuTabGIF();
+    EXPECT_EQ(summary(), qtTrId("IDD_RECORD_FIRST").toStdString());
+    EXPECT_TRUE(ui.labelInstructions->isVisible());
+    enterTab();
+    EXPECT_FALSE(ui.labelInstructions->isVisible());
+}
+
 TEST_F(GifOptions, ActOnAnEditThatTheExportsShortcutFinds) {
     enterTab();
     chooseCustomSize(true);

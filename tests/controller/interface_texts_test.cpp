@@ -231,7 +231,9 @@ void fillIn(const Ui::MainWindow &ui) {
     const QString summary = qtTrId("IDD_GIF_SUMMARY", 1234).arg(decimal(123.4), rate(12.4));
     ui.labelGIFSummary->setText(qtTrId("IDD_GIF_WEBP_SUMMARY").arg(summary, summary));
     ui.labelGIFThinned->setText(qtTrId("IDD_GIF_THINNED"));
+    ui.labelInstructions->hide();
     ui.labelWebPLoopsHint->setText(qtTrId("IDD_LOOPS_RANGE").arg(count(65535)));
+    ui.labelWebPLoopsHint->show();
     ui.labelGIFEstimate->setText(qtTrId("IDD_ABOUT_SIZE").arg(bytes(123'400'000)));
 }
 
@@ -311,10 +313,16 @@ TEST_P(InterfaceTextsFit, theirPlacesInEveryLanguage) {
         const Ui::MainWindow &ui = controller.ui();
         Places places(language + QStringLiteral(": "));
         checkStatusLine(ui, places);
+        ui.tabBar->setCurrentIndex(2);
+        TestController::settle();
+        EXPECT_EQ(ui.gifOptions->verticalScrollBar()->maximum(), 0)
+            << language.toStdString() << ": all options are seen in a window of the first size";
         const QSize smallest = AppDelegate::windowWillResizeToSize({0, 0}).toSize();
         window.resize(smallest);
         for (int tab = 0; tab < ui.tabBar->count(); ++tab) {
             ui.tabBar->setCurrentIndex(tab);
+            TestController::settle();
+            places.check(window);
             fillIn(ui);
             TestController::settle();
             places.check(window);
@@ -330,6 +338,12 @@ TEST_P(InterfaceTextsFit, theirPlacesInEveryLanguage) {
         for (QWidget *other : {ui.btnFileCopy, ui.btnFileSave}) {
             ui.btnFileCopy->setVisible(other == ui.btnFileCopy);
             ui.btnFileSave->setVisible(other == ui.btnFileSave);
+            ui.labelFileDrag->setText(other == ui.btnFileSave
+                                          ? qtTrId("IDD_STATUS_FITTED")
+                                                .arg(number_text::bytes(25'000'000),
+                                                     QStringLiteral("1920"), QStringLiteral("1080"),
+                                                     number_text::rate(12.4))
+                                          : qtTrId("IDD_FILE_GONE"));
             TestController::settle();
             places.check(window);
         }

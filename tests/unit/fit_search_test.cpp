@@ -77,6 +77,9 @@ TEST(FitLimit, IsANumberOfMegabytesOrNone) {
     EXPECT_EQ(fitLimitOf(u"5 MB").bytes, 5'000'000);
     EXPECT_EQ(fitLimitOf(u"5\u00a0Mo").bytes, 5'000'000);
     EXPECT_EQ(fitLimitOf(u" 2.5mb ").bytes, 2'500'000);
+    EXPECT_EQ(fitLimitOf(u"2.3").bytes, 2'300'000);
+    EXPECT_EQ(fitLimitOf(u"200 kB").bytes, 200'000);
+    EXPECT_EQ(fitLimitOf(u"0.5ko").bytes, 500);
     EXPECT_FALSE(fitLimitOf(u"").bytes || fitLimitOf(u"").isWrong);
     for (const char16_t *text : {u"0", u"-1", u"abc", u"5 GB", u"inf", u"nan", u"0.0000001"})
         EXPECT_TRUE(fitLimitOf(text).isWrong) << QString::fromUtf16(text).toStdString();

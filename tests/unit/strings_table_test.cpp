@@ -187,7 +187,7 @@ TEST(HelpPages, sayTheSameInEveryLanguage) {
 TEST(StringsTable, everyTextIsTranslated) {
     // Names, units and words that are the same in several languages.
     static const QRegularExpression same(
-        QStringLiteral("%L?[1-9n]|GIF|WebP|MP4|MB|fps|\\bs\\b|OK|Pause|Action|Countdown|Monitor|"
+        QStringLiteral("%L?[1-9n]|GIF|WebP|MP4|MB|kB|fps|\\bs\\b|OK|Pause|Action|Countdown|Monitor|"
                        "Version"));
     static const QRegularExpression word(QStringLiteral("\\p{L}"));
     const Texts english = read(QStringLiteral("en"));
