@@ -11,6 +11,7 @@
 #include "region/region_chooser.h"
 #include "shell/mnemonics.h"
 #include "shell/number_text.h"
+#include "shell/palette_icon.h"
 #include "shell/settings.h"
 #include "shell/tab_view.h"
 #include "ui_MainWindow.h"
@@ -55,7 +56,7 @@ Controls::Controls(AppDelegate &controller) : controller_(controller), ui_(*cont
     ui_.viewRecordPreview->setRecorder(controller.recorder);
     ui_.viewCutPreview->setEditor(controller.trimEditor);
     ui_.viewCutRange->setEditor(controller.trimEditor, *ui_.viewCutPreview);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tovarel.svg")));
+    QApplication::setWindowIcon(drawnIcon(QStringLiteral(":/icons/tovarel.svg")));
     listenToShell();
     listenToRecorder();
     listenToOthers();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/task_bar_state.h"
 
+#include "shell/palette_icon.h"
 #include "shell/shell_fields.h"
 
 #include <QApplication>
@@ -14,9 +15,9 @@ void showStateInTaskBar(const ShellFields &shell, RecordStatus status, int secon
         QIcon icon;
     } states[] = {
         {RECORD_STATUS_RECORD, qtTrId("IDD_STATE_RECORDING"),
-         QIcon(QStringLiteral(":/icons/tovarel-recording.svg"))},
+         drawnIcon(QStringLiteral(":/icons/tovarel-recording.svg"))},
         {RECORD_STATUS_PAUSE, qtTrId("IDD_STATE_PAUSED"),
-         QIcon(QStringLiteral(":/icons/tovarel-paused.svg"))},
+         drawnIcon(QStringLiteral(":/icons/tovarel-paused.svg"))},
     };
     QString title = shell.s_App_Name();
     QIcon icon = QApplication::windowIcon();

@@ -63,6 +63,9 @@ private:
 
 } // namespace
 
+// It has no `currentColor` in it that would be replaced.
+QIcon drawnIcon(const QString &path) { return paletteIcon(path); }
+
 QIcon paletteIcon(const QString &path, const QColor &accent) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {

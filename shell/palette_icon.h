@@ -9,7 +9,7 @@
 /// Icons that follow the application's palette: drawings in one colour, painted again in each size,
 /// scale and state from the palette of that moment. So they stay sharp on every screen, and a theme
 /// that turns dark while the program runs needs nothing more than the repaint that it causes
-/// anyway. Not for pictures with colours of their own.
+/// anyway.
 ///
 /// Every drawing is square and says `currentColor` (SVG 1.1, section 12.2) wherever it is not
 /// transparent.
@@ -23,3 +23,7 @@ inline constexpr QColor recordRed(0xe5, 0x48, 0x4d);
 /// in the highlighted text on a selected menu item. A file that cannot be read gives an
 /// empty icon.
 QIcon paletteIcon(const QString &path, const QColor &accent = {});
+
+/// The icon drawn in the SVG file `path`, in its own colours. The toolkit's icons of SVG files need
+/// a plugin, which not every distribution installs with it.
+QIcon drawnIcon(const QString &path);

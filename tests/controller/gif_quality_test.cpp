@@ -299,13 +299,15 @@ TEST_F(GifQuality, TellsHowLargeItWillBe) {
     recordInMemory(12);
     choose(GifPreset::Best);
     const auto said = [&] {
-        QString last;
-        // The exact size is the one that does not change any more.
-        QElapsedTimer since;
-        since.start();
-        while (ui.labelGIFEstimate->text().isEmpty() && since.elapsed() < 20'000)
-            QTest::qWait(20);
-        QTest::qWait(500);
+        // The exact size begins with its figure.
+        const QString exact = qtTrId("IDD_GIF_SIZE").arg(QString());
+        static_cast<void>(QTest::qWaitFor(
+            [&] {
+                const QString now = ui.labelGIFEstimate->text();
+                return now.startsWith(exact) && now.size() > exact.size() &&
+                       now[exact.size()].isDigit();
+            },
+            20'000));
         return ui.labelGIFEstimate->text();
     };
     QString sizes[2];
