@@ -17,7 +17,7 @@
 namespace {
 
 constexpr int mostThreads = 2;
-constexpr int lowPriority = 5; // the interface goes first, what the user waits for next
+constexpr int lowPriority = 2; // the interface goes first, what the user waits for next
 
 QImage madeSmall(const StripPictures::Source &source, QSize bounds, double ratio,
                  ImageScaler &scaler) {
@@ -44,6 +44,7 @@ struct StripPictures::Job {
 
 StripPictures::StripPictures(QObject *parent) : QObject(parent) {
     threads_.setMaxThreadCount(std::clamp(QThread::idealThreadCount(), 1, mostThreads));
+    threads_.setExpiryTimeout(0); // none waits for a next time that may be long away
 }
 
 StripPictures::~StripPictures() {

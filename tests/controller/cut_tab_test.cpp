@@ -95,7 +95,7 @@ TEST_F(CutTab, thePicturesAreOfTheirTimesAndPartsThatAreLeftOutAreDarkened) {
     haveRecording(10, 5);
     settlePictures();
     const double W = strip->width();
-    const auto isFrame = [this](QColor colour, int frame) { return colour == colourOf(frame); };
+    const auto isFrame = [](QColor colour, int frame) { return colour == colourOf(frame); };
     for (const int frame : {1, 3, 5, 8})
         EXPECT_TRUE(isFrame(stripColour(W * (frame + 0.5) / 10), frame)) << frame;
     // Beyond a handle.
