@@ -6,7 +6,10 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QGuiApplication>
+#include <QWindow>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -15,6 +18,17 @@ const QString requestInterface = QStringLiteral("org.freedesktop.portal.Request"
 const QString responseSignal = QStringLiteral("Response");
 
 } // namespace
+
+QString portal::parentWindow() {
+    if (QGuiApplication::platformName() != QLatin1String("xcb"))
+        return {};
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    const auto ours = std::ranges::find_if(windows, [](const QWindow *window) {
+        return window->isVisible() && window->type() == Qt::Window;
+    });
+    return ours == windows.end() ? QString()
+                                 : QStringLiteral("x11:%1").arg((*ours)->winId(), 0, 16);
+}
 
 QString PortalRequest::newToken() {
     static unsigned last = 0;

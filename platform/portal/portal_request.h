@@ -62,4 +62,10 @@ namespace portal {
 inline constexpr char service[] = "org.freedesktop.portal.Desktop";
 inline constexpr char object[] = "/org/freedesktop/portal/desktop";
 
+/// Our window, for the desktop to place its dialog over it, in the portal's words
+/// (xdg-desktop-portal, "Window Identifiers"). Empty where the toolkit can't name it: without a
+/// window, and on Wayland, where a name would have to be asked for (xdg-foreign) with what only the
+/// toolkit's private headers give.
+QString parentWindow();
+
 } // namespace portal

@@ -106,7 +106,7 @@ void PortalShortcuts::created() {
         {.interface = globalShortcuts,
          .method = QStringLiteral("BindShortcuts"),
          .arguments = {QVariant::fromValue(QDBusObjectPath(session_)), QVariant::fromValue(wanted),
-                       QString()},
+                       portal::parentWindow()},
          .options = {}},
         // Some desktops say that it failed when it did not: what counts is what there is.
         [this](const PortalRequest::Answer &) { list(); }, this);

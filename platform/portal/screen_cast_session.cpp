@@ -154,8 +154,8 @@ QVariantMap ScreenCastSession::sourceOptions() const {
 }
 
 void ScreenCastSession::selected(const QVariantMap &) {
-    // Without a parent window: the dialog stands by itself.
-    ask(QStringLiteral("Start"), {QVariant::fromValue(QDBusObjectPath(session_)), QString()}, {},
+    ask(QStringLiteral("Start"),
+        {QVariant::fromValue(QDBusObjectPath(session_)), portal::parentWindow()}, {},
         &ScreenCastSession::chose);
 }
 

@@ -145,8 +145,8 @@ class Backend(Keys):
         return 0, {}
 
     @dbus.service.method(SCREEN_CAST, "oossa{sv}", "ua{sv}", async_callbacks=("ok", "error"))
-    def Start(self, _handle, session, _app, _parent, options, ok, error):
-        self.note("Start", options)
+    def Start(self, _handle, session, _app, parent, options, ok, error):
+        self.note("Start", {**options, "parent": parent})
         script = self.answer()
         wanted = script.get("answer", "grant")
         if wanted == "hang":

@@ -8,6 +8,7 @@ import functools
 import os
 import pty
 import signal
+import subprocess
 import sys
 import time
 
@@ -226,6 +227,16 @@ class Wayland(case.Case):
         frames = self.frames()
         self.assertEqual({(frame.width, frame.height) for frame in frames}, {place[2:]})
         return frames
+
+    def test_a_dialog_stands_over_a_window_of_the_x_server(self):
+        display = {"DISPLAY": self.session.start_display("Xvfb"), "QT_QPA_PLATFORM": "xcb"}
+        program = Program(self.session, display, remembering=True)
+        self.choose(program)
+        kind, number = self.asked("Start")[-1]["parent"].split(":")
+        named = subprocess.run(["xprop", "-id", f"0x{number}", "WM_CLASS"], check=True, text=True,
+                               env={**self.session.environment, **display}, capture_output=True)
+        self.assertEqual(kind, "x11")
+        self.assertIn("Tovarel", named.stdout)
 
     def test_a_region_is_chosen_on_a_still_and_recorded_to_the_pixel(self):
         # As a monitor at the scale 1.25 is told: pixels of the picture count, and the monitor is
