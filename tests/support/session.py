@@ -66,37 +66,51 @@ class Session:
         self.close(keep_outputs=kind is not None)
 
     def _start(self):
-        for folder in (self.home, self.documents, self.outputs):
-            folder.mkdir()
-        self.runtime.mkdir(mode=0o700)
-        if self.quality:
-            self.remember_quality(self.quality)
+        self._make_home()
         self.remember("ShowPointer", int(self.pointer))
-        self.environment = {
-            "HOME": str(self.home),
-            "LC_ALL": os.environ.get("TOVAREL_TEST_LOCALE", "C.UTF-8"),
-            "PATH": os.environ["PATH"],
-            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-            "QT_SCALE_FACTOR": str(SCALE),
-            "TMPDIR": str(self.folder),
-            "XDG_RUNTIME_DIR": str(self.runtime),
-        }
-        for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "LOCPATH", "TZ"):
-            if name in os.environ:
-                self.environment[name] = os.environ[name]
+        self._set_environment(QT_SCALE_FACTOR=str(SCALE))
         self.environment["DISPLAY"] = self.start_display("Xvfb")
-        bus = self.announce(
-            "dbus-daemon", lambda end: ["dbus-daemon", "--session", "--nofork", "--nopidfile"]
-            + [f"--print-address={end}"])
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus
+        self._start_bus()
         if self.with_window_manager:
             # It forgets a window that asks to be shown while it starts, so neither its process nor
             # its properties on the root window are enough to go by.
             started = self.folder / "window-manager-started"
             self.start("openbox", ["openbox", "--startup", f"touch {started}"])
             wait_for("the window manager", started.exists)
-        # The accessibility library reads the environment of this process.
-        for name in [name for name in os.environ if name.startswith("XDG_")]:
+        self._share_environment()
+
+    # What every kind of session begins with
+
+    def _make_home(self):
+        for folder in (self.home, self.documents, self.outputs):
+            folder.mkdir()
+        self.runtime.mkdir(mode=0o700)
+        if self.quality:
+            self.remember_quality(self.quality)
+
+    def _set_environment(self, **more):
+        """What the session's processes find in theirs."""
+        self.environment = {
+            "HOME": str(self.home),
+            "LC_ALL": os.environ.get("TOVAREL_TEST_LOCALE", "C.UTF-8"),
+            "PATH": os.environ["PATH"],
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "TMPDIR": str(self.folder),
+            "XDG_RUNTIME_DIR": str(self.runtime),
+            **more,
+        }
+        for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "LOCPATH", "TZ"):
+            if name in os.environ:
+                self.environment[name] = os.environ[name]
+
+    def _start_bus(self):
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.announce(
+            "dbus-daemon", lambda end: ["dbus-daemon", "--session", "--nofork", "--nopidfile"]
+            + [f"--print-address={end}"])
+
+    def _share_environment(self):
+        """The accessibility library reads the environment of this process."""
+        for name in [name for name in os.environ if name.startswith("XDG_") or name == "DISPLAY"]:
             del os.environ[name]
         os.environ.update(self.environment)
 

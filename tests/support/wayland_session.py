@@ -42,9 +42,7 @@ class WaylandSession(Session):
         self.requests = self.folder / "requests"
 
     def _start(self):
-        for folder in (self.home, self.documents, self.outputs):
-            folder.mkdir()
-        self.runtime.mkdir(mode=0o700)
+        self._make_home()
         portals = self.folder / "portals"
         portals.mkdir()
         (portals / "test.portal").write_text(
@@ -56,43 +54,23 @@ class WaylandSession(Session):
         launchers.mkdir(parents=True)
         (launchers / "org.tovarel.Tovarel.desktop").write_text(
             "[Desktop Entry]\nType=Application\nName=Tovarel\nExec=true\n")
-        if self.quality:
-            self.remember_quality(self.quality)
-        self.environment = {
-            "HOME": str(self.home),
-            "GSETTINGS_BACKEND": "keyfile",
-            "LC_ALL": os.environ.get("TOVAREL_TEST_LOCALE", "C.UTF-8"),
-            "LIBGL_ALWAYS_SOFTWARE": "1",
-            "PATH": os.environ["PATH"],
-            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-            "TMPDIR": str(self.folder),
-            "XDG_CURRENT_DESKTOP": "test",
-            "XDG_DESKTOP_PORTAL_DIR": str(portals),
-            "XDG_RUNTIME_DIR": str(self.runtime),
-            "XDG_SESSION_TYPE": "wayland",
-        }
-        for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "LOCPATH", "TZ"):
-            if name in os.environ:
-                self.environment[name] = os.environ[name]
+        self._set_environment(
+            GSETTINGS_BACKEND="keyfile", LIBGL_ALWAYS_SOFTWARE="1", XDG_CURRENT_DESKTOP="test",
+            XDG_DESKTOP_PORTAL_DIR=str(portals), XDG_SESSION_TYPE="wayland")
         # The toolkit does not free all that it was given of the compositor before it ends.
         known = self.folder / "known-leaks"
         known.write_text("leak:libwayland-client\n")
         self.environment["LSAN_OPTIONS"] = ":".join(filter(None, (
             self.environment.get("LSAN_OPTIONS"), f"suppressions={known}",
             "print_suppressions=0")))
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.announce(
-            "dbus-daemon", lambda end: ["dbus-daemon", "--session", "--nofork", "--nopidfile"]
-            + [f"--print-address={end}"])
+        self._start_bus()
         self.answer_with()
         if self.pipewire:
             self._start_pipewire()
         self._start_compositor()
         if self.portal:
             self.start_portal()
-        for name in [name for name in os.environ if name.startswith("XDG_")]:
-            del os.environ[name]
-        os.environ.pop("DISPLAY", None)
-        os.environ.update(self.environment)
+        self._share_environment()
 
     def _start_pipewire(self):
         # Without a system's login manager this part of it ends the whole (WirePlumber 0.4).
