@@ -15,6 +15,7 @@
 #include "platform/screen_source.h"
 #include "shell/settings.h"
 #include "shell/tab_view.h"
+#include "shell/termination_notice.h"
 #include "shell/working_folders.h"
 #include "ui_MainWindow.h"
 
@@ -40,6 +41,7 @@ AppDelegate::AppDelegate(Environment environment)
     regionChooser.setWindows([this] { return recorder.source().titledWindows(); });
     recorder.setGate(
         [this](std::function<void()> goOn) { return exporter.mustAskFirst(std::move(goOn)); });
+    connect(&recorder, &Recorder::recordingReady, this, &AppDelegate::endIfAskedTo);
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -80,23 +82,40 @@ bool AppDelegate::eventFilter(QObject *watched, QEvent *event) {
     return true;
 }
 
-void AppDelegate::windowWillClose() {
-    // A click on the close button must not cost the recording that is being saved.
-    if (recorder.isSavingRecording()) {
-        surroundings.showStatus(qtTrId("IDD_CLOSE_WAITS"));
-        return;
-    }
-    endForTheUser();
-}
+void AppDelegate::windowWillClose() { endForTheUser(); }
 
 void AppDelegate::endForTheUser() {
     // What is being read is still whole on disk, and is offered again.
     if (recorder.isOpeningRecording())
         Terminate_App();
+    if (recording.m_RecordStatus() != RECORD_STATUS_STOP)
+        recorder.OnRecordStop();
+    // The end must not cost the recording that is being saved.
+    if (recorder.isSavingRecording()) {
+        endsOnceSaved_ = true;
+        surroundings.showStatus(qtTrId("IDD_CLOSE_WAITS"));
+        return;
+    }
     if (exporter.mustAskFirst([this] { endForTheUser(); }))
         return;
-    recorder.forgetRecording();
+    recorder.endedByUser();
     Terminate_App();
+}
+
+void AppDelegate::endIfAskedTo() {
+    // Where frames are missing, the status line says so and offers to save them again.
+    if (std::exchange(endsOnceSaved_, false) && !recorder.hasMissingFrames())
+        endForTheUser();
+}
+
+void AppDelegate::applicationWillTerminate() {
+    keepWhatRuns();
+    Terminate_App();
+}
+
+void AppDelegate::keepWhatRuns() {
+    const int before = TerminationNotice::arrivals();
+    recorder.keepForNextStart([before] { return TerminationNotice::arrivals() > before; });
 }
 
 void AppDelegate::Terminate_App() {
@@ -136,6 +155,8 @@ void AppDelegate::listenToDesktopKeys() {
         desktopKeys_ = std::make_unique<DesktopKeys>(*ui, surroundings, recorder);
     if (regionChooser.wasRegionMoved())
         surroundings.showStatus(qtTrId("IDD_REGION_MOVED"));
+    if (exporter.hasUnsavedResult())
+        exporter.sayWhatIsUnsaved();
 }
 
 // Forwards that need more than a name -------------------------------------------------------------

@@ -80,11 +80,14 @@ public:
     /// could not be made (the user has been notified): the process must end, with status 0.
     bool applicationDidFinishLaunching();
     bool applicationShouldTerminateAfterLastWindowClosed() const { return true; }
-    /// The main window is closing: ends the process. Returns when a recording is being saved, as
-    /// the status line then says, or when something has to be answered first.
+    /// The main window is closing: ends the process. Returns when a recording has to be saved
+    /// first, as the status line then says, or when something has to be answered.
     void windowWillClose();
     /// The platform's termination notice (signals, the end of the session).
-    void applicationWillTerminate() { Terminate_App(); }
+    /// Keeps a recording that runs for the next start; a second notice meanwhile ends it at once.
+    [[noreturn]] void applicationWillTerminate();
+    /// What is left to do when the toolkit ends the process by itself, since its display is gone.
+    void keepWhatRuns();
     /// Ends the process at once with status 0, from wherever it is called: settings are written, a
     /// running tool is ended, nothing else is released or emptied.
     [[noreturn]] void Terminate_App();
@@ -190,11 +193,14 @@ public:
 
 private:
     /// Ends the process as the user wishes it, by closing the window or from the menu. Returns when
-    /// something has to be answered first.
+    /// something has to be answered or saved first.
     void endForTheUser();
+    /// The recording is saved for which the end has waited.
+    void endIfAskedTo();
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     QString documentsFolder_;
     std::unique_ptr<Controls> controls_;
     std::unique_ptr<DesktopKeys> desktopKeys_;
+    bool endsOnceSaved_ = false; ///< The user has asked for the end.
 };

@@ -128,6 +128,10 @@ std::vector<Command> recordCommands(AppDelegate &controller) {
          .shortcut = "Ctrl+.",
          .action = [&controller] { controller.OnMenuActionRecordStop(); },
          .enabled = [choosing] { return !choosing(); }},
+        {.item = ui.menuitemRecordPrevious,
+         .text = qtTrId("IDD_RECORD_PREVIOUS"),
+         .action = [&controller] { controller.recorder.OnRecordPrevious(); },
+         .enabled = [&recorder] { return recorder.mayBringBackPrevious(); }},
         {.button = ui.btnSaveAgain,
          .text = qtTrId("IDD_SAVE_AGAIN"),
          .action =

@@ -131,6 +131,9 @@ command_line::Command readCommandLine(int argc, char **argv) {
     return command;
 }
 
+/// For what the toolkit does when the display goes: it ends the process with exit().
+AppDelegate *running = nullptr;
+
 int recordWithoutWindow(const command_line::Recording &wanted) {
     ScriptedRecording recording(wanted, makeScreenSource());
     const TerminationNotice notice([&recording] { recording.interrupt(); });
@@ -170,6 +173,8 @@ int main(int argc, char **argv) {
     delegate.awakeFromNib();
     if (!delegate.applicationDidFinishLaunching())
         return EXIT_SUCCESS;
+    running = &delegate;
+    std::atexit([] { running->keepWhatRuns(); });
     delegate.listenToDesktopKeys();
     instance.listen([&delegate](const QString &wish) { return fulfil(wish, delegate); });
     Application::exec();

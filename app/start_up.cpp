@@ -81,10 +81,8 @@ bool run(AppDelegate &controller, Controls &controls, const QString &documentsFo
     shell.setSimg2webpPath(bundle::pathForTool(QStringLiteral("img2webp")));
     if (!createWorkingFolders(controller.surroundings, documentsFolder))
         return false;
-    const std::optional<RecordingNote> left = left_recording::find(shell.s_Output_Folder());
-    if (!left)
-        working_folders::removeContent(shell.s_Output_Folder());
-    working_folders::removeContent(shell.s_Export_Folder());
+    const std::optional<RecordingNote> left = left_recording::findAtStart(shell.s_Output_Folder());
+    controller.exporter.takeLeftFile();
     working_folders::removeContent(shell.s_Pallete_Folder());
     controller.GetScreenSize();
     controller.regionChooser.start();

@@ -110,6 +110,11 @@ public:
     bool hasUnsavedResult() const;
     /// Lets the user choose a place for it once more.
     void saveUnsavedResult();
+    /// What an earlier start has left unsaved is this one's unsaved export; the rest of the export
+    /// folder is emptied.
+    void takeLeftFile();
+    /// Says in the status line that there is one, and beside it whatever there is to say of it.
+    void sayWhatIsUnsaved();
     /// The file that was made last, saved or not; none where it is no longer there.
     const FinishedFile *lastFile() const;
     /// Where the file that was made last can stay: one that is not saved yet is saved under its
@@ -143,6 +148,8 @@ Q_SIGNALS:
     void unsavedResultChanged();
     /// A file has been made: `lastFile`.
     void fileMade();
+    /// An earlier start has left one: `lastFile`.
+    void fileLeft();
     /// It is somewhere else now, or gone.
     void fileMoved();
 
@@ -158,8 +165,6 @@ private:
         const char *caption; // keys of texts: of the sheet, and of the note about a missing frame
         const char *gap;
         QString file;
-        QString panelTitle;
-        QString successText;
         /// Makes the file of these frames.
         std::function<MadeFile(Frames frames, const ExportChoices &choices)> encode;
         /// Makes all of it again with what the user chose lowered; none where no limit is heeded.

@@ -51,6 +51,7 @@ FileCard::FileCard(const FileCardControls &controls, Exporter &exporter, QObject
         // The next step; Return takes it.
         (isUnsaved() ? ui_.btnFileSave : ui_.btnFileCopy)->setFocus();
     });
+    connect(&exporter_, &Exporter::fileLeft, this, &FileCard::showFile);
     connect(&exporter_, &Exporter::fileMoved, this, &FileCard::update);
     for (const auto signal :
          {&QFileSystemWatcher::fileChanged, &QFileSystemWatcher::directoryChanged})
@@ -98,8 +99,10 @@ void FileCard::showFile() {
 
 void FileCard::compare(const ExportChoices &choices) {
     const std::optional<FinishedFile> &file = exporter_.exporting.finished;
-    const bool same =
-        file && file->choices == choices && file->timing == exporter_.timingRequest(choices);
+    // One that an earlier start has left is the next thing to decide about.
+    const bool isLeft = file && file->isFromEarlierStart && isUnsaved();
+    const bool same = isLeft || (file && file->choices == choices &&
+                                 file->timing == exporter_.timingRequest(choices));
     showsFile_ = showsFile_ && same;
     update();
 }

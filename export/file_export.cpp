@@ -42,10 +42,6 @@ void Exporter::makeFile(const FileFormat &format) {
                    .arg(number_text::count(frames.size()));
     }
     surroundings_.showStatus(note);
-    saveResult({.file = format.file,
-                .panelTitle = format.panelTitle,
-                .successText = format.successText,
-                .note = note,
-                .withoutAsking = withoutAsking},
-               frames, format.ticks, asked);
+    saveResult({.file = format.file, .note = note, .withoutAsking = withoutAsking}, frames,
+               format.ticks, asked);
 }

@@ -19,4 +19,6 @@ struct FinishedFile {
     /// What it was made of and how.
     ExportChoices choices;
     frame_timing::Request timing;
+    /// It was made before this start, of nothing that is still known.
+    bool isFromEarlierStart = false;
 };

@@ -116,8 +116,6 @@ void Exporter::generateGIF(bool mayLowerChosen) {
     const QString note = made.fitNote.isEmpty() ? noteAbout(made, frames.size()) : made.fitNote;
     surroundings_.showStatus(note);
     saveResult({.file = encoder_arguments::gifFile(surroundings_.shell.s_Export_Folder()),
-                .panelTitle = QStringLiteral("Select a folder to save the GIF image"),
-                .successText = surroundings_.texts.s_IDD_GIF_SAVED_OK(),
                 .note = note,
                 .withoutAsking = withoutAsking},
                frames, frame_timing::gifTicks, wanted);

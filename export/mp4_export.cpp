@@ -30,8 +30,6 @@ void Exporter::Generate_MP4() {
               .caption = "IDD_PROGRESS_MP4",
               .gap = "IDD_STATUS_MP4_GAP",
               .file = encoder_arguments::mp4File(surroundings_.shell.s_Export_Folder()),
-              .panelTitle = qtTrId("IDD_MP4_PANEL"),
-              .successText = qtTrId("IDD_MP4_SAVED_OK"),
               .encode = [this](Frames frames, const ExportChoices &choices) {
                   return MadeFile{.failure = encodeMP4(frames, choices)};
               }});

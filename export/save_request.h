@@ -7,10 +7,8 @@
 
 /// A finished export that the user is asked to give a place.
 struct SaveRequest {
-    QString file;        ///< The encoder's output.
-    QString panelTitle;  ///< Title of the save panel.
-    QString successText; ///< Informative text of the alert after a confirmed save.
-    QString note;        ///< What the status line says beside the path and size; may be empty.
+    QString file; ///< The encoder's output; its ending says what it is.
+    QString note; ///< What the status line says beside the path and size; may be empty.
     /// It gets a preset name in the folder that was used last, and nobody is asked.
     bool withoutAsking = false;
     /// When it was made: the name that is offered says so, however late it is saved.

@@ -3,11 +3,13 @@
 #include "export/export_mark.h"
 #include "export/exporter.h"
 #include "export/first_picture.h"
+#include "export/left_file.h"
 #include "export/preset_name.h"
 #include "export/safe_move.h"
 #include "export/save_request.h"
 #include "platform/desktop_services.h"
 #include "platform/text_number.h"
+#include "record/recorder.h"
 #include "shell/number_text.h"
 #include "shell/settings.h"
 #include "shell/surroundings.h"
@@ -72,11 +74,12 @@ QString withSuffix(const QString &path, const QString &suffix) {
 }
 
 /// Asks for the place; an empty text when the user cancels.
-QString runSavePanel(QWidget *parent, const SaveRequest &request, const QString &folder) {
+QString runSavePanel(QWidget *parent, const SaveRequest &request, const QString &folder,
+                     const QString &title) {
     const QString suffix = QFileInfo(request.file).suffix();
     QString offered = freeName(request, folder);
     for (;;) {
-        QFileDialog panel(parent, request.panelTitle, folder);
+        QFileDialog panel(parent, title, folder);
         panel.setObjectName(QStringLiteral("savePanel"));
         panel.setAcceptMode(QFileDialog::AcceptSave);
         panel.setFileMode(QFileDialog::AnyFile);
@@ -92,6 +95,22 @@ QString runSavePanel(QWidget *parent, const SaveRequest &request, const QString 
         if (offered == chosen || !QFileInfo::exists(offered))
             return offered;
     }
+}
+
+/// What is said about a file of one kind.
+struct KindTexts {
+    QString panelTitle;
+    QString saved; ///< After a place was confirmed.
+};
+
+KindTexts textsFor(const QString &suffix, const InterfaceStrings &texts) {
+    if (suffix == QLatin1String("gif"))
+        return {QStringLiteral("Select a folder to save the GIF image"),
+                texts.s_IDD_GIF_SAVED_OK()};
+    if (suffix == QLatin1String("webp"))
+        return {QStringLiteral("Select a folder to save the WebP image"),
+                QStringLiteral("Success")};
+    return {qtTrId("IDD_MP4_PANEL"), qtTrId("IDD_MP4_SAVED_OK")};
 }
 
 int evenSide(const QString &typed) {
@@ -119,6 +138,7 @@ void Exporter::saveResult(const SaveRequest &request, Frames frames, frame_timin
                           .note = request.note,
                           .choices = choices,
                           .timing = timingRequest(choices)};
+    left_file::writeNote(*exporting.finished);
     const QMainWindow *window = surroundings_.shell.window();
     if (window && QGuiApplication::applicationState() != Qt::ApplicationActive)
         desktop_services::notify(qtTrId("IDD_FILE_READY"), freeName(request, startFolder()));
@@ -143,6 +163,7 @@ std::optional<QString> Exporter::placeResult(const QString &path, Existing exist
     if (exporting.finished && exporting.finished->path == from)
         exporting.finished->path = path;
     forgetResult();
+    recorder_.markExported();
     settings::writeLastSaveFolder(QFileInfo(path).absolutePath());
     return std::nullopt;
 }
@@ -165,7 +186,9 @@ QString Exporter::sayWhereItIs(const QString &note) {
 
 void Exporter::chooseResultsPlace() {
     const SaveRequest request = *exporting.unsaved;
-    const QString path = runSavePanel(surroundings_.shell.window(), request, startFolder());
+    const KindTexts texts = textsFor(QFileInfo(request.file).suffix(), surroundings_.texts);
+    const QString path =
+        runSavePanel(surroundings_.shell.window(), request, startFolder(), texts.panelTitle);
     if (path.isEmpty()) {
         showUnsavedResult();
         return;
@@ -174,7 +197,7 @@ void Exporter::chooseResultsPlace() {
         reportFailedPlace(path, *failure);
         return;
     }
-    surroundings_.alerts.run(AlertKind::Success, request.successText, sayWhereItIs(request.note));
+    surroundings_.alerts.run(AlertKind::Success, texts.saved, sayWhereItIs(request.note));
 }
 
 bool Exporter::saveUnderPresetName() {

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "export/export_mark.h"
 #include "export/exporter.h"
+#include "export/left_file.h"
 #include "record/recorder.h"
 #include "shell/surroundings.h"
+#include "shell/working_folders.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -19,8 +21,11 @@ bool Exporter::hasUnsavedResult() const {
 
 void Exporter::showUnsavedResult() {
     Q_EMIT unsavedResultChanged();
-    if (!hasUnsavedResult())
-        return;
+    if (hasUnsavedResult())
+        sayWhatIsUnsaved();
+}
+
+void Exporter::sayWhatIsUnsaved() {
     QString status = qtTrId("IDD_STATUS_UNSAVED").arg(kindOf(*exporting.unsaved));
     if (!exporting.unsaved->note.isEmpty())
         status += QLatin1Char(' ') + exporting.unsaved->note;
@@ -38,7 +43,25 @@ void Exporter::saveUnsavedResult() {
         forgetResult();
 }
 
+void Exporter::takeLeftFile() {
+    const QString &folder = surroundings_.shell.s_Export_Folder();
+    exporting.finished = left_file::find(folder);
+    if (!exporting.finished) {
+        working_folders::removeContent(folder);
+        return;
+    }
+    const QFileInfo file(exporting.finished->path);
+    const QFileInfo note(left_file::noteFile(file.filePath()));
+    working_folders::removeContent(folder, {file.fileName(), note.fileName()});
+    exporting.unsaved =
+        SaveRequest{.file = file.filePath(), .note = {}, .made = file.lastModified()};
+    Q_EMIT unsavedResultChanged();
+    Q_EMIT fileLeft();
+}
+
 void Exporter::forgetResult() {
+    if (exporting.unsaved)
+        left_file::removeNote(exporting.unsaved->file);
     exporting.unsaved.reset();
     Q_EMIT unsavedResultChanged();
     Q_EMIT fileMoved();

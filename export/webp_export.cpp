@@ -60,8 +60,6 @@ void Exporter::generateWebP(bool mayLowerChosen) {
               .caption = "IDD_PROGRESS_WEBP",
               .gap = "IDD_STATUS_WEBP_GAP",
               .file = file,
-              .panelTitle = QStringLiteral("Select a folder to save the WebP image"),
-              .successText = QStringLiteral("Success"),
               .encode =
                   [this, file, mayLowerChosen](Frames frames, const ExportChoices &choices) {
                       if (choices.limit.bytes && choices.preset != GifPreset::Classic)

@@ -25,4 +25,20 @@ void removeNote(const QString &recordingFolder);
 /// otherwise. The frames are not decoded.
 std::optional<RecordingNote> find(const QString &recordingFolder);
 
+/// Whether a note is there, of a recording that was saved to the end.
+bool isThere(const QString &recordingFolder);
+
+// The recording before it -------------------------------------------------------------------------
+
+/// Moves the recording out of the way of a new one, in place of one that was moved there before;
+/// the recording folder is empty then. False where it cannot be: it stays where it is.
+bool setAside(const QString &recordingFolder);
+
+/// Removes what was moved out of the way.
+void removeAside(const QString &recordingFolder);
+
+/// What a start finds: the recording that is whole, or else the one before it, which then takes its
+/// place. The folders are emptied of everything else.
+std::optional<RecordingNote> findAtStart(const QString &recordingFolder);
+
 } // namespace left_recording

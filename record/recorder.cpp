@@ -4,6 +4,7 @@
 
 #include "platform/screen_source.h"
 #include "platform/text_number.h"
+#include "record/left_recording.h"
 #include "record/log.h"
 #include "record/recording_loader.h"
 #include "record/save/frame_saver.h"
@@ -143,8 +144,9 @@ void Recorder::secondPassed() {
 
 void Recorder::begin(bool goesOn) {
     if (!goesOn) {
-        working_folders::removeContent(surroundings_.shell.s_Output_Folder());
+        makeRoom();
         hasMissingFrames_ = false;
+        isExported_ = false;
         recording.setU_Record_Current_Frame(0);
         Q_EMIT began();
         recording.setI_Actual_FPS_while_Recording(0);
@@ -169,6 +171,13 @@ void Recorder::begin(bool goesOn) {
     showRecordingState();
 }
 
+void Recorder::makeRoom() {
+    const QString &folder = surroundings_.shell.s_Output_Folder();
+    if (!isExported_ && left_recording::isThere(folder) && left_recording::setAside(folder))
+        return;
+    working_folders::removeContent(folder);
+}
+
 void Recorder::OnRecordPause() {
     recording.setM_RecordStatus(RECORD_STATUS_PAUSE);
     recording.clock.hold(now());
@@ -185,17 +194,21 @@ void Recorder::OnRecordStop() {
     // The store that is being written stays as it is until the last frame has been reported.
     if (isSavingRecording())
         return;
-    recording.clock.hold(now());
-    recording.setM_RecordStatus(RECORD_STATUS_STOP);
+    endRecording();
     steppingAside_.comeBack();
-    const RecordingCounts counts = recordingCounts();
-    recording.setExactRate(measuredRate(counts, recording.u_FPS()));
-    qCDebug(logRecord) << counts.storedFrames << "frames in" << counts.passedSeconds << "seconds";
     recording.store.rest();
     // A new recording, which empties store and folder, has to wait for the save.
     saveDue_ = true;
     showRecordingState();
     saveRecording();
+}
+
+void Recorder::endRecording() {
+    recording.clock.hold(now());
+    recording.setM_RecordStatus(RECORD_STATUS_STOP);
+    const RecordingCounts counts = recordingCounts();
+    recording.setExactRate(measuredRate(counts, recording.u_FPS()));
+    qCDebug(logRecord) << counts.storedFrames << "frames in" << counts.passedSeconds << "seconds";
 }
 
 RecordingCounts Recorder::recordingCounts() const {

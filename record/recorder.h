@@ -167,10 +167,17 @@ public:
 
     /// Whether the frames of a stopped recording are still being written.
     bool isSavingRecording() const { return frameSaver_ != nullptr; }
-    /// Keeps beside the saved frames what a later start needs to open them again.
-    void noteRecording();
-    /// The user has ended the program: the next start has nothing to offer.
-    void forgetRecording();
+    /// A file of the recording has got its place: there is no need any more to keep it for later.
+    void markExported() { isExported_ = true; }
+    /// The user ends the program: the next start offers what no file was made of, and nothing else.
+    void endedByUser();
+    /// Keeps a recording that runs or is being saved for the next start, as the process is about to
+    /// end: writes it to the end, without the event loop, unless `givesUp` is true before that.
+    void keepForNextStart(const std::function<bool()> &givesUp);
+    /// Whether there is a recording that the last one has replaced, and it may be had back now.
+    bool mayBringBackPrevious() const;
+    /// Lets the two change places, and opens the one before.
+    void OnRecordPrevious();
     /// Asks whether to open the recording that an earlier start left in the recording folder, or to
     /// delete it.
     void offerRecording(const RecordingNote &note);
@@ -207,6 +214,13 @@ Q_SIGNALS:
 private:
     /// Starts a recording, or goes on with one, at once.
     void begin(bool goesOn);
+    /// Empties the recording folder for a new recording; one that no file was made of stays at
+    /// hand.
+    void makeRoom();
+    /// Ends the recording's time, and measures its rate.
+    void endRecording();
+    /// Keeps beside the saved frames what a later start needs to open them again.
+    void noteRecording();
     void countDown(int seconds);
     void secondPassed();
     void countdownEnded(const QString &status);
@@ -248,6 +262,8 @@ private:
     QTimer countdown_;
     bool saveDue_ = false; ///< A save is about to begin.
     bool hasMissingFrames_ = false;
+    bool isExported_ = false;
+    bool bringsBack_ = false; ///< What is being read is the recording before the last one.
     std::unique_ptr<FrameSaver> frameSaver_;
     std::unique_ptr<RecordingLoader> loader_;
 };

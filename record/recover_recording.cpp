@@ -4,6 +4,7 @@
 #include "record/log.h"
 #include "record/recorder.h"
 #include "record/recording_loader.h"
+#include "shell/file_calls.h"
 #include "shell/number_text.h"
 #include "shell/surroundings.h"
 #include "shell/working_folders.h"
@@ -13,6 +14,7 @@
 #include <QLocale>
 
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -38,8 +40,37 @@ void Recorder::noteRecording() {
         qCWarning(logRecord, "the recording could not be noted: a later start will not offer it");
 }
 
-void Recorder::forgetRecording() {
+void Recorder::endedByUser() {
+    if (!isExported_)
+        return;
     left_recording::removeNote(surroundings_.shell.s_Output_Folder());
+    left_recording::removeAside(surroundings_.shell.s_Output_Folder());
+}
+
+bool Recorder::mayBringBackPrevious() const {
+    // Frames that are in memory only would be lost.
+    const bool busy = recording.m_RecordStatus() != RECORD_STATUS_STOP || isCountingDown() ||
+                      saveDue_ || isSavingRecording() || isOpeningRecording() || hasMissingFrames_;
+    return !busy && left_recording::isThere(
+                        working_folders::previousFolder(surroundings_.shell.s_Output_Folder()));
+}
+
+void Recorder::OnRecordPrevious() {
+    // Whatever a dialog covers can still be pressed by assistive technology.
+    if (!mayBringBackPrevious() || surroundings_.alerts.isAsking())
+        return;
+    const QString &folder = surroundings_.shell.s_Output_Folder();
+    const QString aside = working_folders::previousFolder(folder);
+    const std::optional<RecordingNote> note = left_recording::find(aside);
+    working_folders::ensureFolder(folder);
+    if (!note || exchangeFolders(QFileInfo(folder).canonicalFilePath(), aside) != 0) {
+        surroundings_.showStatus(qtTrId("IDD_PREVIOUS_GONE"));
+        return;
+    }
+    isExported_ = false;
+    bringsBack_ = true;
+    Q_EMIT began();
+    openRecording(*note);
 }
 
 void Recorder::offerRecording(const RecordingNote &note) {
@@ -79,7 +110,13 @@ void Recorder::frameLoaded(std::uint64_t done) {
     loader->deleteLater();
     surroundings_.progress.close();
     recording.store.rest();
+    const bool broughtBack = std::exchange(bringsBack_, false);
     if (loader->hasFailed()) {
+        // The frames in memory are those of the other one.
+        const QString &folder = surroundings_.shell.s_Output_Folder();
+        if (broughtBack)
+            exchangeFolders(QFileInfo(folder).canonicalFilePath(),
+                            working_folders::previousFolder(folder));
         surroundings_.alerts.run(AlertKind::Error,
                                  qtTrId("IDD_RECOVER_FAILED").arg(loader->failedFile()));
         return;

@@ -29,6 +29,21 @@ void Recorder::saveRecording() {
     saveDue_ = false;
 }
 
+void Recorder::keepForNextStart(const std::function<bool()> &givesUp) {
+    if (recording.m_RecordStatus() != RECORD_STATUS_STOP)
+        endRecording();
+    else if (!saveDue_ && !isSavingRecording())
+        return;
+    const auto &frames = recording.array_Images;
+    if (!isSavingRecording() && frames && !frames->empty()) {
+        working_folders::ensureFolder(surroundings_.shell.s_Output_Folder());
+        frameSaver_ = std::make_unique<FrameSaver>(*frames, surroundings_.shell.s_Output_Folder(),
+                                                   [](std::uint64_t) {});
+    }
+    if (isSavingRecording() && frameSaver_->finish(givesUp))
+        noteRecording();
+}
+
 void Recorder::OnSaveAgain() {
     // Whatever a sheet covers can still be pressed by assistive technology.
     const bool busy = isSavingRecording() || recording.m_RecordStatus() != RECORD_STATUS_STOP;

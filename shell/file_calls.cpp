@@ -4,12 +4,15 @@
 
 #include <QFile>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <climits>
+#include <cstdio>
 #include <vector>
 
 int writeAll(int descriptor, std::span<const std::span<const std::uint8_t>> parts) {
@@ -40,4 +43,29 @@ int linkFile(const QString &existing, const QString &path) {
     const QByteArray from = QFile::encodeName(existing);
     const QByteArray to = QFile::encodeName(path);
     return link(from.constData(), to.constData()) == 0 ? 0 : errno;
+}
+
+std::optional<std::uint64_t> sizeOfOwnFile(const QString &path) {
+    struct stat found {};
+    if (lstat(QFile::encodeName(path).constData(), &found) != 0 || !S_ISREG(found.st_mode) ||
+        found.st_uid != geteuid())
+        return std::nullopt;
+    return static_cast<std::uint64_t>(found.st_size);
+}
+
+int exchangeFolders(const QString &one, const QString &other) {
+    const QByteArray a = QFile::encodeName(one);
+    const QByteArray b = QFile::encodeName(other);
+    if (renameat2(AT_FDCWD, a.constData(), AT_FDCWD, b.constData(), RENAME_EXCHANGE) == 0)
+        return 0;
+    // Not every file system knows how to do that at once.
+    const QByteArray between = a + ".moved";
+    if (rename(a.constData(), between.constData()) != 0)
+        return errno;
+    if (rename(b.constData(), a.constData()) == 0 &&
+        rename(between.constData(), b.constData()) == 0)
+        return 0;
+    const int error = errno;
+    rename(between.constData(), a.constData());
+    return error;
 }

@@ -17,13 +17,13 @@
 namespace {
 
 // A signal handler may touch little more than a flag and a pipe.
-volatile sig_atomic_t arrived = 0;
+volatile sig_atomic_t arrived = 0; // how many
 std::array<int, 2> wakeUp{-1, -1}; // read end, write end
 std::unique_ptr<QSocketNotifier> notifier;
 
 void onSignal(int) {
     const int savedErrno = errno;
-    arrived = 1;
+    arrived = arrived + 1;
     const char byte = 0;
     [[maybe_unused]] const ssize_t written = write(wakeUp[1], &byte, 1);
     errno = savedErrno;
@@ -69,4 +69,4 @@ TerminationNotice::~TerminationNotice() {
             close(std::exchange(end, -1));
 }
 
-bool TerminationNotice::pending() { return arrived != 0; }
+int TerminationNotice::arrivals() { return arrived; }

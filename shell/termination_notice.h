@@ -16,6 +16,6 @@ public:
     TerminationNotice(const TerminationNotice &) = delete;
     TerminationNotice &operator=(const TerminationNotice &) = delete;
 
-    /// Whether a signal has arrived: for waits in which no event loop turns.
-    static bool pending();
+    /// How many signals have arrived: for waits in which no event loop turns.
+    static int arrivals();
 };

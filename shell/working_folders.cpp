@@ -44,6 +44,11 @@ QString paletteFolder(const QString &documentsFolder) {
     return inDocuments(documentsFolder, "PallomarPallete");
 }
 
+QString previousFolder(const QString &recordingFolder) {
+    const QString real = QFileInfo(recordingFolder).canonicalFilePath();
+    return (real.isEmpty() ? recordingFolder : real) + QStringLiteral("Previous");
+}
+
 // Joined by hand, not by QString::arg: a folder's name may hold "%1".
 QString frameFile(const QString &recordingFolder, std::uint64_t number) {
     return recordingFolder + QStringLiteral("/frame") +
@@ -70,7 +75,7 @@ bool ensureFolder(const QString &folder) {
     return true;
 }
 
-void removeContent(const fs::path &folder) {
+void removeContent(const fs::path &folder, const QStringList &kept) {
     std::error_code error;
     // The standard library's walk, not QDir: it leaves out neither hidden files nor broken links.
     // Not its remove_all either, which ends at the first entry that cannot be removed.
@@ -83,10 +88,12 @@ void removeContent(const fs::path &folder) {
     }
     while (entries != fs::directory_iterator()) {
         const fs::path path = entries->path();
+        const bool stays = kept.contains(QFile::decodeName(path.filename().c_str()));
         // A link to a folder is an entry of its own: what it leads to is not ours.
-        if (fs::is_directory(entries->symlink_status(error)))
+        if (!stays && fs::is_directory(entries->symlink_status(error)))
             removeContent(path);
-        fs::remove(path, error);
+        if (!stays)
+            fs::remove(path, error);
         if (error)
             oops(path, error);
         entries.increment(error);
@@ -97,8 +104,8 @@ void removeContent(const fs::path &folder) {
     }
 }
 
-void removeContent(const QString &folder) {
-    removeContent(fs::path(QFile::encodeName(folder).toStdString()));
+void removeContent(const QString &folder, const QStringList &kept) {
+    removeContent(fs::path(QFile::encodeName(folder).toStdString()), kept);
 }
 
 } // namespace working_folders

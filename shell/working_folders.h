@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <filesystem>
@@ -15,6 +16,10 @@ namespace working_folders {
 QString recordingFolder(const QString &documentsFolder);
 QString exportFolder(const QString &documentsFolder);
 QString paletteFolder(const QString &documentsFolder);
+
+/// Where a recording goes that a new one replaces: beside the recording folder, wherever that
+/// really is.
+QString previousFolder(const QString &recordingFolder);
 
 /// The file of frame `number` in the recording folder: "<folder>/frame00000007.png", at least eight
 /// digits.
@@ -30,8 +35,8 @@ bool ensureFolder(const QString &folder);
 
 /// Removes every entry of the folder and of the folders in it (hidden files and broken links too),
 /// and keeps the folder itself. What cannot be removed is logged as "oops: ..." and keeps none of
-/// its neighbours.
-void removeContent(const std::filesystem::path &folder);
-void removeContent(const QString &folder);
+/// its neighbours. Entries of the folder itself with a name in `kept` stay.
+void removeContent(const std::filesystem::path &folder, const QStringList &kept = {});
+void removeContent(const QString &folder, const QStringList &kept = {});
 
 } // namespace working_folders

@@ -6,10 +6,12 @@
 #include "shell/file_calls.h"
 #include "shell/working_folders.h"
 
+#include <QCoreApplication>
 #include <QMetaObject>
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <exception>
 #include <utility>
 
@@ -17,6 +19,8 @@ namespace {
 
 /// A frame whose result has not come yet; no error has this number.
 constexpr int pending = -1;
+
+constexpr std::chrono::milliseconds betweenLooks(5);
 
 /// Waits for the result of the run before; empty for the first run, which has none before it.
 template <class T> T resultOf(std::future<T> &future) {
@@ -33,14 +37,29 @@ FrameSaver::FrameSaver(std::vector<Image> frames, QString folder, Report report)
         if (frame == 0 || !frames_[frame].sameAs(frames_[frame - 1]))
             runs_.push_back(frame);
     const std::size_t cores = std::max(1u, std::thread::hardware_concurrency());
+    atWork_ = std::min(cores, runs_.size());
     for (std::size_t thread = 0; thread < std::min(cores, runs_.size()); ++thread)
-        threads_.emplace_back([this] { work(); });
+        threads_.emplace_back([this] {
+            work();
+            --atWork_;
+        });
 }
 
 FrameSaver::~FrameSaver() {
     cancelled_ = true;
     for (std::thread &thread : threads_)
         thread.join();
+}
+
+bool FrameSaver::finish(const std::function<bool()> &givesUp) {
+    report_ = [](std::uint64_t) {};
+    while (atWork_ > 0) {
+        if (givesUp())
+            return false;
+        std::this_thread::sleep_for(betweenLooks);
+    }
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    return reported_ == count() && missing_ == 0;
 }
 
 void FrameSaver::work() {

@@ -42,6 +42,11 @@ public:
     /// Stops after the frames under work and waits for them.
     ~FrameSaver() override;
 
+    /// Waits for the last frame, without a report and without the event loop: for when the program
+    /// ends. Whether all frames were written; false, too, when `givesUp`, which is asked again and
+    /// again, is true before that.
+    bool finish(const std::function<bool()> &givesUp);
+
     std::uint64_t count() const { return frames_.size(); }
 
     /// How many of the frames that were reported could not be written, and why the first of them;
@@ -74,7 +79,7 @@ private:
 
     const std::vector<Image> frames_;
     const QString folder_;
-    const Report report_;
+    Report report_;
     const FrameFormat format_;
 
     /// First frames of the runs of identical frames; a run is one piece of work.
@@ -84,6 +89,7 @@ private:
     Awaited lastTaken_;
     std::atomic<bool> cancelled_ = false;
     std::vector<std::thread> threads_;
+    std::atomic<std::size_t> atWork_ = 0;
 
     // Only for the thread that made the saver.
     std::vector<int> results_;

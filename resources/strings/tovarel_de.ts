@@ -419,18 +419,18 @@
         </translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
-        <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
-        <translation>Die Aufnahme wird noch gespeichert. Danach lässt sich Tovarel schließen.</translation>
+        <source>Tovarel closes as soon as the recording is saved.</source>
+        <translation>Tovarel wird geschlossen, sobald die Aufnahme gespeichert ist.</translation>
     </message>
     <message id="IDD_RECOVER_QUESTION">
         <source>An earlier recording is still there.</source>
         <translation>Eine frühere Aufnahme ist noch vorhanden.</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
         <translation>
-            <numerusform>Tovarel wurde nicht ordnungsgemäß beendet. Die Aufnahme vom %1 ist vollständig: %Ln Bild, %2&#xa0;s. Sie können sie im Reiter „Schneiden“ öffnen oder löschen.</numerusform>
-            <numerusform>Tovarel wurde nicht ordnungsgemäß beendet. Die Aufnahme vom %1 ist vollständig: %Ln Bilder, %2&#xa0;s. Sie können sie im Reiter „Schneiden“ öffnen oder löschen.</numerusform>
+            <numerusform>Die Aufnahme vom %1 ist vollständig: %Ln Bild, %2&#xa0;s. Sie können sie im Reiter „Schneiden“ öffnen oder löschen.</numerusform>
+            <numerusform>Die Aufnahme vom %1 ist vollständig: %Ln Bilder, %2&#xa0;s. Sie können sie im Reiter „Schneiden“ öffnen oder löschen.</numerusform>
         </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
@@ -448,6 +448,14 @@
     <message id="IDD_RECOVER_FAILED">
         <source>The recording could not be opened: the file %1 is damaged.</source>
         <translation>Die Aufnahme konnte nicht geöffnet werden: Die Datei %1 ist beschädigt.</translation>
+    </message>
+    <message id="IDD_RECORD_PREVIOUS">
+        <source>Bring Back Previous Recording</source>
+        <translation>Vorherige Aufnahme zurückholen</translation>
+    </message>
+    <message id="IDD_PREVIOUS_GONE">
+        <source>The previous recording is no longer complete.</source>
+        <translation>Die vorherige Aufnahme ist nicht mehr vollständig.</translation>
     </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>

@@ -419,18 +419,18 @@
         </translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
-        <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
-        <translation>The recording is still being saved. Tovarel can be closed when that is done.</translation>
+        <source>Tovarel closes as soon as the recording is saved.</source>
+        <translation>Tovarel closes as soon as the recording is saved.</translation>
     </message>
     <message id="IDD_RECOVER_QUESTION">
         <source>An earlier recording is still there.</source>
         <translation>An earlier recording is still there.</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
         <translation>
-            <numerusform>Tovarel was not closed properly. The recording of %1 is complete: %Ln frame, %2&#xa0;s. You can open it on the Cut tab or delete it.</numerusform>
-            <numerusform>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</numerusform>
+            <numerusform>The recording of %1 is complete: %Ln frame, %2&#xa0;s. You can open it on the Cut tab or delete it.</numerusform>
+            <numerusform>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</numerusform>
         </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
@@ -448,6 +448,14 @@
     <message id="IDD_RECOVER_FAILED">
         <source>The recording could not be opened: the file %1 is damaged.</source>
         <translation>The recording could not be opened: the file %1 is damaged.</translation>
+    </message>
+    <message id="IDD_RECORD_PREVIOUS">
+        <source>Bring Back Previous Recording</source>
+        <translation>Bring Back Previous Recording</translation>
+    </message>
+    <message id="IDD_PREVIOUS_GONE">
+        <source>The previous recording is no longer complete.</source>
+        <translation>The previous recording is no longer complete.</translation>
     </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>

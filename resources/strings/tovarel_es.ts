@@ -419,18 +419,18 @@
         </translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
-        <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
-        <translation>La grabación aún se está guardando. Después podrá cerrar Tovarel.</translation>
+        <source>Tovarel closes as soon as the recording is saved.</source>
+        <translation>Tovarel se cerrará en cuanto se guarde la grabación.</translation>
     </message>
     <message id="IDD_RECOVER_QUESTION">
         <source>An earlier recording is still there.</source>
         <translation>Aún existe una grabación anterior.</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
         <translation>
-            <numerusform>Tovarel no se cerró correctamente. La grabación del %1 está completa: %Ln fotograma, %2&#xa0;s. Puede abrirla en la pestaña «Recortar» o eliminarla.</numerusform>
-            <numerusform>Tovarel no se cerró correctamente. La grabación del %1 está completa: %Ln fotogramas, %2&#xa0;s. Puede abrirla en la pestaña «Recortar» o eliminarla.</numerusform>
+            <numerusform>La grabación del %1 está completa: %Ln fotograma, %2&#xa0;s. Puede abrirla en la pestaña «Recortar» o eliminarla.</numerusform>
+            <numerusform>La grabación del %1 está completa: %Ln fotogramas, %2&#xa0;s. Puede abrirla en la pestaña «Recortar» o eliminarla.</numerusform>
         </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
@@ -448,6 +448,14 @@
     <message id="IDD_RECOVER_FAILED">
         <source>The recording could not be opened: the file %1 is damaged.</source>
         <translation>No se pudo abrir la grabación: el archivo %1 está dañado.</translation>
+    </message>
+    <message id="IDD_RECORD_PREVIOUS">
+        <source>Bring Back Previous Recording</source>
+        <translation>Recuperar la grabación anterior</translation>
+    </message>
+    <message id="IDD_PREVIOUS_GONE">
+        <source>The previous recording is no longer complete.</source>
+        <translation>La grabación anterior ya no está completa.</translation>
     </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>

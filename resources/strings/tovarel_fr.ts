@@ -419,18 +419,18 @@
         </translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
-        <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
-        <translation>L’enregistrement est encore en cours de sauvegarde. Tovarel pourra être fermé ensuite.</translation>
+        <source>Tovarel closes as soon as the recording is saved.</source>
+        <translation>Tovarel se fermera dès que l’enregistrement sera sauvegardé.</translation>
     </message>
     <message id="IDD_RECOVER_QUESTION">
         <source>An earlier recording is still there.</source>
         <translation>Un enregistrement précédent existe toujours.</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
         <translation>
-            <numerusform>Tovarel n’a pas été fermé correctement. L’enregistrement du %1 est complet&#xa0;: %Ln image, %2&#xa0;s. Vous pouvez l’ouvrir dans l’onglet «&#xa0;Couper&#xa0;» ou le supprimer.</numerusform>
-            <numerusform>Tovarel n’a pas été fermé correctement. L’enregistrement du %1 est complet&#xa0;: %Ln images, %2&#xa0;s. Vous pouvez l’ouvrir dans l’onglet «&#xa0;Couper&#xa0;» ou le supprimer.</numerusform>
+            <numerusform>L’enregistrement du %1 est complet&#xa0;: %Ln image, %2&#xa0;s. Vous pouvez l’ouvrir dans l’onglet «&#xa0;Couper&#xa0;» ou le supprimer.</numerusform>
+            <numerusform>L’enregistrement du %1 est complet&#xa0;: %Ln images, %2&#xa0;s. Vous pouvez l’ouvrir dans l’onglet «&#xa0;Couper&#xa0;» ou le supprimer.</numerusform>
         </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
@@ -448,6 +448,14 @@
     <message id="IDD_RECOVER_FAILED">
         <source>The recording could not be opened: the file %1 is damaged.</source>
         <translation>L’enregistrement n’a pas pu être ouvert&#xa0;: le fichier %1 est endommagé.</translation>
+    </message>
+    <message id="IDD_RECORD_PREVIOUS">
+        <source>Bring Back Previous Recording</source>
+        <translation>Récupérer l’enregistrement précédent</translation>
+    </message>
+    <message id="IDD_PREVIOUS_GONE">
+        <source>The previous recording is no longer complete.</source>
+        <translation>L’enregistrement précédent n’est plus complet.</translation>
     </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>

@@ -417,17 +417,17 @@
         </translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
-        <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
-        <translation>録画を保存しています。保存が終わると Tovarel を閉じることができます。</translation>
+        <source>Tovarel closes as soon as the recording is saved.</source>
+        <translation>録画の保存が終わりしだい Tovarel を終了します。</translation>
     </message>
     <message id="IDD_RECOVER_QUESTION">
         <source>An earlier recording is still there.</source>
         <translation>以前の録画が残っています。</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
         <translation>
-            <numerusform>Tovarel は正しく終了しませんでした。%1 の録画はすべて残っています（%Ln フレーム、%2&#xa0;秒）。「カット」タブで開くか、削除できます。</numerusform>
+            <numerusform>%1 の録画はすべて残っています（%Ln フレーム、%2&#xa0;秒）。「カット」タブで開くか、削除できます。</numerusform>
         </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
@@ -445,6 +445,14 @@
     <message id="IDD_RECOVER_FAILED">
         <source>The recording could not be opened: the file %1 is damaged.</source>
         <translation>録画を開けませんでした: ファイル %1 が破損しています。</translation>
+    </message>
+    <message id="IDD_RECORD_PREVIOUS">
+        <source>Bring Back Previous Recording</source>
+        <translation>前の録画に戻す</translation>
+    </message>
+    <message id="IDD_PREVIOUS_GONE">
+        <source>The previous recording is no longer complete.</source>
+        <translation>前の録画はもう完全には残っていません。</translation>
     </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>

@@ -419,18 +419,18 @@
         </translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
-        <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
-        <translation>A gravação ainda está sendo salva. Depois disso, o Tovarel pode ser fechado.</translation>
+        <source>Tovarel closes as soon as the recording is saved.</source>
+        <translation>O Tovarel será fechado assim que a gravação for salva.</translation>
     </message>
     <message id="IDD_RECOVER_QUESTION">
         <source>An earlier recording is still there.</source>
         <translation>Uma gravação anterior ainda existe.</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
         <translation>
-            <numerusform>O Tovarel não foi fechado corretamente. A gravação de %1 está completa: %Ln quadro, %2&#xa0;s. Você pode abri-la na aba “Cortar” ou excluí-la.</numerusform>
-            <numerusform>O Tovarel não foi fechado corretamente. A gravação de %1 está completa: %Ln quadros, %2&#xa0;s. Você pode abri-la na aba “Cortar” ou excluí-la.</numerusform>
+            <numerusform>A gravação de %1 está completa: %Ln quadro, %2&#xa0;s. Você pode abri-la na aba “Cortar” ou excluí-la.</numerusform>
+            <numerusform>A gravação de %1 está completa: %Ln quadros, %2&#xa0;s. Você pode abri-la na aba “Cortar” ou excluí-la.</numerusform>
         </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
@@ -448,6 +448,14 @@
     <message id="IDD_RECOVER_FAILED">
         <source>The recording could not be opened: the file %1 is damaged.</source>
         <translation>Não foi possível abrir a gravação: o arquivo %1 está danificado.</translation>
+    </message>
+    <message id="IDD_RECORD_PREVIOUS">
+        <source>Bring Back Previous Recording</source>
+        <translation>Recuperar a gravação anterior</translation>
+    </message>
+    <message id="IDD_PREVIOUS_GONE">
+        <source>The previous recording is no longer complete.</source>
+        <translation>A gravação anterior não está mais completa.</translation>
     </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>

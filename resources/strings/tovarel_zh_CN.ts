@@ -417,17 +417,17 @@
         </translation>
     </message>
     <message id="IDD_CLOSE_WAITS">
-        <source>The recording is still being saved. Tovarel can be closed when that is done.</source>
-        <translation>录制内容仍在保存。保存完成后即可关闭 Tovarel。</translation>
+        <source>Tovarel closes as soon as the recording is saved.</source>
+        <translation>录制内容保存完成后，Tovarel 将立即关闭。</translation>
     </message>
     <message id="IDD_RECOVER_QUESTION">
         <source>An earlier recording is still there.</source>
         <translation>之前的录制内容仍然存在。</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>Tovarel was not closed properly. The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
         <translation>
-            <numerusform>Tovarel 上次未正常关闭。%1 的录制内容完整：%Ln 帧，%2&#xa0;秒。您可以在“剪辑”标签页中打开，也可以删除。</numerusform>
+            <numerusform>%1 的录制内容完整：%Ln 帧，%2&#xa0;秒。您可以在“剪辑”标签页中打开，也可以删除。</numerusform>
         </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
@@ -445,6 +445,14 @@
     <message id="IDD_RECOVER_FAILED">
         <source>The recording could not be opened: the file %1 is damaged.</source>
         <translation>无法打开录制内容：文件 %1 已损坏。</translation>
+    </message>
+    <message id="IDD_RECORD_PREVIOUS">
+        <source>Bring Back Previous Recording</source>
+        <translation>恢复上一次录制</translation>
+    </message>
+    <message id="IDD_PREVIOUS_GONE">
+        <source>The previous recording is no longer complete.</source>
+        <translation>上一次的录制内容已不完整。</translation>
     </message>
     <message id="IDD_SAVE_AGAIN">
         <source>Save Again</source>

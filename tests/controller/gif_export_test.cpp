@@ -204,7 +204,7 @@ TEST_F(GifExport, StagesEveryFrameAndTheFirstSixtyForThePalette) {
     EXPECT_EQ(filesIn(controller.shell.s_Pallete_Folder()).filter(QStringLiteral("image")).size(),
               60);
     const QString exports = controller.shell.s_Export_Folder();
-    EXPECT_EQ(filesIn(exports).size(), 63);
+    EXPECT_EQ(filesIn(exports).size(), 64) << "the frames, the GIF and its note";
     EXPECT_EQ(contentOf(exports + QStringLiteral("/image61.png")), contentOf(frameFile(61)));
     EXPECT_EQ(QImageReader(exports + QStringLiteral("/output.gif")).imageCount(), 62);
 }

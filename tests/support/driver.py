@@ -32,10 +32,11 @@ class Program:
         if not remembering:
             session.forget_choices()
         if not recover:
-            # A recording that an earlier start left would be offered before anything else.
-            note = session.frames / NOTE
-            if note.is_file():
-                note.unlink()
+            # A recording or a file that an earlier start left would be offered before anything else.
+            for note in (session.frames / NOTE, session.previous / NOTE,
+                         *(session.documents / "PallomarExport").glob("output.*.txt")):
+                if note.is_file():
+                    note.unlink()
         Program._count += 1
         self.log = f"tovarel-{Program._count}"
         self.process = session.start(

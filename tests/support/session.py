@@ -47,6 +47,7 @@ class Session:
         self.home = self.folder / "home"
         self.documents = self.home / "Documents"
         self.frames = self.documents / "Pallomar"
+        self.previous = self.documents / "PallomarPrevious"  # what a new recording replaced
         self.runtime = self.folder / "runtime"
         self.outputs = self.folder / "outputs"
         self.environment = {}

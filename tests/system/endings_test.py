@@ -6,11 +6,12 @@ down."""
 
 import os
 import signal
+import time
 
 import case
 from accessibility import act, is_enabled
 from case import SAVE_PANEL, STAND_STILL, STILL, in_run
-from driver import Program, wait_for
+from driver import NOTE, Program, wait_for
 
 SERVER = "Xvfb"
 
@@ -38,6 +39,11 @@ class Endings(case.Case):
         self.roads(program)[road]()
         self.assertEqual(program.status(), 0)
         self.await_none(STILL)
+
+    def check_is_kept(self):
+        """The next start would offer the recording; it begins without it."""
+        self.assertGreater(len(self.frame_files()), 0)
+        self.assertTrue((self.session.frames / NOTE).is_file())
 
     # States ----------------------------------------------------------------------------------
 
@@ -99,11 +105,11 @@ class Endings(case.Case):
 
     # Tests -----------------------------------------------------------------------------------
 
-    def test_in_the_middle_of_a_recording(self):
+    def test_in_the_middle_of_a_recording_which_is_kept(self):
         for road in self.roads(None):
             with self.subTest(road):
                 self.check_end(self.recording(), road)
-                self.assertEqual(list(self.session.frames.iterdir()), [])
+                self.check_is_kept()
 
     def test_a_hangup_that_was_ignored_at_the_start_stays_ignored(self):
         program = Program(self.session, command=["nohup"])
@@ -112,19 +118,28 @@ class Endings(case.Case):
         self.assertFalse(program.ended())
         self.check_end(program, "SIGTERM")
 
-    def test_while_a_recording_is_saved_a_signal_ends_it_and_a_close_request_says_why_it_waits(self):
+    def test_while_a_recording_is_saved_the_end_waits_for_that_and_a_second_signal_does_not(self):
         for road in ("SIGTERM", "SIGINT", "SIGHUP"):
             with self.subTest(road):
-                self.check_end(self.saving(), road)
+                program = self.saving()
+                self.roads(program)[road]()
+                time.sleep(0.2)
+                self.assertFalse(program.ended())
+                self.check_end(program, road)
+                self.assertFalse((self.session.frames / NOTE).exists())
+        program = self.saving()
+        program.process.terminate()
+        self.hold.unlink()
+        self.assertEqual(program.status(), 0)
+        self.check_is_kept()
         program = self.saving()
         self.close(program)
         program.wait_for("the reason", lambda: any(
-            "still being saved" in text for text in program.labels()))
+            "as soon as the recording is saved" in text for text in program.labels()))
         self.assertIsNotNone(program.find("progress bar"))
         self.hold.unlink()
-        program.await_tab("Cut")
-        self.assertFalse(program.ended())
-        self.check_end(program, "closing the window")
+        self.assertEqual(program.status(), 0)
+        self.check_is_kept()
 
     def test_during_each_run_of_the_encoder(self):
         roads = {1: ["SIGTERM"], 2: ["SIGINT", "closing the window"],
@@ -180,9 +195,13 @@ class Endings(case.Case):
                 # is left.
                 program = reach({"DISPLAY": display, "ASAN_OPTIONS": "detect_leaks=0"})
                 os.kill(server, signal.SIGKILL)
+                if state == "saving":
+                    self.hold.unlink()
                 # Below 0 it would be the signal that ended it.
                 self.assertGreaterEqual(program.status(), 0, program.output())
                 self.await_none(STILL)
+                if state in ("recording", "saving"):
+                    self.check_is_kept()
 
 
 if __name__ == "__main__":

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Tovarel authors
 # SPDX-License-Identifier: MIT
-"""A recording that was saved outlives the program's end by a crash, a kill or the end of the session,
-and only that: the next start offers it, and takes it up as it was."""
+"""A recording outlives the program's end, however that comes, until a file was made of it: the next
+start offers it, and takes it up as it was. A new recording does not cost the one before."""
 
 import re
 import signal
@@ -95,19 +95,60 @@ class Recovery(case.Case):
                 self.finish(program, signal.SIGKILL)
                 self.check_nothing_is_offered()
 
-    def test_after_an_end_by_the_user_nothing_is_offered(self):
-        for keys in ("alt+F4", "ctrl+q"):
-            with self.subTest(keys):
-                program = Program(self.session)
-                program.record(1)
-                self.session.xdotool("windowactivate", "--sync", program.window())
-                self.session.xdotool("key", keys)
-                time.sleep(3)
-                if not program.ended():  # a press that a busy machine has lost
-                    self.session.xdotool("key", keys)
-                self.assertEqual(program.status(), 0)
-                self.assertNotEqual(self.frame_files(), [], "no folder is emptied at the end")
-                self.check_nothing_is_offered()
+    def end_by(self, program, keys):
+        program.activate()
+        self.session.xdotool("key", keys)
+        time.sleep(3)
+        if not program.ended():  # a press that a busy machine has lost
+            self.session.xdotool("key", keys)
+        self.assertEqual(program.status(), 0)
+
+    def test_the_end_by_the_user_keeps_what_no_file_was_made_of(self):
+        program = Program(self.session)
+        program.press("Record")
+        program.recording_for(1.5)
+        self.end_by(program, "ctrl+q")
+        files = self.frame_files()
+        self.assertGreater(len(files), 3)
+        program = Program(self.session, recover=True)
+        self.assertIn(f"{len(files)} frames", program.answer(STILL_THERE, "Open"))
+        program.await_tab("Cut")
+        self.end_by(program, "alt+F4")
+        program = Program(self.session, recover=True)
+        program.answer(STILL_THERE, "Open")
+        program.await_tab("Cut")
+        program.enter("GIF")
+        self.check_gif(program, self.session.home / "kept.gif")
+        self.end_by(program, "alt+F4")
+        self.assertNotEqual(self.frame_files(), [], "no folder is emptied at the end")
+        self.check_nothing_is_offered()
+
+    def test_a_recording_that_was_replaced_can_be_had_back(self):
+        def content():
+            return [path.read_bytes() for path in self.frame_files()]
+
+        self.session.counter("--at", "60,80", "--rate", "5")
+        program = Program(self.session)
+        program.record(1)
+        first = content()
+        program.enter("Record")
+        program.press("Record")
+        program.recording_for(0.5)
+        self.finish(program, signal.SIGKILL)
+        program = Program(self.session, recover=True)
+        program.answer(STILL_THERE, "Open")
+        program.await_tab("Cut")
+        self.assertEqual(content(), first)
+        program.enter("Record")
+        program.record(1.5)
+        second = content()
+        for wanted in (first, second):
+            program.enter("Record")
+            program.choose("Action", "Record", "Bring Back Previous Recording")
+            program.await_tab("Cut")
+            self.assertEqual(content(), wanted)
+            self.assertEqual(self.kept(program)[0], len(wanted))
+        self.finish(program, signal.SIGKILL)
 
     def test_a_recording_that_is_not_whole_is_not_offered(self):
         def lose_one():

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Tovarel authors
 # SPDX-License-Identifier: MIT
-"""A save panel that is cancelled loses nothing: the file can still be saved, and the program asks
-before it would be lost."""
+"""A save panel that is cancelled loses nothing, nor does a kill after that: the file can still be
+saved, and the program asks before it would be lost."""
 
 import case
 import counter
@@ -25,6 +25,13 @@ class Unsaved(case.Case):
 
     def test_a_gif_can_still_be_saved_and_the_end_asks_first(self):
         program = self.exported("GIF")
+        program.process.kill()
+        program.process.wait()
+        program = Program(self.session, recover=True)
+        program.answer("An earlier recording", "Open")
+        program.await_tab("Cut")
+        program.enter("GIF")
+        program.wait_for("the card", lambda: "Not saved yet" in program.labels())
         self.session.xdotool("windowactivate", "--sync", program.window())
         for way in ("alt+F4", "ctrl+q"):
             self.session.xdotool("key", way)

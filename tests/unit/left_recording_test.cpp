@@ -5,6 +5,7 @@
 #include "shell/working_folders.h"
 #include "tests/support/files.h"
 
+#include <QDir>
 #include <QImage>
 #include <QTemporaryDir>
 
@@ -131,6 +132,35 @@ TEST_F(LeftRecording, isNotFoundWhenAnythingOfItIsMissingOrOther) {
         for (std::uint64_t number = 0; number < frames; ++number)
             QFile::copy(working_folders::frameFile(kept.path(), number), frame(number));
     }
+}
+
+TEST_F(LeftRecording, givesWayToANewOneAndComesBackWhereThatIsNotWhole) {
+    const QTemporaryDir documents;
+    const QString real = documents.filePath(QStringLiteral("recordings"));
+    const QString linked = documents.filePath(QStringLiteral("link"));
+    const QString aside = real + QStringLiteral("Previous");
+    ASSERT_TRUE(QFile::rename(folder.path(), real));
+    ASSERT_TRUE(QFile::link(real, linked));
+    ASSERT_TRUE(left_recording::writeNote(linked, note));
+    ASSERT_TRUE(left_recording::setAside(linked));
+    EXPECT_TRUE(QFileInfo(linked).isSymLink()) << "it still leads to where the user wants it";
+    EXPECT_TRUE(QDir(linked).isEmpty());
+    put(working_folders::frameFile(linked, 0), "half a frame");
+    const auto found = left_recording::findAtStart(linked);
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->frames, frames);
+    EXPECT_TRUE(left_recording::find(linked));
+    EXPECT_FALSE(QFileInfo::exists(aside));
+
+    // A folder of that name that is not ours.
+    ASSERT_TRUE(QDir().mkpath(aside));
+    put(aside + QStringLiteral("/letter.txt"), "mine");
+    EXPECT_FALSE(left_recording::setAside(linked));
+    EXPECT_TRUE(left_recording::find(linked));
+    left_recording::removeNote(linked);
+    EXPECT_FALSE(left_recording::findAtStart(linked));
+    EXPECT_TRUE(QDir(linked).isEmpty());
+    EXPECT_EQ(contentOf(aside + QStringLiteral("/letter.txt")), "mine");
 }
 
 } // namespace
