@@ -153,8 +153,8 @@ void AppDelegate::OnMenuAbout() { showAbout(surroundings); }
 void AppDelegate::listenToDesktopKeys() {
     if (!recorder.source().obstacle())
         desktopKeys_ = std::make_unique<DesktopKeys>(*ui, surroundings, recorder);
-    if (regionChooser.wasRegionMoved())
-        surroundings.showStatus(qtTrId("IDD_REGION_MOVED"));
+    if (regionChooser.offersRegion())
+        surroundings.showStatus(qtTrId("IDD_REGION_DOES_NOT_FIT"));
     if (exporter.hasUnsavedResult())
         exporter.sayWhatIsUnsaved();
 }

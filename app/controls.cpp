@@ -92,8 +92,10 @@ void Controls::makeMenus() {
         item->setCheckable(true);
         item->setData(seconds);
         delays->addAction(item);
-        connect(item, &QAction::triggered, recorder,
-                [recorder, seconds] { recorder->setDelay(seconds); });
+        connect(item, &QAction::triggered, recorder, [this, recorder, seconds] {
+            recorder->setDelay(seconds);
+            showDelay();
+        });
     }
     connect(ui_.submenuitemCountdown, &QMenu::aboutToShow, delays, [delays, recorder] {
         for (QAction *item : delays->actions())
@@ -157,7 +159,23 @@ void Controls::offerStillLengths() {
     ui_.btnCutStill->setMenu(menu);
 }
 
-void Controls::refresh() { ::refresh(commands_); }
+void Controls::refresh() {
+    ::refresh(commands_);
+    showDelay();
+}
+
+void Controls::showDelay() {
+    const int seconds = controller_.recorder.delay();
+    const bool waits = seconds > 0;
+    ui_.btnRecordRecord->setText(waits ? qtTrId("IDD_SECONDS").arg(seconds) : QString());
+    ui_.btnRecordRecord->setToolButtonStyle(waits ? Qt::ToolButtonTextBesideIcon
+                                                  : Qt::ToolButtonIconOnly);
+    const QString name =
+        waits ? qtTrId("IDD_RECORD_AFTER", seconds) : controller_.texts.s_IDD_RECORD();
+    const QKeySequence key = ui_.menuitemActionRecordRecord->shortcut();
+    ui_.btnRecordRecord->setToolTip(
+        qtTrId("IDD_TIP_SHORTCUT").arg(name, key.toString(QKeySequence::NativeText)));
+}
 
 void Controls::listenToShell() {
     Surroundings &surroundings = controller_.surroundings;
@@ -165,6 +183,11 @@ void Controls::listenToShell() {
         status_ = text;
         showStatus();
     });
+    connect(&surroundings, &Surroundings::hintChanged, this, [this](const QString &text) {
+        hint_ = text;
+        showStatus();
+    });
+    connect(ui_.tabStack, &QStackedWidget::currentChanged, this, &Controls::showStatus);
     surroundings.progress.hangFrom(*ui_.tabBar);
     connect(&surroundings.progress, &ProgressSheet::parentCloseRequested, &controller_,
             &AppDelegate::windowWillClose);
@@ -186,6 +209,8 @@ void Controls::listenToRecorder() {
 
 void Controls::listenToOthers() {
     connect(&controller_.trimEditor, &TrimEditor::stateChanged, this, &Controls::refresh);
+    connect(&controller_.regionChooser, &RegionChooser::offerChanged, this,
+            [this] { ui_.btnMoveRegion->setVisible(controller_.regionChooser.offersRegion()); });
     connect(&controller_.trimEditor, &TrimEditor::rangeTextChanged, ui_.labelCutRange,
             &QLabel::setText);
     connect(&controller_.trimEditor, &TrimEditor::timeTextChanged, ui_.labelCutTime,
@@ -226,11 +251,16 @@ void Controls::showState() {
 
 void Controls::showStatus() {
     QStringList parts;
-    // First, where no longer text hides it.
-    if (controller_.recorder.hands.areKeysShown())
-        parts << qtTrId("IDD_KEYS_SHOWN");
+    const bool isReady = ui_.tabStack->currentWidget() == ui_.pageRecord &&
+                         controller_.recording.m_RecordStatus() == RECORD_STATUS_STOP &&
+                         !controller_.recorder.isCountingDown();
     if (!status_.isEmpty())
         parts << status_;
+    // Behind what is news; the switch itself stays pressed.
+    if (controller_.recorder.hands.areKeysShown())
+        parts << qtTrId("IDD_KEYS_SHOWN");
+    if (parts.isEmpty() && isReady && !hint_.isEmpty())
+        parts << hint_;
     const QString text = parts.join(QStringLiteral(" · "));
     ui_.labelStatus->setText(text);
     // A path may look like markup, which a tip would follow; the label itself is set to plain text.
@@ -257,6 +287,8 @@ void Controls::showRecording() {
         controller_.tabViewDidSelectTabViewItem(TabView::identifierOf(tabs::cut));
     else
         tabs.selectTabViewItemAtIndex(tabs::cut);
+    // The next step; the button that had the keys cannot be used any more.
+    ui_.btnCutPlay->setFocus();
 }
 
 FileCardControls fileCardControls(const Ui::MainWindow &ui) {

@@ -56,6 +56,7 @@ private:
     void showWaysToLastFile();
     void showState();
     void showStatus();
+    void showDelay();
     void showSource();
     void showCaptureMode(const CaptureMode &mode);
     void showRecording();
@@ -64,4 +65,5 @@ private:
     Ui::MainWindow &ui_;
     std::vector<Command> commands_;
     QString status_; // as the desks report it
+    QString hint_;   // likewise
 };

@@ -29,6 +29,8 @@ QString modifiers() {
     return QStringLiteral("Super+%1").arg(one.section(QLatin1Char('+'), 0, 0));
 }
 
+constexpr std::size_t stopPlace = 2; // among the keys
+
 /// What all of them have in front of their last key: "Super+Ctrl"; empty if they differ in it.
 QString commonModifiers(const QStringList &triggers) {
     const auto front = [](const QString &trigger) {
@@ -101,7 +103,9 @@ void DesktopKeys::grab() {
         sentences << qtTrId("IDD_KEYS_GRANTED").arg(modifiers(), granted.join(between));
     if (!taken.isEmpty())
         sentences << qtTrId("IDD_KEYS_TAKEN").arg(modifiers(), taken.join(between));
-    surroundings_.showStatus(sentences.join(QStringLiteral(" – ")));
+    surroundings_.showHint(sentences.join(QStringLiteral(" – ")));
+    if (const std::optional<char> stop = grabs_->granted(stopPlace))
+        recorder_.setStopKey(QStringLiteral("%1+%2").arg(modifiers(), nameOf(*stop)));
 }
 
 // A portal's --------------------------------------------------------------------------------------
@@ -136,6 +140,7 @@ void DesktopKeys::showBound() const {
     settings::writeChoice(grantedChoice, triggers.isEmpty() ? QString() : QStringLiteral("portal"));
     if (triggers.isEmpty())
         return;
+    recorder_.setStopKey(bound_->granted()[stopPlace].value_or(QString()));
     const QString common = commonModifiers(triggers);
     QStringList granted;
     for (std::size_t place = 0; place < keys_.size(); ++place)

@@ -93,11 +93,26 @@ void complain(const QString &text) {
     std::fputs(qPrintable(QStringLiteral("tovarel: ") + text + QLatin1Char('\n')), stderr);
 }
 
+QString whyNot(WishAnswer answer) {
+    switch (answer) {
+    case WishAnswer::NotRecording:
+        return qtTrId("IDD_CLI_NOT_RECORDING");
+    case WishAnswer::Saving:
+        return qtTrId("IDD_CLI_SAVING");
+    case WishAnswer::Asking:
+        return qtTrId("IDD_CLI_ASKING");
+    case WishAnswer::Done:
+    case WishAnswer::Refused:
+        break;
+    }
+    return qtTrId("IDD_CLI_NOT_NOW");
+}
+
 int tellRunning(const QString &wish) {
-    const std::optional<bool> answer = SingleInstance::tell(runtimeFolder(), wish);
-    if (answer.value_or(false))
+    const std::optional<WishAnswer> answer = SingleInstance::tell(runtimeFolder(), wish);
+    if (answer == WishAnswer::Done)
         return command_line::done;
-    complain(answer ? qtTrId("IDD_CLI_NOT_NOW") : qtTrId("IDD_CLI_NOBODY"));
+    complain(answer ? whyNot(*answer) : qtTrId("IDD_CLI_NOBODY"));
     return command_line::cannotRecord;
 }
 

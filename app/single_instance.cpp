@@ -19,8 +19,6 @@ namespace {
 constexpr int longestWait = 2000;                 // milliseconds
 constexpr std::chrono::milliseconds silence{300}; // after which a caller has nothing to say
 constexpr qint64 longestWish = 64;                // bytes, its end included
-constexpr char fulfilled = '1';
-constexpr char refused = '0';
 
 /// Says a wish and waits for the answer to it.
 std::optional<char> answerTo(const QString &socketPath, const QString &wish) {
@@ -64,9 +62,9 @@ bool SingleInstance::askFirstToComeForward() const {
     return answerTo(socketPath_, wishes::comeForward).has_value();
 }
 
-std::optional<bool> SingleInstance::tell(const QString &folder, const QString &wish) {
+std::optional<WishAnswer> SingleInstance::tell(const QString &folder, const QString &wish) {
     const std::optional<char> answer = answerTo(socketIn(folder), wish);
-    return answer ? std::optional(*answer == fulfilled) : std::nullopt;
+    return answer ? std::optional(static_cast<WishAnswer>(*answer)) : std::nullopt;
 }
 
 void SingleInstance::listen(Fulfil fulfil) {
@@ -92,7 +90,7 @@ void SingleInstance::hear(QLocalSocket &caller) {
         patience->stop();
         caller.disconnect();
         QObject::connect(&caller, &QLocalSocket::disconnected, &caller, &QObject::deleteLater);
-        caller.putChar(fulfil_(wish) ? fulfilled : refused);
+        caller.putChar(static_cast<char>(fulfil_(wish)));
         caller.flush();
         caller.disconnectFromServer();
         if (caller.state() == QLocalSocket::UnconnectedState)

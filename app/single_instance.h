@@ -18,6 +18,15 @@ inline constexpr QLatin1StringView pause("pause");   ///< Pause what is recorded
 inline constexpr QLatin1StringView stop("stop");
 } // namespace wishes
 
+/// What becomes of a wish; each is one character over the socket.
+enum class WishAnswer : char {
+    Done = '1',
+    Refused = '0',
+    NotRecording = 'n', ///< There is nothing to stop or to pause.
+    Saving = 's',       ///< The last recording is still being saved.
+    Asking = 'a',       ///< A dialog is to be answered first.
+};
+
 /// One instance per user. The first one holds a lock in the user's runtime folder and listens
 /// beside it; a second one asks the first to come forward, and ends before it has touched anything.
 ///
@@ -39,16 +48,15 @@ public:
     /// at most. False when none came: it is busy, or on its way out.
     bool askFirstToComeForward() const;
 
-    /// Tells whoever is the first in `folder` what is wished, without becoming it. True when it was
-    /// done, false when it could not be done now; none when nobody answers.
-    static std::optional<bool> tell(const QString &folder, const QString &wish);
+    /// Tells whoever is the first in `folder` what is wished, without becoming it; none when nobody
+    /// answers.
+    static std::optional<WishAnswer> tell(const QString &folder, const QString &wish);
 
     /// Claims the instance once more: one that was killed gives it back a little later.
     void claim();
 
-    /// In the first instance: calls `fulfil` whenever somebody has a wish. It is false for a wish
-    /// that cannot be fulfilled now.
-    using Fulfil = std::function<bool(const QString &wish)>;
+    /// In the first instance: calls `fulfil` whenever somebody has a wish.
+    using Fulfil = std::function<WishAnswer(const QString &wish)>;
     void listen(Fulfil fulfil);
 
 private:

@@ -27,39 +27,43 @@ void bringForward(QWidget &window) {
     bringToFront(window.winId());
 }
 
-/// Does what the item does, if it may be chosen.
-bool choose(QAction &item) {
+/// Does what the item does, if it may be chosen; what is to be said if not.
+WishAnswer choose(QAction &item, WishAnswer otherwise) {
     const bool isPossible = item.isEnabled();
     item.trigger();
-    return isPossible;
+    return isPossible ? WishAnswer::Done : otherwise;
 }
 
 /// Records, if that is possible on the Record tab.
-bool record(AppDelegate &controller) {
+WishAnswer record(AppDelegate &controller) {
     controller.OnMenuTabRecord();
-    return controller.shell.tabviewMain()->selectedIndex() == tabs::record &&
-           choose(*controller.ui->menuitemActionRecordRecord);
+    return controller.shell.tabviewMain()->selectedIndex() == tabs::record
+               ? choose(*controller.ui->menuitemActionRecordRecord, WishAnswer::Refused)
+               : WishAnswer::Refused;
 }
 
 } // namespace
 
-bool fulfil(const QString &wish, AppDelegate &controller) {
+WishAnswer fulfil(const QString &wish, AppDelegate &controller) {
     if (wish == wishes::comeForward) {
         bringForward(*controller.shell.window());
-        return true;
+        return WishAnswer::Done;
     }
+    if (controller.recorder.isSavingRecording())
+        return WishAnswer::Saving;
     // Not beneath a dialog, which is to be answered first.
     if (QApplication::activeModalWidget() || controller.region.pFullScreen())
-        return false;
+        return WishAnswer::Asking;
     const Ui::MainWindow &ui = *controller.ui;
     if (wish == wishes::stop)
-        return choose(*ui.menuitemActionRecordStop);
+        return choose(*ui.menuitemActionRecordStop, WishAnswer::NotRecording);
     if (wish == wishes::toggle)
-        return ui.menuitemActionRecordStop->isEnabled() ? choose(*ui.menuitemActionRecordStop)
-                                                        : record(controller);
+        return ui.menuitemActionRecordStop->isEnabled()
+                   ? choose(*ui.menuitemActionRecordStop, WishAnswer::NotRecording)
+                   : record(controller);
     if (wish != wishes::pause)
-        return false;
+        return WishAnswer::Refused;
     return controller.recording.m_RecordStatus() == RECORD_STATUS_PAUSE
                ? record(controller)
-               : choose(*ui.menuitemActionRecordPause);
+               : choose(*ui.menuitemActionRecordPause, WishAnswer::NotRecording);
 }

@@ -79,7 +79,7 @@ void Recorder::OnRecordRegionOnStill() {
         surroundings_.showStatus(qtTrId("IDD_REGION_OF_WINDOW"));
         return;
     }
-    if (chooser_.explainRegion())
+    if (chooser_.explainRegion(false))
         steppingAside_.goQuietly([this] { takeStill(); });
 }
 

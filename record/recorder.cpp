@@ -112,7 +112,8 @@ void Recorder::setDelay(int seconds) {
 void Recorder::countDown(int seconds) {
     secondsToGo_ = seconds;
     countdown_.start(std::chrono::seconds(1));
-    surroundings_.showStatus(qtTrId("IDD_COUNTDOWN_RUNS"));
+    surroundings_.showStatus(stopKey_.isEmpty() ? qtTrId("IDD_COUNTDOWN_RUNS")
+                                                : qtTrId("IDD_COUNTDOWN_RUNS_KEY").arg(stopKey_));
     Q_EMIT countdownChanged(seconds);
     Q_EMIT stateChanged();
 }

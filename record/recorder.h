@@ -139,6 +139,8 @@ public:
     void setDelay(int seconds);
     bool isCountingDown() const { return secondsToGo_ > 0; }
     int secondsToGo() const { return secondsToGo_; }
+    /// What ends it from any window, for the user to read; empty where nothing does.
+    void setStopKey(const QString &key) { stopKey_ = key; }
     /// Ends the countdown without a recording; nothing happens without one.
     void cancelCountdown();
 
@@ -260,6 +262,7 @@ private:
     int delay_ = 0;       // seconds
     int secondsToGo_ = 0; // of a countdown
     QTimer countdown_;
+    QString stopKey_;
     bool saveDue_ = false; ///< A save is about to begin.
     bool hasMissingFrames_ = false;
     bool isExported_ = false;

@@ -17,6 +17,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -60,8 +61,25 @@ void RegionChooser::recall() {
     region.setScreenOfRegion(coordinates::screenOnDesktop(*screen));
     if (settings::readChoice(typeChoice) != regionWord)
         return;
+    if (fitting == *last) {
+        region.setI_Type_Screen_Capture(CAPTURE_REGION);
+        return;
+    }
+    offersRegion_ = true;
+    Q_EMIT offerChanged();
+}
+
+void RegionChooser::takeOfferedRegion() {
+    if (!offersRegion_)
+        return;
     region.setI_Type_Screen_Capture(CAPTURE_REGION);
-    regionMoved_ = fitting != *last;
+    remember();
+    withdrawOffer();
+}
+
+void RegionChooser::withdrawOffer() {
+    if (std::exchange(offersRegion_, false))
+        Q_EMIT offerChanged();
 }
 
 void RegionChooser::remember() const {
@@ -82,6 +100,7 @@ void RegionChooser::recordMonitor(const QString &name) {
     monitor_ = name;
     region.setI_Type_Screen_Capture(CAPTURE_FULL_SCREEN);
     remember();
+    withdrawOffer();
 }
 
 const QScreen *RegionChooser::recordedMonitor() const {
@@ -92,20 +111,25 @@ QString RegionChooser::monitor() const { return recordedMonitor() ? monitor_ : Q
 
 void RegionChooser::OnRecordRegion() {
     // Assistive technology reaches the command past a modal window.
-    if (QApplication::activeModalWidget() || !explainRegion())
+    if (QApplication::activeModalWidget() || !explainRegion(true))
         return;
     choose(surroundings_.shell.window()->screen(), {});
 }
 
+void RegionChooser::OnPickWindow() {
+    if (!QApplication::activeModalWidget())
+        choose(surroundings_.shell.window()->screen(), {}, true);
+}
+
 void RegionChooser::chooseOnStill(const QImage &still, QScreen &screen) { choose(&screen, still); }
 
-bool RegionChooser::explainRegion() {
+bool RegionChooser::explainRegion(bool picksWindows) {
     return region.b_Show_Select_Region_How_To() != 1 ||
-           Window_Region_How_It_Works(surroundings_.shell.window(), region).exec() ==
+           Window_Region_How_It_Works(surroundings_.shell.window(), region, picksWindows).exec() ==
                QDialog::Accepted;
 }
 
-void RegionChooser::choose(QScreen *screen, const QImage &still) {
+void RegionChooser::choose(QScreen *screen, const QImage &still, bool picking) {
     const CaptureType typeBefore = region.i_Type_Screen_Capture();
     const QRectF rectangleBefore = region.rect_Screen_Region();
     const std::optional<coordinates::Screen> screenBefore = region.screenOfRegion();
@@ -116,11 +140,12 @@ void RegionChooser::choose(QScreen *screen, const QImage &still) {
     if (screen) {
         Window_Transparent_Region overlay(*screen, *this, still);
         region.setPFullScreen(&overlay);
-        code = overlay.runModal();
+        code = overlay.runModal(picking);
         region.setPFullScreen(nullptr);
     }
     if (code == Window_Transparent_Region::accepted) {
         remember();
+        withdrawOffer();
         return;
     }
     // A region may be anywhere on a screen that has changed.

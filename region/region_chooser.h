@@ -47,9 +47,12 @@ public:
     /// window's screen; when that is cancelled, what is recorded stays as it was. Returns after it.
     void OnRecordRegion();
 
+    /// The same, without a word, for a window that the next click picks.
+    void OnPickWindow();
+
     /// Explains it, unless the user has had enough of that; false when the user thinks better of
-    /// it.
-    bool explainRegion();
+    /// it. `picksWindows` says whether a window can be picked for it.
+    bool explainRegion(bool picksWindows);
     /// Lets a region of `still` be chosen, a picture of all that can be recorded, which `screen`
     /// shows; for where an overlay cannot show what is beneath it. Otherwise as above.
     void chooseOnStill(const QImage &still, QScreen &screen);
@@ -78,9 +81,10 @@ public:
     bool isRegionRecorded() const { return region.i_Type_Screen_Capture() == CAPTURE_REGION; }
     /// Whether a part of the desktop is recorded: the region, or a monitor of several.
     bool isPartRecorded() const { return isRegionRecorded() || recordedMonitor(); }
-    /// Whether the region of the last time, with which this start begins, had to be moved into the
-    /// screen.
-    bool wasRegionMoved() const { return regionMoved_; }
+    /// Whether the region of the last time does not fit the screen any more: it can be had, moved
+    /// inside, until something else is chosen. The whole screen is recorded until then.
+    bool offersRegion() const { return offersRegion_; }
+    void takeOfferedRegion();
 
     /// The latest grab, in which the region has its place from now on.
     void setGrab(const region_place::Grab &grab) { grab_ = grab; }
@@ -92,17 +96,22 @@ public:
 
     Surroundings &surroundings() const { return surroundings_; }
 
+Q_SIGNALS:
+    /// A region is offered now, or no longer.
+    void offerChanged();
+
 private:
     const QScreen *recordedMonitor() const;
     void remember() const;
-    void choose(QScreen *screen, const QImage &still);
+    void choose(QScreen *screen, const QImage &still, bool picking = false);
+    void withdrawOffer();
 
     Surroundings &surroundings_;
     region_place::Inputs placeInputs() const;
 
     Windows windows_;
     QString monitor_;
-    bool regionMoved_ = false;
+    bool offersRegion_ = false;
     region_place::Grab grab_;
     std::optional<coordinates::Screen> screenOfGrab_;
     mutable std::optional<region_place::Inputs> placedFor_;

@@ -16,7 +16,7 @@
 /// shell/coordinates.h).
 ///
 /// Everything is in points from the lower left corner of the screen, y upwards. A square is given
-/// by its lower left corner; it marks the point 5 points to the right of and above that corner.
+/// by its lower left corner; it marks the point 7 points to the right of and above that corner.
 /// Whole numbers are 32 bits wide, and fractions are cut off towards zero where the rules say so:
 /// both are part of the behaviour.
 namespace region_geometry {
@@ -49,8 +49,8 @@ inline constexpr int upperLeft = 3;
 inline constexpr int upperRight = 4;
 
 /// Side of a square, and the distance from its lower left corner to the point that it marks.
-inline constexpr int squareSide = 10;
-inline constexpr int squareInset = 5;
+inline constexpr int squareSide = 14;
+inline constexpr int squareInset = 7;
 
 /// The number without its fraction; beyond the range, the nearest end of it.
 inline std::int32_t truncated(double value) { return saturated<std::int32_t>(value); }

@@ -11,6 +11,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -20,7 +21,7 @@
 namespace {
 
 constexpr int largest = 65535; // pixels, of any side or place
-constexpr int margin = 6;      // points
+constexpr int margin = 8;      // points, its edges among them
 constexpr int between = 4;     // points
 
 const std::array usualSizes{QSize(320, 240), QSize(640, 480), QSize(800, 600), QSize(1280, 720),
@@ -53,7 +54,6 @@ QSpinBox *addField(QBoxLayout &row, QWidget *parent, const char *name, const QSt
 
 RegionPanel::RegionPanel(QWidget *parent, int width) : QFrame(parent) {
     setObjectName(QStringLiteral("regionPanel"));
-    setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true); // the overlay's ground is transparent
     setCursor(Qt::ArrowCursor);
     auto *whole = new QVBoxLayout(this);
@@ -91,10 +91,9 @@ RegionPanel::RegionPanel(QWidget *parent, int width) : QFrame(parent) {
         button->setFocusPolicy(Qt::TabFocus); // a click leaves the keys to the region
         rest->addWidget(button);
     }
-    problem_ = new QLabel(this);
-    problem_->setTextFormat(Qt::PlainText);
-    problem_->hide();
-    whole->addWidget(problem_);
+    hint_ = new QLabel(qtTrId("IDD_REGION_KEYS"), this);
+    hint_->setTextFormat(Qt::PlainText);
+    whole->addWidget(hint_);
     fillPresets();
     mnemonics::mark(*this);
     if (sizeHint().width() > width)
@@ -141,8 +140,9 @@ void RegionPanel::showRegion(const QRect &recorded, const QString &problem) {
         field->setValue(value);
     }
     presets_->setCurrentIndex(presets_->findData(recorded.size()));
-    problem_->setText(problem);
-    problem_->setVisible(!problem.isEmpty());
+    hint_->setText(!problem.isEmpty()   ? problem
+                   : pick_->isChecked() ? qtTrId("IDD_PICK_WINDOW_HINT")
+                                        : qtTrId("IDD_REGION_KEYS"));
     use_->setEnabled(problem.isEmpty());
     adjustSize();
 }
@@ -165,7 +165,17 @@ bool RegionPanel::eventFilter(QObject *watched, QEvent *event) {
     return QFrame::eventFilter(watched, event);
 }
 
+QString RegionPanel::hint() const { return hint_->text(); }
+
 void RegionPanel::mousePressEvent(QMouseEvent *event) { event->accept(); }
+
+void RegionPanel::paintEvent(QPaintEvent *) {
+    // It lies on any ground: one of the two edges is seen.
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::black);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), Qt::white);
+    painter.fillRect(rect().adjusted(2, 2, -2, -2), palette().window());
+}
 
 void RegionPanel::hidePicking() {
     pick_->hide();

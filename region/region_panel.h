@@ -26,6 +26,8 @@ public:
     void showRegion(const QRect &recorded, const QString &problem);
     /// Whether a window is being picked.
     void setPicking(bool picking);
+    /// What it says there is to do next, or why the region cannot be used.
+    QString hint() const;
     /// Whether one of its fields has the keys.
     bool isTyping() const;
 
@@ -49,6 +51,7 @@ Q_SIGNALS:
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void fillPresets();
@@ -61,5 +64,5 @@ private:
     QComboBox *presets_;
     QPushButton *pick_;
     QPushButton *use_;
-    QLabel *problem_;
+    QLabel *hint_;
 };

@@ -54,11 +54,13 @@ void View_Region_How_To::paintEvent(QPaintEvent *) {
     const auto squares =
         region_geometry::initialSquares(widthOfRegion(), regionHeight, width(), height());
     const auto region = region_geometry::boundingRegion(squares);
-    region_drawing::draw(painter, squares, region, height());
+    region_drawing::draw(
+        painter, region_drawing::pieces(squares, region, height(), devicePixelRatioF(), QPoint()),
+        palette().color(QPalette::Highlight));
 
     painter.setPen(QPen(inkColor, 1.5));
     const QRectF box(region.x, height() - region.y - region.height, region.width, region.height);
-    constexpr double clear = 9; // from a corner to its arrow, beyond the square
+    constexpr double clear = 11; // from a corner to its arrow, beyond the square
     drawArrow(painter, box.topLeft() + QPointF(-clear, -clear), -1, -1);
     drawArrow(painter, box.topRight() + QPointF(clear, -clear), 1, -1);
     drawArrow(painter, box.bottomLeft() + QPointF(-clear, clear), -1, 1);

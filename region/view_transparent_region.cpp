@@ -7,6 +7,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
 using region_geometry::Point;
@@ -14,58 +16,41 @@ using region_geometry::Region;
 using region_geometry::Squares;
 using region_geometry::squareSide;
 
-const QColor outlineColor(0, 0, 255);
+// Two tones: on any ground one of them is seen.
+const QColor lightColor(255, 255, 255);
+const QColor darkColor(32, 32, 32);
+const QColor dimColor(0, 0, 0, 128); // of what is not recorded
 const QColor cornerColor(0, 255, 0);
 const QColor middleColor(255, 0, 0);
 const QColor crossColor(0, 0, 0);
-constexpr double outlineWidth = 3.0; // points
-constexpr double crossWidth = 1.0;   // points
-constexpr int pickedFrame = 4;       // points
-constexpr int pickedOpacity = 50;    // of 255, of what is inside
-constexpr double crossInset = 2.0;   // points from the middle square's edge
+constexpr double lineWidth = 1.5;  // points, of each tone
+constexpr double edgeWidth = 1.0;  // points, of each tone of a square
+constexpr double crossWidth = 1.0; // points
+constexpr double crossInset = 3.5; // points, from the middle square's edge
+constexpr double pickedWidth = 4;  // points, of the frame around a window
 
-QPen pen(const QColor &color, double width) {
-    return QPen(color, width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
+int wholePixels(double points, double ratio) { return std::max(1, qRound(points * ratio)); }
+
+QRect grown(const QRect &box, int by) { return box.adjusted(-by, -by, by, by); }
+
+void fill(QPainter &painter, const QRegion &region, const QColor &color) {
+    for (const QRect &box : region)
+        painter.fillRect(box, color);
 }
 
-QRectF squareRect(const Point &corner) { return {corner.x, corner.y, squareSide, squareSide}; }
-
-/// The middle square's cross, for a painter with `scale` units for a point.
-void drawCross(QPainter &painter, const QRectF &square, double scale) {
-    const double inset = crossInset * scale;
-    const QRectF cross = square.adjusted(inset, inset, -inset, -inset);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(pen(crossColor, crossWidth * scale));
-    painter.drawLine(cross.topLeft(), cross.bottomRight());
-    painter.drawLine(cross.topRight(), cross.bottomLeft());
+void drawSquare(QPainter &painter, const QRect &square, const QColor &color, int edge) {
+    painter.fillRect(square, darkColor);
+    painter.fillRect(grown(square, -edge), lightColor);
+    painter.fillRect(grown(square, -2 * edge), color);
 }
 
 } // namespace
 
-void region_drawing::draw(QPainter &painter, const Squares &squares, const Region &region,
-                          double areaHeight) {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(0, areaHeight);
-    painter.scale(1, -1);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(pen(outlineColor, outlineWidth));
-    painter.drawRect(QRectF(region.x, region.y, region.width, region.height));
-    for (std::size_t index = 0; index < squares.size(); ++index) {
-        if (region_geometry::isCorner(static_cast<int>(index)))
-            painter.fillRect(squareRect(squares[index]), cornerColor);
-    }
-    const QRectF middle = squareRect(squares[region_geometry::middle]);
-    painter.fillRect(middle, middleColor);
-    drawCross(painter, middle, 1);
-    painter.restore();
-}
-
 QRegion region_drawing::Pieces::shape() const {
-    QRegion whole = outline;
+    QRegion whole = light + dark + accent;
     for (const QRect &square : squares)
         whole += square;
-    return whole + picked;
+    return whole;
 }
 
 region_drawing::Pieces region_drawing::pieces(const Squares &squares, const Region &region,
@@ -80,47 +65,78 @@ region_drawing::Pieces region_drawing::pieces(const Squares &squares, const Regi
         const QPoint end(x(box.right()), y(box.top()));
         return QRect(topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y()));
     };
-    constexpr double half = outlineWidth / 2;
-    const QRectF box(region.x, region.y, region.width, region.height);
     Pieces result;
-    result.outline = inPixels(box.adjusted(-half, -half, half, half));
-    const QRectF inside = box.adjusted(half, half, -half, -half);
-    if (inside.width() > 0 && inside.height() > 0)
-        result.outline -= inPixels(inside);
-    for (std::size_t index = 0; index < squares.size(); ++index)
-        result.squares[index] = inPixels(squareRect(squares[index]));
+    result.ratio = ratio;
+    result.inside = inPixels(QRectF(region.x, region.y, region.width, region.height));
+    // Around what is recorded, not in it.
+    const int line = wholePixels(lineWidth, ratio);
+    const QRect lit = grown(result.inside, line);
+    result.light = QRegion(lit) - result.inside;
+    result.dark = QRegion(grown(lit, line)) - lit;
+    for (std::size_t index = 0; index < squares.size(); ++index) {
+        const Point &corner = squares[index];
+        result.squares[index] = inPixels(QRectF(corner.x, corner.y, squareSide, squareSide));
+    }
     return result;
+}
+
+region_drawing::Pieces region_drawing::piecesOfWindow(const QRect &window, double ratio) {
+    Pieces result;
+    result.ratio = ratio;
+    result.inside = window;
+    const int line = wholePixels(lineWidth, ratio);
+    const QRect within = grown(window, -wholePixels(pickedWidth, ratio));
+    result.dark = QRegion(grown(window, line)) - window;
+    result.accent = QRegion(window) - within;
+    result.light = QRegion(within) - grown(within, -line);
+    return result;
+}
+
+void region_drawing::draw(QPainter &painter, const Pieces &pieces, const QColor &accent) {
+    painter.save();
+    painter.scale(1 / pieces.ratio, 1 / pieces.ratio);
+    fill(painter, pieces.dark, darkColor);
+    fill(painter, pieces.light, lightColor);
+    fill(painter, pieces.accent, accent);
+    const QRect middle = pieces.squares[region_geometry::middle];
+    const int edge = wholePixels(edgeWidth, pieces.ratio);
+    for (const QRect &square : pieces.squares)
+        if (!square.isEmpty())
+            drawSquare(painter, square, square == middle ? middleColor : cornerColor, edge);
+    if (!middle.isEmpty()) {
+        // Above a corner where they meet: it is the one that a click accepts.
+        drawSquare(painter, middle, middleColor, edge);
+        const double inset = crossInset * pieces.ratio;
+        const QRectF cross = QRectF(middle).adjusted(inset, inset, -inset, -inset);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(crossColor, crossWidth * pieces.ratio));
+        painter.drawLine(cross.topLeft(), cross.bottomRight());
+        painter.drawLine(cross.topRight(), cross.bottomLeft());
+    }
+    painter.restore();
 }
 
 void View_Transparent_Region::paintEvent(QPaintEvent *) {
     chooser_.storeRegion();
-    const RegionFields &fields = chooser_.region;
-    const QRect stored = fields.rect_Screen_Region().toRect();
+    const QRect stored = chooser_.region.rect_Screen_Region().toRect();
     const Region region{stored.x(), stored.y(), stored.width(), stored.height()};
-    const Squares squares = controller_squares::read(fields);
+    const region_drawing::Pieces drawn = pieces(controller_squares::read(chooser_.region), region);
     QPainter painter(this);
-    if (shaped_)
-        return paintPieces(painter, squares, region);
-    painter.translate(screenInWindow());
-    region_drawing::draw(painter, squares, region, screen_.height());
-    paintPicked(painter);
+    // A window that is shaped to what is drawn has nothing to dim.
+    if (!shaped_ && !drawn.inside.isEmpty()) {
+        painter.save();
+        painter.scale(1 / drawn.ratio, 1 / drawn.ratio);
+        const QRect whole(QPoint(), (QSizeF(size()) * drawn.ratio).toSize());
+        fill(painter, QRegion(whole) - drawn.inside, dimColor);
+        painter.restore();
+    }
+    region_drawing::draw(painter, drawn, palette().color(QPalette::Highlight));
 }
 
-void View_Transparent_Region::setPicked(const std::optional<QRect> &picked) {
+void View_Transparent_Region::setPicking(bool picking, const std::optional<QRect> &picked) {
+    picking_ = picking;
     picked_ = picked;
     update();
-}
-
-void View_Transparent_Region::paintPicked(QPainter &painter) const {
-    if (!picked_)
-        return;
-    QColor light = palette().color(QPalette::Highlight);
-    painter.setPen(Qt::NoPen);
-    constexpr int frame = pickedFrame;
-    for (const QRect &side : QRegion(*picked_) - picked_->adjusted(frame, frame, -frame, -frame))
-        painter.fillRect(side, light);
-    light.setAlpha(pickedOpacity);
-    painter.fillRect(*picked_, light);
 }
 
 QPoint View_Transparent_Region::screenInWindow() const {
@@ -130,34 +146,14 @@ QPoint View_Transparent_Region::screenInWindow() const {
 region_drawing::Pieces View_Transparent_Region::pieces(const Squares &squares,
                                                        const Region &region) const {
     const double ratio = devicePixelRatioF();
-    region_drawing::Pieces drawn =
-        region_drawing::pieces(squares, region, screen_.height(), ratio, screenInWindow());
-    if (picked_) {
-        const auto inPixels = [&](const QRect &box) {
-            const QRectF inWindow = box.translated(screenInWindow());
-            return QRectF(inWindow.topLeft() * ratio, inWindow.size() * ratio).toRect();
-        };
-        constexpr int frame = pickedFrame;
-        drawn.picked =
-            QRegion(inPixels(*picked_)) - inPixels(picked_->adjusted(frame, frame, -frame, -frame));
+    if (!picking_)
+        return region_drawing::pieces(squares, region, screen_.height(), ratio, screenInWindow());
+    if (!picked_) {
+        region_drawing::Pieces nothing;
+        nothing.ratio = ratio;
+        return nothing;
     }
-    return drawn;
-}
-
-void View_Transparent_Region::paintPieces(QPainter &painter, const Squares &squares,
-                                          const Region &region) const {
-    const double ratio = devicePixelRatioF();
-    const region_drawing::Pieces drawn = pieces(squares, region);
-    painter.scale(1 / ratio, 1 / ratio);
-    for (const QRect &box : drawn.outline)
-        painter.fillRect(box, outlineColor);
-    for (const QRect &box : drawn.picked)
-        painter.fillRect(box, palette().color(QPalette::Highlight));
-    for (std::size_t index = 0; index < squares.size(); ++index) {
-        if (region_geometry::isCorner(static_cast<int>(index)))
-            painter.fillRect(drawn.squares[index], cornerColor);
-    }
-    const QRectF middle = drawn.squares[region_geometry::middle];
-    painter.fillRect(middle, middleColor);
-    drawCross(painter, middle, ratio);
+    const QRectF inWindow = picked_->translated(screenInWindow());
+    return region_drawing::piecesOfWindow(
+        QRectF(inWindow.topLeft() * ratio, inWindow.size() * ratio).toRect(), ratio);
 }

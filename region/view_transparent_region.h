@@ -13,19 +13,20 @@
 class QPainter;
 class RegionChooser;
 
-/// How the region selection looks: the outline, four corner squares, the middle square with its
-/// cross, and nothing else. Pure drawing, shared by the overlay and the picture that explains it.
+/// How the region selection looks: a line around the rectangle, four corner squares, the middle
+/// square with its cross, and nothing else; or the frame around a window that can be picked. Pure
+/// drawing, shared by the overlay and the picture that explains it.
 namespace region_drawing {
 
-/// Draws region and squares, in points from the lower left corner of an area of the given height.
-void draw(QPainter &painter, const region_geometry::Squares &squares,
-          const region_geometry::Region &region, double areaHeight);
-
-/// The same for a window that shows nothing but its shape, in pixels and without blended edges.
+/// What is drawn, in pixels and without blended edges: for a window that shows nothing but its
+/// shape, too.
 struct Pieces {
-    QRegion outline;
-    std::array<QRect, 5> squares; // by index
-    QRegion picked;               // a frame around a window
+    double ratio = 1; ///< pixels per point
+    QRect inside;     ///< What is recorded.
+    QRegion light;
+    QRegion dark;
+    QRegion accent;                 ///< In the palette's own colour.
+    std::array<QRect, 5> squares{}; ///< By index; empty without them.
 
     /// All of it: what the window is shaped to.
     QRegion shape() const;
@@ -37,9 +38,17 @@ struct Pieces {
 Pieces pieces(const region_geometry::Squares &squares, const region_geometry::Region &region,
               double areaHeight, double ratio, QPoint origin);
 
+/// The frame around a window, whose place is in pixels from the upper left corner of the window
+/// that it is drawn in.
+Pieces piecesOfWindow(const QRect &window, double ratio);
+
+/// Draws them, with a painter in points.
+void draw(QPainter &painter, const Pieces &pieces, const QColor &accent);
+
 } // namespace region_drawing
 
-/// The overlay's view. It fills the overlay's window, draws the desk's squares, and stores
+/// The overlay's view. It fills the overlay's window, draws the desk's squares, dims what is not
+/// recorded where the desktop blends windows, and stores
 /// the region that they stand for with every drawing, so that what is accepted is what was seen
 /// last. Pointer events go to the window.
 class View_Transparent_Region : public QWidget {
@@ -54,11 +63,11 @@ public:
     /// For a desktop that does not blend windows, where the window is shaped to the drawing.
     void setShaped(bool shaped) { shaped_ = shaped; }
 
-    /// Frames what a press would pick, in points of the screen from its upper left corner; none
-    /// without it.
-    void setPicked(const std::optional<QRect> &picked);
+    /// Whether a window is being picked, and what a press would take, in points of the screen from
+    /// its upper left corner: that is framed then, and not the region.
+    void setPicking(bool picking, const std::optional<QRect> &picked);
 
-    /// What is then drawn, in pixels from the window's upper left corner.
+    /// What is drawn, in pixels from the window's upper left corner.
     region_drawing::Pieces pieces(const region_geometry::Squares &squares,
                                   const region_geometry::Region &region) const;
 
@@ -66,14 +75,12 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void paintPieces(QPainter &painter, const region_geometry::Squares &squares,
-                     const region_geometry::Region &region) const;
-    void paintPicked(QPainter &painter) const;
     /// The screen's upper left corner, in points from the window's.
     QPoint screenInWindow() const;
 
     RegionChooser &chooser_;
     QRect screen_;
     bool shaped_ = false;
+    bool picking_ = false;
     std::optional<QRect> picked_;
 };

@@ -7,10 +7,11 @@
 #include "shell/settings.h"
 #include "ui_Window_Region_How_It_Works.h"
 
-Window_Region_How_It_Works::Window_Region_How_It_Works(QWidget *parent, RegionFields &region)
+Window_Region_How_It_Works::Window_Region_How_It_Works(QWidget *parent, RegionFields &region,
+                                                       bool picksWindows)
     : QDialog(parent), ui_(std::make_unique<Ui::Window_Region_How_It_Works>()), region_(region) {
     ui_->setupUi(this);
-    windowDidLoad();
+    windowDidLoad(picksWindows);
 }
 
 Window_Region_How_It_Works::~Window_Region_How_It_Works() = default;
@@ -19,9 +20,11 @@ QCheckBox *Window_Region_How_It_Works::checkDontShowAgain() const {
     return ui_->checkDontShowAgain;
 }
 
-void Window_Region_How_It_Works::windowDidLoad() {
+void Window_Region_How_It_Works::windowDidLoad(bool picksWindows) {
     setWindowTitle(qtTrId("IDD_REGION_HOW_TO_TITLE"));
     ui_->labelText->setText(qtTrId("IDD_REGION_HOW_TO_TEXT"));
+    ui_->labelWindow->setText(qtTrId("IDD_REGION_HOW_TO_WINDOW"));
+    ui_->labelWindow->setVisible(picksWindows);
     ui_->labelKeys->setText(qtTrId("IDD_REGION_HOW_TO_KEYS"));
     ui_->viewPicture->setAccessibleName(qtTrId("IDD_REGION_HOW_TO_PICTURE"));
     ui_->checkDontShowAgain->setText(qtTrId("IDD_REGION_HOW_TO_AGAIN"));

@@ -18,8 +18,9 @@ class Window_Region_How_It_Works : public QDialog {
     Q_OBJECT
 
 public:
-    /// `region` is borrowed: its how-to flag is what the user decides about.
-    Window_Region_How_It_Works(QWidget *parent, RegionFields &region);
+    /// `region` is borrowed: its how-to flag is what the user decides about. `picksWindows` says
+    /// whether a window can be picked for it.
+    Window_Region_How_It_Works(QWidget *parent, RegionFields &region, bool picksWindows = true);
     ~Window_Region_How_It_Works() override;
 
     /// The box by which the user asks not to see the dialog again; owned by the dialog.
@@ -35,7 +36,7 @@ public:
     void reject() override { windowWillClose(); }
 
 private:
-    void windowDidLoad();
+    void windowDidLoad(bool picksWindows);
 
     std::unique_ptr<Ui::Window_Region_How_It_Works> ui_;
     RegionFields &region_;

@@ -126,7 +126,7 @@ QPoint Window_Transparent_Region::screenInWindow() const {
     return isOnStill() ? QPoint() : screenFrame_.topLeft() - geometry().topLeft();
 }
 
-int Window_Transparent_Region::runModal() {
+int Window_Transparent_Region::runModal(bool picking) {
     QEventLoop loop;
     modalLoop_ = &loop;
     blended_ = desktopBlendsWindows();
@@ -141,6 +141,7 @@ int Window_Transparent_Region::runModal() {
     setFocus();
     showPanel();
     adaptToDesktop();
+    setPicking(picking);
     desktopWatch_.start(desktopWatchInterval, this);
     const int code = loop.exec(QEventLoop::DialogExec);
     modalLoop_ = nullptr;
@@ -268,7 +269,7 @@ void Window_Transparent_Region::keyPressEvent(QKeyEvent *event) {
         break;
     case Qt::Key_W:
         if (!event->isAutoRepeat())
-            setPicking(true);
+            setPicking(picksByKey_ = true);
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -292,7 +293,8 @@ void Window_Transparent_Region::keyPressEvent(QKeyEvent *event) {
 }
 
 void Window_Transparent_Region::keyReleaseEvent(QKeyEvent *event) {
-    if (event->key() == Qt::Key_W && !event->isAutoRepeat())
+    // The shortcut that opens the overlay ends with a W, too.
+    if (event->key() == Qt::Key_W && !event->isAutoRepeat() && std::exchange(picksByKey_, false))
         setPicking(false);
     else
         QWidget::keyReleaseEvent(event);
@@ -361,8 +363,7 @@ void Window_Transparent_Region::showPanel() {
                        .arg(recorded.height())
                        .arg(recorded.x())
                        .arg(recorded.y());
-    if (!problem.isEmpty())
-        text += QLatin1Char('\n') + problem;
+    text += QLatin1Char('\n') + panel_->hint();
     setAccessibleDescription(text);
 }
 
@@ -407,10 +408,9 @@ void Window_Transparent_Region::setPicking(bool picking) {
     picking_ = picking;
     panel_->setPicking(picking);
     picked_.reset();
+    viewTransparentRegion_->setPicking(picking, {});
     if (picking)
         frameWindowAt(fromScreenCorner(mapFromGlobal(QPointF(QCursor::pos()))));
-    else
-        viewTransparentRegion_->setPicked({});
     setCursor(Qt::CrossCursor);
     squaresChanged();
 }
@@ -441,7 +441,7 @@ void Window_Transparent_Region::frameWindowAt(Point pointer) {
                     .toRect()
                     .intersected(QRect(QPoint(), screenFrame_.size()));
     }
-    viewTransparentRegion_->setPicked(shown);
+    viewTransparentRegion_->setPicking(picking_, shown);
     squaresChanged();
 }
 

@@ -47,8 +47,9 @@ public:
     ~Window_Transparent_Region() override;
 
     /// Shows the overlay and turns events until it is accepted, cancelled or ended from outside;
-    /// hides it again. Returns one of the codes above.
-    int runModal();
+    /// hides it again. Returns one of the codes above. With `picking` the first press picks a
+    /// window.
+    int runModal(bool picking = false);
     /// Ends the modal loop with `code`; nothing happens outside the loop.
     void stopModalWithCode(int code);
 
@@ -132,6 +133,7 @@ private:
     /// The corner that the arrow keys move.
     int cornerInHand_ = region_geometry::lowerRight;
     bool picking_ = false;
+    bool picksByKey_ = false;     ///< For as long as it is held.
     std::optional<QRect> picked_; // the window that a press takes, in desktop pixels
     bool blended_ = true;
     bool holdsInput_ = false;

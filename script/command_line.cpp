@@ -194,6 +194,13 @@ std::optional<Mistake> takeFile(const QCommandLineParser &parser, Recording &rec
     return std::nullopt;
 }
 
+/// What follows the options; the commands are the same in every language.
+QString examples() {
+    return QLatin1Char('\n') + qtTrId("IDD_CLI_EXAMPLES") +
+           QStringLiteral("\n  tovarel record --screen --seconds 5 -o demo.gif\n"
+                          "  tovarel record --region 640x480+100+80 --seconds 5 -o demo.webp\n");
+}
+
 Command readRecording(const QStringList &arguments, const QString &versionText) {
     QCommandLineParser parser;
     parser.setApplicationDescription(qtTrId("IDD_CLI_RECORD_ABOUT"));
@@ -215,7 +222,7 @@ Command readRecording(const QStringList &arguments, const QString &versionText) 
     if (!parser.parse(withEveryMonitor(arguments)))
         return Mistake{parser.errorText()};
     if (parser.isSet(helpOption))
-        return Say{parser.helpText()};
+        return Say{parser.helpText() + examples()};
     if (parser.isSet(versionOption))
         return Say{versionText};
     if (parser.positionalArguments().size() > 1)
@@ -246,7 +253,7 @@ Command read(const QStringList &arguments, const QString &version) {
     if (!parser.parse(ours))
         return Mistake{parser.errorText()};
     if (parser.isSet(helpOption))
-        return Say{parser.helpText()};
+        return Say{parser.helpText() + examples()};
     if (parser.isSet(versionOption))
         return Say{versionText};
     if (!parser.positionalArguments().isEmpty())

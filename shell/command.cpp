@@ -56,6 +56,7 @@ void setUpButton(const Command &command, QObject *context, Qt::ConnectionType ty
 void setUpItem(const Command &command, QObject *context, Qt::ConnectionType type) {
     command.item->setText(command.text);
     command.item->setShortcuts(shortcutsOf(command));
+    command.item->setCheckable(command.item->isCheckable() || command.checked);
     QObject::connect(
         command.item, &QAction::triggered, context, [action = command.action] { action(); }, type);
 }
@@ -76,8 +77,10 @@ void setUp(const std::vector<Command> &commands, QObject *context) {
 
 void refresh(const std::vector<Command> &commands) {
     for (const Command &command : commands) {
-        if (command.checked)
+        if (command.checked && command.button)
             command.button->setChecked(command.checked());
+        if (command.checked && command.item)
+            command.item->setChecked(command.checked());
         if (!command.enabled)
             continue;
         const bool enabled = command.enabled();

@@ -27,6 +27,9 @@ public:
     /// Shows `text` in the status line until the next one; an empty text clears it.
     void showStatus(const QString &text) { Q_EMIT statusChanged(text); }
 
+    /// Shows `text` while there is nothing to say and nothing to be done on the Record tab.
+    void showHint(const QString &text) { Q_EMIT hintChanged(text); }
+
     /// Takes the frame of the main window's screen into `frame_Screen` and `size_Screen`; the zero
     /// rectangle without a screen. Points, lower left origin.
     void updateScreen();
@@ -36,4 +39,5 @@ public:
 
 Q_SIGNALS:
     void statusChanged(const QString &text);
+    void hintChanged(const QString &text);
 };

@@ -60,9 +60,24 @@
             <numerusform>Nach %Ln&#xa0;Sekunden</numerusform>
         </translation>
     </message>
+    <message id="IDD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;s</translation>
+    </message>
+    <message id="IDD_RECORD_AFTER" numerus="yes">
+        <source>Record after %Ln&#xa0;seconds</source>
+        <translation>
+            <numerusform>Aufnehmen nach %Ln&#xa0;Sekunde</numerusform>
+            <numerusform>Aufnehmen nach %Ln&#xa0;Sekunden</numerusform>
+        </translation>
+    </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
         <translation>Die Aufnahme beginnt gleich. Esc oder „Stopp“ bricht sie ab.</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_RUNS_KEY">
+        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
+        <translation>Die Aufnahme beginnt gleich. Esc, „Stopp“ oder, in jedem Fenster, %1 bricht sie ab.</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
         <source>The countdown was canceled.</source>
@@ -80,9 +95,13 @@
         <source>%1 · %2 × %3</source>
         <translation>%1 · %2 × %3</translation>
     </message>
-    <message id="IDD_REGION_MOVED">
-        <source>The last region no longer fits the screen and was moved inside it.</source>
-        <translation>Der letzte Bereich passt nicht mehr auf den Bildschirm und wurde hineingerückt.</translation>
+    <message id="IDD_REGION_DOES_NOT_FIT">
+        <source>The last region does not fit on this screen.</source>
+        <translation>Der letzte Bereich passt nicht auf diesen Bildschirm.</translation>
+    </message>
+    <message id="IDD_MOVE_REGION">
+        <source>Move It Inside</source>
+        <translation>Hineinrücken</translation>
     </message>
     <message id="IDD_CUT">
         <source>Cut</source>
@@ -119,6 +138,14 @@
     <message id="IDD_PICK_WINDOW_TIP">
         <source>Then click a window, or hold W</source>
         <translation>Danach ein Fenster anklicken, oder W gedrückt halten</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW_HINT">
+        <source>Click the window to record. Esc goes back to the region.</source>
+        <translation>Klicken Sie das Fenster an, das Sie aufnehmen möchten. Esc führt zum Bereich zurück.</translation>
+    </message>
+    <message id="IDD_REGION_KEYS">
+        <source>Enter uses the region, Esc cancels.</source>
+        <translation>Eingabe verwendet den Bereich, Esc bricht ab.</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>
@@ -515,8 +542,12 @@
         <translation>So wählen Sie einen Bereich</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</source>
-        <translation>Auf dem Bildschirm erscheint ein Rechteck mit fünf Quadraten. Ziehen Sie die grünen, bis es umrahmt, was Sie aufnehmen möchten, und klicken Sie dann auf das rote. Ziehen innerhalb des Rechtecks verschiebt es, Ziehen außerhalb zeichnet ein neues.</translation>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <translation>Auf dem Bildschirm erscheint ein Rechteck mit fünf Quadraten. Ziehen Sie die grünen, bis es umrahmt, was Sie aufnehmen möchten, und klicken Sie dann auf das rote oder auf „Bereich verwenden“. Ziehen innerhalb des Rechtecks verschiebt es, Ziehen außerhalb zeichnet ein neues.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_WINDOW">
+        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
+        <translation>Für ein einzelnes Fenster drücken Sie „Fenster wählen“, oder halten Sie W gedrückt, und klicken Sie es an.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -795,6 +826,10 @@ Sie liegt weiterhin unter %3.</translation>
         <source>“tovarel --help” and “tovarel record --help” say more.</source>
         <translation>Mehr dazu sagen „tovarel --help“ und „tovarel record --help“.</translation>
     </message>
+    <message id="IDD_CLI_EXAMPLES">
+        <source>Examples:</source>
+        <translation>Beispiele:</translation>
+    </message>
     <message id="IDD_CLI_ONE_TARGET">
         <source>Give exactly one of --region, --screen and --window.</source>
         <translation>Geben Sie genau eine der Optionen --region, --screen und --window an.</translation>
@@ -847,13 +882,25 @@ Sie liegt weiterhin unter %3.</translation>
         <source>Tovarel cannot do that now.</source>
         <translation>Tovarel kann das jetzt nicht tun.</translation>
     </message>
+    <message id="IDD_CLI_NOT_RECORDING">
+        <source>Tovarel is not recording.</source>
+        <translation>Tovarel nimmt gerade nicht auf.</translation>
+    </message>
+    <message id="IDD_CLI_SAVING">
+        <source>Tovarel is still saving the last recording.</source>
+        <translation>Tovarel speichert noch die letzte Aufnahme.</translation>
+    </message>
+    <message id="IDD_CLI_ASKING">
+        <source>Tovarel is waiting for an answer in its window.</source>
+        <translation>Tovarel wartet in seinem Fenster auf eine Antwort.</translation>
+    </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>
         <translation>Der Anzeigeserver liefert kein Bild des Bildschirms.</translation>
     </message>
     <message id="IDD_CLI_REGION_OUTSIDE">
-        <source>That is not on the desktop, which has %1 × %2 pixels.</source>
-        <translation>Das liegt nicht auf dem Desktop, der %1 × %2 Pixel hat.</translation>
+        <source>That is not wholly on the desktop, which has %1 × %2 pixels.</source>
+        <translation>Das liegt nicht ganz auf dem Desktop, der %1 × %2 Pixel hat.</translation>
     </message>
     <message id="IDD_CLI_NO_SCREEN">
         <source>There is no monitor number %1. Monitors: %2</source>

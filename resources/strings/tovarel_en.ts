@@ -60,9 +60,24 @@
             <numerusform>After %Ln&#xa0;Seconds</numerusform>
         </translation>
     </message>
+    <message id="IDD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;s</translation>
+    </message>
+    <message id="IDD_RECORD_AFTER" numerus="yes">
+        <source>Record after %Ln&#xa0;seconds</source>
+        <translation>
+            <numerusform>Record after %Ln&#xa0;second</numerusform>
+            <numerusform>Record after %Ln&#xa0;seconds</numerusform>
+        </translation>
+    </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
         <translation>The recording begins in a moment. Esc or Stop cancels it.</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_RUNS_KEY">
+        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
+        <translation>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
         <source>The countdown was canceled.</source>
@@ -80,9 +95,13 @@
         <source>%1 · %2 × %3</source>
         <translation>%1 · %2 × %3</translation>
     </message>
-    <message id="IDD_REGION_MOVED">
-        <source>The last region no longer fits the screen and was moved inside it.</source>
-        <translation>The last region no longer fits the screen and was moved inside it.</translation>
+    <message id="IDD_REGION_DOES_NOT_FIT">
+        <source>The last region does not fit on this screen.</source>
+        <translation>The last region does not fit on this screen.</translation>
+    </message>
+    <message id="IDD_MOVE_REGION">
+        <source>Move It Inside</source>
+        <translation>Move It Inside</translation>
     </message>
     <message id="IDD_CUT">
         <source>Cut</source>
@@ -119,6 +138,14 @@
     <message id="IDD_PICK_WINDOW_TIP">
         <source>Then click a window, or hold W</source>
         <translation>Then click a window, or hold W</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW_HINT">
+        <source>Click the window to record. Esc goes back to the region.</source>
+        <translation>Click the window to record. Esc goes back to the region.</translation>
+    </message>
+    <message id="IDD_REGION_KEYS">
+        <source>Enter uses the region, Esc cancels.</source>
+        <translation>Enter uses the region, Esc cancels.</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>
@@ -515,8 +542,12 @@
         <translation>How to Select a Region</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</source>
-        <translation>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</translation>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <translation>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_WINDOW">
+        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
+        <translation>To record a single window, press Pick a Window, or hold W, and click it.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -795,6 +826,10 @@ It is still at %3.</translation>
         <source>“tovarel --help” and “tovarel record --help” say more.</source>
         <translation>“tovarel --help” and “tovarel record --help” say more.</translation>
     </message>
+    <message id="IDD_CLI_EXAMPLES">
+        <source>Examples:</source>
+        <translation>Examples:</translation>
+    </message>
     <message id="IDD_CLI_ONE_TARGET">
         <source>Give exactly one of --region, --screen and --window.</source>
         <translation>Give exactly one of --region, --screen and --window.</translation>
@@ -847,13 +882,25 @@ It is still at %3.</translation>
         <source>Tovarel cannot do that now.</source>
         <translation>Tovarel cannot do that now.</translation>
     </message>
+    <message id="IDD_CLI_NOT_RECORDING">
+        <source>Tovarel is not recording.</source>
+        <translation>Tovarel is not recording.</translation>
+    </message>
+    <message id="IDD_CLI_SAVING">
+        <source>Tovarel is still saving the last recording.</source>
+        <translation>Tovarel is still saving the last recording.</translation>
+    </message>
+    <message id="IDD_CLI_ASKING">
+        <source>Tovarel is waiting for an answer in its window.</source>
+        <translation>Tovarel is waiting for an answer in its window.</translation>
+    </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>
         <translation>The display server provides no picture of the screen.</translation>
     </message>
     <message id="IDD_CLI_REGION_OUTSIDE">
-        <source>That is not on the desktop, which has %1 × %2 pixels.</source>
-        <translation>That is not on the desktop, which has %1 × %2 pixels.</translation>
+        <source>That is not wholly on the desktop, which has %1 × %2 pixels.</source>
+        <translation>That is not wholly on the desktop, which has %1 × %2 pixels.</translation>
     </message>
     <message id="IDD_CLI_NO_SCREEN">
         <source>There is no monitor number %1. Monitors: %2</source>

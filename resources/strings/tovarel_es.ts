@@ -60,9 +60,24 @@
             <numerusform>Tras %Ln&#xa0;segundos</numerusform>
         </translation>
     </message>
+    <message id="IDD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;s</translation>
+    </message>
+    <message id="IDD_RECORD_AFTER" numerus="yes">
+        <source>Record after %Ln&#xa0;seconds</source>
+        <translation>
+            <numerusform>Grabar tras %Ln&#xa0;segundo</numerusform>
+            <numerusform>Grabar tras %Ln&#xa0;segundos</numerusform>
+        </translation>
+    </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
         <translation>La grabación está a punto de empezar. Esc o «Detener» la cancela.</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_RUNS_KEY">
+        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
+        <translation>La grabación empieza enseguida. Esc, «Detener» o, en cualquier ventana, %1 la cancela.</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
         <source>The countdown was canceled.</source>
@@ -80,9 +95,13 @@
         <source>%1 · %2 × %3</source>
         <translation>%1 · %2 × %3</translation>
     </message>
-    <message id="IDD_REGION_MOVED">
-        <source>The last region no longer fits the screen and was moved inside it.</source>
-        <translation>La última zona ya no cabe en la pantalla y se ha desplazado dentro de ella.</translation>
+    <message id="IDD_REGION_DOES_NOT_FIT">
+        <source>The last region does not fit on this screen.</source>
+        <translation>La última zona no cabe en esta pantalla.</translation>
+    </message>
+    <message id="IDD_MOVE_REGION">
+        <source>Move It Inside</source>
+        <translation>Moverla dentro</translation>
     </message>
     <message id="IDD_CUT">
         <source>Cut</source>
@@ -119,6 +138,14 @@
     <message id="IDD_PICK_WINDOW_TIP">
         <source>Then click a window, or hold W</source>
         <translation>Después haga clic en una ventana, o mantenga pulsada W</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW_HINT">
+        <source>Click the window to record. Esc goes back to the region.</source>
+        <translation>Haga clic en la ventana que quiere grabar. Esc vuelve a la zona.</translation>
+    </message>
+    <message id="IDD_REGION_KEYS">
+        <source>Enter uses the region, Esc cancels.</source>
+        <translation>Intro usa la zona, Esc cancela.</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>
@@ -515,8 +542,12 @@
         <translation>Cómo elegir una zona</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</source>
-        <translation>En la pantalla aparece un rectángulo con cinco cuadrados. Arrastre los verdes hasta enmarcar lo que quiere grabar y haga clic en el rojo. Arrastre dentro del rectángulo para moverlo o fuera de él para dibujar uno nuevo.</translation>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <translation>En la pantalla aparece un rectángulo con cinco cuadrados. Arrastre los verdes hasta enmarcar lo que quiere grabar y haga clic en el rojo o en «Usar la zona». Arrastre dentro del rectángulo para moverlo o fuera de él para dibujar uno nuevo.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_WINDOW">
+        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
+        <translation>Para grabar una sola ventana, pulse «Elegir una ventana», o mantenga pulsada W, y haga clic en ella.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -795,6 +826,10 @@ Sigue en %3.</translation>
         <source>“tovarel --help” and “tovarel record --help” say more.</source>
         <translation>Vea «tovarel --help» y «tovarel record --help».</translation>
     </message>
+    <message id="IDD_CLI_EXAMPLES">
+        <source>Examples:</source>
+        <translation>Ejemplos:</translation>
+    </message>
     <message id="IDD_CLI_ONE_TARGET">
         <source>Give exactly one of --region, --screen and --window.</source>
         <translation>Indique exactamente una de las opciones --region, --screen y --window.</translation>
@@ -847,13 +882,25 @@ Sigue en %3.</translation>
         <source>Tovarel cannot do that now.</source>
         <translation>Tovarel no puede hacerlo ahora.</translation>
     </message>
+    <message id="IDD_CLI_NOT_RECORDING">
+        <source>Tovarel is not recording.</source>
+        <translation>Tovarel no está grabando.</translation>
+    </message>
+    <message id="IDD_CLI_SAVING">
+        <source>Tovarel is still saving the last recording.</source>
+        <translation>Tovarel aún está guardando la última grabación.</translation>
+    </message>
+    <message id="IDD_CLI_ASKING">
+        <source>Tovarel is waiting for an answer in its window.</source>
+        <translation>Tovarel espera una respuesta en su ventana.</translation>
+    </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>
         <translation>El servidor gráfico no entrega ninguna imagen de la pantalla.</translation>
     </message>
     <message id="IDD_CLI_REGION_OUTSIDE">
-        <source>That is not on the desktop, which has %1 × %2 pixels.</source>
-        <translation>Eso no está en el escritorio, que tiene %1 × %2 píxeles.</translation>
+        <source>That is not wholly on the desktop, which has %1 × %2 pixels.</source>
+        <translation>Eso no está por completo en el escritorio, que tiene %1 × %2 píxeles.</translation>
     </message>
     <message id="IDD_CLI_NO_SCREEN">
         <source>There is no monitor number %1. Monitors: %2</source>

@@ -60,9 +60,24 @@
             <numerusform>Après %Ln&#xa0;secondes</numerusform>
         </translation>
     </message>
+    <message id="IDD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;s</translation>
+    </message>
+    <message id="IDD_RECORD_AFTER" numerus="yes">
+        <source>Record after %Ln&#xa0;seconds</source>
+        <translation>
+            <numerusform>Enregistrer après %Ln&#xa0;seconde</numerusform>
+            <numerusform>Enregistrer après %Ln&#xa0;secondes</numerusform>
+        </translation>
+    </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
         <translation>L’enregistrement va commencer. Échap ou «&#xa0;Arrêter&#xa0;» l’annule.</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_RUNS_KEY">
+        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
+        <translation>L’enregistrement va commencer. Échap, «&#xa0;Arrêter&#xa0;» ou, depuis toute fenêtre, %1 l’annule.</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
         <source>The countdown was canceled.</source>
@@ -80,9 +95,13 @@
         <source>%1 · %2 × %3</source>
         <translation>%1 · %2 × %3</translation>
     </message>
-    <message id="IDD_REGION_MOVED">
-        <source>The last region no longer fits the screen and was moved inside it.</source>
-        <translation>La dernière zone ne tient plus à l’écran et y a été ramenée.</translation>
+    <message id="IDD_REGION_DOES_NOT_FIT">
+        <source>The last region does not fit on this screen.</source>
+        <translation>La dernière zone ne tient pas sur cet écran.</translation>
+    </message>
+    <message id="IDD_MOVE_REGION">
+        <source>Move It Inside</source>
+        <translation>La ramener dedans</translation>
     </message>
     <message id="IDD_CUT">
         <source>Cut</source>
@@ -119,6 +138,14 @@
     <message id="IDD_PICK_WINDOW_TIP">
         <source>Then click a window, or hold W</source>
         <translation>Cliquer ensuite sur une fenêtre, ou maintenir W</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW_HINT">
+        <source>Click the window to record. Esc goes back to the region.</source>
+        <translation>Cliquez sur la fenêtre à enregistrer. Échap revient à la zone.</translation>
+    </message>
+    <message id="IDD_REGION_KEYS">
+        <source>Enter uses the region, Esc cancels.</source>
+        <translation>Entrée utilise la zone, Échap annule.</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>
@@ -515,8 +542,12 @@
         <translation>Comment choisir une zone</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</source>
-        <translation>Un rectangle muni de cinq carrés apparaît à l’écran. Faites glisser les carrés verts jusqu’à encadrer ce que vous voulez enregistrer, puis cliquez sur le carré rouge. Faites glisser l’intérieur du rectangle pour le déplacer, ou l’extérieur pour en tracer un nouveau.</translation>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <translation>Un rectangle muni de cinq carrés apparaît à l’écran. Faites glisser les carrés verts jusqu’à encadrer ce que vous voulez enregistrer, puis cliquez sur le carré rouge ou sur «&#xa0;Utiliser la zone&#xa0;». Faites glisser l’intérieur du rectangle pour le déplacer, ou l’extérieur pour en tracer un nouveau.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_WINDOW">
+        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
+        <translation>Pour une seule fenêtre, cliquez sur «&#xa0;Choisir une fenêtre&#xa0;», ou maintenez W, puis cliquez dessus.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -795,6 +826,10 @@ Il reste à l’emplacement %3.</translation>
         <source>“tovarel --help” and “tovarel record --help” say more.</source>
         <translation>Voir «&#xa0;tovarel --help&#xa0;» et «&#xa0;tovarel record --help&#xa0;».</translation>
     </message>
+    <message id="IDD_CLI_EXAMPLES">
+        <source>Examples:</source>
+        <translation>Exemples&#xa0;:</translation>
+    </message>
     <message id="IDD_CLI_ONE_TARGET">
         <source>Give exactly one of --region, --screen and --window.</source>
         <translation>Indiquez exactement une des options --region, --screen et --window.</translation>
@@ -847,12 +882,24 @@ Il reste à l’emplacement %3.</translation>
         <source>Tovarel cannot do that now.</source>
         <translation>Tovarel ne peut pas le faire maintenant.</translation>
     </message>
+    <message id="IDD_CLI_NOT_RECORDING">
+        <source>Tovarel is not recording.</source>
+        <translation>Tovarel n’enregistre pas en ce moment.</translation>
+    </message>
+    <message id="IDD_CLI_SAVING">
+        <source>Tovarel is still saving the last recording.</source>
+        <translation>Tovarel sauvegarde encore le dernier enregistrement.</translation>
+    </message>
+    <message id="IDD_CLI_ASKING">
+        <source>Tovarel is waiting for an answer in its window.</source>
+        <translation>Tovarel attend une réponse dans sa fenêtre.</translation>
+    </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>
         <translation>Le serveur d’affichage ne fournit aucune image de l’écran.</translation>
     </message>
     <message id="IDD_CLI_REGION_OUTSIDE">
-        <source>That is not on the desktop, which has %1 × %2 pixels.</source>
+        <source>That is not wholly on the desktop, which has %1 × %2 pixels.</source>
         <translation>Cela dépasse le bureau, qui mesure %1 × %2 pixels.</translation>
     </message>
     <message id="IDD_CLI_NO_SCREEN">

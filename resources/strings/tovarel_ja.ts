@@ -59,9 +59,23 @@
             <numerusform>%Ln&#xa0;秒後</numerusform>
         </translation>
     </message>
+    <message id="IDD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;秒</translation>
+    </message>
+    <message id="IDD_RECORD_AFTER" numerus="yes">
+        <source>Record after %Ln&#xa0;seconds</source>
+        <translation>
+            <numerusform>%Ln&#xa0;秒後に録画</numerusform>
+        </translation>
+    </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
         <translation>まもなく録画が始まります。Esc または「停止」でキャンセルします。</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_RUNS_KEY">
+        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
+        <translation>まもなく録画が始まります。Esc、「停止」、またはどのウィンドウでも %1 でキャンセルします。</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
         <source>The countdown was canceled.</source>
@@ -79,9 +93,13 @@
         <source>%1 · %2 × %3</source>
         <translation>%1 · %2 × %3</translation>
     </message>
-    <message id="IDD_REGION_MOVED">
-        <source>The last region no longer fits the screen and was moved inside it.</source>
-        <translation>前回の範囲は画面に収まらないため、画面の内側に移動しました。</translation>
+    <message id="IDD_REGION_DOES_NOT_FIT">
+        <source>The last region does not fit on this screen.</source>
+        <translation>前回の範囲はこの画面に収まりません。</translation>
+    </message>
+    <message id="IDD_MOVE_REGION">
+        <source>Move It Inside</source>
+        <translation>内側に移動</translation>
     </message>
     <message id="IDD_CUT">
         <source>Cut</source>
@@ -118,6 +136,14 @@
     <message id="IDD_PICK_WINDOW_TIP">
         <source>Then click a window, or hold W</source>
         <translation>続けてウィンドウをクリック（または W を押したまま）</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW_HINT">
+        <source>Click the window to record. Esc goes back to the region.</source>
+        <translation>録画するウィンドウをクリックしてください。Esc で範囲選択に戻ります。</translation>
+    </message>
+    <message id="IDD_REGION_KEYS">
+        <source>Enter uses the region, Esc cancels.</source>
+        <translation>Enter で範囲を使用、Esc でキャンセルします。</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>
@@ -512,8 +538,12 @@
         <translation>範囲の選び方</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</source>
-        <translation>画面に 5 つの四角が付いた枠が表示されます。緑の四角をドラッグして録画したい部分を囲み、赤い四角をクリックしてください。枠の内側をドラッグすると移動し、外側をドラッグすると新しい枠を描けます。</translation>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <translation>画面に 5 つの四角が付いた枠が表示されます。緑の四角をドラッグして録画したい部分を囲み、赤い四角か「この範囲を使用」をクリックしてください。枠の内側をドラッグすると移動し、外側をドラッグすると新しい枠を描けます。</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_WINDOW">
+        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
+        <translation>ウィンドウを 1 つだけ録画するには、「ウィンドウを選択」を押すか W を押したまま、そのウィンドウをクリックします。</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -791,6 +821,10 @@ It is still at %3.</source>
         <source>“tovarel --help” and “tovarel record --help” say more.</source>
         <translation>詳しくは「tovarel --help」と「tovarel record --help」をご覧ください。</translation>
     </message>
+    <message id="IDD_CLI_EXAMPLES">
+        <source>Examples:</source>
+        <translation>例:</translation>
+    </message>
     <message id="IDD_CLI_ONE_TARGET">
         <source>Give exactly one of --region, --screen and --window.</source>
         <translation>--region、--screen、--window のうち 1 つだけを指定してください。</translation>
@@ -843,13 +877,25 @@ It is still at %3.</source>
         <source>Tovarel cannot do that now.</source>
         <translation>Tovarel は今それを実行できません。</translation>
     </message>
+    <message id="IDD_CLI_NOT_RECORDING">
+        <source>Tovarel is not recording.</source>
+        <translation>Tovarel は録画していません。</translation>
+    </message>
+    <message id="IDD_CLI_SAVING">
+        <source>Tovarel is still saving the last recording.</source>
+        <translation>Tovarel は直前の録画を保存しています。</translation>
+    </message>
+    <message id="IDD_CLI_ASKING">
+        <source>Tovarel is waiting for an answer in its window.</source>
+        <translation>Tovarel はウィンドウで応答を待っています。</translation>
+    </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>
         <translation>ディスプレイサーバーから画面の画像を取得できません。</translation>
     </message>
     <message id="IDD_CLI_REGION_OUTSIDE">
-        <source>That is not on the desktop, which has %1 × %2 pixels.</source>
-        <translation>デスクトップ（%1 × %2 ピクセル）の外です。</translation>
+        <source>That is not wholly on the desktop, which has %1 × %2 pixels.</source>
+        <translation>デスクトップ（%1 × %2 ピクセル）からはみ出しています。</translation>
     </message>
     <message id="IDD_CLI_NO_SCREEN">
         <source>There is no monitor number %1. Monitors: %2</source>

@@ -60,9 +60,24 @@
             <numerusform>Após %Ln&#xa0;segundos</numerusform>
         </translation>
     </message>
+    <message id="IDD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;s</translation>
+    </message>
+    <message id="IDD_RECORD_AFTER" numerus="yes">
+        <source>Record after %Ln&#xa0;seconds</source>
+        <translation>
+            <numerusform>Gravar após %Ln&#xa0;segundo</numerusform>
+            <numerusform>Gravar após %Ln&#xa0;segundos</numerusform>
+        </translation>
+    </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
         <translation>A gravação já vai começar. Esc ou “Parar” cancela.</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_RUNS_KEY">
+        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
+        <translation>A gravação já vai começar. Esc, “Parar” ou, de qualquer janela, %1 cancela.</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
         <source>The countdown was canceled.</source>
@@ -80,9 +95,13 @@
         <source>%1 · %2 × %3</source>
         <translation>%1 · %2 × %3</translation>
     </message>
-    <message id="IDD_REGION_MOVED">
-        <source>The last region no longer fits the screen and was moved inside it.</source>
-        <translation>A última área não cabe mais na tela e foi movida para dentro dela.</translation>
+    <message id="IDD_REGION_DOES_NOT_FIT">
+        <source>The last region does not fit on this screen.</source>
+        <translation>A última área não cabe nesta tela.</translation>
+    </message>
+    <message id="IDD_MOVE_REGION">
+        <source>Move It Inside</source>
+        <translation>Movê-la para dentro</translation>
     </message>
     <message id="IDD_CUT">
         <source>Cut</source>
@@ -119,6 +138,14 @@
     <message id="IDD_PICK_WINDOW_TIP">
         <source>Then click a window, or hold W</source>
         <translation>Depois clique em uma janela, ou mantenha W pressionada</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW_HINT">
+        <source>Click the window to record. Esc goes back to the region.</source>
+        <translation>Clique na janela que você quer gravar. Esc volta à área.</translation>
+    </message>
+    <message id="IDD_REGION_KEYS">
+        <source>Enter uses the region, Esc cancels.</source>
+        <translation>Enter usa a área, Esc cancela.</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>
@@ -515,8 +542,12 @@
         <translation>Como escolher uma área</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</source>
-        <translation>Um retângulo com cinco quadrados aparece na tela. Arraste os verdes até enquadrar o que você quer gravar e clique no vermelho. Arraste dentro do retângulo para movê-lo ou fora dele para desenhar um novo.</translation>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <translation>Um retângulo com cinco quadrados aparece na tela. Arraste os verdes até enquadrar o que você quer gravar e clique no vermelho ou em “Usar a área”. Arraste dentro do retângulo para movê-lo ou fora dele para desenhar um novo.</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_WINDOW">
+        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
+        <translation>Para gravar uma só janela, pressione “Escolher uma janela”, ou mantenha W pressionada, e clique nela.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -795,6 +826,10 @@ Ele continua em %3.</translation>
         <source>“tovarel --help” and “tovarel record --help” say more.</source>
         <translation>Veja “tovarel --help” e “tovarel record --help”.</translation>
     </message>
+    <message id="IDD_CLI_EXAMPLES">
+        <source>Examples:</source>
+        <translation>Exemplos:</translation>
+    </message>
     <message id="IDD_CLI_ONE_TARGET">
         <source>Give exactly one of --region, --screen and --window.</source>
         <translation>Indique exatamente uma das opções --region, --screen e --window.</translation>
@@ -847,13 +882,25 @@ Ele continua em %3.</translation>
         <source>Tovarel cannot do that now.</source>
         <translation>O Tovarel não pode fazer isso agora.</translation>
     </message>
+    <message id="IDD_CLI_NOT_RECORDING">
+        <source>Tovarel is not recording.</source>
+        <translation>O Tovarel não está gravando.</translation>
+    </message>
+    <message id="IDD_CLI_SAVING">
+        <source>Tovarel is still saving the last recording.</source>
+        <translation>O Tovarel ainda está salvando a última gravação.</translation>
+    </message>
+    <message id="IDD_CLI_ASKING">
+        <source>Tovarel is waiting for an answer in its window.</source>
+        <translation>O Tovarel está aguardando uma resposta na janela dele.</translation>
+    </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>
         <translation>O servidor gráfico não fornece nenhuma imagem da tela.</translation>
     </message>
     <message id="IDD_CLI_REGION_OUTSIDE">
-        <source>That is not on the desktop, which has %1 × %2 pixels.</source>
-        <translation>Isso não está na área de trabalho, que tem %1 × %2 pixels.</translation>
+        <source>That is not wholly on the desktop, which has %1 × %2 pixels.</source>
+        <translation>Isso não está totalmente na área de trabalho, que tem %1 × %2 pixels.</translation>
     </message>
     <message id="IDD_CLI_NO_SCREEN">
         <source>There is no monitor number %1. Monitors: %2</source>

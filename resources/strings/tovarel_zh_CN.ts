@@ -59,9 +59,23 @@
             <numerusform>%Ln&#xa0;秒后</numerusform>
         </translation>
     </message>
+    <message id="IDD_SECONDS">
+        <source>%1&#xa0;s</source>
+        <translation>%1&#xa0;秒</translation>
+    </message>
+    <message id="IDD_RECORD_AFTER" numerus="yes">
+        <source>Record after %Ln&#xa0;seconds</source>
+        <translation>
+            <numerusform>%Ln&#xa0;秒后录制</numerusform>
+        </translation>
+    </message>
     <message id="IDD_COUNTDOWN_RUNS">
         <source>The recording begins in a moment. Esc or Stop cancels it.</source>
         <translation>即将开始录制。按 Esc 键或“停止”可取消。</translation>
+    </message>
+    <message id="IDD_COUNTDOWN_RUNS_KEY">
+        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
+        <translation>即将开始录制。按 Esc 键或“停止”，或在任意窗口中按 %1 可取消。</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
         <source>The countdown was canceled.</source>
@@ -79,9 +93,13 @@
         <source>%1 · %2 × %3</source>
         <translation>%1 · %2 × %3</translation>
     </message>
-    <message id="IDD_REGION_MOVED">
-        <source>The last region no longer fits the screen and was moved inside it.</source>
-        <translation>上次的区域已超出屏幕，现已移入屏幕内。</translation>
+    <message id="IDD_REGION_DOES_NOT_FIT">
+        <source>The last region does not fit on this screen.</source>
+        <translation>上次的区域超出了此屏幕。</translation>
+    </message>
+    <message id="IDD_MOVE_REGION">
+        <source>Move It Inside</source>
+        <translation>移入屏幕内</translation>
     </message>
     <message id="IDD_CUT">
         <source>Cut</source>
@@ -118,6 +136,14 @@
     <message id="IDD_PICK_WINDOW_TIP">
         <source>Then click a window, or hold W</source>
         <translation>然后点击窗口；或按住 W</translation>
+    </message>
+    <message id="IDD_PICK_WINDOW_HINT">
+        <source>Click the window to record. Esc goes back to the region.</source>
+        <translation>请点击要录制的窗口。按 Esc 键返回区域。</translation>
+    </message>
+    <message id="IDD_REGION_KEYS">
+        <source>Enter uses the region, Esc cancels.</source>
+        <translation>按回车键使用该区域，按 Esc 键取消。</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>
@@ -512,8 +538,12 @@
         <translation>如何选择区域</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one. Drag inside the rectangle to move it, or outside to draw a new one.</source>
-        <translation>屏幕上会出现一个带有五个方块的矩形。拖动绿色方块框住要录制的内容，然后点击红色方块。在矩形内拖动可移动它，在矩形外拖动可绘制新的矩形。</translation>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <translation>屏幕上会出现一个带有五个方块的矩形。拖动绿色方块框住要录制的内容，然后点击红色方块或“使用此区域”。在矩形内拖动可移动它，在矩形外拖动可绘制新的矩形。</translation>
+    </message>
+    <message id="IDD_REGION_HOW_TO_WINDOW">
+        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
+        <translation>要录制单个窗口，请按“选择窗口”或按住 W，然后点击该窗口。</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -791,6 +821,10 @@ It is still at %3.</source>
         <source>“tovarel --help” and “tovarel record --help” say more.</source>
         <translation>详见“tovarel --help”和“tovarel record --help”。</translation>
     </message>
+    <message id="IDD_CLI_EXAMPLES">
+        <source>Examples:</source>
+        <translation>示例：</translation>
+    </message>
     <message id="IDD_CLI_ONE_TARGET">
         <source>Give exactly one of --region, --screen and --window.</source>
         <translation>请指定 --region、--screen 和 --window 中的一个，且只能一个。</translation>
@@ -843,13 +877,25 @@ It is still at %3.</source>
         <source>Tovarel cannot do that now.</source>
         <translation>Tovarel 现在无法执行该操作。</translation>
     </message>
+    <message id="IDD_CLI_NOT_RECORDING">
+        <source>Tovarel is not recording.</source>
+        <translation>Tovarel 当前没有在录制。</translation>
+    </message>
+    <message id="IDD_CLI_SAVING">
+        <source>Tovarel is still saving the last recording.</source>
+        <translation>Tovarel 仍在保存上一次录制内容。</translation>
+    </message>
+    <message id="IDD_CLI_ASKING">
+        <source>Tovarel is waiting for an answer in its window.</source>
+        <translation>Tovarel 正在其窗口中等待您的回答。</translation>
+    </message>
     <message id="IDD_CLI_NO_PICTURE">
         <source>The display server provides no picture of the screen.</source>
         <translation>显示服务器未提供屏幕画面。</translation>
     </message>
     <message id="IDD_CLI_REGION_OUTSIDE">
-        <source>That is not on the desktop, which has %1 × %2 pixels.</source>
-        <translation>不在 %1 × %2 像素的桌面范围内。</translation>
+        <source>That is not wholly on the desktop, which has %1 × %2 pixels.</source>
+        <translation>超出了 %1 × %2 像素的桌面范围。</translation>
     </message>
     <message id="IDD_CLI_NO_SCREEN">
         <source>There is no monitor number %1. Monitors: %2</source>

@@ -261,8 +261,10 @@ void checkStatusLine(const Ui::MainWindow &ui, Places &places) {
         {RECORD_STATUS_STOP, qtTrId("IDD_NOTHING_RECORDED"), nullptr},
         {RECORD_STATUS_STOP, qtTrId("IDD_EXPORT_CANCELLED"), nullptr},
         {RECORD_STATUS_STOP, qtTrId("IDD_CLOSE_WAITS"), nullptr},
-        {RECORD_STATUS_STOP, qtTrId("IDD_REGION_MOVED"), nullptr},
-        {RECORD_STATUS_STOP, qtTrId("IDD_COUNTDOWN_RUNS"), nullptr},
+        {RECORD_STATUS_STOP, qtTrId("IDD_REGION_DOES_NOT_FIT"), ui.btnMoveRegion},
+        {RECORD_STATUS_STOP,
+         qtTrId("IDD_COUNTDOWN_RUNS_KEY").arg(QStringLiteral("Super+Control+S")), nullptr},
+        {RECORD_STATUS_STOP, qtTrId("IDD_PREVIOUS_GONE"), nullptr},
         {RECORD_STATUS_STOP, qtTrId("IDD_STILL_NONE").arg(decimal(1.5, 2)), nullptr},
         {RECORD_STATUS_STOP,
          qtTrId("IDD_KEYS_GRANTED")

@@ -180,9 +180,10 @@ TEST_F(RecordPreview, showsClicksAndKeysWhileTheyAreSwitchedOnAndNotThoseForUs) 
     EXPECT_EQ(server->heard, (InputKinds{.buttons = true, .keys = false}));
     ui().btnRecordKeys->click();
     EXPECT_EQ(server->heard, (InputKinds{.buttons = true, .keys = true}));
-    EXPECT_TRUE(ui().labelStatus->text().startsWith(qtTrId("IDD_KEYS_SHOWN")));
+    EXPECT_TRUE(ui().labelStatus->text().endsWith(qtTrId("IDD_KEYS_SHOWN")));
     delegate->surroundings.showStatus(QStringLiteral("Something else"));
-    EXPECT_TRUE(ui().labelStatus->text().startsWith(qtTrId("IDD_KEYS_SHOWN")));
+    EXPECT_TRUE(ui().labelStatus->text().startsWith(QStringLiteral("Something else")));
+    EXPECT_TRUE(ui().labelStatus->text().endsWith(qtTrId("IDD_KEYS_SHOWN")));
 
     const auto shown = [this] {
         delegate->TimerRefreshVideoRoutine();

@@ -41,7 +41,7 @@ TEST_F(Remembered, rateAndRegionAndPlaceAreThoseOfTheLastStart) {
         EXPECT_EQ(second.delegate->recording.u_FPS(), 24u);
         EXPECT_TRUE(second.delegate->regionChooser.isRegionRecorded());
         EXPECT_EQ(second.delegate->region.rect_Screen_Region(), region);
-        EXPECT_FALSE(second.delegate->regionChooser.wasRegionMoved());
+        EXPECT_FALSE(second.ui().btnMoveRegion->isVisible());
         EXPECT_EQ(second.window()->size(), QSize(600, 450));
         EXPECT_EQ(second.window()->frameGeometry().topLeft(), QPoint(20, 30));
         second.delegate->OnRecordFullScreen(nullptr);
@@ -51,14 +51,18 @@ TEST_F(Remembered, rateAndRegionAndPlaceAreThoseOfTheLastStart) {
     EXPECT_EQ(third.delegate->region.rect_Screen_Region(), region) << "the overlay begins there";
 }
 
-TEST_F(Remembered, aRegionIsMovedIntoTheScreenAndNonsenseIsNone) {
+TEST_F(Remembered, aRegionIsOfferedToBeMovedIntoTheScreenAndNonsenseIsNone) {
     const QSize screen = QGuiApplication::primaryScreen()->size();
     settings::writeChoice("Capture", QStringLiteral("region"));
     settings::writeChoice("Region", QStringLiteral("5000 -20 320 240"));
     settings::writeChoice("Window", QStringLiteral("90000 90000 99999 99999"));
     {
         TestController moved;
-        EXPECT_TRUE(moved.delegate->regionChooser.wasRegionMoved());
+        EXPECT_FALSE(moved.delegate->regionChooser.isRegionRecorded());
+        ASSERT_TRUE(moved.ui().btnMoveRegion->isVisible());
+        moved.ui().btnMoveRegion->click();
+        EXPECT_FALSE(moved.ui().btnMoveRegion->isVisible());
+        EXPECT_TRUE(moved.delegate->regionChooser.isRegionRecorded());
         EXPECT_EQ(moved.delegate->region.rect_Screen_Region(),
                   QRectF(screen.width() - 320, 0, 320, 240));
         EXPECT_TRUE(QRect(QPoint(), screen).contains(QRect(QPoint(), moved.window()->size())));

@@ -69,7 +69,8 @@ class Privacy(case.Case):
 
     def check_files(self, calls, chosen):
         places = [chosen, self.session.runtime, self.session.home / ".config",
-                  *(self.session.documents / f"Pallomar{end}" for end in ("", "Export", "Pallete", "Previous"))]
+                  *(self.session.documents / f"Pallomar{end}"
+                    for end in ("", "Export", "Pallete", "Previous"))]
         seen = set()
         for name, arguments in calls:
             if name == "socket":

@@ -6,6 +6,7 @@ on, and a region framed and recorded as a user would."""
 import contextlib
 import ctypes
 import itertools
+import math
 import signal
 import subprocess
 
@@ -22,7 +23,10 @@ ASIDE = (800, 0)
 THICKNESS = 40  # of a panel, in pixels
 ATOM, CARDINAL, SIZE_HINTS = 4, 6, 41  # X11 protocol, predefined atoms
 USER_POSITION = 1  # ICCCM, WM_NORMAL_HINTS
-BLUE, GREEN, RED = (0, 0, 255), (0, 255, 0), (255, 0, 0)
+GREEN, RED = (0, 255, 0), (255, 0, 0)
+LIGHT, DARK = (255, 255, 255), (32, 32, 32)  # the two tones of the line around the region
+LINE = 1.5  # points, of each tone
+DIM = 127 / 255  # what is left of what is not recorded, where the desktop blends windows
 
 
 class RegionCase(case.Case):
@@ -52,7 +56,7 @@ class RegionCase(case.Case):
         return [line.split("=")[1] for line in text.splitlines() if line.startswith(KEY)]
 
     @contextlib.contextmanager
-    def running(self, name, command):
+    def beside(self, name, command):
         process = self.session.start(name, command)
         try:
             yield process
@@ -64,7 +68,7 @@ class RegionCase(case.Case):
     def pattern(self):
         name = f"pattern-{len(list(self.session.outputs.iterdir()))}"
         command = [self.session.build / "tests/system/pattern_window", str(self.block)]
-        with self.running(name, command):
+        with self.beside(name, command):
             wait_for("the pattern", lambda: "shown" in self.session.output(name))
             yield
 
@@ -73,7 +77,7 @@ class RegionCase(case.Case):
         if not wanted:
             yield
             return
-        with self.running("picom", PICOM):
+        with self.beside("picom", PICOM):
             wait_for("the compositing manager", self.session.composited)
             yield
         wait_for("the compositing manager to go", lambda: not self.session.composited())
@@ -183,16 +187,22 @@ class RegionCase(case.Case):
         return edges
 
     def check_see_through(self, screen, edges):
-        """The outline is where it belongs, and close to it the desktop shows unchanged."""
+        """The line is around what is recorded and not in it, where the desktop shows unchanged;
+        outside it is dimmed where that can be."""
         left, bottom, right, top = edges
         picture = self.session.picture()
-        for x, y in ((left, bottom + 30), (right, bottom + 30), (left + 30, top)):
-            spot = screen.pixel(x, y)
-            self.assertEqual(picture.pixel(*spot), BLUE, f"no outline at {spot}")
-        for x, y in ((left - 20, bottom - 20), (left - 20, top + 20), (left - 4, bottom + 30)):
-            spot = screen.pixel(x, y)
-            self.assertEqual(picture.pixel(*spot), colour(*spot, self.block),
-                             f"the desktop does not show at {spot}")
+        (x, y), (end, below) = screen.pixel(left, top), screen.pixel(right, bottom)
+        line, dim = math.floor(LINE * screen.scale + 0.5), DIM if self.session.composited() else 1
+        row, column = below - round(30 * screen.scale), x + round(30 * screen.scale)
+        for outwards, spot in (((-1, 0), (x - 1, row)), ((1, 0), (end, row)), ((0, -1), (column, y - 1))):
+            for away, wanted in ((0, LIGHT), (line - 1, LIGHT), (line, DARK), (2 * line - 1, DARK)):
+                there = tuple(at + by * away for at, by in zip(spot, outwards))
+                self.assertEqual(picture.pixel(*there), wanted, f"no line at {there}")
+            within = tuple(at - by for at, by in zip(spot, outwards))
+            self.assertEqual(picture.pixel(*within), colour(*within, self.block), within)
+        for spot in ((x - 40, below + 40), (x - 40, y - 40), (x - 2 * line - 1, row)):
+            for seen, shown in zip(picture.pixel(*spot), colour(*spot, self.block)):
+                self.assertLessEqual(abs(seen - shown * dim), 1, f"wrong at {spot}")
 
     def check_recorded(self, program, area):
         """Records, and compares every frame with the pattern there, one pixel a block: no pixel may

@@ -18,13 +18,13 @@ std::size_t at(int index) { return static_cast<std::size_t>(index); }
 
 TEST(RegionGeometry, theRegionStartsInTheMiddleOfTheScreen) {
     const Squares squares = startOn(1440, 900);
-    EXPECT_EQ(squares, (Squares{{{555, 325}, {875, 325}, {715, 445}, {555, 565}, {875, 565}}}));
+    EXPECT_EQ(squares, (Squares{{{553, 323}, {873, 323}, {713, 443}, {553, 563}, {873, 563}}}));
     EXPECT_EQ(boundingRegion(squares), (Region{560, 330, 320, 240}));
 
     // Odd sizes: every half is cut off, towards zero where the region is larger than the screen.
     const Squares odd = initialSquares(321.9, 241.9, 1440.5, 900.5);
     EXPECT_EQ(boundingRegion(odd), (Region{559, 329, 321, 241}));
-    EXPECT_EQ(odd[at(middle)], (Point{559 + 160 - 5, 329 + 120 - 5}));
+    EXPECT_EQ(odd[at(middle)], (Point{559 + 160 - 7, 329 + 120 - 7}));
     EXPECT_EQ(boundingRegion(startOn(319, 239)), (Region{0, 0, 320, 240}));
     EXPECT_EQ(boundingRegion(startOn(317, 237)), (Region{-1, -1, 320, 240}));
 }
@@ -38,19 +38,19 @@ TEST(RegionGeometry, aPressHitsASquareWithItsEdgesAndTheLowestIndexWins) {
         Point pointer;
         std::optional<int> hit;
     } cases[] = {
-        {apart, {555, 325}, lowerLeft},  {apart, {565, 335}, lowerLeft},
-        {apart, {565.1, 330}, {}},       {apart, {560, 324.9}, {}},
-        {apart, {885, 335}, lowerRight}, {apart, {720, 450}, middle},
-        {apart, {555, 575}, upperLeft},  {apart, {885, 575}, upperRight},
+        {apart, {553, 323}, lowerLeft},  {apart, {567, 337}, lowerLeft},
+        {apart, {567.1, 330}, {}},       {apart, {560, 322.9}, {}},
+        {apart, {887, 337}, lowerRight}, {apart, {720, 450}, middle},
+        {apart, {553, 577}, upperLeft},  {apart, {887, 577}, upperRight},
         {apart, {720, 330}, {}},         {close, {560, 330}, lowerLeft},
-        {close, {566, 337}, middle},     {close, {563, 343}, upperLeft},
+        {close, {566, 339}, middle},     {close, {563, 343}, upperLeft},
     };
     for (const auto &[squares, pointer, hit] : cases)
         EXPECT_EQ(squareAt(squares, pointer), hit) << pointer.x << ", " << pointer.y;
 }
 
 TEST(RegionGeometry, aDraggedCornerTakesItsNeighboursAlongAndKeepsFractions) {
-    // Squares at (555, 325) to (875, 565). The half of an odd distance is cut off on the way from
+    // Squares at (553, 323) to (873, 563). The half of an odd distance is cut off on the way from
     // the left and from below, so it depends on the corner in hand.
     const struct {
         int corner;
@@ -60,25 +60,25 @@ TEST(RegionGeometry, aDraggedCornerTakesItsNeighboursAlongAndKeepsFractions) {
     } cases[] = {
         {lowerLeft,
          {100.7, 50.2},
-         {{{100.7, 50.2}, {875, 50.2}, {487, 307}, {100.7, 565}, {875, 565}}},
-         {105, 55, 775, 515}},
+         {{{100.7, 50.2}, {873, 50.2}, {486, 306}, {100.7, 563}, {873, 563}}},
+         {107, 57, 773, 513}},
         {lowerRight,
          {1000.9, 101.5},
-         {{{555, 101.5}, {1000.9, 101.5}, {777, 333}, {555, 565}, {1000.9, 565}}},
-         {560, 106, 445, 464}},
+         {{{553, 101.5}, {1000.9, 101.5}, {776, 332}, {553, 563}, {1000.9, 563}}},
+         {560, 108, 447, 462}},
         {upperLeft,
          {-20.5, 700},
-         {{{-20.5, 325}, {875, 325}, {427, 512}, {-20.5, 700}, {875, 700}}},
-         {-15, 330, 895, 375}},
+         {{{-20.5, 323}, {873, 323}, {426, 511}, {-20.5, 700}, {873, 700}}},
+         {-13, 330, 893, 377}},
         {upperRight,
-         {556, 326},
-         {{{555, 325}, {556, 325}, {555, 325}, {555, 326}, {556, 326}}},
+         {554, 324},
+         {{{553, 323}, {554, 323}, {553, 323}, {553, 324}, {554, 324}}},
          {560, 330, 1, 1}},
         // Past the opposite corner: the bounding box of all squares.
         {lowerLeft,
          {1000, 700},
-         {{{1000, 700}, {875, 700}, {938, 633}, {1000, 565}, {875, 565}}},
-         {880, 570, 125, 135}},
+         {{{1000, 700}, {873, 700}, {937, 632}, {1000, 563}, {873, 563}}},
+         {880, 570, 127, 137}},
     };
     for (const auto &[corner, pointer, expected, region] : cases) {
         Squares squares = startOn(1440, 900);

@@ -32,13 +32,13 @@ TEST(SingleInstance, isToldWishesAndTakesSilenceForThatOfASecondStart) {
     QStringList heard;
     first.listen([&heard](const QString &wish) {
         heard << wish;
-        return wish != wishes::stop;
+        return wish == wishes::stop ? WishAnswer::NotRecording : WishAnswer::Done;
     });
     const auto tell = [&folder](QLatin1StringView wish) {
         return answered([&folder, wish] { return SingleInstance::tell(folder.path(), wish); });
     };
-    EXPECT_EQ(tell(wishes::toggle), true);
-    EXPECT_EQ(tell(wishes::stop), false) << "cannot be done";
+    EXPECT_EQ(tell(wishes::toggle), WishAnswer::Done);
+    EXPECT_EQ(tell(wishes::stop), WishAnswer::NotRecording);
     EXPECT_TRUE(answered([&folder] {
         constexpr int patience = 10000; // milliseconds
         QLocalSocket silent;
