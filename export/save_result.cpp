@@ -177,11 +177,15 @@ void Exporter::reportFailedPlace(const QString &path, const QString &reason) {
 QString Exporter::sayWhereItIs(const QString &note) {
     const QFileInfo saved(exporting.finished->path);
     const QString size = number_text::bytes(static_cast<std::uint64_t>(saved.size()));
-    const QString status = note.isEmpty()
-                               ? qtTrId("IDD_STATUS_SAVED").arg(saved.filePath(), size)
-                               : qtTrId("IDD_STATUS_SAVED_NOTE").arg(saved.filePath(), size, note);
-    surroundings_.showStatus(status);
-    return status;
+    if (note.isEmpty()) {
+        const QString status = qtTrId("IDD_STATUS_SAVED").arg(saved.filePath(), size);
+        surroundings_.showStatus(status);
+        return status;
+    }
+    // A line has hardly room for a path and the note.
+    const QString status = qtTrId("IDD_STATUS_SAVED_NOTE");
+    surroundings_.showStatus(status.arg(saved.fileName(), size, note));
+    return status.arg(saved.filePath(), size, note);
 }
 
 void Exporter::chooseResultsPlace() {
