@@ -236,8 +236,10 @@ void ExportOptions::updateGIFDimensionHint() {
     QString hint;
     for (const auto &[side, field] : {std::pair(PictureSide::Width, ui_.textGIFWidth),
                                       {PictureSide::Height, ui_.textGIFHeigth}}) {
+        // Without a recording no size is chosen, and the fields are empty.
+        const bool counts = field->isEnabled() && ui_.radioGIFCustomDimension->isChecked();
         const QString problem =
-            field->isEnabled() ? sizeProblemText(side, sizeTextProblem(field->text())) : QString();
+            counts ? sizeProblemText(side, sizeTextProblem(field->text())) : QString();
         field->setAccessibleDescription(problem);
         if (hint.isEmpty())
             hint = problem;
