@@ -125,7 +125,6 @@ void ExportOptions::listen() {
         ui_.btnWebPGenerate->setToolTip(qtTrId("IDD_GENERATE_WEBP_TIP") + u'\n' +
                                         qtTrId("IDD_WEBP_ABOUT").arg(number_text::bytes(bytes)));
     });
-    updateGIFDimensionHint();
     for (const QComboBox *list : {ui_.comboGIFFPS, ui_.comboGIFSpeed, ui_.comboGIFHold})
         connect(list, &QComboBox::currentIndexChanged, this, &ExportOptions::updateGIFSummary);
 }

@@ -246,7 +246,6 @@ void ExportOptions::updateGIFDimensionHint() {
     }
     ui_.labelDimensionHint->setText(hint);
     ui_.labelDimensionHint->setToolTip(hint);
-    ui_.labelDimensionHint->setVisible(!hint.isEmpty());
 }
 
 QString ExportOptions::loops() const {

@@ -238,6 +238,7 @@ TEST_F(GifOptions, SayWhatToDoFirstWhereNothingWasRecorded) {
     controller.OnMenuTabGIF();
     EXPECT_EQ(summary(), qtTrId("IDD_RECORD_FIRST").toStdString());
     EXPECT_TRUE(ui.labelInstructions->isVisible());
+    EXPECT_TRUE(ui.labelDimensionHint->text().isEmpty());
     enterTab();
     EXPECT_FALSE(ui.labelInstructions->isVisible());
 }

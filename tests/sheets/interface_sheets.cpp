@@ -161,6 +161,9 @@ public:
             qFatal("the export does not end");
         QTest::qWait(300);
         add("GIF, the file");
+        QFile::remove(answers.savePath);
+        QTest::qWait(300); // what watches it
+        add("GIF, the file is gone");
         return sheet;
     }
 
