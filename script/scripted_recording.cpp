@@ -7,6 +7,7 @@
 #include "platform/bundle.h"
 #include "platform/screen_source.h"
 #include "record/source_text.h"
+#include "record/stepping_aside.h"
 #include "shell/obstacle_text.h"
 #include "shell/working_folders.h"
 
@@ -32,9 +33,9 @@ constexpr std::chrono::milliseconds refreshing{200}; // of the line of progress
 constexpr qint64 patience = 10000;                   // milliseconds, for the first grab
 
 /// What another window of this program covers is known once it was drawn again: grabs go on from
-/// the first one, as they do in the window before Record is pressed. A dialog of the desktop's
-/// takes as long to fade away.
-constexpr std::chrono::milliseconds settling{600};
+/// the first one, as they do in the window before Record is pressed.
+constexpr std::chrono::milliseconds settling{500};
+constexpr std::chrono::milliseconds betweenLooks{50};
 
 std::chrono::milliseconds milliseconds(double seconds) {
     return std::chrono::milliseconds(std::lround(seconds * 1000));
@@ -140,6 +141,8 @@ void ScriptedRecording::fail(Status status, const QString &text) {
 
 void ScriptedRecording::followSource() {
     const SourceState state = recorder_.source().state();
+    if (state == SourceState::Waiting)
+        answered_ = std::chrono::steady_clock::now();
     if (stopped_ || (state != SourceState::Ended && state != SourceState::Refused))
         return;
     const QString words = sourceStateText(recorder_.source());
@@ -173,8 +176,12 @@ void ScriptedRecording::aimOnce() {
         fail(Status::cannotRecord, *reason);
         return;
     }
+    beginIn(std::max(milliseconds(wanted_.delay), settling));
+}
+
+void ScriptedRecording::beginIn(std::chrono::milliseconds time) {
     connect(&clock_, &QTimer::timeout, this, &ScriptedRecording::begin, Qt::SingleShotConnection);
-    clock_.start(std::max(milliseconds(wanted_.delay), settling));
+    clock_.start(time);
 }
 
 std::optional<QString> ScriptedRecording::aim(QSize desktop) {
@@ -221,6 +228,12 @@ std::optional<QString> ScriptedRecording::aimAt(const QRect &part, QSize desktop
 }
 
 void ScriptedRecording::begin() {
+    // The dialog fades away as a window of ours does.
+    const auto newest = recorder_.source().newestPicture();
+    if (newest && !isGoneFromPictures(*newest, answered_, std::chrono::steady_clock::now())) {
+        beginIn(betweenLooks);
+        return;
+    }
     recorder_.OnRecordRecord();
     recorder_.restartCaptureTimer();
     // The tick is on the stack.

@@ -16,6 +16,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -50,6 +51,7 @@ private:
     /// pixels; or why there is none.
     std::optional<QString> aim(QSize desktop);
     std::optional<QString> aimAt(const QRect &part, QSize desktop);
+    void beginIn(std::chrono::milliseconds time);
     void begin();
     void follow();
     void count();
@@ -73,7 +75,8 @@ private:
     bool stopped_ = false;
     bool making_ = false;
     QElapsedTimer waited_;
-    QTimer clock_; // until the beginning, then until the end
+    std::chrono::steady_clock::time_point answered_; ///< When the desktop's dialog was.
+    QTimer clock_;                                   // until the beginning, then until the end
     QTimer display_;
     std::optional<command_line::Status> status_;
 };
