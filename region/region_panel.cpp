@@ -96,7 +96,8 @@ RegionPanel::RegionPanel(QWidget *parent, int width) : QFrame(parent) {
     whole->addWidget(hint_);
     fillPresets();
     mnemonics::mark(*this);
-    if (sizeHint().width() > width)
+    isNarrow_ = sizeHint().width() > width;
+    if (isNarrow_)
         rows->setDirection(QBoxLayout::TopToBottom);
 
     const auto moved = [this] {
@@ -143,6 +144,8 @@ void RegionPanel::showRegion(const QRect &recorded, const QString &problem) {
     hint_->setText(!problem.isEmpty()   ? problem
                    : pick_->isChecked() ? qtTrId("IDD_PICK_WINDOW_HINT")
                                         : qtTrId("IDD_REGION_KEYS"));
+    // A third row would lie over the region's middle on a small screen.
+    hint_->setVisible(!isNarrow_ || pick_->isChecked() || !problem.isEmpty());
     use_->setEnabled(problem.isEmpty());
     adjustSize();
 }

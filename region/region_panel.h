@@ -65,4 +65,5 @@ private:
     QPushButton *pick_;
     QPushButton *use_;
     QLabel *hint_;
+    bool isNarrow_ = false; ///< In two rows.
 };

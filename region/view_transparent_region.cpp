@@ -99,7 +99,8 @@ void region_drawing::draw(QPainter &painter, const Pieces &pieces, const QColor 
     fill(painter, pieces.light, lightColor);
     fill(painter, pieces.accent, accent);
     const QRect middle = pieces.squares[region_geometry::middle];
-    const int edge = wholePixels(edgeWidth, pieces.ratio);
+    // Rounded down: what has the colour is the larger part of a square.
+    const int edge = std::max(1, static_cast<int>(edgeWidth * pieces.ratio));
     for (const QRect &square : pieces.squares)
         if (!square.isEmpty())
             drawSquare(painter, square, square == middle ? middleColor : cornerColor, edge);

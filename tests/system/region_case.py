@@ -200,7 +200,8 @@ class RegionCase(case.Case):
                 self.assertEqual(picture.pixel(*there), wanted, f"no line at {there}")
             within = tuple(at - by for at, by in zip(spot, outwards))
             self.assertEqual(picture.pixel(*within), colour(*within, self.block), within)
-        for spot in ((x - 40, below + 40), (x - 40, y - 40), (x - 2 * line - 1, row)):
+        beyond = round(20 * screen.scale)  # the squares
+        for spot in ((x - beyond, below + beyond), (x - beyond, y - beyond), (x - 2 * line - 1, row)):
             for seen, shown in zip(picture.pixel(*spot), colour(*spot, self.block)):
                 self.assertLessEqual(abs(seen - shown * dim), 1, f"wrong at {spot}")
 
