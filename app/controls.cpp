@@ -208,7 +208,7 @@ void Controls::listenToRecorder() {
 }
 
 void Controls::listenToOthers() {
-    connect(&controller_.trimEditor, &TrimEditor::stateChanged, this, &Controls::refresh);
+    connect(&controller_.trimEditor, &TrimEditor::stateChanged, this, &Controls::showPlayback);
     connect(&controller_.regionChooser, &RegionChooser::offerChanged, this,
             [this] { ui_.btnMoveRegion->setVisible(controller_.regionChooser.offersRegion()); });
     connect(&controller_.trimEditor, &TrimEditor::rangeTextChanged, ui_.labelCutRange,
@@ -216,6 +216,16 @@ void Controls::listenToOthers() {
     connect(&controller_.trimEditor, &TrimEditor::timeTextChanged, ui_.labelCutTime,
             &QLabel::setText);
     connect(controller_.exportOptions.get(), &ExportOptions::entered, this, &Controls::refresh);
+}
+
+void Controls::showPlayback() {
+    const QWidget *focused = QApplication::focusWidget();
+    const bool isPressed = focused && (focused == ui_.btnCutPlay || focused == ui_.btnCutPause ||
+                                       focused == ui_.btnCutStop);
+    refresh();
+    // A button that is disabled passes the focus on to the next one, which does something else.
+    if (isPressed && !focused->isEnabled())
+        (ui_.btnCutPause->isEnabled() ? ui_.btnCutPause : ui_.btnCutPlay)->setFocus();
 }
 
 void Controls::listenToCard() {

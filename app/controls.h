@@ -51,6 +51,8 @@ private:
     void listenToShell();
     void listenToRecorder();
     void listenToOthers();
+    /// Enables what playback allows now; Space goes on playing and pausing on its buttons.
+    void showPlayback();
     void listenToCard();
     /// Beside the status line: what leads to the last file, where its card does not show it.
     void showWaysToLastFile();

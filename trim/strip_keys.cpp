@@ -138,6 +138,9 @@ void View_Cut_Range::focusInEvent(QFocusEvent *event) {
         choose(StripPart::Menor);
     if (event->reason() == Qt::BacktabFocusReason)
         choose(StripPart::Maior);
+    // The tab was entered: keys show frames, and move no handle unasked.
+    if (event->reason() == Qt::OtherFocusReason)
+        choose(StripPart::Playhead);
 }
 
 bool View_Cut_Range::focusNextPrevChild(bool next) {

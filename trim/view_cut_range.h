@@ -144,6 +144,6 @@ private:
     TrimEditor *editor_ = nullptr;
     View_Cut_Preview *preview_ = nullptr;
     StripPictures *pictures_;
-    StripPart chosen_ = StripPart::Menor;
+    StripPart chosen_ = StripPart::Playhead;
     CutHandle *parts_[3];
 };

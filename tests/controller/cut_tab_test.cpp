@@ -267,8 +267,13 @@ TEST_F(CutTab, keysAreCommandsOfThisTabUnlessWhatHasTheFocusUsesThem) {
     const auto press = [](Qt::Key key, Qt::KeyboardModifiers with = {}) {
         QTest::keyClick(QApplication::focusWidget(), key, with);
     };
-    strip->setFocus();
+    Q_EMIT delegate->recorder.recordingReady();
+    ASSERT_EQ(QApplication::focusWidget(), ui().btnCutPlay) << "the next step";
+    press(Qt::Key_Right);
+    EXPECT_EQ(shownFrame(), 1);
     QTest::mouseClick(strip, Qt::LeftButton, {}, QPoint(strip->width() / 2, filmMiddle));
+    QTest::mouseClick(ui().btnCutRedo, Qt::LeftButton);
+    EXPECT_EQ(QApplication::focusWidget(), strip) << "where the keys are wanted";
     const struct {
         Qt::Key key;
         Qt::KeyboardModifiers with;
@@ -311,10 +316,15 @@ TEST_F(CutTab, keysAreCommandsOfThisTabUnlessWhatHasTheFocusUsesThem) {
     EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_PAUSE);
     press(Qt::Key_Return);
     EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_PLAY);
-    // A button takes Space for itself, the tabs take the arrows.
+    // A button takes Space for itself, and passes the focus on so that Space plays and pauses.
     ui().btnCutStop->setFocus();
-    press(Qt::Key_Space);
-    EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_STOP);
+    for (const PlayStatus status :
+         {PLAY_STATUS_STOP, PLAY_STATUS_PLAY, PLAY_STATUS_PAUSE, PLAY_STATUS_PLAY}) {
+        press(Qt::Key_Space);
+        EXPECT_EQ(delegate->trim.m_PlayStatus(), status);
+    }
+    delegate->OnCutStop(nullptr);
+    // The tabs take the arrows.
     delegate->trimEditor.showFrame(12);
     ui().btnCutUndo->setFocus();
     press(Qt::Key_Right);
