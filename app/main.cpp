@@ -189,7 +189,11 @@ int main(int argc, char **argv) {
     if (!delegate.applicationDidFinishLaunching())
         return EXIT_SUCCESS;
     running = &delegate;
-    std::atexit([] { running->keepWhatRuns(); });
+    std::atexit([] {
+        running->keepWhatRuns();
+        // The toolkit would take its objects apart now, while nested event loops still use them.
+        std::_Exit(EXIT_FAILURE);
+    });
     delegate.listenToDesktopKeys();
     instance.listen([&delegate](const QString &wish) { return fulfil(wish, delegate); });
     Application::exec();
