@@ -42,8 +42,8 @@ def desktop():
     return _desktop[0]
 
 
-# Roles that newer accessibility libraries call by another name.
-RENAMED_ROLES = {"button": "push button"}
+# Roles that newer accessibility libraries and toolkits call by another name.
+RENAMED_ROLES = {"button": "push button", "push button menu": "push button"}
 
 
 def role_of(item):
