@@ -131,7 +131,8 @@ def outside_encoder(build):
         program.press("Generate GIF")
         began = time.time()
         # Looked for seldom: the search takes processor time from the encoder.
-        program.wait_for("the save panel", lambda: time.sleep(0.1) or program.find("dialog"), 300)
+        program.wait_for("the save panel", lambda: time.sleep(0.1) or program.find(
+            "dialog", "Select a folder to save the GIF image"), 300)
         ended = time.time()
         times = [float(line) for line in (session.home / "encoder.times").read_text().split()]
         program.end()
@@ -142,10 +143,10 @@ def outside_encoder(build):
     return (ended - began - inside) / (ended - began)
 
 
-def counter_place(picture):
-    """Where in the picture the counter's window shows, as counter.read wants it: its cells fill the
-    lower half. None where it doesn't."""
-    cells = [(x, y) for y in range(0, picture.height, 2) for x in range(0, picture.width, 2)
+def counter_place(picture, end):
+    """Where in the picture the counter's window shows above this line, as counter.read wants it: its
+    cells fill the lower half. None where it doesn't."""
+    cells = [(x, y) for y in range(0, end, 2) for x in range(0, picture.width, 2)
              if picture.pixel(x, y) in counter.COLOURS]
     if not cells:
         return None
@@ -193,7 +194,9 @@ def played(build):
                    for path in sorted(session.frames.glob("frame*.png"))]
         for number in session.processes("counter_window"):
             os.kill(number, signal.SIGTERM)
-        place = driver.wait_for("the preview", lambda: counter_place(session.picture()))
+        # Below the preview the strip shows the same pictures.
+        strip = min(driver.extents(handle).y for handle in program.all("slider"))
+        place = program.wait_for("the preview", lambda: counter_place(session.picture(), strip))
         window = program.window()
         size = program.place()
 
