@@ -3,6 +3,7 @@
 //
 // The presets on recordings: size, time and likeness of each in one run.
 //   bench_gif                          recordings made here
+//   bench_gif --scaling                only what larger screens and longer stills cost
 //   bench_gif NAME RAW WIDTH HEIGHT RATE [FOLDER]
 //                                      one of raw RGB frames; its files are kept in the folder
 #include "bench/gif/recordings.h"
@@ -11,6 +12,7 @@
 #include "export/gif/encoder.h"
 #include "export/size_forecast.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -18,6 +20,7 @@
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
+#include <string_view>
 #include <unordered_map>
 
 namespace {
@@ -210,8 +213,15 @@ void reportScaling() {
         BenchRecording first = madeSquare(width, height, 0);
         BenchRecording::Pixels pixels = recording.pixels(0);
         first.add(std::move(pixels));
-        const double all = encoded(recording, gif::balancedTolerance).processor;
-        return std::pair(all, all - encoded(first, gif::balancedTolerance).processor);
+        // Frames that were never read cost the system more than the encoder: the least of three.
+        const auto least = [](BenchRecording &frames) {
+            double processor = encoded(frames, gif::balancedTolerance).processor;
+            for (int i = 0; i < 2; ++i)
+                processor = std::min(processor, encoded(frames, gif::balancedTolerance).processor);
+            return processor;
+        };
+        const double all = least(recording);
+        return std::pair(all, all - least(first));
     };
     const auto small = cost(1280, 800, 10), large = cost(3840, 2160, 10),
                longer = cost(1280, 800, 60);
@@ -231,6 +241,10 @@ int main(int argc, char **argv) {
         const bool good = report(recording, work);
         std::filesystem::remove_all(work);
         return good ? 0 : 1;
+    }
+    if (argc == 2 && std::string_view(argv[1]) == "--scaling") {
+        reportScaling();
+        return 0;
     }
     if (argc >= 6) {
         BenchRecording recording(argv[1], std::atoi(argv[3]), std::atoi(argv[4]),
