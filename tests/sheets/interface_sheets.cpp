@@ -3,8 +3,9 @@
 //
 // Pictures of the window and its dialogs, side by side, for people to look at:
 //   interface_sheets FOLDER [--font FAMILY POINTS] [LANGUAGE]...
-// For each language, in light and in dark: one sheet of the window's states in its smallest size,
-// one in its first size, one of the dialogs. QT_SCALE_FACTOR makes them larger.
+// For each language, in light and in dark, and in high contrast for English: one sheet of the
+// window's states in its smallest size, one in its first size, one of the dialogs. QT_SCALE_FACTOR
+// makes them larger.
 #include "app/about.h"
 #include "record/window_fps.h"
 #include "region/region_panel.h"
@@ -51,9 +52,19 @@ const std::vector<Image> &recording() {
     return made;
 }
 
-QPalette palette(bool dark) {
-    if (!dark)
+enum class Look { Light, Dark, Contrast };
+constexpr const char *lookNames[] = {"light", "dark", "contrast"};
+
+QPalette palette(Look look) {
+    if (look == Look::Light)
         return QApplication::style()->standardPalette();
+    if (look == Look::Contrast) {
+        QPalette shades(Qt::white, Qt::black, Qt::white, Qt::white, Qt::gray, Qt::white, Qt::white,
+                        Qt::black, Qt::black);
+        shades.setColor(QPalette::Highlight, Qt::yellow);
+        shades.setColor(QPalette::HighlightedText, Qt::black);
+        return shades;
+    }
     QPalette shades(QColor(49, 54, 59), QColor(42, 46, 50));
     shades.setColor(QPalette::Base, QColor(27, 30, 32));
     shades.setColor(QPalette::Highlight, QColor(61, 174, 233));
@@ -225,19 +236,18 @@ private:
     }
 };
 
-void makeSheets(const Chosen &chosen, const QString &language, bool dark) {
+void makeSheets(const Chosen &chosen, const QString &language, Look look) {
     QTranslator table;
     if (!table.load(QStringLiteral(":/strings/tovarel_%1.qm")
                         .arg(QString(language).replace(QLatin1Char('-'), QLatin1Char('_')))))
         qFatal("there is no language %s", qPrintable(language));
     QCoreApplication::installTranslator(&table);
     QLocale::setDefault(QLocale(language));
-    QApplication::setPalette(palette(dark));
+    QApplication::setPalette(palette(look));
     const auto path = [&](const char *what) {
         return chosen.folder.filePath(
             QStringLiteral("%1-%2-%3.png")
-                .arg(language, dark ? QStringLiteral("dark") : QStringLiteral("light"),
-                     QLatin1String(what)));
+                .arg(language, QLatin1String(lookNames[int(look)]), QLatin1String(what)));
     };
     Program().states(smallest).save(path("smallest"));
     Program().states(first).save(path("first"));
@@ -281,7 +291,8 @@ int main(int argc, char **argv) {
     font.setPointSizeF(chosen.points);
     QApplication::setFont(font);
     for (const QString &language : chosen.languages)
-        for (const bool dark : {false, true})
-            makeSheets(chosen, language, dark);
+        for (const Look look : {Look::Light, Look::Dark, Look::Contrast})
+            if (look != Look::Contrast || language == QLatin1String("en"))
+                makeSheets(chosen, language, look);
     return 0;
 }
