@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <optional>
 
-/// What the text of the list "Fit under" says.
+/// What the text of the list of the largest file size says.
 struct FitLimit {
     std::optional<std::uint64_t> bytes = {}; ///< None: no limit.
     bool isWrong = false;                    ///< It is neither a number above 0 nor nothing.

@@ -26,6 +26,8 @@ Window_Progress::Window_Progress(QWidget &anchor, const QString &caption)
     setWindowTitle(caption);
     ui_->labelDescription->setText(caption);
     ui_->progressBar->setAccessibleName(caption);
+    // The bar fills in its percentage.
+    ui_->progressBar->setFormat(qtTrId("IDD_PERCENT").arg(QStringLiteral("%p")));
     ui_->btnCancel->setText(qtTrId("IDD_CANCEL"));
     ui_->btnCancel->hide();
     connect(ui_->btnCancel, &QPushButton::clicked, this, &Window_Progress::cancel);

@@ -72,11 +72,11 @@
         </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
-        <source>The recording begins in a moment. Esc or Stop cancels it.</source>
+        <source>The recording begins in a moment. Esc or “Stop” cancels it.</source>
         <translation>Die Aufnahme beginnt gleich. Esc oder „Stopp“ bricht sie ab.</translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS_KEY">
-        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
+        <source>The recording begins in a moment. Esc, “Stop” or, in any window, %1 cancels it.</source>
         <translation>Die Aufnahme beginnt gleich. Esc, „Stopp“ oder, in jedem Fenster, %1 bricht sie ab.</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
@@ -137,7 +137,7 @@
     </message>
     <message id="IDD_PICK_WINDOW_TIP">
         <source>Then click a window, or hold W</source>
-        <translation>Danach ein Fenster anklicken, oder W gedrückt halten</translation>
+        <translation>Danach ein Fenster anklicken (oder W gedrückt halten)</translation>
     </message>
     <message id="IDD_PICK_WINDOW_HINT">
         <source>Click the window to record. Esc goes back to the region.</source>
@@ -145,7 +145,7 @@
     </message>
     <message id="IDD_REGION_KEYS">
         <source>Enter uses the region, Esc cancels.</source>
-        <translation>Eingabe verwendet den Bereich, Esc bricht ab.</translation>
+        <translation>Eingabetaste verwendet den Bereich, Esc bricht ab.</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>
@@ -157,10 +157,10 @@
     </message>
     <message id="IDD_INSTRUCTIONS">
         <source>Choose the size, the frame rate and the speed, then generate the GIF.</source>
-        <translation>Wählen Sie Größe, Bildrate und Geschwindigkeit, und erzeugen Sie dann das GIF.</translation>
+        <translation>Wählen Sie Größe, Bildrate und Geschwindigkeit und erzeugen Sie dann das GIF.</translation>
     </message>
     <message id="IDD_RECORD_FIRST">
-        <source>There is no recording yet. Make one on the Record tab.</source>
+        <source>There is no recording yet. Make one on the “Record” tab.</source>
         <translation>Es gibt noch keine Aufnahme. Nehmen Sie zuerst unter „Aufnehmen“ etwas auf.</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
@@ -169,7 +169,7 @@
     </message>
     <message id="IDD_RESOLUTION_CUSTOM">
         <source>Custom size</source>
-        <translation>Andere Größe</translation>
+        <translation>Eigene Größe</translation>
     </message>
     <message id="IDD_WIDTH">
         <source>Width</source>
@@ -189,18 +189,18 @@
     </message>
     <message id="IDD_FORCE_FPS">
         <source>Custom frame rate</source>
-        <translation>Andere Bildrate</translation>
+        <translation>Eigene Bildrate</translation>
     </message>
     <message id="IDD_NOTE">
-        <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
-        <translation>Entscheidend ist die beim Aufnehmen gemessene Bildrate. Sie kann unter der gewählten liegen.</translation>
+        <source>When the computer is busy, a recording can have fewer frames per second than chosen.</source>
+        <translation>Ist der Computer ausgelastet, kann die Aufnahme weniger Bilder pro Sekunde haben als gewählt.</translation>
     </message>
     <message id="IDD_GENERATE_GIF">
         <source>Generate GIF</source>
         <translation>GIF erzeugen</translation>
     </message>
     <message id="IDD_LOW_FRAME_NUMBER">
-        <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
+        <source>The selected range has too few frames. Select at least three on the “Cut” tab.</source>
         <translation>Der gewählte Abschnitt enthält zu wenige Bilder. Wählen Sie unter „Schneiden“ mindestens drei aus.</translation>
     </message>
     <message id="IDD_INVALID_DIMENSION">
@@ -218,7 +218,7 @@
     <!-- app -->
     <message id="IDD_MENU_TAB">
         <source>Tab</source>
-        <translation>Reiter</translation>
+        <translation>Ansicht</translation>
     </message>
     <message id="IDD_MENU_ACTION">
         <source>Action</source>
@@ -270,11 +270,11 @@
     </message>
     <message id="IDD_KEYS_GRANTED">
         <source>Shortcuts in any window, with %1: %2</source>
-        <translation>In jedem Fenster, mit %1: %2</translation>
+        <translation>Tastenkürzel überall, mit %1: %2</translation>
     </message>
     <message id="IDD_KEYS_BOUND">
         <source>Shortcuts in any window: %1</source>
-        <translation>In jedem Fenster: %1</translation>
+        <translation>Tastenkürzel überall: %1</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
         <source>Used by another program, with %1: %2</source>
@@ -355,7 +355,7 @@
         <translation>Tovarel geht während der Aufnahme aus dem Bild.</translation>
     </message>
     <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
-        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
+        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and “Stop” saves it.</source>
         <translation>Alles Sichtbare wird aufgenommen, deshalb wird dieses Fenster vorher minimiert. Zum Beenden holen Sie es mit einem Klick im Dock oder durch erneutes Starten von Tovarel zurück: Die Aufnahme pausiert, und „Stopp“ speichert sie.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -375,7 +375,7 @@
         <translation>Pausiert</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
-        <source>Paused – press %1 to continue</source>
+        <source>Paused – press “%1” to continue</source>
         <translation>Pausiert – weiter mit „%1“</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
@@ -415,7 +415,7 @@
         <translation>Gedrückte Tastenkürzel werden gezeigt</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Memory is running out (%1 left). Stop saves the recording.</source>
+        <source>Memory is low (%1 left). “Stop” saves the recording.</source>
         <translation>Arbeitsspeicher fast voll (%1 frei). Mit „Stopp“ speichern.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
@@ -454,10 +454,10 @@
         <translation>Eine frühere Aufnahme ist noch vorhanden.</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the “Cut” tab or delete it.</source>
         <translation>
-            <numerusform>Die Aufnahme vom %1 ist vollständig: %Ln Bild, %2&#xa0;s. Sie können sie im Reiter „Schneiden“ öffnen oder löschen.</numerusform>
-            <numerusform>Die Aufnahme vom %1 ist vollständig: %Ln Bilder, %2&#xa0;s. Sie können sie im Reiter „Schneiden“ öffnen oder löschen.</numerusform>
+            <numerusform>Die Aufnahme vom %1 ist vollständig: %Ln Bild, %2&#xa0;s. Sie können sie unter „Schneiden“ öffnen oder löschen.</numerusform>
+            <numerusform>Die Aufnahme vom %1 ist vollständig: %Ln Bilder, %2&#xa0;s. Sie können sie unter „Schneiden“ öffnen oder löschen.</numerusform>
         </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
@@ -542,12 +542,12 @@
         <translation>So wählen Sie einen Bereich</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press “Use Region”. Drag inside the rectangle to move it, or outside to draw a new one.</source>
         <translation>Auf dem Bildschirm erscheint ein Rechteck mit fünf Quadraten. Ziehen Sie die grünen, bis es umrahmt, was Sie aufnehmen möchten, und klicken Sie dann auf das rote oder auf „Bereich verwenden“. Ziehen innerhalb des Rechtecks verschiebt es, Ziehen außerhalb zeichnet ein neues.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_WINDOW">
-        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
-        <translation>Für ein einzelnes Fenster drücken Sie „Fenster wählen“, oder halten Sie W gedrückt, und klicken Sie es an.</translation>
+        <source>To record a single window, press “Pick a Window” or hold W, then click the window.</source>
+        <translation>Für ein einzelnes Fenster drücken Sie „Fenster wählen“ oder halten Sie W gedrückt und klicken Sie es an.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -563,7 +563,7 @@
     </message>
     <message id="IDD_REGION_HOW_TO_KEYS">
         <source>With the keyboard: the arrow keys move a corner (faster with Shift), Tab selects the next one, Enter accepts, Esc cancels.</source>
-        <translation>Mit der Tastatur: Die Pfeiltasten verschieben eine Ecke (mit Umschalt schneller), Tab wählt die nächste, Eingabe bestätigt, Esc bricht ab.</translation>
+        <translation>Mit der Tastatur: Die Pfeiltasten verschieben eine Ecke (mit Umschalt schneller), Tab wählt die nächste, die Eingabetaste bestätigt, Esc bricht ab.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_AGAIN">
         <source>Don’t show this again</source>
@@ -1053,7 +1053,7 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Qualität</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: “Best” keeps colors as exact as possible, “Small” gives the smallest file, “Classic” uses ffmpeg</source>
         <translation>Qualität des GIF: „Beste“ erhält die Farben so genau wie möglich, „Klein“ ergibt die kleinste Datei, „Klassisch“ verwendet ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -1081,7 +1081,7 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>GIF: auf 50&#xa0;fps verringert</translation>
     </message>
     <message id="IDD_FIT_UNDER">
-        <source>Fit under</source>
+        <source>Max. file size</source>
         <translation>Max. Dateigröße</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
@@ -1208,7 +1208,7 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Einmal</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Enter a number from 0 to %1 for Repeat.</source>
+        <source>Enter a number from 0 to %1 for “Repeat”.</source>
         <translation>Geben Sie bei „Wiederholung“ eine Zahl von 0 bis %1 ein.</translation>
     </message>
     <message id="IDD_HOLD">
@@ -1256,10 +1256,10 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Die Höhe darf höchstens %1 Pixel betragen.</translation>
     </message>
     <message id="IDD_GIF_SUMMARY" numerus="yes">
-        <source>%Ln frames, %1&#xa0;s at %2&#xa0;fps</source>
+        <source>%Ln frames, %1&#xa0;s at&#xa0;%2&#xa0;fps</source>
         <translation>
-            <numerusform>%Ln Bild, %1&#xa0;s bei %2&#xa0;fps</numerusform>
-            <numerusform>%Ln Bilder, %1&#xa0;s bei %2&#xa0;fps</numerusform>
+            <numerusform>%Ln Bild, %1&#xa0;s bei&#xa0;%2&#xa0;fps</numerusform>
+            <numerusform>%Ln Bilder, %1&#xa0;s bei&#xa0;%2&#xa0;fps</numerusform>
         </translation>
     </message>
     <message id="IDD_GIF_WEBP_SUMMARY">

@@ -72,12 +72,12 @@
         </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
-        <source>The recording begins in a moment. Esc or Stop cancels it.</source>
-        <translation>The recording begins in a moment. Esc or Stop cancels it.</translation>
+        <source>The recording begins in a moment. Esc or “Stop” cancels it.</source>
+        <translation>The recording begins in a moment. Esc or “Stop” cancels it.</translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS_KEY">
-        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
-        <translation>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</translation>
+        <source>The recording begins in a moment. Esc, “Stop” or, in any window, %1 cancels it.</source>
+        <translation>The recording begins in a moment. Esc, “Stop” or, in any window, %1 cancels it.</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
         <source>The countdown was canceled.</source>
@@ -160,8 +160,8 @@
         <translation>Choose the size, the frame rate and the speed, then generate the GIF.</translation>
     </message>
     <message id="IDD_RECORD_FIRST">
-        <source>There is no recording yet. Make one on the Record tab.</source>
-        <translation>There is no recording yet. Make one on the Record tab.</translation>
+        <source>There is no recording yet. Make one on the “Record” tab.</source>
+        <translation>There is no recording yet. Make one on the “Record” tab.</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
         <source>Same size as the recording</source>
@@ -192,16 +192,16 @@
         <translation>Custom frame rate</translation>
     </message>
     <message id="IDD_NOTE">
-        <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
-        <translation>The rate measured while recording is the one that counts; it may be lower than the one you chose.</translation>
+        <source>When the computer is busy, a recording can have fewer frames per second than chosen.</source>
+        <translation>When the computer is busy, a recording can have fewer frames per second than chosen.</translation>
     </message>
     <message id="IDD_GENERATE_GIF">
         <source>Generate GIF</source>
         <translation>Generate GIF</translation>
     </message>
     <message id="IDD_LOW_FRAME_NUMBER">
-        <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
-        <translation>The selected range has too few frames. Select at least three on the Cut tab.</translation>
+        <source>The selected range has too few frames. Select at least three on the “Cut” tab.</source>
+        <translation>The selected range has too few frames. Select at least three on the “Cut” tab.</translation>
     </message>
     <message id="IDD_INVALID_DIMENSION">
         <source>Width and height must be whole numbers greater than 0.</source>
@@ -355,8 +355,8 @@
         <translation>Tovarel gets out of the way while it records.</translation>
     </message>
     <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
-        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
-        <translation>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</translation>
+        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and “Stop” saves it.</source>
+        <translation>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and “Stop” saves it.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
         <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
@@ -375,8 +375,8 @@
         <translation>Paused</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
-        <source>Paused – press %1 to continue</source>
-        <translation>Paused – press %1 to continue</translation>
+        <source>Paused – press “%1” to continue</source>
+        <translation>Paused – press “%1” to continue</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
         <source>%1 · Frames: %2 · %3&#xa0;fps</source>
@@ -415,8 +415,8 @@
         <translation>Shortcuts that you press are shown</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Memory is running out (%1 left). Stop saves the recording.</source>
-        <translation>Memory is running out (%1 left). Stop saves the recording.</translation>
+        <source>Memory is low (%1 left). “Stop” saves the recording.</source>
+        <translation>Memory is low (%1 left). “Stop” saves the recording.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
@@ -454,10 +454,10 @@
         <translation>An earlier recording is still there.</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the “Cut” tab or delete it.</source>
         <translation>
-            <numerusform>The recording of %1 is complete: %Ln frame, %2&#xa0;s. You can open it on the Cut tab or delete it.</numerusform>
-            <numerusform>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</numerusform>
+            <numerusform>The recording of %1 is complete: %Ln frame, %2&#xa0;s. You can open it on the “Cut” tab or delete it.</numerusform>
+            <numerusform>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the “Cut” tab or delete it.</numerusform>
         </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
@@ -542,12 +542,12 @@
         <translation>How to Select a Region</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
-        <translation>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</translation>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press “Use Region”. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <translation>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press “Use Region”. Drag inside the rectangle to move it, or outside to draw a new one.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_WINDOW">
-        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
-        <translation>To record a single window, press Pick a Window, or hold W, and click it.</translation>
+        <source>To record a single window, press “Pick a Window” or hold W, then click the window.</source>
+        <translation>To record a single window, press “Pick a Window” or hold W, then click the window.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -1053,8 +1053,8 @@ It is still at %3.</translation>
         <translation>Quality</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
-        <translation>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</translation>
+        <source>Quality of the GIF: “Best” keeps colors as exact as possible, “Small” gives the smallest file, “Classic” uses ffmpeg</source>
+        <translation>Quality of the GIF: “Best” keeps colors as exact as possible, “Small” gives the smallest file, “Classic” uses ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
         <source>Best</source>
@@ -1081,8 +1081,8 @@ It is still at %3.</translation>
         <translation>GIF: reduced to 50&#xa0;fps</translation>
     </message>
     <message id="IDD_FIT_UNDER">
-        <source>Fit under</source>
-        <translation>Fit under</translation>
+        <source>Max. file size</source>
+        <translation>Max. file size</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
         <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
@@ -1208,8 +1208,8 @@ It is still at %3.</translation>
         <translation>Once</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Enter a number from 0 to %1 for Repeat.</source>
-        <translation>Enter a number from 0 to %1 for Repeat.</translation>
+        <source>Enter a number from 0 to %1 for “Repeat”.</source>
+        <translation>Enter a number from 0 to %1 for “Repeat”.</translation>
     </message>
     <message id="IDD_HOLD">
         <source>Hold last frame</source>
@@ -1256,10 +1256,10 @@ It is still at %3.</translation>
         <translation>The height can be %1 pixels at most.</translation>
     </message>
     <message id="IDD_GIF_SUMMARY" numerus="yes">
-        <source>%Ln frames, %1&#xa0;s at %2&#xa0;fps</source>
+        <source>%Ln frames, %1&#xa0;s at&#xa0;%2&#xa0;fps</source>
         <translation>
-            <numerusform>%Ln frame, %1&#xa0;s at %2&#xa0;fps</numerusform>
-            <numerusform>%Ln frames, %1&#xa0;s at %2&#xa0;fps</numerusform>
+            <numerusform>%Ln frame, %1&#xa0;s at&#xa0;%2&#xa0;fps</numerusform>
+            <numerusform>%Ln frames, %1&#xa0;s at&#xa0;%2&#xa0;fps</numerusform>
         </translation>
     </message>
     <message id="IDD_GIF_WEBP_SUMMARY">

@@ -72,11 +72,11 @@
         </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
-        <source>The recording begins in a moment. Esc or Stop cancels it.</source>
+        <source>The recording begins in a moment. Esc or “Stop” cancels it.</source>
         <translation>La grabación está a punto de empezar. Esc o «Detener» la cancela.</translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS_KEY">
-        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
+        <source>The recording begins in a moment. Esc, “Stop” or, in any window, %1 cancels it.</source>
         <translation>La grabación empieza enseguida. Esc, «Detener» o, en cualquier ventana, %1 la cancela.</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
@@ -105,7 +105,7 @@
     </message>
     <message id="IDD_CUT">
         <source>Cut</source>
-        <translation>Recortar</translation>
+        <translation>Cortar</translation>
     </message>
     <message id="IDD_SAVE">
         <source>GIF</source>
@@ -160,7 +160,7 @@
         <translation>Elija el tamaño, la frecuencia de fotogramas y la velocidad, y luego cree el GIF.</translation>
     </message>
     <message id="IDD_RECORD_FIRST">
-        <source>There is no recording yet. Make one on the Record tab.</source>
+        <source>There is no recording yet. Make one on the “Record” tab.</source>
         <translation>Aún no hay ninguna grabación. Grabe primero algo en la pestaña «Grabar».</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
@@ -192,16 +192,16 @@
         <translation>Otra frecuencia</translation>
     </message>
     <message id="IDD_NOTE">
-        <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
-        <translation>La frecuencia que cuenta es la medida durante la grabación; puede ser menor que la elegida.</translation>
+        <source>When the computer is busy, a recording can have fewer frames per second than chosen.</source>
+        <translation>Si el equipo está muy ocupado, la grabación puede tener menos fotogramas por segundo de los elegidos.</translation>
     </message>
     <message id="IDD_GENERATE_GIF">
         <source>Generate GIF</source>
         <translation>Crear GIF</translation>
     </message>
     <message id="IDD_LOW_FRAME_NUMBER">
-        <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
-        <translation>El intervalo elegido no tiene suficientes fotogramas. Elija al menos tres en la pestaña «Recortar».</translation>
+        <source>The selected range has too few frames. Select at least three on the “Cut” tab.</source>
+        <translation>El intervalo elegido no tiene suficientes fotogramas. Elija al menos tres en la pestaña «Cortar».</translation>
     </message>
     <message id="IDD_INVALID_DIMENSION">
         <source>Width and height must be whole numbers greater than 0.</source>
@@ -270,11 +270,11 @@
     </message>
     <message id="IDD_KEYS_GRANTED">
         <source>Shortcuts in any window, with %1: %2</source>
-        <translation>Desde cualquier ventana, con %1: %2</translation>
+        <translation>Atajos en cualquier ventana, con %1: %2</translation>
     </message>
     <message id="IDD_KEYS_BOUND">
         <source>Shortcuts in any window: %1</source>
-        <translation>Desde cualquier ventana: %1</translation>
+        <translation>Atajos en cualquier ventana: %1</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
         <source>Used by another program, with %1: %2</source>
@@ -355,7 +355,7 @@
         <translation>Tovarel se aparta mientras graba.</translation>
     </message>
     <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
-        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
+        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and “Stop” saves it.</source>
         <translation>Se graba todo lo visible, por lo que esta ventana se minimiza antes. Para detener la grabación, recupere la ventana con un clic en el dock o iniciando Tovarel de nuevo: la grabación queda en pausa y «Detener» la guarda.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -375,7 +375,7 @@
         <translation>En pausa</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
-        <source>Paused – press %1 to continue</source>
+        <source>Paused – press “%1” to continue</source>
         <translation>En pausa: «%1» para continuar</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
@@ -415,7 +415,7 @@
         <translation>Se muestran los atajos de teclado</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Memory is running out (%1 left). Stop saves the recording.</source>
+        <source>Memory is low (%1 left). “Stop” saves the recording.</source>
         <translation>Queda poca memoria (%1). «Detener» guarda todo.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
@@ -454,10 +454,10 @@
         <translation>Aún existe una grabación anterior.</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the “Cut” tab or delete it.</source>
         <translation>
-            <numerusform>La grabación del %1 está completa: %Ln fotograma, %2&#xa0;s. Puede abrirla en la pestaña «Recortar» o eliminarla.</numerusform>
-            <numerusform>La grabación del %1 está completa: %Ln fotogramas, %2&#xa0;s. Puede abrirla en la pestaña «Recortar» o eliminarla.</numerusform>
+            <numerusform>La grabación del %1 está completa: %Ln fotograma, %2&#xa0;s. Puede abrirla en la pestaña «Cortar» o eliminarla.</numerusform>
+            <numerusform>La grabación del %1 está completa: %Ln fotogramas, %2&#xa0;s. Puede abrirla en la pestaña «Cortar» o eliminarla.</numerusform>
         </translation>
     </message>
     <message id="IDD_RECOVER_OPEN">
@@ -542,12 +542,12 @@
         <translation>Cómo elegir una zona</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press “Use Region”. Drag inside the rectangle to move it, or outside to draw a new one.</source>
         <translation>En la pantalla aparece un rectángulo con cinco cuadrados. Arrastre los verdes hasta enmarcar lo que quiere grabar y haga clic en el rojo o en «Usar la zona». Arrastre dentro del rectángulo para moverlo o fuera de él para dibujar uno nuevo.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_WINDOW">
-        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
-        <translation>Para grabar una sola ventana, pulse «Elegir una ventana», o mantenga pulsada W, y haga clic en ella.</translation>
+        <source>To record a single window, press “Pick a Window” or hold W, then click the window.</source>
+        <translation>Para grabar una sola ventana, pulse «Elegir una ventana» o mantenga pulsada la tecla W y haga clic en la ventana.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -1053,7 +1053,7 @@ Sigue en %3.</translation>
         <translation>Calidad</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: “Best” keeps colors as exact as possible, “Small” gives the smallest file, “Classic” uses ffmpeg</source>
         <translation>Calidad del GIF: «Óptima» conserva los colores con la mayor exactitud posible, «Compacta» da el archivo más pequeño, «Clásica» usa ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -1081,7 +1081,7 @@ Sigue en %3.</translation>
         <translation>GIF: se reduce a 50&#xa0;fps</translation>
     </message>
     <message id="IDD_FIT_UNDER">
-        <source>Fit under</source>
+        <source>Max. file size</source>
         <translation>Tamaño máx. del archivo</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
@@ -1208,12 +1208,12 @@ Sigue en %3.</translation>
         <translation>Una vez</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Enter a number from 0 to %1 for Repeat.</source>
+        <source>Enter a number from 0 to %1 for “Repeat”.</source>
         <translation>Escriba en «Repetición» un número del 0 al %1.</translation>
     </message>
     <message id="IDD_HOLD">
         <source>Hold last frame</source>
-        <translation>Mantener el último fotograma</translation>
+        <translation>Pausa final</translation>
     </message>
     <message id="IDD_HOLD_SECONDS">
         <source>%1&#xa0;s</source>
@@ -1256,10 +1256,10 @@ Sigue en %3.</translation>
         <translation>El alto puede ser de %1 píxeles como máximo.</translation>
     </message>
     <message id="IDD_GIF_SUMMARY" numerus="yes">
-        <source>%Ln frames, %1&#xa0;s at %2&#xa0;fps</source>
+        <source>%Ln frames, %1&#xa0;s at&#xa0;%2&#xa0;fps</source>
         <translation>
-            <numerusform>%Ln fotograma, %1&#xa0;s a %2&#xa0;fps</numerusform>
-            <numerusform>%Ln fotogramas, %1&#xa0;s a %2&#xa0;fps</numerusform>
+            <numerusform>%Ln fotograma, %1&#xa0;s a&#xa0;%2&#xa0;fps</numerusform>
+            <numerusform>%Ln fotogramas, %1&#xa0;s a&#xa0;%2&#xa0;fps</numerusform>
         </translation>
     </message>
     <message id="IDD_GIF_WEBP_SUMMARY">

@@ -72,11 +72,11 @@
         </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
-        <source>The recording begins in a moment. Esc or Stop cancels it.</source>
+        <source>The recording begins in a moment. Esc or “Stop” cancels it.</source>
         <translation>L’enregistrement va commencer. Échap ou «&#xa0;Arrêter&#xa0;» l’annule.</translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS_KEY">
-        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
+        <source>The recording begins in a moment. Esc, “Stop” or, in any window, %1 cancels it.</source>
         <translation>L’enregistrement va commencer. Échap, «&#xa0;Arrêter&#xa0;» ou, depuis toute fenêtre, %1 l’annule.</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
@@ -160,7 +160,7 @@
         <translation>Choisissez la taille, la fréquence d’images et la vitesse, puis créez le GIF.</translation>
     </message>
     <message id="IDD_RECORD_FIRST">
-        <source>There is no recording yet. Make one on the Record tab.</source>
+        <source>There is no recording yet. Make one on the “Record” tab.</source>
         <translation>Il n’y a pas encore d’enregistrement. Enregistrez d’abord quelque chose dans l’onglet «&#xa0;Enregistrer&#xa0;».</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
@@ -169,7 +169,7 @@
     </message>
     <message id="IDD_RESOLUTION_CUSTOM">
         <source>Custom size</source>
-        <translation>Taille au choix</translation>
+        <translation>Taille personnalisée</translation>
     </message>
     <message id="IDD_WIDTH">
         <source>Width</source>
@@ -189,18 +189,18 @@
     </message>
     <message id="IDD_FORCE_FPS">
         <source>Custom frame rate</source>
-        <translation>Fréquence au choix</translation>
+        <translation>Fréquence personnalisée</translation>
     </message>
     <message id="IDD_NOTE">
-        <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
-        <translation>C’est la fréquence mesurée pendant l’enregistrement qui compte&#x202f;; elle peut être inférieure à celle que vous avez choisie.</translation>
+        <source>When the computer is busy, a recording can have fewer frames per second than chosen.</source>
+        <translation>Si l’ordinateur est très sollicité, l’enregistrement peut compter moins d’images par seconde que prévu.</translation>
     </message>
     <message id="IDD_GENERATE_GIF">
         <source>Generate GIF</source>
         <translation>Créer le GIF</translation>
     </message>
     <message id="IDD_LOW_FRAME_NUMBER">
-        <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
+        <source>The selected range has too few frames. Select at least three on the “Cut” tab.</source>
         <translation>La plage choisie contient trop peu d’images. Choisissez-en au moins trois dans l’onglet «&#xa0;Couper&#xa0;».</translation>
     </message>
     <message id="IDD_INVALID_DIMENSION">
@@ -270,11 +270,11 @@
     </message>
     <message id="IDD_KEYS_GRANTED">
         <source>Shortcuts in any window, with %1: %2</source>
-        <translation>Depuis toute fenêtre, avec %1&#xa0;: %2</translation>
+        <translation>Raccourcis partout, avec %1&#xa0;: %2</translation>
     </message>
     <message id="IDD_KEYS_BOUND">
         <source>Shortcuts in any window: %1</source>
-        <translation>Depuis toute fenêtre&#xa0;: %1</translation>
+        <translation>Raccourcis partout&#xa0;: %1</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
         <source>Used by another program, with %1: %2</source>
@@ -355,7 +355,7 @@
         <translation>Tovarel s’efface pendant l’enregistrement.</translation>
     </message>
     <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
-        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
+        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and “Stop” saves it.</source>
         <translation>Tout ce qui est visible est enregistré&#xa0;: cette fenêtre est donc d’abord réduite. Pour arrêter, rappelez-la d’un clic dans le dock ou en lançant de nouveau Tovarel&#xa0;: l’enregistrement se met en pause, et «&#xa0;Arrêter&#xa0;» le sauvegarde.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -375,7 +375,7 @@
         <translation>En pause</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
-        <source>Paused – press %1 to continue</source>
+        <source>Paused – press “%1” to continue</source>
         <translation>En pause – «&#xa0;%1&#xa0;» pour continuer</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
@@ -415,7 +415,7 @@
         <translation>Les raccourcis clavier sont montrés</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Memory is running out (%1 left). Stop saves the recording.</source>
+        <source>Memory is low (%1 left). “Stop” saves the recording.</source>
         <translation>Plus que %1 de mémoire&#xa0;: «&#xa0;Arrêter&#xa0;» sauvegarde</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
@@ -454,7 +454,7 @@
         <translation>Un enregistrement précédent existe toujours.</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the “Cut” tab or delete it.</source>
         <translation>
             <numerusform>L’enregistrement du %1 est complet&#xa0;: %Ln image, %2&#xa0;s. Vous pouvez l’ouvrir dans l’onglet «&#xa0;Couper&#xa0;» ou le supprimer.</numerusform>
             <numerusform>L’enregistrement du %1 est complet&#xa0;: %Ln images, %2&#xa0;s. Vous pouvez l’ouvrir dans l’onglet «&#xa0;Couper&#xa0;» ou le supprimer.</numerusform>
@@ -542,12 +542,12 @@
         <translation>Comment choisir une zone</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press “Use Region”. Drag inside the rectangle to move it, or outside to draw a new one.</source>
         <translation>Un rectangle muni de cinq carrés apparaît à l’écran. Faites glisser les carrés verts jusqu’à encadrer ce que vous voulez enregistrer, puis cliquez sur le carré rouge ou sur «&#xa0;Utiliser la zone&#xa0;». Faites glisser l’intérieur du rectangle pour le déplacer, ou l’extérieur pour en tracer un nouveau.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_WINDOW">
-        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
-        <translation>Pour une seule fenêtre, cliquez sur «&#xa0;Choisir une fenêtre&#xa0;», ou maintenez W, puis cliquez dessus.</translation>
+        <source>To record a single window, press “Pick a Window” or hold W, then click the window.</source>
+        <translation>Pour une seule fenêtre, cliquez sur «&#xa0;Choisir une fenêtre&#xa0;» ou maintenez la touche W, puis cliquez sur la fenêtre.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -980,7 +980,7 @@ Il reste à l’emplacement %3.</translation>
     </message>
     <message id="IDD_FILE_DRAG">
         <source>Drag it into another program</source>
-        <translation>Glisser vers un autre programme</translation>
+        <translation>Faites-le glisser vers un autre programme</translation>
     </message>
     <message id="IDD_FILE_COPY">
         <source>Copy</source>
@@ -1053,7 +1053,7 @@ Il reste à l’emplacement %3.</translation>
         <translation>Qualité</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: “Best” keeps colors as exact as possible, “Small” gives the smallest file, “Classic” uses ffmpeg</source>
         <translation>Qualité du GIF&#xa0;: «&#xa0;Optimale&#xa0;» garde les couleurs aussi exactes que possible, «&#xa0;Compacte&#xa0;» donne le plus petit fichier, «&#xa0;Classique&#xa0;» utilise ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -1081,7 +1081,7 @@ Il reste à l’emplacement %3.</translation>
         <translation>GIF&#xa0;: réduit à 50&#xa0;i/s</translation>
     </message>
     <message id="IDD_FIT_UNDER">
-        <source>Fit under</source>
+        <source>Max. file size</source>
         <translation>Taille max. du fichier</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
@@ -1208,12 +1208,12 @@ Il reste à l’emplacement %3.</translation>
         <translation>Une fois</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Enter a number from 0 to %1 for Repeat.</source>
+        <source>Enter a number from 0 to %1 for “Repeat”.</source>
         <translation>Saisissez pour «&#xa0;Répétition&#xa0;» un nombre de 0 à %1.</translation>
     </message>
     <message id="IDD_HOLD">
         <source>Hold last frame</source>
-        <translation>Maintien de la dernière image</translation>
+        <translation>Image fixe à la fin</translation>
     </message>
     <message id="IDD_HOLD_SECONDS">
         <source>%1&#xa0;s</source>
@@ -1256,10 +1256,10 @@ Il reste à l’emplacement %3.</translation>
         <translation>La hauteur peut être de %1 pixels au plus.</translation>
     </message>
     <message id="IDD_GIF_SUMMARY" numerus="yes">
-        <source>%Ln frames, %1&#xa0;s at %2&#xa0;fps</source>
+        <source>%Ln frames, %1&#xa0;s at&#xa0;%2&#xa0;fps</source>
         <translation>
-            <numerusform>%Ln image, %1&#xa0;s à %2&#xa0;i/s</numerusform>
-            <numerusform>%Ln images, %1&#xa0;s à %2&#xa0;i/s</numerusform>
+            <numerusform>%Ln image, %1&#xa0;s à&#xa0;%2&#xa0;i/s</numerusform>
+            <numerusform>%Ln images, %1&#xa0;s à&#xa0;%2&#xa0;i/s</numerusform>
         </translation>
     </message>
     <message id="IDD_GIF_WEBP_SUMMARY">

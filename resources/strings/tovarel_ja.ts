@@ -70,12 +70,12 @@
         </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
-        <source>The recording begins in a moment. Esc or Stop cancels it.</source>
-        <translation>まもなく録画が始まります。Esc または「停止」でキャンセルします。</translation>
+        <source>The recording begins in a moment. Esc or “Stop” cancels it.</source>
+        <translation>まもなく録画が始まります。Esc または「停止」でキャンセルできます。</translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS_KEY">
-        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
-        <translation>まもなく録画が始まります。Esc、「停止」、またはどのウィンドウでも %1 でキャンセルします。</translation>
+        <source>The recording begins in a moment. Esc, “Stop” or, in any window, %1 cancels it.</source>
+        <translation>まもなく録画が始まります。Esc、「停止」、またはどのウィンドウでも %1 でキャンセルできます。</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
         <source>The countdown was canceled.</source>
@@ -135,7 +135,7 @@
     </message>
     <message id="IDD_PICK_WINDOW_TIP">
         <source>Then click a window, or hold W</source>
-        <translation>続けてウィンドウをクリック（または W を押したまま）</translation>
+        <translation>続けてウィンドウをクリック（または W キーを押したまま）</translation>
     </message>
     <message id="IDD_PICK_WINDOW_HINT">
         <source>Click the window to record. Esc goes back to the region.</source>
@@ -143,7 +143,7 @@
     </message>
     <message id="IDD_REGION_KEYS">
         <source>Enter uses the region, Esc cancels.</source>
-        <translation>Enter で範囲を使用、Esc でキャンセルします。</translation>
+        <translation>Enter で範囲を使用、Esc でキャンセルできます。</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>
@@ -158,7 +158,7 @@
         <translation>サイズ、フレームレート、速度を選んで、GIF を作成します。</translation>
     </message>
     <message id="IDD_RECORD_FIRST">
-        <source>There is no recording yet. Make one on the Record tab.</source>
+        <source>There is no recording yet. Make one on the “Record” tab.</source>
         <translation>録画はまだありません。まず「録画」タブで録画してください。</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
@@ -190,15 +190,15 @@
         <translation>フレームレートを指定</translation>
     </message>
     <message id="IDD_NOTE">
-        <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
-        <translation>実際に使われるのは録画中に測定されたフレームレートです。指定した値より低くなることがあります。</translation>
+        <source>When the computer is busy, a recording can have fewer frames per second than chosen.</source>
+        <translation>PC の負荷が高いと、録画のフレームレートが指定した値より低くなることがあります。</translation>
     </message>
     <message id="IDD_GENERATE_GIF">
         <source>Generate GIF</source>
         <translation>GIF を作成</translation>
     </message>
     <message id="IDD_LOW_FRAME_NUMBER">
-        <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
+        <source>The selected range has too few frames. Select at least three on the “Cut” tab.</source>
         <translation>選択した区間のフレームが足りません。「カット」タブで 3 フレーム以上を選択してください。</translation>
     </message>
     <message id="IDD_INVALID_DIMENSION">
@@ -268,11 +268,11 @@
     </message>
     <message id="IDD_KEYS_GRANTED">
         <source>Shortcuts in any window, with %1: %2</source>
-        <translation>どのウィンドウでも（%1 と同時押し）: %2</translation>
+        <translation>どこでも使えるショートカットキー（%1 と同時押し）: %2</translation>
     </message>
     <message id="IDD_KEYS_BOUND">
         <source>Shortcuts in any window: %1</source>
-        <translation>どのウィンドウでも: %1</translation>
+        <translation>どこでも使えるショートカットキー: %1</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
         <source>Used by another program, with %1: %2</source>
@@ -353,7 +353,7 @@
         <translation>録画中、Tovarel のウィンドウは最小化されます。</translation>
     </message>
     <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
-        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
+        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and “Stop” saves it.</source>
         <translation>表示されているものはすべて録画されるため、このウィンドウは先に最小化されます。終了するには、ドックをクリックするか Tovarel をもう一度起動してウィンドウを戻してください。録画は一時停止し、「停止」で保存されます。</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -373,7 +373,7 @@
         <translation>一時停止中</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
-        <source>Paused – press %1 to continue</source>
+        <source>Paused – press “%1” to continue</source>
         <translation>一時停止中（「%1」で再開）</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
@@ -413,7 +413,7 @@
         <translation>ショートカットキーを表示中</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Memory is running out (%1 left). Stop saves the recording.</source>
+        <source>Memory is low (%1 left). “Stop” saves the recording.</source>
         <translation>メモリが残り少なくなりました（残り %1）。「停止」で録画を保存します。</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
@@ -451,7 +451,7 @@
         <translation>以前の録画が残っています。</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the “Cut” tab or delete it.</source>
         <translation>
             <numerusform>%1 の録画はすべて残っています（%Ln フレーム、%2&#xa0;秒）。「カット」タブで開くか、削除できます。</numerusform>
         </translation>
@@ -538,12 +538,12 @@
         <translation>範囲の選び方</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press “Use Region”. Drag inside the rectangle to move it, or outside to draw a new one.</source>
         <translation>画面に 5 つの四角が付いた枠が表示されます。緑の四角をドラッグして録画したい部分を囲み、赤い四角か「この範囲を使用」をクリックしてください。枠の内側をドラッグすると移動し、外側をドラッグすると新しい枠を描けます。</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_WINDOW">
-        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
-        <translation>ウィンドウを 1 つだけ録画するには、「ウィンドウを選択」を押すか W を押したまま、そのウィンドウをクリックします。</translation>
+        <source>To record a single window, press “Pick a Window” or hold W, then click the window.</source>
+        <translation>ウィンドウを 1 つだけ録画するには、「ウィンドウを選択」を押すか、W キーを押しながら、そのウィンドウをクリックします。</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -939,7 +939,7 @@ It is still at %3.</source>
     </message>
     <message id="IDD_STATUS_SAVED">
         <source>Saved: %1 (%2).</source>
-        <translation>保存しました: %1（%2）</translation>
+        <translation>保存しました: %1（%2）。</translation>
     </message>
     <message id="IDD_STATUS_SAVED_NOTE">
         <source>Saved: %1 (%2). %3</source>
@@ -975,7 +975,7 @@ It is still at %3.</source>
     </message>
     <message id="IDD_FILE_DRAG">
         <source>Drag it into another program</source>
-        <translation>ドラッグで他のプログラムへ</translation>
+        <translation>他のプログラムへドラッグできます</translation>
     </message>
     <message id="IDD_FILE_COPY">
         <source>Copy</source>
@@ -1046,7 +1046,7 @@ It is still at %3.</source>
         <translation>画質</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: “Best” keeps colors as exact as possible, “Small” gives the smallest file, “Classic” uses ffmpeg</source>
         <translation>GIF の画質: 「最高」は色をできるだけ正確に保ち、「小サイズ」はファイルが最小になり、「クラシック」は ffmpeg を使用します</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -1074,7 +1074,7 @@ It is still at %3.</source>
         <translation>GIF は 50&#xa0;fps に間引かれます</translation>
     </message>
     <message id="IDD_FIT_UNDER">
-        <source>Fit under</source>
+        <source>Max. file size</source>
         <translation>ファイルサイズの上限</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
@@ -1200,7 +1200,7 @@ It is still at %3.</source>
         <translation>1&#xa0;回</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Enter a number from 0 to %1 for Repeat.</source>
+        <source>Enter a number from 0 to %1 for “Repeat”.</source>
         <translation>「繰り返し」には 0～%1 の数を指定してください。</translation>
     </message>
     <message id="IDD_HOLD">
@@ -1248,7 +1248,7 @@ It is still at %3.</source>
         <translation>高さは %1 ピクセルまでです。</translation>
     </message>
     <message id="IDD_GIF_SUMMARY" numerus="yes">
-        <source>%Ln frames, %1&#xa0;s at %2&#xa0;fps</source>
+        <source>%Ln frames, %1&#xa0;s at&#xa0;%2&#xa0;fps</source>
         <translation>
             <numerusform>%Ln フレーム、%1&#xa0;秒（%2&#xa0;fps）</numerusform>
         </translation>

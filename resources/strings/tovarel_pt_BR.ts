@@ -72,12 +72,12 @@
         </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
-        <source>The recording begins in a moment. Esc or Stop cancels it.</source>
-        <translation>A gravação já vai começar. Esc ou “Parar” cancela.</translation>
+        <source>The recording begins in a moment. Esc or “Stop” cancels it.</source>
+        <translation>A gravação já vai começar. Pressione Esc ou “Parar” para cancelar.</translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS_KEY">
-        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
-        <translation>A gravação já vai começar. Esc, “Parar” ou, de qualquer janela, %1 cancela.</translation>
+        <source>The recording begins in a moment. Esc, “Stop” or, in any window, %1 cancels it.</source>
+        <translation>A gravação já vai começar. Pressione Esc, “Parar” ou, em qualquer janela, %1 para cancelar.</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
         <source>The countdown was canceled.</source>
@@ -145,7 +145,7 @@
     </message>
     <message id="IDD_REGION_KEYS">
         <source>Enter uses the region, Esc cancels.</source>
-        <translation>Enter usa a área, Esc cancela.</translation>
+        <translation>Pressione Enter para usar a área ou Esc para cancelar.</translation>
     </message>
     <message id="IDD_USE_REGION">
         <source>Use Region</source>
@@ -160,7 +160,7 @@
         <translation>Escolha o tamanho, a taxa de quadros e a velocidade e depois crie o GIF.</translation>
     </message>
     <message id="IDD_RECORD_FIRST">
-        <source>There is no recording yet. Make one on the Record tab.</source>
+        <source>There is no recording yet. Make one on the “Record” tab.</source>
         <translation>Ainda não há nenhuma gravação. Grave algo primeiro na aba “Gravar”.</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
@@ -192,15 +192,15 @@
         <translation>Outra taxa</translation>
     </message>
     <message id="IDD_NOTE">
-        <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
-        <translation>O que vale é a taxa medida durante a gravação; ela pode ser menor do que a escolhida.</translation>
+        <source>When the computer is busy, a recording can have fewer frames per second than chosen.</source>
+        <translation>Se o computador estiver ocupado, a gravação pode ter menos quadros por segundo do que o escolhido.</translation>
     </message>
     <message id="IDD_GENERATE_GIF">
         <source>Generate GIF</source>
         <translation>Criar GIF</translation>
     </message>
     <message id="IDD_LOW_FRAME_NUMBER">
-        <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
+        <source>The selected range has too few frames. Select at least three on the “Cut” tab.</source>
         <translation>O trecho escolhido não tem quadros suficientes. Escolha pelo menos três na aba “Cortar”.</translation>
     </message>
     <message id="IDD_INVALID_DIMENSION">
@@ -270,11 +270,11 @@
     </message>
     <message id="IDD_KEYS_GRANTED">
         <source>Shortcuts in any window, with %1: %2</source>
-        <translation>De qualquer janela, com %1: %2</translation>
+        <translation>Atalhos em qualquer janela, com %1: %2</translation>
     </message>
     <message id="IDD_KEYS_BOUND">
         <source>Shortcuts in any window: %1</source>
-        <translation>De qualquer janela: %1</translation>
+        <translation>Atalhos em qualquer janela: %1</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
         <source>Used by another program, with %1: %2</source>
@@ -355,7 +355,7 @@
         <translation>O Tovarel sai da frente enquanto grava.</translation>
     </message>
     <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
-        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
+        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and “Stop” saves it.</source>
         <translation>Tudo o que está visível é gravado, por isso esta janela é minimizada antes. Para parar, traga-a de volta com um clique no dock ou iniciando o Tovarel de novo: a gravação entra em pausa, e “Parar” a salva.</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
@@ -375,7 +375,7 @@
         <translation>Em pausa</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
-        <source>Paused – press %1 to continue</source>
+        <source>Paused – press “%1” to continue</source>
         <translation>Em pausa – continue com “%1”</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
@@ -415,7 +415,7 @@
         <translation>Os atalhos de teclado são mostrados</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Memory is running out (%1 left). Stop saves the recording.</source>
+        <source>Memory is low (%1 left). “Stop” saves the recording.</source>
         <translation>Pouca memória (restam %1). “Parar” salva a gravação.</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
@@ -454,7 +454,7 @@
         <translation>Uma gravação anterior ainda existe.</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the “Cut” tab or delete it.</source>
         <translation>
             <numerusform>A gravação de %1 está completa: %Ln quadro, %2&#xa0;s. Você pode abri-la na aba “Cortar” ou excluí-la.</numerusform>
             <numerusform>A gravação de %1 está completa: %Ln quadros, %2&#xa0;s. Você pode abri-la na aba “Cortar” ou excluí-la.</numerusform>
@@ -542,12 +542,12 @@
         <translation>Como escolher uma área</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press “Use Region”. Drag inside the rectangle to move it, or outside to draw a new one.</source>
         <translation>Um retângulo com cinco quadrados aparece na tela. Arraste os verdes até enquadrar o que você quer gravar e clique no vermelho ou em “Usar a área”. Arraste dentro do retângulo para movê-lo ou fora dele para desenhar um novo.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_WINDOW">
-        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
-        <translation>Para gravar uma só janela, pressione “Escolher uma janela”, ou mantenha W pressionada, e clique nela.</translation>
+        <source>To record a single window, press “Pick a Window” or hold W, then click the window.</source>
+        <translation>Para gravar uma só janela, pressione “Escolher uma janela” ou mantenha a tecla W pressionada e clique na janela.</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -1053,7 +1053,7 @@ Ele continua em %3.</translation>
         <translation>Qualidade</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: “Best” keeps colors as exact as possible, “Small” gives the smallest file, “Classic” uses ffmpeg</source>
         <translation>Qualidade do GIF: “Melhor” mantém as cores o mais exatas possível, “Compacta” dá o menor arquivo, “Clássica” usa o ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -1081,7 +1081,7 @@ Ele continua em %3.</translation>
         <translation>GIF: reduzido a 50&#xa0;fps</translation>
     </message>
     <message id="IDD_FIT_UNDER">
-        <source>Fit under</source>
+        <source>Max. file size</source>
         <translation>Tamanho máx. do arquivo</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
@@ -1208,7 +1208,7 @@ Ele continua em %3.</translation>
         <translation>Uma vez</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Enter a number from 0 to %1 for Repeat.</source>
+        <source>Enter a number from 0 to %1 for “Repeat”.</source>
         <translation>Digite em “Repetição” um número de 0 a %1.</translation>
     </message>
     <message id="IDD_HOLD">
@@ -1256,10 +1256,10 @@ Ele continua em %3.</translation>
         <translation>A altura pode ser de no máximo %1 pixels.</translation>
     </message>
     <message id="IDD_GIF_SUMMARY" numerus="yes">
-        <source>%Ln frames, %1&#xa0;s at %2&#xa0;fps</source>
+        <source>%Ln frames, %1&#xa0;s at&#xa0;%2&#xa0;fps</source>
         <translation>
-            <numerusform>%Ln quadro, %1&#xa0;s a %2&#xa0;fps</numerusform>
-            <numerusform>%Ln quadros, %1&#xa0;s a %2&#xa0;fps</numerusform>
+            <numerusform>%Ln quadro, %1&#xa0;s a&#xa0;%2&#xa0;fps</numerusform>
+            <numerusform>%Ln quadros, %1&#xa0;s a&#xa0;%2&#xa0;fps</numerusform>
         </translation>
     </message>
     <message id="IDD_GIF_WEBP_SUMMARY">

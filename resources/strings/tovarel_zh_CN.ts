@@ -70,12 +70,12 @@
         </translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS">
-        <source>The recording begins in a moment. Esc or Stop cancels it.</source>
-        <translation>即将开始录制。按 Esc 键或“停止”可取消。</translation>
+        <source>The recording begins in a moment. Esc or “Stop” cancels it.</source>
+        <translation>即将开始录制。按 Esc 键或点击“停止”可取消。</translation>
     </message>
     <message id="IDD_COUNTDOWN_RUNS_KEY">
-        <source>The recording begins in a moment. Esc, Stop or, in any window, %1 cancels it.</source>
-        <translation>即将开始录制。按 Esc 键或“停止”，或在任意窗口中按 %1 可取消。</translation>
+        <source>The recording begins in a moment. Esc, “Stop” or, in any window, %1 cancels it.</source>
+        <translation>即将开始录制。按 Esc 键、点击“停止”，或在任意窗口中按 %1 可取消。</translation>
     </message>
     <message id="IDD_COUNTDOWN_CANCELLED">
         <source>The countdown was canceled.</source>
@@ -135,7 +135,7 @@
     </message>
     <message id="IDD_PICK_WINDOW_TIP">
         <source>Then click a window, or hold W</source>
-        <translation>然后点击窗口；或按住 W</translation>
+        <translation>然后点击窗口；或按住 W 键</translation>
     </message>
     <message id="IDD_PICK_WINDOW_HINT">
         <source>Click the window to record. Esc goes back to the region.</source>
@@ -158,7 +158,7 @@
         <translation>选择尺寸、帧率和速度，然后生成 GIF。</translation>
     </message>
     <message id="IDD_RECORD_FIRST">
-        <source>There is no recording yet. Make one on the Record tab.</source>
+        <source>There is no recording yet. Make one on the “Record” tab.</source>
         <translation>还没有录制内容。请先在“录制”标签页中录制。</translation>
     </message>
     <message id="IDD_RESOLUTION_EQUAL">
@@ -190,15 +190,15 @@
         <translation>自定义帧率</translation>
     </message>
     <message id="IDD_NOTE">
-        <source>The rate measured while recording is the one that counts; it may be lower than the one you chose.</source>
-        <translation>以录制时实测的帧率为准，它可能低于所选的帧率。</translation>
+        <source>When the computer is busy, a recording can have fewer frames per second than chosen.</source>
+        <translation>电脑繁忙时，录制内容的帧率可能低于所选的帧率。</translation>
     </message>
     <message id="IDD_GENERATE_GIF">
         <source>Generate GIF</source>
         <translation>生成 GIF</translation>
     </message>
     <message id="IDD_LOW_FRAME_NUMBER">
-        <source>The selected range has too few frames. Select at least three on the Cut tab.</source>
+        <source>The selected range has too few frames. Select at least three on the “Cut” tab.</source>
         <translation>所选范围内的帧太少。请在“剪辑”标签页中至少选择三帧。</translation>
     </message>
     <message id="IDD_INVALID_DIMENSION">
@@ -236,7 +236,7 @@
     </message>
     <message id="IDD_ABOUT_TEXT">
         <source>Records your screen and turns it into an animated GIF.</source>
-        <translation>录制屏幕并将其制作成动画 GIF。</translation>
+        <translation>录制屏幕并将其制作成 GIF 动图。</translation>
     </message>
     <message id="IDD_ABOUT_VERSION">
         <source>Version %1</source>
@@ -252,7 +252,7 @@
     </message>
     <message id="IDD_ABOUT_TOOL">
         <source>%1: %2</source>
-        <translation>%1：%2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message id="IDD_ABOUT_TOOL_MISSING">
         <source>not found</source>
@@ -268,11 +268,11 @@
     </message>
     <message id="IDD_KEYS_GRANTED">
         <source>Shortcuts in any window, with %1: %2</source>
-        <translation>任意窗口可用（与 %1 同时按）：%2</translation>
+        <translation>全局快捷键（与 %1 同时按）：%2</translation>
     </message>
     <message id="IDD_KEYS_BOUND">
         <source>Shortcuts in any window: %1</source>
-        <translation>任意窗口可用：%1</translation>
+        <translation>全局快捷键：%1</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
         <source>Used by another program, with %1: %2</source>
@@ -298,7 +298,7 @@
     <!-- record -->
     <message id="IDD_SAVING_RECORDING">
         <source>Saving the recording…</source>
-        <translation>正在保存录制内容…</translation>
+        <translation>正在保存录制内容……</translation>
     </message>
     <message id="IDD_REASON_NO_PORTAL">
         <source>The screen cannot be recorded: this Wayland desktop has no portal for it. Install xdg-desktop-portal with your desktop’s back end, or log in to an X11 session.</source>
@@ -318,7 +318,7 @@
     </message>
     <message id="IDD_SOURCE_WAITING">
         <source>Waiting for the first picture…</source>
-        <translation>正在等待第一个画面…</translation>
+        <translation>正在等待第一个画面……</translation>
     </message>
     <message id="IDD_SOURCE_ENDED">
         <source>The desktop has stopped sharing the screen.</source>
@@ -353,8 +353,8 @@
         <translation>录制时 Tovarel 的窗口会最小化。</translation>
     </message>
     <message id="IDD_STEP_ASIDE_HOW_TO_STOP">
-        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and Stop saves it.</source>
-        <translation>所有可见内容都会被录制，因此会先将此窗口最小化。要停止录制，请点击任务栏中的图标或再次启动 Tovarel 以恢复窗口：录制会暂停，按“停止”即可保存。</translation>
+        <source>Everything that is visible is recorded, so this window is minimized first. To stop, bring it back with a click in the dock or by starting Tovarel again: the recording pauses, and “Stop” saves it.</source>
+        <translation>所有可见内容都会被录制，因此会先将此窗口最小化。要停止录制，请点击任务栏中的图标或再次启动 Tovarel 以恢复窗口：录制会暂停，点击“停止”即可保存。</translation>
     </message>
     <message id="IDD_REASON_WAYLAND">
         <source>In a Wayland session Tovarel can record from its window only: start it without arguments, or log in to an X11 session.</source>
@@ -373,8 +373,8 @@
         <translation>已暂停</translation>
     </message>
     <message id="IDD_PAUSED_HINT">
-        <source>Paused – press %1 to continue</source>
-        <translation>已暂停（按“%1”继续）</translation>
+        <source>Paused – press “%1” to continue</source>
+        <translation>已暂停（点击“%1”继续）</translation>
     </message>
     <message id="IDD_RECORDING_FIGURES">
         <source>%1 · Frames: %2 · %3&#xa0;fps</source>
@@ -413,8 +413,8 @@
         <translation>正在显示快捷键</translation>
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
-        <source>Memory is running out (%1 left). Stop saves the recording.</source>
-        <translation>内存即将耗尽（剩余 %1）。按“停止”保存已录制的内容。</translation>
+        <source>Memory is low (%1 left). “Stop” saves the recording.</source>
+        <translation>内存即将耗尽（剩余 %1）。点击“停止”保存已录制的内容。</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>
@@ -451,7 +451,7 @@
         <translation>之前的录制内容仍然存在。</translation>
     </message>
     <message id="IDD_RECOVER_DETAIL" numerus="yes">
-        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the Cut tab or delete it.</source>
+        <source>The recording of %1 is complete: %Ln frames, %2&#xa0;s. You can open it on the “Cut” tab or delete it.</source>
         <translation>
             <numerusform>%1 的录制内容完整：%Ln 帧，%2&#xa0;秒。您可以在“剪辑”标签页中打开，也可以删除。</numerusform>
         </translation>
@@ -466,7 +466,7 @@
     </message>
     <message id="IDD_RECOVER_LOADING">
         <source>Opening the recording…</source>
-        <translation>正在打开录制内容…</translation>
+        <translation>正在打开录制内容……</translation>
     </message>
     <message id="IDD_RECOVER_FAILED">
         <source>The recording could not be opened: the file %1 is damaged.</source>
@@ -538,12 +538,12 @@
         <translation>如何选择区域</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_TEXT">
-        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press Use Region. Drag inside the rectangle to move it, or outside to draw a new one.</source>
+        <source>A rectangle with five squares appears on the screen. Drag the green squares until it frames what you want to record, then click the red one or press “Use Region”. Drag inside the rectangle to move it, or outside to draw a new one.</source>
         <translation>屏幕上会出现一个带有五个方块的矩形。拖动绿色方块框住要录制的内容，然后点击红色方块或“使用此区域”。在矩形内拖动可移动它，在矩形外拖动可绘制新的矩形。</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_WINDOW">
-        <source>To record a single window, press Pick a Window, or hold W, and click it.</source>
-        <translation>要录制单个窗口，请按“选择窗口”或按住 W，然后点击该窗口。</translation>
+        <source>To record a single window, press “Pick a Window” or hold W, then click the window.</source>
+        <translation>要录制单个窗口，请点击“选择窗口”或按住 W 键，然后点击该窗口。</translation>
     </message>
     <message id="IDD_REGION_HOW_TO_PICTURE">
         <source>A rectangle on a screen: a green square on each corner resizes it, the red square in its middle accepts it.</source>
@@ -671,11 +671,11 @@
     <!-- export -->
     <message id="IDD_PROGRESS_GIF">
         <source>Generating the GIF…</source>
-        <translation>正在生成 GIF…</translation>
+        <translation>正在生成 GIF……</translation>
     </message>
     <message id="IDD_PROGRESS_WEBP">
         <source>Generating the WebP…</source>
-        <translation>正在生成 WebP…</translation>
+        <translation>正在生成 WebP……</translation>
     </message>
     <message id="IDD_PROGRESS_PALETTE">
         <source>Step 1 of 2: choosing the colors</source>
@@ -751,7 +751,7 @@ It is still at %3.</source>
     </message>
     <message id="IDD_CLI_ABOUT">
         <source>Records the screen and makes an animated GIF, WebP or MP4 of it. Without arguments it shows its window.</source>
-        <translation>录制屏幕并制作动画 GIF、WebP 或 MP4。不带参数时显示窗口。</translation>
+        <translation>录制屏幕并制作 GIF 动图、WebP 或 MP4。不带参数时显示窗口。</translation>
     </message>
     <message id="IDD_CLI_RECORD_ABOUT">
         <source>Records without showing a window and writes the file. Say what to record with one of --region, --screen and --window.</source>
@@ -1046,7 +1046,7 @@ It is still at %3.</source>
         <translation>质量</translation>
     </message>
     <message id="IDD_QUALITY_TIP">
-        <source>Quality of the GIF: Best keeps colors as exact as possible, Small gives the smallest file, Classic uses ffmpeg</source>
+        <source>Quality of the GIF: “Best” keeps colors as exact as possible, “Small” gives the smallest file, “Classic” uses ffmpeg</source>
         <translation>GIF 的质量：“最佳”尽可能保持颜色准确，“小文件”生成最小的文件，“经典”使用 ffmpeg</translation>
     </message>
     <message id="IDD_QUALITY_BEST">
@@ -1074,7 +1074,7 @@ It is still at %3.</source>
         <translation>GIF 将减至 50&#xa0;帧/秒</translation>
     </message>
     <message id="IDD_FIT_UNDER">
-        <source>Fit under</source>
+        <source>Max. file size</source>
         <translation>文件大小上限</translation>
     </message>
     <message id="IDD_FIT_UNDER_TIP">
@@ -1155,7 +1155,7 @@ It is still at %3.</source>
     </message>
     <message id="IDD_PROGRESS_MP4">
         <source>Generating the MP4…</source>
-        <translation>正在生成 MP4…</translation>
+        <translation>正在生成 MP4……</translation>
     </message>
     <message id="IDD_MP4_PANEL">
         <source>Select a folder to save the MP4 video</source>
@@ -1200,7 +1200,7 @@ It is still at %3.</source>
         <translation>一次</translation>
     </message>
     <message id="IDD_LOOPS_REFUSED">
-        <source>Enter a number from 0 to %1 for Repeat.</source>
+        <source>Enter a number from 0 to %1 for “Repeat”.</source>
         <translation>“循环”须为 0 到 %1 之间的数字。</translation>
     </message>
     <message id="IDD_HOLD">
@@ -1248,7 +1248,7 @@ It is still at %3.</source>
         <translation>高度最多为 %1 像素。</translation>
     </message>
     <message id="IDD_GIF_SUMMARY" numerus="yes">
-        <source>%Ln frames, %1&#xa0;s at %2&#xa0;fps</source>
+        <source>%Ln frames, %1&#xa0;s at&#xa0;%2&#xa0;fps</source>
         <translation>
             <numerusform>%Ln 帧，%1&#xa0;秒，%2&#xa0;帧/秒</numerusform>
         </translation>

@@ -101,7 +101,7 @@ class Accessibility(case.Case):
         sizes, rates = (("radio button", f"Same {what} as the recording")
                         for what in ("size", "frame rate"))
         shares = self.buttons("75%", "50%")
-        rest = (("combo box", "Quality"), ("combo box", "Fit under"), ("combo box", "Speed"),
+        rest = (("combo box", "Quality"), ("combo box", "Max. file size"), ("combo box", "Speed"),
                 ("combo box", "Repeat"), ("combo box", "Hold last frame"),
                 *self.buttons("Generate GIF", "Saving Options", "Generate WebP", "Generate MP4"))
         self.check_order((BAR, "GIF"), sizes, *shares, rates, *rest)

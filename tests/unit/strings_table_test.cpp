@@ -216,7 +216,9 @@ TEST(StringsTable, marksAndUnitsStandAsTheLanguageHasThem) {
         {"es", "« | »|(?<!\u00a0)%$"},
         {"fr", "(?<!\u202f)[;!?]|(?<!\u00a0)[:»]|«(?!\u00a0)|(?<!\u202f)%$"},
         {"ja", "[()!?;]|[,.](?=[" CJK "])|[" CJK "][a-zA-Z0-9%]|[a-zA-Z0-9%][" CJK "]"},
-        {"zh-CN", "[():!?;]|[,.](?=[" CJK "])|[" CJK "][a-zA-Z0-9%]|[a-zA-Z0-9%][" CJK "]"},
+        // A colon of full width is for sentences, not between the name of a tool and its path.
+        {"zh-CN",
+         "(?<!^%1):|[()!?;]|[,.](?=[" CJK "])|[" CJK "][a-zA-Z0-9%]|[a-zA-Z0-9%][" CJK "]"},
     };
 #undef CJK
     for (const auto &[where, wrong] : rules)
