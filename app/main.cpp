@@ -8,6 +8,7 @@
 #include "platform/screen_source.h"
 #include "script/command_line.h"
 #include "script/scripted_recording.h"
+#include "shell/edged_style.h"
 #include "shell/strings_table.h"
 #include "shell/termination_notice.h"
 
@@ -180,6 +181,7 @@ int main(int argc, char **argv) {
         return EXIT_SUCCESS;
 
     strings_table::install();
+    EdgedStyle::replaceFusion();
     AppDelegate delegate(
         {.source = makeScreenSource(), .documentsFolder = parentOfWorkingFolders()});
     application.setDelegate(&delegate);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/palette_icon.h"
 
+#include "shell/contrast.h"
+
 #include <QFile>
 #include <QGuiApplication>
 #include <QIconEngine>
@@ -15,6 +17,8 @@
 
 namespace {
 
+constexpr double rimShare = 0.07; // of the side, around an accent on dark buttons
+
 class PaletteIconEngine : public QIconEngine {
 public:
     PaletteIconEngine(QByteArray drawing, const QColor &accent)
@@ -23,13 +27,16 @@ public:
     QIconEngine *clone() const override { return new PaletteIconEngine(*this); }
 
     void paint(QPainter *painter, const QRect &place, QIcon::Mode mode, QIcon::State) override {
-        QByteArray coloured = drawing_;
-        coloured.replace("currentColor", colour(mode).name(QColor::HexRgb).toLatin1());
-        QSvgRenderer renderer(coloured);
         const int side = qMin(place.width(), place.height());
-        QRect square(0, 0, side, side);
-        square.moveCenter(place.center());
-        renderer.render(painter, square);
+        QRectF square(0, 0, side, side);
+        square.moveCenter(QRectF(place).center());
+        const QColor main = colour(mode);
+        if (isOnDark(main)) {
+            draw(*painter, square, QGuiApplication::palette().color(QPalette::ButtonText));
+            const double rim = side * rimShare;
+            square.adjust(rim, rim, -rim, -rim);
+        }
+        draw(*painter, square, main);
     }
 
     /// `size` is in pixels of the screen: a drawing needs no scale beside it.
@@ -43,6 +50,19 @@ public:
     }
 
 private:
+    void draw(QPainter &painter, const QRectF &square, const QColor &colour) const {
+        QByteArray coloured = drawing_;
+        coloured.replace("currentColor", colour.name(QColor::HexRgb).toLatin1());
+        QSvgRenderer(coloured).render(&painter, square);
+    }
+
+    /// Styles make dark buttons lighter than the palette says: an accent may be lost on them.
+    bool isOnDark(const QColor &main) const {
+        const QPalette palette = QGuiApplication::palette();
+        return accent_.isValid() && main == accent_ &&
+               luminance(palette.color(QPalette::ButtonText)) > luminance(accent_);
+    }
+
     QColor colour(QIcon::Mode mode) const {
         const QPalette palette = QGuiApplication::palette();
         switch (mode) {

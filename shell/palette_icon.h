@@ -20,8 +20,8 @@ inline constexpr QColor recordRed(0xe5, 0x48, 0x4d);
 
 /// The icon drawn in the SVG file `path`: in the palette's button text, or in `accent` when that is
 /// valid, while its control is enabled, in the palette's disabled button text when it is not, and
-/// in the highlighted text on a selected menu item. A file that cannot be read gives an
-/// empty icon.
+/// in the highlighted text on a selected menu item. On dark buttons an accent has a rim in the
+/// button text. A file that cannot be read gives an empty icon.
 QIcon paletteIcon(const QString &path, const QColor &accent = {});
 
 /// The icon drawn in the SVG file `path`, in its own colours. The toolkit's icons of SVG files need

@@ -10,6 +10,7 @@
 #include "record/window_fps.h"
 #include "region/region_panel.h"
 #include "region/window_region_how_it_works.h"
+#include "shell/edged_style.h"
 #include "shell/strings_table.h"
 #include "shell/tab_view.h"
 #include "shell/window_progress.h"
@@ -63,6 +64,8 @@ QPalette palette(Look look) {
                         Qt::black, Qt::black);
         shades.setColor(QPalette::Highlight, Qt::yellow);
         shades.setColor(QPalette::HighlightedText, Qt::black);
+        for (const auto text : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+            shades.setColor(QPalette::Disabled, text, QColor(130, 130, 130));
         return shades;
     }
     QPalette shades(QColor(49, 54, 59), QColor(42, 46, 50));
@@ -284,6 +287,8 @@ int main(int argc, char **argv) {
     Application application(argc, argv);
     Application::setApplicationName(QStringLiteral("TovarelSheets"));
     Application::setOrganizationName(QStringLiteral("TovarelSheets"));
+    Application::setApplicationVersion(QStringLiteral(TOVAREL_VERSION));
+    EdgedStyle::replaceFusion();
     TestController::installTexts();
     const Chosen chosen = read(QCoreApplication::arguments());
     chosen.folder.mkpath(QStringLiteral("."));

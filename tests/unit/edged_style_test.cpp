@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Tovarel authors
+// SPDX-License-Identifier: MIT
+#include "shell/contrast.h"
+#include "shell/edged_style.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QPalette look(const QColor &window, const QColor &base, const QColor &accent) {
+    QPalette palette(window, window);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::Highlight, accent);
+    return palette;
+}
+
+class EdgedStyleIn : public testing::TestWithParam<QPalette> {
+protected:
+    QImage drawn(QWidget &control) {
+        control.setStyle(&style);
+        control.setPalette(GetParam());
+        control.resize(control.sizeHint());
+        return control.grab().toImage();
+    }
+
+    /// The best contrast with the window among the outermost pixels at half the height.
+    double edge(const QImage &picture) const {
+        const QColor window = GetParam().color(QPalette::Window);
+        double best = 1;
+        for (int x = 0; x < 3; ++x)
+            best = std::max(best, contrast(picture.pixelColor(x, picture.height() / 2), window));
+        return best;
+    }
+
+    EdgedStyle style;
+};
+
+TEST_P(EdgedStyleIn, everyControlHasAnEdgeThatIsSeen) {
+    QCheckBox box;
+    QRadioButton radio;
+    QLineEdit field;
+    QSpinBox number;
+    QComboBox list;
+    QPushButton button;
+    for (QWidget *control :
+         std::initializer_list<QWidget *>{&box, &radio, &field, &number, &list, &button})
+        EXPECT_GE(edge(drawn(*control)), leastContrast) << control->metaObject()->className();
+}
+
+TEST_P(EdgedStyleIn, aCheckedToolIsToldFromOneThatIsNot) {
+    QToolButton tool;
+    tool.setAutoRaise(true);
+    tool.setCheckable(true);
+    EXPECT_EQ(edge(drawn(tool)), 1);
+    tool.setChecked(true);
+    EXPECT_GE(edge(drawn(tool)), leastContrast);
+}
+
+TEST_P(EdgedStyleIn, disabledItemsOfMenusAreDrawnOnce) {
+    QMenu menu;
+    menu.addAction(QStringLiteral("████"))->setEnabled(false);
+    QPalette palette = GetParam();
+    palette.setColor(QPalette::Light, Qt::red);
+    menu.setStyle(&style);
+    menu.setPalette(palette);
+    menu.resize(menu.sizeHint());
+    const QImage picture = menu.grab().toImage();
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            ASSERT_NE(picture.pixelColor(x, y), QColor(Qt::red)) << x << ',' << y;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Looks, EdgedStyleIn,
+    testing::Values(look(QColor(239, 239, 239), Qt::white, QColor(48, 140, 198)),
+                    look(QColor(42, 46, 50), QColor(27, 30, 32), QColor(61, 174, 233)),
+                    look(Qt::black, Qt::black, Qt::yellow)));
+
+} // namespace
