@@ -132,8 +132,13 @@ void AppDelegate::Terminate_App() {
 
 // Tabs and menus ----------------------------------------------------------------------------------
 
-bool AppDelegate::tabViewShouldSelectTabViewItem(const QString &identifier) const {
-    return tabs::mayEnter(identifier, recording.m_RecordStatus(), trim.m_PlayStatus());
+bool AppDelegate::tabViewShouldSelectTabViewItem(const QString &identifier) {
+    const bool may = tabs::mayEnter(identifier, recording.m_RecordStatus(), trim.m_PlayStatus());
+    if (!may)
+        surroundings.showStatus(recording.m_RecordStatus() != RECORD_STATUS_STOP
+                                    ? qtTrId("IDD_TAB_NEEDS_STOP_RECORDING")
+                                    : qtTrId("IDD_TAB_NEEDS_STOP_PLAYBACK"));
+    return may;
 }
 
 void AppDelegate::tabViewDidSelectTabViewItem(const QString &identifier) {

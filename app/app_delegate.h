@@ -100,7 +100,7 @@ public:
     // Tabs and menus --------------------------------------------------------------------------
 
     /// Whether the tab with this identifier ("1" Record, "2" Cut, "3" GIF) may be entered now.
-    bool tabViewShouldSelectTabViewItem(const QString &identifier) const;
+    bool tabViewShouldSelectTabViewItem(const QString &identifier);
     /// Prepares the tab that was entered: timers, enabling, first values.
     void tabViewDidSelectTabViewItem(const QString &identifier);
     // The menus' items. Those of Tab ask for a tab, which may refuse; those of Action are the

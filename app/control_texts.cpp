@@ -40,6 +40,7 @@ void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
     ui.labelFPS->setText(texts.s_IDD_FPS());
     ui.comboGIFFPS->setAccessibleName(texts.s_IDD_FPS());
     ui.labelNote->setText(texts.s_IDD_NOTE());
+    ui.viewCutRange->setToolTip(qtTrId("IDD_STRIP_TIP"));
     ui.labelQuality->setText(qtTrId("IDD_QUALITY"));
     ui.comboGIFQuality->setAccessibleName(qtTrId("IDD_QUALITY"));
     ui.comboGIFQuality->setToolTip(qtTrId("IDD_QUALITY_TIP"));

@@ -235,9 +235,12 @@ void Controls::listenToCard() {
         refresh();
         showWaysToLastFile();
     });
+    connect(&controller_.exporter, &Exporter::copyWanted, card, &FileCard::copy);
     connect(ui_.tabStack, &QStackedWidget::currentChanged, this, &Controls::showWaysToLastFile);
     ui_.menuitemSaveWithoutAsking->setChecked(settings::readSaveWithoutAsking());
     auto *menu = new QMenu(ui_.btnGenerateMenu);
+    menu->addAction(ui_.menuitemGenerateAndCopy);
+    menu->addSeparator();
     menu->addAction(ui_.menuitemSaveWithoutAsking);
     showMenuBelow(*ui_.btnGenerateMenu, *menu);
 }

@@ -29,7 +29,8 @@ QString modifiers() {
     return QStringLiteral("Super+%1").arg(one.section(QLatin1Char('+'), 0, 0));
 }
 
-constexpr std::size_t stopPlace = 2; // among the keys
+constexpr std::size_t recordPlace = 0; // among the keys
+constexpr std::size_t stopPlace = 2;
 
 /// What all of them have in front of their last key: "Super+Ctrl"; empty if they differ in it.
 QString commonModifiers(const QStringList &triggers) {
@@ -68,11 +69,12 @@ DesktopKeys::DesktopKeys(const Ui::MainWindow &ui, Surroundings &surroundings, R
 /// What the user could press now in the window, and no more: not beneath a dialog, and no new
 /// recording while the last one is being cut.
 void DesktopKeys::press(std::size_t place) const {
-    const bool reachable = surroundings_.shell.tabviewMain()->selectedIndex() == tabs::record &&
-                           !QApplication::activeModalWidget() &&
-                           !recorder_.chooser().region.pFullScreen();
-    if (reachable)
+    if (QApplication::activeModalWidget() || recorder_.chooser().region.pFullScreen())
+        return;
+    if (surroundings_.shell.tabviewMain()->selectedIndex() == tabs::record)
         keys_[place].item->trigger();
+    else if (place == recordPlace)
+        surroundings_.showStatus(qtTrId("IDD_KEY_ON_RECORD_TAB"));
 }
 
 // A window server's -------------------------------------------------------------------------------

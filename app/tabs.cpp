@@ -37,8 +37,12 @@ void entered(const QString &identifier, AppDelegate &controller) {
     }
     if (identifier == cutTab)
         controller.trimEditor.enter();
-    if (identifier == gifTab)
+    if (identifier == gifTab) {
         controller.exportOptions->resetGIFOptions();
+        // How many frames were recorded is no news beside how many are kept.
+        if (!controller.recorder.hasMissingFrames() && !controller.exporter.hasUnsavedResult())
+            controller.surroundings.showStatus({});
+    }
     const Ui::MainWindow &ui = *controller.ui;
     ui.submenuitemRecord->setEnabled(identifier == recordTab);
     ui.submenuitemCut->setEnabled(identifier == cutTab);

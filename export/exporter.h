@@ -67,6 +67,8 @@ public:
     /// Makes the GIF of the trimmed range and lets the user choose its place; an alert says why
     /// where that cannot be done. Does nothing while an export is under way.
     void OnGIFExport();
+    /// The same, but the GIF is saved without asking, and `copyWanted` tells that it is there.
+    void generateAndCopy();
     /// Likewise the WebP.
     void Generate_WebP();
     /// Likewise the MP4.
@@ -148,13 +150,19 @@ Q_SIGNALS:
     void unsavedResultChanged();
     /// A file has been made: `lastFile`.
     void fileMade();
+    /// It has its place and is wanted on the clipboard.
+    void copyWanted();
     /// An earlier start has left one: `lastFile`.
     void fileLeft();
     /// It is somewhere else now, or gone.
     void fileMoved();
 
 private:
-    void generateGIF(bool mayLowerChosen);
+    struct GifWish {
+        bool mayLowerChosen = false; ///< Whatever fits under the limit, as the user has agreed.
+        bool copied = false;
+    };
+    void generateGIF(GifWish wish);
 
     using Frames = std::span<const frame_timing::TimedFrame>;
 

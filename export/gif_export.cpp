@@ -71,14 +71,16 @@ std::optional<QString> gifFailure(const GifFileResult &result, const GifFileJob 
     return std::nullopt;
 }
 
-void Exporter::OnGIFExport() { generateGIF(false); }
+void Exporter::OnGIFExport() { generateGIF({.mayLowerChosen = false, .copied = false}); }
 
-void Exporter::generateGIF(bool mayLowerChosen) {
+void Exporter::generateAndCopy() { generateGIF({.mayLowerChosen = false, .copied = true}); }
+
+void Exporter::generateGIF(GifWish wish) {
     if (!mayExport())
         return;
     const ExportMark mark(exporting);
     const ExportChoices wanted = choices();
-    const bool withoutAsking = mustNotAsk();
+    const bool withoutAsking = wish.copied || mustNotAsk();
     std::optional<QString> reason = refusal(wanted);
     // The other encoder judges sizes itself, and knows no limit.
     if (!reason && wanted.preset != GifPreset::Classic) {
@@ -93,7 +95,7 @@ void Exporter::generateGIF(bool mayLowerChosen) {
         surroundings_.alerts.run(AlertKind::Error, *reason);
         return;
     }
-    if (mustAskFirst([this, mayLowerChosen] { generateGIF(mayLowerChosen); }))
+    if (mustAskFirst([this, wish] { generateGIF(wish); }))
         return;
     beginExport(qtTrId("IDD_PROGRESS_GIF"));
     working_folders::removeContent(surroundings_.shell.s_Pallete_Folder());
@@ -104,20 +106,22 @@ void Exporter::generateGIF(bool mayLowerChosen) {
     if (wanted.preset == GifPreset::Classic)
         made = makeClassicGIF(frames, wanted);
     else if (wanted.limit.bytes)
-        made = makeFittingGIF(wanted, mayLowerChosen);
+        made = makeFittingGIF(wanted, wish.mayLowerChosen);
     else
         made = makeGIF(frames, wanted);
     if (endedWithoutResult(made.failure))
         return;
     if (made.needsLowering) {
-        askToLower(wanted, [this] { generateGIF(true); });
+        askToLower(wanted,
+                   [this, wish] { generateGIF({.mayLowerChosen = true, .copied = wish.copied}); });
         return;
     }
     const QString note = made.fitNote.isEmpty() ? noteAbout(made, frames.size()) : made.fitNote;
     surroundings_.showStatus(note);
     saveResult({.file = encoder_arguments::gifFile(surroundings_.shell.s_Export_Folder()),
                 .note = note,
-                .withoutAsking = withoutAsking},
+                .withoutAsking = withoutAsking,
+                .copied = wish.copied},
                frames, frame_timing::gifTicks, wanted);
 }
 

@@ -11,6 +11,8 @@ struct SaveRequest {
     QString note; ///< What the status line says beside the path and size; may be empty.
     /// It gets a preset name in the folder that was used last, and nobody is asked.
     bool withoutAsking = false;
+    /// The file goes to the clipboard once it has its place.
+    bool copied = false;
     /// When it was made: the name that is offered says so, however late it is saved.
     QDateTime made = QDateTime::currentDateTime();
 };

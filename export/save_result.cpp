@@ -142,11 +142,14 @@ void Exporter::saveResult(const SaveRequest &request, Frames frames, frame_timin
     const QMainWindow *window = surroundings_.shell.window();
     if (window && QGuiApplication::applicationState() != Qt::ApplicationActive)
         desktop_services::notify(qtTrId("IDD_FILE_READY"), freeName(request, startFolder()));
+    bool isSaved = false;
     if (request.withoutAsking)
-        saveUnderPresetName();
+        isSaved = saveUnderPresetName();
     else
         chooseResultsPlace();
     Q_EMIT fileMade();
+    if (isSaved && request.copied)
+        Q_EMIT copyWanted();
 }
 
 bool Exporter::mustNotAsk() {

@@ -24,9 +24,9 @@ QString textOfKept(std::uint64_t kept, std::uint64_t frames, double rate) {
 }
 
 QString textOfSelection(FrameRuns::Run selection, double rate) {
-    // People count from 1.
     return qtTrId("IDD_CUT_SELECTED")
-        .arg(number_text::count(selection.first + 1), number_text::count(selection.last + 1),
+        .arg(number_text::time(secondsOf(selection.first, rate)),
+             number_text::time(secondsOf(selection.last + 1, rate)),
              number_text::decimal(secondsOf(selection.count(), rate), selectionDecimals));
 }
 

@@ -489,8 +489,8 @@
         <translation>Nochmals speichern</translation>
     </message>
     <message id="IDD_MODE_FULL_SCREEN">
-        <source>Full screen</source>
-        <translation>Ganzer Bildschirm</translation>
+        <source>Full screen, without this window</source>
+        <translation>Ganzer Bildschirm, ohne dieses Fenster</translation>
     </message>
     <message id="IDD_MODE_REGION">
         <source>Region %1 × %2 at %3,&#xa0;%4</source>
@@ -658,8 +658,24 @@
         <translation>Wiederholen</translation>
     </message>
     <message id="IDD_CUT_SELECTED">
-        <source>Selected: frames %1 to %2, %3&#xa0;s</source>
-        <translation>Ausgewählt: Bilder %1 bis %2, %3&#xa0;s</translation>
+        <source>Selected: %1 to %2, %3&#xa0;s</source>
+        <translation>Ausgewählt: %1 bis %2, %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_STRIP_TIP">
+        <source>Drag a handle to leave an end out, or drag between the handles to select a part to delete.</source>
+        <translation>Ziehen Sie an einem Griff, um ein Ende wegzulassen, oder zwischen den Griffen, um einen Teil zum Löschen auszuwählen.</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_RECORDING">
+        <source>Stop the recording to open another tab.</source>
+        <translation>Beenden Sie die Aufnahme, um einen anderen Reiter zu öffnen.</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_PLAYBACK">
+        <source>Stop the playback to open another tab.</source>
+        <translation>Beenden Sie die Wiedergabe, um einen anderen Reiter zu öffnen.</translation>
+    </message>
+    <message id="IDD_KEY_ON_RECORD_TAB">
+        <source>To record again, open the Record tab.</source>
+        <translation>Öffnen Sie den Reiter „Aufnehmen“, um wieder aufzunehmen.</translation>
     </message>
     <message id="IDD_STILL_LENGTH">
         <source>To %1&#xa0;s at Most</source>
@@ -962,6 +978,10 @@ Sie liegt weiterhin unter %3.</translation>
         <source>Save Without Asking</source>
         <translation>Ohne Rückfrage speichern</translation>
     </message>
+    <message id="IDD_GENERATE_AND_COPY">
+        <source>Generate GIF and Copy</source>
+        <translation>GIF erzeugen und kopieren</translation>
+    </message>
     <message id="IDD_SAVING_OPTIONS">
         <source>Saving Options</source>
         <translation>Optionen zum Speichern</translation>
@@ -1023,8 +1043,8 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Das %1 ist noch nicht gespeichert.</translation>
     </message>
     <message id="IDD_UNSAVED_DETAIL">
-        <source>Save it before you continue? If you discard it, it is gone for good.</source>
-        <translation>Vor dem Fortfahren speichern? Wenn Sie es verwerfen, ist es endgültig verloren.</translation>
+        <source>Save it before you continue? If you discard it, the file is deleted; the recording stays.</source>
+        <translation>Vor dem Fortfahren speichern? Wenn Sie es verwerfen, wird die Datei gelöscht; die Aufnahme bleibt erhalten.</translation>
     </message>
     <message id="IDD_DISCARD">
         <source>Discard</source>

@@ -489,8 +489,8 @@
         <translation>Save Again</translation>
     </message>
     <message id="IDD_MODE_FULL_SCREEN">
-        <source>Full screen</source>
-        <translation>Full screen</translation>
+        <source>Full screen, without this window</source>
+        <translation>Full screen, without this window</translation>
     </message>
     <message id="IDD_MODE_REGION">
         <source>Region %1 × %2 at %3,&#xa0;%4</source>
@@ -658,8 +658,24 @@
         <translation>Redo</translation>
     </message>
     <message id="IDD_CUT_SELECTED">
-        <source>Selected: frames %1 to %2, %3&#xa0;s</source>
-        <translation>Selected: frames %1 to %2, %3&#xa0;s</translation>
+        <source>Selected: %1 to %2, %3&#xa0;s</source>
+        <translation>Selected: %1 to %2, %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_STRIP_TIP">
+        <source>Drag a handle to leave an end out, or drag between the handles to select a part to delete.</source>
+        <translation>Drag a handle to leave an end out, or drag between the handles to select a part to delete.</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_RECORDING">
+        <source>Stop the recording to open another tab.</source>
+        <translation>Stop the recording to open another tab.</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_PLAYBACK">
+        <source>Stop the playback to open another tab.</source>
+        <translation>Stop the playback to open another tab.</translation>
+    </message>
+    <message id="IDD_KEY_ON_RECORD_TAB">
+        <source>To record again, open the Record tab.</source>
+        <translation>To record again, open the Record tab.</translation>
     </message>
     <message id="IDD_STILL_LENGTH">
         <source>To %1&#xa0;s at Most</source>
@@ -962,6 +978,10 @@ It is still at %3.</translation>
         <source>Save Without Asking</source>
         <translation>Save Without Asking</translation>
     </message>
+    <message id="IDD_GENERATE_AND_COPY">
+        <source>Generate GIF and Copy</source>
+        <translation>Generate GIF and Copy</translation>
+    </message>
     <message id="IDD_SAVING_OPTIONS">
         <source>Saving Options</source>
         <translation>Saving Options</translation>
@@ -1023,8 +1043,8 @@ It is still at %3.</translation>
         <translation>The %1 has not been saved.</translation>
     </message>
     <message id="IDD_UNSAVED_DETAIL">
-        <source>Save it before you continue? If you discard it, it is gone for good.</source>
-        <translation>Save it before you continue? If you discard it, it is gone for good.</translation>
+        <source>Save it before you continue? If you discard it, the file is deleted; the recording stays.</source>
+        <translation>Save it before you continue? If you discard it, the file is deleted; the recording stays.</translation>
     </message>
     <message id="IDD_DISCARD">
         <source>Discard</source>

@@ -489,8 +489,8 @@
         <translation>Guardar de nuevo</translation>
     </message>
     <message id="IDD_MODE_FULL_SCREEN">
-        <source>Full screen</source>
-        <translation>Pantalla completa</translation>
+        <source>Full screen, without this window</source>
+        <translation>Pantalla completa, sin esta ventana</translation>
     </message>
     <message id="IDD_MODE_REGION">
         <source>Region %1 × %2 at %3,&#xa0;%4</source>
@@ -658,8 +658,24 @@
         <translation>Rehacer</translation>
     </message>
     <message id="IDD_CUT_SELECTED">
-        <source>Selected: frames %1 to %2, %3&#xa0;s</source>
-        <translation>Selección: fotogramas %1 a %2, %3&#xa0;s</translation>
+        <source>Selected: %1 to %2, %3&#xa0;s</source>
+        <translation>Selección: de %1 a %2, %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_STRIP_TIP">
+        <source>Drag a handle to leave an end out, or drag between the handles to select a part to delete.</source>
+        <translation>Arrastre un tirador para omitir un extremo, o arrastre entre los tiradores para seleccionar una parte que eliminar.</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_RECORDING">
+        <source>Stop the recording to open another tab.</source>
+        <translation>Detenga la grabación para abrir otra pestaña.</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_PLAYBACK">
+        <source>Stop the playback to open another tab.</source>
+        <translation>Detenga la reproducción para abrir otra pestaña.</translation>
+    </message>
+    <message id="IDD_KEY_ON_RECORD_TAB">
+        <source>To record again, open the Record tab.</source>
+        <translation>Para volver a grabar, abra la pestaña «Grabar».</translation>
     </message>
     <message id="IDD_STILL_LENGTH">
         <source>To %1&#xa0;s at Most</source>
@@ -962,6 +978,10 @@ Sigue en %3.</translation>
         <source>Save Without Asking</source>
         <translation>Guardar sin preguntar</translation>
     </message>
+    <message id="IDD_GENERATE_AND_COPY">
+        <source>Generate GIF and Copy</source>
+        <translation>Crear GIF y copiar</translation>
+    </message>
     <message id="IDD_SAVING_OPTIONS">
         <source>Saving Options</source>
         <translation>Opciones de guardado</translation>
@@ -1023,8 +1043,8 @@ Sigue en %3.</translation>
         <translation>El %1 no se ha guardado.</translation>
     </message>
     <message id="IDD_UNSAVED_DETAIL">
-        <source>Save it before you continue? If you discard it, it is gone for good.</source>
-        <translation>¿Desea guardarlo antes de continuar? Si lo descarta, se perderá definitivamente.</translation>
+        <source>Save it before you continue? If you discard it, the file is deleted; the recording stays.</source>
+        <translation>¿Desea guardarlo antes de continuar? Si lo descarta, se borrará el archivo; la grabación se conservará.</translation>
     </message>
     <message id="IDD_DISCARD">
         <source>Discard</source>

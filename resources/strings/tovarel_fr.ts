@@ -489,8 +489,8 @@
         <translation>Sauvegarder à nouveau</translation>
     </message>
     <message id="IDD_MODE_FULL_SCREEN">
-        <source>Full screen</source>
-        <translation>Écran entier</translation>
+        <source>Full screen, without this window</source>
+        <translation>Écran entier, sans cette fenêtre</translation>
     </message>
     <message id="IDD_MODE_REGION">
         <source>Region %1 × %2 at %3,&#xa0;%4</source>
@@ -658,8 +658,24 @@
         <translation>Rétablir</translation>
     </message>
     <message id="IDD_CUT_SELECTED">
-        <source>Selected: frames %1 to %2, %3&#xa0;s</source>
-        <translation>Sélection&#xa0;: images %1 à %2, %3&#xa0;s</translation>
+        <source>Selected: %1 to %2, %3&#xa0;s</source>
+        <translation>Sélection&#xa0;: de %1 à %2, %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_STRIP_TIP">
+        <source>Drag a handle to leave an end out, or drag between the handles to select a part to delete.</source>
+        <translation>Faites glisser une poignée pour écarter une extrémité, ou faites glisser entre les poignées pour sélectionner une partie à supprimer.</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_RECORDING">
+        <source>Stop the recording to open another tab.</source>
+        <translation>Arrêtez l’enregistrement pour ouvrir un autre onglet.</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_PLAYBACK">
+        <source>Stop the playback to open another tab.</source>
+        <translation>Arrêtez la lecture pour ouvrir un autre onglet.</translation>
+    </message>
+    <message id="IDD_KEY_ON_RECORD_TAB">
+        <source>To record again, open the Record tab.</source>
+        <translation>Pour enregistrer à nouveau, ouvrez l’onglet «&#xa0;Enregistrer&#xa0;».</translation>
     </message>
     <message id="IDD_STILL_LENGTH">
         <source>To %1&#xa0;s at Most</source>
@@ -962,6 +978,10 @@ Il reste à l’emplacement %3.</translation>
         <source>Save Without Asking</source>
         <translation>Sauvegarder sans demander</translation>
     </message>
+    <message id="IDD_GENERATE_AND_COPY">
+        <source>Generate GIF and Copy</source>
+        <translation>Créer le GIF et le copier</translation>
+    </message>
     <message id="IDD_SAVING_OPTIONS">
         <source>Saving Options</source>
         <translation>Options de sauvegarde</translation>
@@ -1023,8 +1043,8 @@ Il reste à l’emplacement %3.</translation>
         <translation>Le fichier %1 n’est pas sauvegardé.</translation>
     </message>
     <message id="IDD_UNSAVED_DETAIL">
-        <source>Save it before you continue? If you discard it, it is gone for good.</source>
-        <translation>Le sauvegarder avant de continuer&#x202f;? Si vous l’abandonnez, il sera définitivement perdu.</translation>
+        <source>Save it before you continue? If you discard it, the file is deleted; the recording stays.</source>
+        <translation>Le sauvegarder avant de continuer&#x202f;? Si vous l’abandonnez, le fichier sera supprimé&#x202f;; l’enregistrement sera conservé.</translation>
     </message>
     <message id="IDD_DISCARD">
         <source>Discard</source>

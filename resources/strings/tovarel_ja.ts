@@ -485,8 +485,8 @@
         <translation>もう一度保存</translation>
     </message>
     <message id="IDD_MODE_FULL_SCREEN">
-        <source>Full screen</source>
-        <translation>全画面</translation>
+        <source>Full screen, without this window</source>
+        <translation>全画面（このウィンドウを除く）</translation>
     </message>
     <message id="IDD_MODE_REGION">
         <source>Region %1 × %2 at %3,&#xa0;%4</source>
@@ -653,8 +653,24 @@
         <translation>やり直す</translation>
     </message>
     <message id="IDD_CUT_SELECTED">
-        <source>Selected: frames %1 to %2, %3&#xa0;s</source>
-        <translation>選択範囲: フレーム %1～%2、%3&#xa0;秒</translation>
+        <source>Selected: %1 to %2, %3&#xa0;s</source>
+        <translation>選択範囲: %1～%2、%3&#xa0;秒</translation>
+    </message>
+    <message id="IDD_STRIP_TIP">
+        <source>Drag a handle to leave an end out, or drag between the handles to select a part to delete.</source>
+        <translation>つまみをドラッグすると端を除けます。つまみの間をドラッグすると、削除する部分を選択できます。</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_RECORDING">
+        <source>Stop the recording to open another tab.</source>
+        <translation>ほかのタブを開くには、録画を停止してください。</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_PLAYBACK">
+        <source>Stop the playback to open another tab.</source>
+        <translation>ほかのタブを開くには、再生を停止してください。</translation>
+    </message>
+    <message id="IDD_KEY_ON_RECORD_TAB">
+        <source>To record again, open the Record tab.</source>
+        <translation>もう一度録画するには、「録画」タブを開いてください。</translation>
     </message>
     <message id="IDD_STILL_LENGTH">
         <source>To %1&#xa0;s at Most</source>
@@ -957,6 +973,10 @@ It is still at %3.</source>
         <source>Save Without Asking</source>
         <translation>確認せずに保存</translation>
     </message>
+    <message id="IDD_GENERATE_AND_COPY">
+        <source>Generate GIF and Copy</source>
+        <translation>GIF を作成してコピー</translation>
+    </message>
     <message id="IDD_SAVING_OPTIONS">
         <source>Saving Options</source>
         <translation>保存の設定</translation>
@@ -1018,8 +1038,8 @@ It is still at %3.</source>
         <translation>%1 は保存されていません。</translation>
     </message>
     <message id="IDD_UNSAVED_DETAIL">
-        <source>Save it before you continue? If you discard it, it is gone for good.</source>
-        <translation>続行する前に保存しますか？破棄すると元に戻せません。</translation>
+        <source>Save it before you continue? If you discard it, the file is deleted; the recording stays.</source>
+        <translation>続行する前に保存しますか？破棄するとファイルは削除されますが、録画は残ります。</translation>
     </message>
     <message id="IDD_DISCARD">
         <source>Discard</source>

@@ -489,8 +489,8 @@
         <translation>Salvar novamente</translation>
     </message>
     <message id="IDD_MODE_FULL_SCREEN">
-        <source>Full screen</source>
-        <translation>Tela inteira</translation>
+        <source>Full screen, without this window</source>
+        <translation>Tela inteira, sem esta janela</translation>
     </message>
     <message id="IDD_MODE_REGION">
         <source>Region %1 × %2 at %3,&#xa0;%4</source>
@@ -658,8 +658,24 @@
         <translation>Refazer</translation>
     </message>
     <message id="IDD_CUT_SELECTED">
-        <source>Selected: frames %1 to %2, %3&#xa0;s</source>
-        <translation>Seleção: quadros %1 a %2, %3&#xa0;s</translation>
+        <source>Selected: %1 to %2, %3&#xa0;s</source>
+        <translation>Seleção: de %1 a %2, %3&#xa0;s</translation>
+    </message>
+    <message id="IDD_STRIP_TIP">
+        <source>Drag a handle to leave an end out, or drag between the handles to select a part to delete.</source>
+        <translation>Arraste uma alça para deixar uma ponta de fora, ou arraste entre as alças para selecionar uma parte a excluir.</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_RECORDING">
+        <source>Stop the recording to open another tab.</source>
+        <translation>Pare a gravação para abrir outra guia.</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_PLAYBACK">
+        <source>Stop the playback to open another tab.</source>
+        <translation>Pare a reprodução para abrir outra guia.</translation>
+    </message>
+    <message id="IDD_KEY_ON_RECORD_TAB">
+        <source>To record again, open the Record tab.</source>
+        <translation>Para gravar de novo, abra a guia “Gravar”.</translation>
     </message>
     <message id="IDD_STILL_LENGTH">
         <source>To %1&#xa0;s at Most</source>
@@ -962,6 +978,10 @@ Ele continua em %3.</translation>
         <source>Save Without Asking</source>
         <translation>Salvar sem perguntar</translation>
     </message>
+    <message id="IDD_GENERATE_AND_COPY">
+        <source>Generate GIF and Copy</source>
+        <translation>Criar GIF e copiar</translation>
+    </message>
     <message id="IDD_SAVING_OPTIONS">
         <source>Saving Options</source>
         <translation>Opções de salvamento</translation>
@@ -1023,8 +1043,8 @@ Ele continua em %3.</translation>
         <translation>O %1 não foi salvo.</translation>
     </message>
     <message id="IDD_UNSAVED_DETAIL">
-        <source>Save it before you continue? If you discard it, it is gone for good.</source>
-        <translation>Salvar antes de continuar? Se você o descartar, ele será perdido definitivamente.</translation>
+        <source>Save it before you continue? If you discard it, the file is deleted; the recording stays.</source>
+        <translation>Salvar antes de continuar? Se você o descartar, o arquivo será excluído; a gravação permanecerá.</translation>
     </message>
     <message id="IDD_DISCARD">
         <source>Discard</source>

@@ -485,8 +485,8 @@
         <translation>重新保存</translation>
     </message>
     <message id="IDD_MODE_FULL_SCREEN">
-        <source>Full screen</source>
-        <translation>全屏</translation>
+        <source>Full screen, without this window</source>
+        <translation>全屏（不含此窗口）</translation>
     </message>
     <message id="IDD_MODE_REGION">
         <source>Region %1 × %2 at %3,&#xa0;%4</source>
@@ -653,8 +653,24 @@
         <translation>重做</translation>
     </message>
     <message id="IDD_CUT_SELECTED">
-        <source>Selected: frames %1 to %2, %3&#xa0;s</source>
-        <translation>选区：第 %1 至 %2 帧，%3&#xa0;秒</translation>
+        <source>Selected: %1 to %2, %3&#xa0;s</source>
+        <translation>选区：%1 至 %2，%3&#xa0;秒</translation>
+    </message>
+    <message id="IDD_STRIP_TIP">
+        <source>Drag a handle to leave an end out, or drag between the handles to select a part to delete.</source>
+        <translation>拖动滑块可去掉一端；在两个滑块之间拖动可选择要删除的部分。</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_RECORDING">
+        <source>Stop the recording to open another tab.</source>
+        <translation>要打开其他标签页，请先停止录制。</translation>
+    </message>
+    <message id="IDD_TAB_NEEDS_STOP_PLAYBACK">
+        <source>Stop the playback to open another tab.</source>
+        <translation>要打开其他标签页，请先停止播放。</translation>
+    </message>
+    <message id="IDD_KEY_ON_RECORD_TAB">
+        <source>To record again, open the Record tab.</source>
+        <translation>要再次录制，请打开“录制”标签页。</translation>
     </message>
     <message id="IDD_STILL_LENGTH">
         <source>To %1&#xa0;s at Most</source>
@@ -957,6 +973,10 @@ It is still at %3.</source>
         <source>Save Without Asking</source>
         <translation>不询问直接保存</translation>
     </message>
+    <message id="IDD_GENERATE_AND_COPY">
+        <source>Generate GIF and Copy</source>
+        <translation>生成 GIF 并复制</translation>
+    </message>
     <message id="IDD_SAVING_OPTIONS">
         <source>Saving Options</source>
         <translation>保存选项</translation>
@@ -1018,8 +1038,8 @@ It is still at %3.</source>
         <translation>%1 尚未保存。</translation>
     </message>
     <message id="IDD_UNSAVED_DETAIL">
-        <source>Save it before you continue? If you discard it, it is gone for good.</source>
-        <translation>继续之前要保存吗？放弃后将无法恢复。</translation>
+        <source>Save it before you continue? If you discard it, the file is deleted; the recording stays.</source>
+        <translation>继续之前要保存吗？放弃后文件会被删除，录制内容仍会保留。</translation>
     </message>
     <message id="IDD_DISCARD">
         <source>Discard</source>

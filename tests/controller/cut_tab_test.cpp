@@ -323,6 +323,8 @@ TEST_F(CutTab, keysAreCommandsOfThisTabUnlessWhatHasTheFocusUsesThem) {
         press(Qt::Key_Space);
         EXPECT_EQ(delegate->trim.m_PlayStatus(), status);
     }
+    delegate->OnMenuTabGIF();
+    EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_TAB_NEEDS_STOP_PLAYBACK"));
     delegate->OnCutStop(nullptr);
     // The tabs take the arrows.
     delegate->trimEditor.showFrame(12);

@@ -49,6 +49,16 @@ protected:
     const QString saved = place("saved #1 %41");
 };
 
+TEST_F(FileCardTest, isMadeSavedAndCopiedInOneGo) {
+    QDir().mkpath(saved);
+    settings::writeLastSaveFolder(saved);
+    ui.menuitemGenerateAndCopy->trigger();
+    ASSERT_TRUE(finish());
+    ASSERT_EQ(names().size(), 1);
+    EXPECT_EQ(QGuiApplication::clipboard()->mimeData()->urls(),
+              QList<QUrl>{QUrl::fromLocalFile(QDir(saved).filePath(names().first()))});
+}
+
 TEST_F(FileCardTest, isTheFileThatOtherProgramsTakeFromTheClipboard) {
     answers.savePath = saved + QStringLiteral("/a film.gif");
     generate();

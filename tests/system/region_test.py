@@ -11,6 +11,8 @@ from driver import Program, act, wait_for
 from region_case import ASIDE, GREEN, HOW_TO, RegionCase
 from region_screen import Screen, brightness, colour
 
+FULL_SCREEN = "Full screen, without this window"
+
 
 class Region(RegionCase):
     def test_what_is_framed_is_recorded_at_any_scale_with_and_without_blending(self):
@@ -120,7 +122,7 @@ class Region(RegionCase):
         self.assertTrue(self.overlay())
         self.session.xdotool("key", "Escape")
         self.await_no_overlay()
-        self.await_label(program, "Full screen")
+        self.await_label(program, FULL_SCREEN)
 
     def test_a_window_is_picked_and_a_width_is_typed(self):
         x, y, width, height = self.session.counter("--at", "60,80", "--size", "240x160")
@@ -161,7 +163,7 @@ class Region(RegionCase):
     def test_keys_move_the_corners_and_escape_leaves_the_choice_as_it_was(self):
         program = self.program()
         screen = Screen(0, 0, *self.screen, 1)
-        region, shown = screen.start(), "Full screen"
+        region, shown = screen.start(), FULL_SCREEN
         for blending in (False, True):
             with self.subTest(blending=blending), self.compositing(blending):
                 region = self.open_overlay(program, screen, region)
@@ -202,7 +204,7 @@ class Region(RegionCase):
                 self.assertTrue(self.overlay())
                 self.monitors(*places)
                 self.await_no_overlay()
-                self.await_label(program, "Full screen")
+                self.await_label(program, FULL_SCREEN)
                 self.assertEqual(program.end(), 0)
 
     def test_a_compositing_manager_may_come_and_go_and_the_program_may_end(self):
