@@ -129,17 +129,19 @@ class RegionCase(case.Case):
                 continue
             self.displays[index] = None, place
             if place:
-                # A name is given once only, and the display at an output replaces the one before.
+                # A name is given once only.
                 name = f"display-{next(self.names)}"
                 width, height, x, y = place.replace("x", "+").split("+")
                 self.xrandr("--setmonitor", name, f"{width}/300x{height}/200+{x}+{y}", output)
                 self.displays[index] = name, place
-            if before[0] and not (place and output == "screen"):
+            # Servers differ in whether the display at an output replaces the one before.
+            if before[0] and before[0] in self.xrandr("--listmonitors").split():
                 self.xrandr("--delmonitor", before[0])
 
     def xrandr(self, *arguments):
-        subprocess.run(["xrandr", *arguments], env=self.session.environment, check=True,
-                       stdin=subprocess.DEVNULL, capture_output=True, timeout=PATIENCE)
+        return subprocess.run(
+            ["xrandr", *arguments], env=self.session.environment, check=True, text=True,
+            stdin=subprocess.DEVNULL, capture_output=True, timeout=PATIENCE).stdout
 
     def overlay(self):
         return self.session.xdotool("search", "--onlyvisible", "--name", OVERLAY, check=False)
