@@ -28,6 +28,8 @@ def main():
     parser.add_argument("--window-manager", action="store_true")
     parser.add_argument("--compositor", default="", help="a compositing manager to start first")
     parser.add_argument("--desktop", default="", help="a desktop's window manager to start first")
+    parser.add_argument("--composed", action="store_true",
+                        help="wait until it composes the screen, too")
     parser.add_argument("command", nargs=argparse.REMAINDER)
     asked = parser.parse_args()
     session = Session(".", *map(int, asked.screen.split("x")))
@@ -36,7 +38,8 @@ def main():
     with session:
         if asked.desktop:
             session.start("desktop", shlex.split(asked.desktop), {"LIBGL_ALWAYS_SOFTWARE": "1"})
-            wait_for("the window manager", lambda: is_managed(session))
+            wait_for("the window manager", lambda: is_managed(session)
+                     and (session.composited() or not asked.composed))
         if asked.compositor:
             session.start("compositor", shlex.split(asked.compositor))
             wait_for("the compositing manager", session.composited)

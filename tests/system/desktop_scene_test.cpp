@@ -15,6 +15,7 @@ using namespace std::chrono_literals;
 
 constexpr std::uint32_t secretMinimised = 0xffd3017b, secretElsewhere = 0xff7b01d3;
 constexpr std::uint32_t colorBelow = 0xff2a9d5c, colorDrawn = 0xffe0b01a, colorOurs = 0xfff0f1f2;
+constexpr std::uint32_t colorFocused = 0xff334455, colorFirst = 0xff11aa77;
 constexpr int widestShadow = 64;
 
 class DesktopScene : public WindowServerFixture {
@@ -32,7 +33,10 @@ protected:
         WindowServerFixture::SetUp();
         ASSERT_TRUE(client.windowManagerRuns());
         client.setBackgroundPixmap(true);
-        restingScreen();
+        const auto first = manage({.place = {300, 200, 150, 100}, .color = colorFirst});
+        restingScreen([](const QImage &it) { return ofColor(it, colorFirst) > 10'000; });
+        client.destroy(first);
+        restingScreen([](const QImage &it) { return ofColor(it, colorFirst) == 0; });
         auto obstacle = Obstacle::NoDisplay;
         server = X11WindowServer::create({}, obstacle);
     }
@@ -93,7 +97,7 @@ protected:
     }
 
     /// The screen once it has come to rest, all effects being over.
-    QImage restingScreen() {
+    QImage lookUntilStill() {
         QImage before = client.screen();
         for (int still = 0, looks = 0; still < 4 && looks < 100; ++looks) {
             std::this_thread::sleep_for(100ms);
@@ -102,6 +106,22 @@ protected:
             before = std::move(now);
         }
         return before;
+    }
+
+    /// Likewise, and as it must be: on a busy machine a window manager may begin late, or stand
+    /// still in the middle of an effect.
+    template <class Condition> QImage restingScreen(Condition isAsItMustBe) {
+        QImage screen;
+        EXPECT_TRUE(eventually([&] { return isAsItMustBe(screen = lookUntilStill()); }))
+            << "the window manager does not show what it was asked for";
+        return screen;
+    }
+
+    QImage screenWithOurs() {
+        return restingScreen([](const QImage &it) { return ofColor(it, colorOurs) > 10'000; });
+    }
+    QImage screenWithoutOurs() {
+        return restingScreen([](const QImage &it) { return ofColor(it, colorOurs) == 0; });
     }
 
     /// The grab without our window, once its last effects are over; it must hold no secret, then
@@ -200,9 +220,11 @@ TEST_F(DesktopScene, isTheScreenAndBeneathOurWindowsWhatIsThere) {
     minimise(minimised);
     const auto elsewhere = manage({.place = {180, 120, 260, 200}, .color = secretElsewhere});
     ask(elsewhere, "_NET_WM_DESKTOP", {1, 2});
-    const auto focused = manage({.place = {560, 440, 180, 90}, .color = 0xff334455});
+    const auto focused = manage({.place = {560, 440, 180, 90}, .color = colorFocused});
     activate(focused);
-    const QImage away = restingScreen();
+    const QImage away = restingScreen([](const QImage &it) {
+        return ofColor(it, colorBelow) > 10'000 && ofColor(it, colorFocused) > 10'000;
+    });
     expectNoSecret(away);
     compare("nothing of ours", grabAtRest({}, away, {}), away, away, {}, 0);
     EXPECT_FALSE(described(top(minimised))) << "minimised";
@@ -211,22 +233,27 @@ TEST_F(DesktopScene, isTheScreenAndBeneathOurWindowsWhatIsThere) {
     auto ours = manage({.place = {140, 130, 300, 240}, .color = colorOurs});
     keepAbove(ours);
     activate(focused);
-    QImage screen = restingScreen();
-    EXPECT_GT(ofColor(screen, colorOurs), 10'000) << "our window is in front";
+    QImage screen = screenWithOurs();
     QRegion place = placeOf(ours);
     QImage seen = grabAtRest({top(ours)}, screen, place);
     compare("our window in front", seen, screen, away, place, 0);
     EXPECT_EQ(seen, grab({top(ours)})) << "two grabs of the same";
 
-    client.fill(below, {100, 60, 120, 100}, colorDrawn);
-    screen = restingScreen();
+    const QRect patch(100, 60, 120, 100);
+    client.fill(below, patch, colorDrawn);
+    screen = screenWithOurs();
     const QImage drawn = grabAtRest({top(ours)}, screen, place);
     EXPECT_GT(ofColor(drawn, colorDrawn), 1000) << "drawing beneath is seen";
 
     minimise(ours);
     EXPECT_TRUE(eventually([&] { return !described(top(ours)); }));
-    const QImage drawnAway = restingScreen();
-    compare("drawing beneath", drawn, screen, drawnAway, place, allowance("TOVAREL_MISSED_DRAWN"));
+    const bool maybeStale = std::getenv("TOVAREL_MAYBE_STALE") != nullptr;
+    const QImage drawnAway = restingScreen([maybeStale](const QImage &it) {
+        return ofColor(it, colorOurs) == 0 && (maybeStale || ofColor(it, colorDrawn) > 0);
+    });
+    const bool stale = ofColor(drawnAway, colorDrawn) == 0;
+    compare("drawing beneath", drawn, screen, drawnAway, place,
+            allowance("TOVAREL_MISSED_DRAWN") + (stale ? patch.width() * patch.height() : 0));
     compare("our window minimised", grabAtRest({top(ours)}, drawnAway, {}), drawnAway, drawnAway,
             {}, 0);
 
@@ -240,17 +267,17 @@ TEST_F(DesktopScene, isTheScreenAndBeneathOurWindowsWhatIsThere) {
         std::this_thread::sleep_for(16ms);
         expectNoSecret(grab({top(ours)}));
     }
-    screen = restingScreen();
+    screen = screenWithOurs();
     place = placeOf(ours);
     compare("our window moved", grabAtRest({top(ours)}, screen, place), screen, drawnAway, place,
             allowance("TOVAREL_MISSED_DRAWN"));
 
     minimise(below);
-    screen = restingScreen();
+    screen = screenWithOurs();
     seen = grabAtRest({top(ours)}, screen, place);
     EXPECT_EQ(ofColor(seen, colorBelow), 0) << "what was minimised beneath us is forgotten";
     client.destroy(ours);
-    const QImage rest = restingScreen();
+    const QImage rest = screenWithoutOurs();
     compare("a window minimised beneath", seen, screen, rest, place,
             allowance("TOVAREL_MISSED_BARE"));
 }
