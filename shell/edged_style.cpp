@@ -195,6 +195,15 @@ void EdgedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
 
 void EdgedStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                              const QWidget *widget) const {
+    const auto *title = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+    if (element == CE_MenuBarItem && title && widget && widget->hasFocus() &&
+        title->state.testFlag(State_Selected)) {
+        // The keys are in the bar though no menu is open: the title looks as if its own were.
+        QStyleOptionMenuItem chosen = *title;
+        chosen.state.setFlag(State_Sunken);
+        QProxyStyle::drawControl(element, &chosen, painter, widget);
+        return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
     if (!isDark(option->palette))
         return;
