@@ -36,7 +36,7 @@ class Stage:
 
     def __enter__(self):
         self.session.__enter__()
-        self.session.start("scene", [self.session.build / "tests" / "sheets" / "scene_window"])
+        self.session.start("scene", [self.session.build / "scripts" / "sheets" / "scene_window"])
         driver.wait_for("the scene", lambda: self.session.xdotool(
             "search", "--onlyvisible", "--name", "^scene$", check=False))
         self.program = driver.Program(self.session)
@@ -138,7 +138,7 @@ def main(build, folder="docs"):
     subprocess.run(["cmake", "--build", build, "--target", "tovarel", "interface_sheets",
                     "scene_window"], check=True)
     show(build, pictures, folder / "demo.gif")
-    subprocess.run([build / "tests" / "sheets" / "interface_sheets", build / "sheets"], check=True)
+    subprocess.run([build / "scripts" / "sheets" / "interface_sheets", build / "sheets"], check=True)
 
 
 if __name__ == "__main__":

@@ -15,7 +15,7 @@
 #include "shell/tab_view.h"
 #include "shell/window_progress.h"
 #include "tests/controller/export_fixture.h"
-#include "tests/sheets/scene.h"
+#include "scripts/sheets/scene.h"
 
 #include <QDir>
 #include <QPainter>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The scene on the whole screen, moving, beneath all windows.
-#include "tests/sheets/scene.h"
+#include "scripts/sheets/scene.h"
 
 #include <QApplication>
 #include <QBasicTimer>

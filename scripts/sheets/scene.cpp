@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
-#include "tests/sheets/scene.h"
+#include "scripts/sheets/scene.h"
 
 #include <QPainter>
 
