@@ -49,6 +49,7 @@ void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
     ui.comboFitUnder->setAccessibleName(qtTrId("IDD_FIT_UNDER"));
     ui.comboFitUnder->lineEdit()->setAccessibleName(qtTrId("IDD_FIT_UNDER"));
     ui.comboFitUnder->setToolTip(qtTrId("IDD_FIT_UNDER_TIP"));
+    ui.labelFitNote->setText(qtTrId("IDD_FIT_NOTE"));
     for (const auto &[button, percent] : {std::pair(ui.btnGIFSize75, 75), {ui.btnGIFSize50, 50}}) {
         button->setText(qtTrId("IDD_PERCENT").arg(percent));
         button->setToolTip(qtTrId("IDD_PERCENT_TIP").arg(percent));

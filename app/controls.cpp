@@ -342,6 +342,7 @@ ExportControls exportControls(const Ui::MainWindow &ui) {
             .labelGIFEstimate = ui.labelGIFEstimate,
             .labelGIFSummary = ui.labelGIFSummary,
             .labelGIFThinned = ui.labelGIFThinned,
+            .labelFitNote = ui.labelFitNote,
             .labelInstructions = ui.labelInstructions,
             .btnWebPGenerate = ui.btnWebPGenerate,
             .labelFPS = ui.labelFPS,

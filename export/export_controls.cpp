@@ -201,8 +201,10 @@ std::optional<std::uint64_t> ExportOptions::limitOfGIF() const {
 
 void ExportOptions::showEstimate() {
     const std::optional<std::uint64_t> most = limitOfGIF();
+    const bool isOver = most && isUsable_ && estimate_.value_or(*most + 1) > *most;
+    ui_.labelFitNote->setVisible(isOver);
     QString text;
-    if (most && isUsable_ && estimate_.value_or(*most + 1) > *most)
+    if (isOver)
         text = qtTrId("IDD_AT_MOST_SIZE").arg(fitLimitText(*most));
     else if (estimate_)
         text = (isExact_ ? qtTrId("IDD_GIF_SIZE") : qtTrId("IDD_ABOUT_SIZE"))

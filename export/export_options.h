@@ -51,6 +51,7 @@ struct ExportControls {
     QLabel *labelGIFEstimate;
     QLabel *labelGIFSummary;
     QLabel *labelGIFThinned;
+    QLabel *labelFitNote;      ///< What a limit that is too low makes worse.
     QLabel *labelInstructions; ///< Without a recording, behind what is to be done first.
     QAbstractButton *btnWebPGenerate;
     QLabel *labelFPS;

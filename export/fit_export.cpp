@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "export/exporter.h"
 #include "export/fit_attempt.h"
+#include "export/fit_limit.h"
 #include "export/fit_search.h"
 #include "export/made_file.h"
 #include "platform/text_number.h"
@@ -33,15 +34,23 @@ ExportChoices lowered(const ExportChoices &asked, const FitChoice &from, const F
     return choices;
 }
 
-/// What was given up.
+/// What was given up, and nothing else.
 QString noteAbout(const FitChoice &asked, const FitChoice &best, QSize size, std::uint64_t limit) {
     if (best == asked)
         return {};
-    if (best.scale == 1.0 && best.rate >= asked.rate * sameRate)
-        return qtTrId("IDD_STATUS_FITTED_COLORS").arg(number_text::bytes(limit));
-    return qtTrId("IDD_STATUS_FITTED")
-        .arg(number_text::bytes(limit), QString::number(size.width()),
-             QString::number(size.height()), number_text::rate(best.rate));
+    const QString most = fitLimitText(limit);
+    const QString width = QString::number(size.width());
+    const QString height = QString::number(size.height());
+    const bool isSlower = best.rate < asked.rate * sameRate;
+    const bool isSmaller = best.scale < 1.0;
+    if (isSlower && isSmaller)
+        return qtTrId("IDD_STATUS_FITTED").arg(most, width, height, number_text::rate(best.rate));
+    if (isSlower)
+        return qtTrId("IDD_STATUS_FITTED_RATE")
+            .arg(most, number_text::rate(asked.rate), number_text::rate(best.rate));
+    if (isSmaller)
+        return qtTrId("IDD_STATUS_FITTED_SIZE").arg(most, width, height);
+    return qtTrId("IDD_STATUS_FITTED_COLORS").arg(most);
 }
 
 } // namespace
@@ -54,8 +63,16 @@ MadeFile Exporter::makeFitting(const ExportChoices &choices, const Fitting &fitt
     FitSearch search(ladder, limit, fitting.mostAttempts);
     MadeFile made;
     std::uint64_t smallest = 0;
+    std::uint64_t attempts = 0;
     while (const std::optional<double> depth = search.next()) {
         const FitChoice choice = ladder.at(*depth);
+        // The bar begins anew each time: without a word that looks like a fault.
+        if (++attempts > 1) {
+            surroundings_.progress.setCaption(
+                qtTrId("IDD_PROGRESS_AGAIN")
+                    .arg(number_text::count(attempts), fitLimitText(limit)));
+            surroundings_.progress.setValue(0.0);
+        }
         // At the end nothing is left to be given up: there the true size is wanted, to be told.
         const bool isLast = *depth >= ladder.end();
         const FitAttempt attempt =
@@ -82,14 +99,14 @@ MadeFile Exporter::makeFitting(const ExportChoices &choices, const Fitting &fitt
     if (!fitting.mayLowerChosen && (choices.rate || choices.customSize))
         made.needsLowering = true;
     else
-        made.failure = qtTrId("IDD_FIT_IMPOSSIBLE")
-                           .arg(number_text::bytes(limit), number_text::bytes(smallest));
+        made.failure =
+            qtTrId("IDD_FIT_IMPOSSIBLE").arg(fitLimitText(limit), number_text::bytes(smallest));
     return made;
 }
 
 void Exporter::askToLower(const ExportChoices &choices, std::function<void()> makeAgain) {
     surroundings_.alerts.ask(
-        {.message = qtTrId("IDD_FIT_ASK").arg(number_text::bytes(*choices.limit.bytes)),
+        {.message = qtTrId("IDD_FIT_ASK").arg(fitLimitText(*choices.limit.bytes)),
          .detail = qtTrId("IDD_FIT_ASK_DETAIL"),
          .accept = qtTrId("IDD_FIT_KEEP"),
          .destroy = qtTrId("IDD_FIT_LOWER"),

@@ -23,5 +23,6 @@ inline constexpr int offeredLimits[] = {5, 10, 25};
 /// 1,000,000 bytes; "ko" and "Mo" in French); MB without one. An empty text is no limit.
 FitLimit fitLimitOf(QStringView text);
 
-/// That many bytes as such a text, with the unit, as the user writes it.
+/// That many bytes as such a text, with the unit, in the digits that the user typed: "5 MB" where
+/// an amount that was measured is "5.0 MB". Number and unit do not part.
 QString fitLimitText(std::uint64_t bytes);

@@ -30,6 +30,11 @@ void ProgressSheet::show(const QString &caption) {
     sheet->open();
 }
 
+void ProgressSheet::setCaption(const QString &caption) {
+    if (windowProgress_)
+        windowProgress_->setCaption(caption);
+}
+
 void ProgressSheet::setRange(double minimum, double maximum) {
     if (windowProgress_) {
         windowProgress_->setMinValue(minimum);

@@ -24,6 +24,8 @@ public:
     /// Attaches a fresh sheet with this caption, in place of any earlier one; its bar runs from 0
     /// to 100.
     void show(const QString &caption);
+    /// Another caption for what the job does from now on.
+    void setCaption(const QString &caption);
     /// Lets the user ask for the job to be cancelled.
     void offerCancel();
     void setRange(double minimum, double maximum);

@@ -23,9 +23,7 @@ Window_Progress::Window_Progress(QWidget &anchor, const QString &caption)
       ui_(std::make_unique<Ui::Window_Progress>()), anchor_(anchor) {
     ui_->setupUi(this);
     setWindowModality(Qt::WindowModal);
-    setWindowTitle(caption);
-    ui_->labelDescription->setText(caption);
-    ui_->progressBar->setAccessibleName(caption);
+    setCaption(caption);
     // The bar fills in its percentage.
     ui_->progressBar->setFormat(qtTrId("IDD_PERCENT").arg(QStringLiteral("%p")));
     ui_->btnCancel->setText(qtTrId("IDD_CANCEL"));
@@ -42,6 +40,12 @@ Window_Progress::Window_Progress(QWidget &anchor, const QString &caption)
 }
 
 Window_Progress::~Window_Progress() = default;
+
+void Window_Progress::setCaption(const QString &caption) {
+    setWindowTitle(caption);
+    ui_->labelDescription->setText(caption);
+    ui_->progressBar->setAccessibleName(caption);
+}
 
 QLabel *Window_Progress::labelDescription() const { return ui_->labelDescription; }
 QProgressBar *Window_Progress::progressBar() const { return ui_->progressBar; }

@@ -25,6 +25,7 @@ public:
     Window_Progress(QWidget &anchor, const QString &caption);
     ~Window_Progress() override;
 
+    void setCaption(const QString &caption);
     QLabel *labelDescription() const;
     QProgressBar *progressBar() const;
 

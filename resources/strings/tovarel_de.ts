@@ -710,6 +710,10 @@
         <source>Step 2 of 2: %p%</source>
         <translation>Schritt 2 von 2: %p&#xa0;%</translation>
     </message>
+    <message id="IDD_PROGRESS_AGAIN">
+        <source>Attempt %1: making it fit under %2…</source>
+        <translation>Versuch %1: wird auf höchstens %2 verkleinert&#xa0;…</translation>
+    </message>
     <message id="IDD_EXPORT_CANCELLED">
         <source>The export was canceled.</source>
         <translation>Der Export wurde abgebrochen.</translation>
@@ -1108,17 +1112,21 @@ Sie liegt weiterhin unter %3.</translation>
         <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
         <translation>Maximale Größe der GIF- oder WebP-Datei. Um sie einzuhalten, werden zuerst die Farbgenauigkeit, dann die Bildrate und dann Breite und Höhe verringert</translation>
     </message>
+    <message id="IDD_FIT_NOTE">
+        <source>Colors, then frame rate, then size are lowered as far as needed.</source>
+        <translation>Bei Bedarf sinken erst Farbgenauigkeit, dann Bildrate, dann Größe.</translation>
+    </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
         <translation>Unbegrenzt</translation>
     </message>
     <message id="IDD_LIMIT_MB">
-        <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <source>%1&#xa0;MB</source>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message id="IDD_LIMIT_KB">
-        <source>%1 kB</source>
-        <translation>%1 kB</translation>
+        <source>%1&#xa0;kB</source>
+        <translation>%1&#xa0;kB</translation>
     </message>
     <message id="IDD_LIMIT_NOT_NUMBER">
         <source>Type a file size, such as 8&#xa0;MB or 500&#xa0;kB, or choose “No limit”.</source>
@@ -1145,8 +1153,16 @@ Sie liegt weiterhin unter %3.</translation>
         <translation>Verringern</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</source>
-        <translation>Für höchstens %1 hat die Datei %2 × %3 Pixel und %4&#xa0;fps.</translation>
+        <source>To fit under %1, the size was reduced to %2 × %3 pixels and the frame rate to %4&#xa0;fps.</source>
+        <translation>Für höchstens %1 wurden die Größe auf %2 × %3 Pixel und die Bildrate auf %4&#xa0;fps verringert.</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_RATE">
+        <source>To fit under %1, the frame rate was lowered from %2 to %3&#xa0;fps.</source>
+        <translation>Für höchstens %1 wurde die Bildrate von %2 auf %3&#xa0;fps verringert.</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_SIZE">
+        <source>To fit under %1, the size was reduced to %2 × %3 pixels.</source>
+        <translation>Für höchstens %1 wurde die Größe auf %2 × %3 Pixel verringert.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
         <source>To fit under %1, the file has less exact colors.</source>

@@ -710,6 +710,10 @@
         <source>Step 2 of 2: %p%</source>
         <translation>Paso 2 de 2: %p&#xa0;%</translation>
     </message>
+    <message id="IDD_PROGRESS_AGAIN">
+        <source>Attempt %1: making it fit under %2…</source>
+        <translation>Intento %1: reduciendo a %2 como máximo…</translation>
+    </message>
     <message id="IDD_EXPORT_CANCELLED">
         <source>The export was canceled.</source>
         <translation>La exportación se ha cancelado.</translation>
@@ -1108,17 +1112,21 @@ Sigue en %3.</translation>
         <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
         <translation>Tamaño máximo del archivo GIF o WebP. Para no superarlo se reducen primero la exactitud de los colores, luego la frecuencia de fotogramas y por último el ancho y el alto</translation>
     </message>
+    <message id="IDD_FIT_NOTE">
+        <source>Colors, then frame rate, then size are lowered as far as needed.</source>
+        <translation>Si hace falta bajan los colores, la frecuencia y el tamaño, en ese orden.</translation>
+    </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
         <translation>Sin límite</translation>
     </message>
     <message id="IDD_LIMIT_MB">
-        <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <source>%1&#xa0;MB</source>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message id="IDD_LIMIT_KB">
-        <source>%1 kB</source>
-        <translation>%1 kB</translation>
+        <source>%1&#xa0;kB</source>
+        <translation>%1&#xa0;kB</translation>
     </message>
     <message id="IDD_LIMIT_NOT_NUMBER">
         <source>Type a file size, such as 8&#xa0;MB or 500&#xa0;kB, or choose “No limit”.</source>
@@ -1145,8 +1153,16 @@ Sigue en %3.</translation>
         <translation>Reducir</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</source>
-        <translation>Para caber en %1, el archivo tiene %2 × %3 píxeles y %4&#xa0;fps.</translation>
+        <source>To fit under %1, the size was reduced to %2 × %3 pixels and the frame rate to %4&#xa0;fps.</source>
+        <translation>Para caber en %1, el tamaño se redujo a %2 × %3 píxeles y la frecuencia a %4&#xa0;fps.</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_RATE">
+        <source>To fit under %1, the frame rate was lowered from %2 to %3&#xa0;fps.</source>
+        <translation>Para caber en %1, la frecuencia de fotogramas se redujo de %2 a %3&#xa0;fps.</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_SIZE">
+        <source>To fit under %1, the size was reduced to %2 × %3 pixels.</source>
+        <translation>Para caber en %1, el tamaño se redujo a %2 × %3 píxeles.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
         <source>To fit under %1, the file has less exact colors.</source>

@@ -710,6 +710,10 @@
         <source>Step 2 of 2: %p%</source>
         <translation>Étape 2 sur 2&#xa0;: %p&#x202f;%</translation>
     </message>
+    <message id="IDD_PROGRESS_AGAIN">
+        <source>Attempt %1: making it fit under %2…</source>
+        <translation>Essai %1&#xa0;: réduction à %2 au maximum…</translation>
+    </message>
     <message id="IDD_EXPORT_CANCELLED">
         <source>The export was canceled.</source>
         <translation>L’exportation a été annulée.</translation>
@@ -1108,17 +1112,21 @@ Il reste à l’emplacement %3.</translation>
         <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
         <translation>Taille maximale du fichier GIF ou WebP. Pour ne pas la dépasser, on réduit d’abord l’exactitude des couleurs, puis la fréquence d’images, puis la largeur et la hauteur</translation>
     </message>
+    <message id="IDD_FIT_NOTE">
+        <source>Colors, then frame rate, then size are lowered as far as needed.</source>
+        <translation>Au besoin, on réduit les couleurs, puis la fréquence, puis la taille.</translation>
+    </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
         <translation>Sans limite</translation>
     </message>
     <message id="IDD_LIMIT_MB">
-        <source>%1 MB</source>
-        <translation>%1 Mo</translation>
+        <source>%1&#xa0;MB</source>
+        <translation>%1&#xa0;Mo</translation>
     </message>
     <message id="IDD_LIMIT_KB">
-        <source>%1 kB</source>
-        <translation>%1 ko</translation>
+        <source>%1&#xa0;kB</source>
+        <translation>%1&#xa0;ko</translation>
     </message>
     <message id="IDD_LIMIT_NOT_NUMBER">
         <source>Type a file size, such as 8&#xa0;MB or 500&#xa0;kB, or choose “No limit”.</source>
@@ -1145,8 +1153,16 @@ Il reste à l’emplacement %3.</translation>
         <translation>Réduire</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</source>
-        <translation>Pour tenir dans %1, le fichier fait %2 × %3 pixels à %4&#xa0;i/s.</translation>
+        <source>To fit under %1, the size was reduced to %2 × %3 pixels and the frame rate to %4&#xa0;fps.</source>
+        <translation>Pour tenir dans %1, la taille a été réduite à %2 × %3 pixels et la fréquence à %4&#xa0;i/s.</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_RATE">
+        <source>To fit under %1, the frame rate was lowered from %2 to %3&#xa0;fps.</source>
+        <translation>Pour tenir dans %1, la fréquence d’images a été réduite de %2 à %3&#xa0;i/s.</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_SIZE">
+        <source>To fit under %1, the size was reduced to %2 × %3 pixels.</source>
+        <translation>Pour tenir dans %1, la taille a été réduite à %2 × %3 pixels.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
         <source>To fit under %1, the file has less exact colors.</source>

@@ -705,6 +705,10 @@
         <source>Step 2 of 2: %p%</source>
         <translation>手順 2/2: %p%</translation>
     </message>
+    <message id="IDD_PROGRESS_AGAIN">
+        <source>Attempt %1: making it fit under %2…</source>
+        <translation>%1 回目: %2 に収まるように作成しています…</translation>
+    </message>
     <message id="IDD_EXPORT_CANCELLED">
         <source>The export was canceled.</source>
         <translation>書き出しをキャンセルしました。</translation>
@@ -1101,17 +1105,21 @@ It is still at %3.</source>
         <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
         <translation>GIF または WebP のファイルサイズの上限です。収まるように、色の正確さ、フレームレート、幅と高さの順に下げます</translation>
     </message>
+    <message id="IDD_FIT_NOTE">
+        <source>Colors, then frame rate, then size are lowered as far as needed.</source>
+        <translation>必要に応じて、色、フレームレート、サイズの順に下げます。</translation>
+    </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
         <translation>制限なし</translation>
     </message>
     <message id="IDD_LIMIT_MB">
-        <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <source>%1&#xa0;MB</source>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message id="IDD_LIMIT_KB">
-        <source>%1 kB</source>
-        <translation>%1 kB</translation>
+        <source>%1&#xa0;kB</source>
+        <translation>%1&#xa0;kB</translation>
     </message>
     <message id="IDD_LIMIT_NOT_NUMBER">
         <source>Type a file size, such as 8&#xa0;MB or 500&#xa0;kB, or choose “No limit”.</source>
@@ -1138,8 +1146,16 @@ It is still at %3.</source>
         <translation>下げる</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</source>
-        <translation>%1 に収めるため、%2 × %3 ピクセル、%4&#xa0;fps にしました。</translation>
+        <source>To fit under %1, the size was reduced to %2 × %3 pixels and the frame rate to %4&#xa0;fps.</source>
+        <translation>%1 に収めるため %2 × %3 ピクセル、%4&#xa0;fps に下げました。</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_RATE">
+        <source>To fit under %1, the frame rate was lowered from %2 to %3&#xa0;fps.</source>
+        <translation>%1 に収めるため、フレームレートを %2 から %3&#xa0;fps に下げました。</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_SIZE">
+        <source>To fit under %1, the size was reduced to %2 × %3 pixels.</source>
+        <translation>%1 に収めるため、サイズを %2 × %3 ピクセルに縮小しました。</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
         <source>To fit under %1, the file has less exact colors.</source>

@@ -710,6 +710,10 @@
         <source>Step 2 of 2: %p%</source>
         <translation>Etapa 2 de 2: %p%</translation>
     </message>
+    <message id="IDD_PROGRESS_AGAIN">
+        <source>Attempt %1: making it fit under %2…</source>
+        <translation>Tentativa %1: reduzindo a %2 no máximo…</translation>
+    </message>
     <message id="IDD_EXPORT_CANCELLED">
         <source>The export was canceled.</source>
         <translation>A exportação foi cancelada.</translation>
@@ -1108,17 +1112,21 @@ Ele continua em %3.</translation>
         <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
         <translation>Tamanho máximo do arquivo GIF ou WebP. Para não ultrapassá-lo, reduzem-se primeiro a exatidão das cores, depois a taxa de quadros e por fim a largura e a altura</translation>
     </message>
+    <message id="IDD_FIT_NOTE">
+        <source>Colors, then frame rate, then size are lowered as far as needed.</source>
+        <translation>Se preciso, reduzem-se as cores, depois a taxa e depois o tamanho.</translation>
+    </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
         <translation>Sem limite</translation>
     </message>
     <message id="IDD_LIMIT_MB">
-        <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <source>%1&#xa0;MB</source>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message id="IDD_LIMIT_KB">
-        <source>%1 kB</source>
-        <translation>%1 kB</translation>
+        <source>%1&#xa0;kB</source>
+        <translation>%1&#xa0;kB</translation>
     </message>
     <message id="IDD_LIMIT_NOT_NUMBER">
         <source>Type a file size, such as 8&#xa0;MB or 500&#xa0;kB, or choose “No limit”.</source>
@@ -1145,8 +1153,16 @@ Ele continua em %3.</translation>
         <translation>Reduzir</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</source>
-        <translation>Para caber em %1, o arquivo tem %2 × %3 pixels e %4&#xa0;fps.</translation>
+        <source>To fit under %1, the size was reduced to %2 × %3 pixels and the frame rate to %4&#xa0;fps.</source>
+        <translation>Para caber em %1, o tamanho foi reduzido para %2 × %3 pixels e a taxa para %4&#xa0;fps.</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_RATE">
+        <source>To fit under %1, the frame rate was lowered from %2 to %3&#xa0;fps.</source>
+        <translation>Para caber em %1, a taxa de quadros foi reduzida de %2 para %3&#xa0;fps.</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_SIZE">
+        <source>To fit under %1, the size was reduced to %2 × %3 pixels.</source>
+        <translation>Para caber em %1, o tamanho foi reduzido para %2 × %3 pixels.</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
         <source>To fit under %1, the file has less exact colors.</source>

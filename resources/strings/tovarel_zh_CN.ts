@@ -705,6 +705,10 @@
         <source>Step 2 of 2: %p%</source>
         <translation>第 2 步，共 2 步：%p%</translation>
     </message>
+    <message id="IDD_PROGRESS_AGAIN">
+        <source>Attempt %1: making it fit under %2…</source>
+        <translation>第 %1 次尝试：缩小到 %2 以内……</translation>
+    </message>
     <message id="IDD_EXPORT_CANCELLED">
         <source>The export was canceled.</source>
         <translation>导出已取消。</translation>
@@ -1101,17 +1105,21 @@ It is still at %3.</source>
         <source>Maximum size of the GIF or WebP file. To stay below it, color accuracy is reduced first, then the frame rate, then the width and height</source>
         <translation>GIF 或 WebP 文件的大小上限。为不超过上限，依次降低颜色精度、帧率、宽度和高度</translation>
     </message>
+    <message id="IDD_FIT_NOTE">
+        <source>Colors, then frame rate, then size are lowered as far as needed.</source>
+        <translation>必要时依次降低颜色精度、帧率和尺寸。</translation>
+    </message>
     <message id="IDD_NO_LIMIT">
         <source>No limit</source>
         <translation>不限</translation>
     </message>
     <message id="IDD_LIMIT_MB">
-        <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <source>%1&#xa0;MB</source>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message id="IDD_LIMIT_KB">
-        <source>%1 kB</source>
-        <translation>%1 kB</translation>
+        <source>%1&#xa0;kB</source>
+        <translation>%1&#xa0;kB</translation>
     </message>
     <message id="IDD_LIMIT_NOT_NUMBER">
         <source>Type a file size, such as 8&#xa0;MB or 500&#xa0;kB, or choose “No limit”.</source>
@@ -1138,8 +1146,16 @@ It is still at %3.</source>
         <translation>降低</translation>
     </message>
     <message id="IDD_STATUS_FITTED">
-        <source>To fit under %1, the file has %2 × %3 pixels at %4&#xa0;fps.</source>
-        <translation>为不超过 %1，文件的尺寸为 %2 × %3 像素，帧率为 %4&#xa0;帧/秒。</translation>
+        <source>To fit under %1, the size was reduced to %2 × %3 pixels and the frame rate to %4&#xa0;fps.</source>
+        <translation>为不超过 %1，尺寸已缩小到 %2 × %3 像素，帧率已降至 %4&#xa0;帧/秒。</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_RATE">
+        <source>To fit under %1, the frame rate was lowered from %2 to %3&#xa0;fps.</source>
+        <translation>为不超过 %1，帧率已从 %2 降至 %3&#xa0;帧/秒。</translation>
+    </message>
+    <message id="IDD_STATUS_FITTED_SIZE">
+        <source>To fit under %1, the size was reduced to %2 × %3 pixels.</source>
+        <translation>为不超过 %1，尺寸已缩小到 %2 × %3 像素。</translation>
     </message>
     <message id="IDD_STATUS_FITTED_COLORS">
         <source>To fit under %1, the file has less exact colors.</source>

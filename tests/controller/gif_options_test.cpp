@@ -221,6 +221,7 @@ TEST_F(GifOptions, ShowTheLimitAsItIsUnderstoodAndTheNextReturnGenerates) {
         EXPECT_EQ(field->text().replace(QChar(u' '), QChar::Nbsp), QString::fromUtf8(shown));
         EXPECT_EQ(controller.exportOptions->choices().limit.bytes, std::uint64_t(bytes));
         EXPECT_EQ(ui.labelGIFEstimate->text(), qtTrId("IDD_AT_MOST_SIZE").arg(field->text()));
+        EXPECT_FALSE(ui.labelFitNote->isHidden()) << "what the limit is kept by";
     }
     EXPECT_TRUE(answers.alerts.empty());
     controller.trim.setULastFrame(1); // an export that ends at its first check
@@ -232,6 +233,7 @@ TEST_F(GifOptions, ShowTheLimitAsItIsUnderstoodAndTheNextReturnGenerates) {
     ui.comboGIFQuality->setFocus();
     choose(GifPreset::Classic);
     EXPECT_TRUE(ui.labelGIFEstimate->text().isEmpty()) << "it knows no limit";
+    EXPECT_TRUE(ui.labelFitNote->isHidden());
 }
 
 TEST_F(GifOptions, SayWhatToDoFirstWhereNothingWasRecorded) {

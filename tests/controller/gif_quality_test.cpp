@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSet>
 #include <QSettings>
 #include <QTest>
 
@@ -343,6 +344,10 @@ TEST_F(GifQuality, FitsUnderALimitAndKeepsWhatWasChosen) {
         EXPECT_TRUE(finish());
         return QFileInfo(answers.savePath).size();
     };
+    QSet<QString> captions;
+    const ProgressSheet &progress = controller.surroundings.progress;
+    QObject::connect(&progress, &ProgressSheet::valueChanged, &progress,
+                     [&] { captions << progress.windowProgress()->windowTitle(); });
     const qint64 whole = limited("", "whole.gif");
     // The size is the user's: it is lowered only after a question.
     answers.choice = QMessageBox::AcceptRole;
@@ -357,6 +362,17 @@ TEST_F(GifQuality, FitsUnderALimitAndKeepsWhatWasChosen) {
     EXPECT_LT(QImageReader(answers.savePath).size().width(), 160);
     EXPECT_EQ(ui.textGIFWidth->text(), QStringLiteral("160"));
     EXPECT_TRUE(ui.labelStatus->text().contains(QStringLiteral("quarter.gif"))) << status();
+    // What was given up is said, and that more than one attempt was made.
+    const QSize size = QImageReader(answers.savePath).size();
+    EXPECT_TRUE(ui.labelFileDrag->text().contains(
+        QStringLiteral("%1 × %2").arg(size.width()).arg(size.height())))
+        << ui.labelFileDrag->text().toStdString();
+    EXPECT_TRUE(captions.contains(
+        qtTrId("IDD_PROGRESS_AGAIN").arg(QStringLiteral("2"), ui.comboFitUnder->currentText())));
+    limited(QByteArray::number(double(whole) * 0.7e-6, 'f', 3), "slower.gif");
+    EXPECT_EQ(QImageReader(answers.savePath).size().width(), 160);
+    EXPECT_FALSE(ui.labelFileDrag->text().contains(QStringLiteral("×")))
+        << ui.labelFileDrag->text().toStdString();
 
     EXPECT_EQ(limited("0.001", "tiny.gif"), 0);
     ASSERT_EQ(answers.alerts.size(), 1u);

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
+#include "export/fit_limit.h"
 #include "record/window_fps.h"
 #include "region/window_region_how_it_works.h"
 #include "shell/number_text.h"
@@ -232,6 +233,7 @@ void fillIn(const Ui::MainWindow &ui) {
     ui.labelGIFSummary->setText(qtTrId("IDD_GIF_WEBP_SUMMARY").arg(summary, summary));
     ui.labelGIFThinned->setText(qtTrId("IDD_GIF_THINNED"));
     ui.labelInstructions->hide();
+    ui.labelFitNote->show();
     ui.labelWebPLoopsHint->setText(qtTrId("IDD_LOOPS_RANGE").arg(count(65535)));
     ui.labelWebPLoopsHint->show();
     ui.labelGIFEstimate->setText(qtTrId("IDD_ABOUT_SIZE").arg(bytes(123'400'000)));
@@ -298,6 +300,7 @@ void checkSheet(AppDelegate &controller, Places &places) {
         sheet.show(qtTrId("IDD_SAVING_RECORDING"));
         sheet.offerCancel();
         sheet.setText(qtTrId(step));
+        sheet.setCaption(qtTrId("IDD_PROGRESS_AGAIN").arg(6).arg(fitLimitText(2'500'000)));
         sheet.setValue(100);
         TestController::settle();
         places.check(*sheet.windowProgress());
