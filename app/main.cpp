@@ -86,6 +86,16 @@ void nameApplication() {
     QCoreApplication::setApplicationVersion(QStringLiteral(TOVAREL_VERSION));
 }
 
+/// Chinese and Japanese share characters, and each has its own forms and marks of them. Fonts are
+/// found by the locale, which need not be that of our texts: with LANGUAGE it is another.
+void findFontsForTexts() {
+    const char *language = "FC_LANG"; // fontconfig's
+    const QString chosen = strings_table::chosen();
+    const bool sharesCharacters = chosen == QLatin1String("ja") || chosen == QLatin1String("zh-CN");
+    if (sharesCharacters && !qEnvironmentVariableIsSet(language))
+        qputenv(language, chosen.toLower().toLatin1());
+}
+
 QString runtimeFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
 }
@@ -167,6 +177,7 @@ int main(int argc, char **argv) {
                    stderr);
         return scripted ? command_line::cannotRecord : EXIT_FAILURE;
     }
+    findFontsForTexts();
     WindowName name(argc, argv);
     Application application(name.argc, name.argv.data());
     nameApplication();

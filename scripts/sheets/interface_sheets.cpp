@@ -10,14 +10,15 @@
 #include "record/window_fps.h"
 #include "region/region_panel.h"
 #include "region/window_region_how_it_works.h"
+#include "scripts/sheets/scene.h"
 #include "shell/edged_style.h"
 #include "shell/strings_table.h"
 #include "shell/tab_view.h"
 #include "shell/window_progress.h"
 #include "tests/controller/export_fixture.h"
-#include "scripts/sheets/scene.h"
 
 #include <QDir>
+#include <QLibraryInfo>
 #include <QPainter>
 #include <QStyle>
 #include <QTest>
@@ -239,12 +240,31 @@ private:
     }
 };
 
+/// In the forms that the language writes, as a desktop of that language has them.
+QFont fontFor(const Chosen &chosen, const QString &language) {
+    static const QString usual = QApplication::font().family();
+    QFont font(usual);
+    if (!chosen.family.isEmpty())
+        font.setFamily(chosen.family);
+    else if (language == QLatin1String("ja"))
+        font.setFamily(QStringLiteral("Noto Sans CJK JP"));
+    else if (language == QLatin1String("zh-CN"))
+        font.setFamily(QStringLiteral("Noto Sans CJK SC"));
+    font.setPointSizeF(chosen.points);
+    return font;
+}
+
 void makeSheets(const Chosen &chosen, const QString &language, Look look) {
     QTranslator table;
     if (!table.load(QStringLiteral(":/strings/tovarel_%1.qm")
                         .arg(QString(language).replace(QLatin1Char('-'), QLatin1Char('_')))))
         qFatal("there is no language %s", qPrintable(language));
     QCoreApplication::installTranslator(&table);
+    QTranslator toolkit; // keys and the like
+    if (toolkit.load(QStringLiteral("qtbase_") + QString(language).replace(u'-', u'_'),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&toolkit);
+    QApplication::setFont(fontFor(chosen, language));
     QLocale::setDefault(QLocale(language));
     QApplication::setPalette(palette(look));
     const auto path = [&](const char *what) {
@@ -255,6 +275,7 @@ void makeSheets(const Chosen &chosen, const QString &language, Look look) {
     Program().states(smallest).save(path("smallest"));
     Program().states(first).save(path("first"));
     Program().dialogs().save(path("dialogs"));
+    QCoreApplication::removeTranslator(&toolkit);
     QCoreApplication::removeTranslator(&table);
 }
 
@@ -292,9 +313,6 @@ int main(int argc, char **argv) {
     TestController::installTexts();
     const Chosen chosen = read(QCoreApplication::arguments());
     chosen.folder.mkpath(QStringLiteral("."));
-    QFont font(chosen.family.isEmpty() ? QApplication::font().family() : chosen.family);
-    font.setPointSizeF(chosen.points);
-    QApplication::setFont(font);
     for (const QString &language : chosen.languages)
         for (const Look look : {Look::Light, Look::Dark, Look::Contrast})
             if (look != Look::Contrast || language == QLatin1String("en"))
