@@ -3,6 +3,7 @@
 #include "app/control_texts.h"
 
 #include "shell/interface_strings.h"
+#include "shell/line_breaks.h"
 #include "ui_MainWindow.h"
 
 namespace {
@@ -24,7 +25,7 @@ void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
     ui.viewRecordPreview->setAccessibleName(qtTrId("IDD_RECORD_PREVIEW"));
     ui.viewCutPreview->setAccessibleName(qtTrId("IDD_CUT_PREVIEW"));
     ui.viewCutRange->setAccessibleName(qtTrId("IDD_CUT_RANGE"));
-    ui.labelInstructions->setText(texts.s_IDD_INSTRUCTIONS());
+    ui.labelInstructions->setText(line_breaks::atPhrases(texts.s_IDD_INSTRUCTIONS()));
     ui.groupDimension->setTitle(qtTrId("IDD_GROUP_SIZE"));
     ui.radioGIFOriginalDimension->setText(texts.s_IDD_RESOLUTION_EQUAL());
     ui.radioGIFCustomDimension->setText(texts.s_IDD_RESOLUTION_CUSTOM());
@@ -39,7 +40,7 @@ void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
     ui.radioGIFCustomFPS->setText(texts.s_IDD_FORCE_FPS());
     ui.labelFPS->setText(texts.s_IDD_FPS());
     ui.comboGIFFPS->setAccessibleName(texts.s_IDD_FPS());
-    ui.labelNote->setText(texts.s_IDD_NOTE());
+    ui.labelNote->setText(line_breaks::atPhrases(texts.s_IDD_NOTE()));
     ui.viewCutRange->setToolTip(qtTrId("IDD_STRIP_TIP"));
     ui.labelQuality->setText(qtTrId("IDD_QUALITY"));
     ui.comboGIFQuality->setAccessibleName(qtTrId("IDD_QUALITY"));
@@ -49,7 +50,7 @@ void nameFields(const Ui::MainWindow &ui, const InterfaceStrings &texts) {
     ui.comboFitUnder->setAccessibleName(qtTrId("IDD_FIT_UNDER"));
     ui.comboFitUnder->lineEdit()->setAccessibleName(qtTrId("IDD_FIT_UNDER"));
     ui.comboFitUnder->setToolTip(qtTrId("IDD_FIT_UNDER_TIP"));
-    ui.labelFitNote->setText(qtTrId("IDD_FIT_NOTE"));
+    ui.labelFitNote->setText(line_breaks::atPhrases(qtTrId("IDD_FIT_NOTE")));
     for (const auto &[button, percent] : {std::pair(ui.btnGIFSize75, 75), {ui.btnGIFSize50, 50}}) {
         button->setText(qtTrId("IDD_PERCENT").arg(percent));
         button->setToolTip(qtTrId("IDD_PERCENT_TIP").arg(percent));

@@ -3,6 +3,7 @@
 #include "export/export_options.h"
 #include "export/exporter.h"
 #include "export/loops_text.h"
+#include "shell/line_breaks.h"
 #include "shell/number_text.h"
 #include "shell/surroundings.h"
 
@@ -28,11 +29,12 @@ void ExportOptions::updateGIFSummary() {
     ui_.labelGIFSummary->clear();
     ui_.labelInstructions->setVisible(!isUsable_);
     if (!exporter_.surroundings().firstFrameFileExists() || ui_.comboGIFFPS->currentIndex() < 0) {
-        ui_.labelGIFSummary->setText(qtTrId("IDD_RECORD_FIRST"));
+        ui_.labelGIFSummary->setText(line_breaks::atPhrases(qtTrId("IDD_RECORD_FIRST")));
         return;
     }
     if (exporter_.hasTooFewFrames()) {
-        ui_.labelGIFSummary->setText(exporter_.surroundings().texts.s_IDD_LOW_FRAME_NUMBER());
+        ui_.labelGIFSummary->setText(
+            line_breaks::atPhrases(exporter_.surroundings().texts.s_IDD_LOW_FRAME_NUMBER()));
         return;
     }
     const Request request = exporter_.timingRequest(chosen());

@@ -10,6 +10,7 @@
 #include "export/save_request.h"
 #include "platform/desktop_services.h"
 #include "shell/elided_label.h"
+#include "shell/line_breaks.h"
 #include "shell/number_text.h"
 #include "shell/surroundings.h"
 
@@ -163,7 +164,7 @@ void FileCard::updateFile() {
     if (condition_ != Condition::Sound)
         note =
             condition_ == Condition::Gone ? qtTrId("IDD_FILE_GONE") : qtTrId("IDD_FILE_REPLACED");
-    ui_.labelFileDrag->setText(note);
+    ui_.labelFileDrag->setText(line_breaks::atPhrases(note));
 }
 
 void FileCard::chooseDefault() {

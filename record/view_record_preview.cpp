@@ -7,6 +7,7 @@
 #include "record/window_list.h"
 #include "region/region_chooser.h"
 #include "shell/coordinates.h"
+#include "shell/line_breaks.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -237,7 +238,7 @@ void View_Record_Preview::showReason(const QString &reason) {
     showsReason_ = !reason.isEmpty();
     setAccessibleDescription(reason);
     auto *label = findChild<QLabel *>(QStringLiteral("labelReason"));
-    label->setText(reason);
+    label->setText(line_breaks::atPhrases(reason));
     label->setVisible(showsReason_);
     // The preview is black in every theme.
     QPalette palette = label->palette();

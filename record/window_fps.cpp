@@ -5,6 +5,7 @@
 #include "record/rate_list.h"
 #include "record/recorder.h"
 #include "shell/elided_label.h"
+#include "shell/line_breaks.h"
 #include "shell/mnemonics.h"
 #include "shell/surroundings.h"
 #include "ui_Window_FPS.h"
@@ -27,7 +28,7 @@ void Window_FPS::windowDidLoad() {
     fillRates(*ui_->comboScreenFPS, recorder_.recording.u_FPS());
     const InterfaceStrings &texts = recorder_.surroundings().texts;
     ui_->labelFPS->setText(texts.s_IDD_FPS());
-    ui_->labelNote->setText(texts.s_IDD_NOTE());
+    ui_->labelNote->setText(line_breaks::atPhrases(texts.s_IDD_NOTE()));
     setWindowTitle(texts.s_IDD_FPS());
     ui_->comboScreenFPS->setAccessibleName(texts.s_IDD_FPS());
     ui_->btnOK->setText(qtTrId("IDD_OK"));

@@ -3,6 +3,7 @@
 #include "region/window_region_how_it_works.h"
 
 #include "region/region_fields.h"
+#include "shell/line_breaks.h"
 #include "shell/mnemonics.h"
 #include "shell/settings.h"
 #include "ui_Window_Region_How_It_Works.h"
@@ -22,10 +23,10 @@ QCheckBox *Window_Region_How_It_Works::checkDontShowAgain() const {
 
 void Window_Region_How_It_Works::windowDidLoad(bool picksWindows) {
     setWindowTitle(qtTrId("IDD_REGION_HOW_TO_TITLE"));
-    ui_->labelText->setText(qtTrId("IDD_REGION_HOW_TO_TEXT"));
-    ui_->labelWindow->setText(qtTrId("IDD_REGION_HOW_TO_WINDOW"));
+    ui_->labelText->setText(line_breaks::atPhrases(qtTrId("IDD_REGION_HOW_TO_TEXT")));
+    ui_->labelWindow->setText(line_breaks::atPhrases(qtTrId("IDD_REGION_HOW_TO_WINDOW")));
     ui_->labelWindow->setVisible(picksWindows);
-    ui_->labelKeys->setText(qtTrId("IDD_REGION_HOW_TO_KEYS"));
+    ui_->labelKeys->setText(line_breaks::atPhrases(qtTrId("IDD_REGION_HOW_TO_KEYS")));
     ui_->viewPicture->setAccessibleName(qtTrId("IDD_REGION_HOW_TO_PICTURE"));
     ui_->checkDontShowAgain->setText(qtTrId("IDD_REGION_HOW_TO_AGAIN"));
     ui_->btnOK->setText(qtTrId("IDD_OK"));
