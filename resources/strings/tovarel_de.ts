@@ -667,15 +667,15 @@
     </message>
     <message id="IDD_TAB_NEEDS_STOP_RECORDING">
         <source>Stop the recording to open another tab.</source>
-        <translation>Beenden Sie die Aufnahme, um einen anderen Reiter zu öffnen.</translation>
+        <translation>Beenden Sie die Aufnahme, um eine andere Ansicht zu öffnen.</translation>
     </message>
     <message id="IDD_TAB_NEEDS_STOP_PLAYBACK">
         <source>Stop the playback to open another tab.</source>
-        <translation>Beenden Sie die Wiedergabe, um einen anderen Reiter zu öffnen.</translation>
+        <translation>Beenden Sie die Wiedergabe, um eine andere Ansicht zu öffnen.</translation>
     </message>
     <message id="IDD_KEY_ON_RECORD_TAB">
-        <source>To record again, open the Record tab.</source>
-        <translation>Öffnen Sie den Reiter „Aufnehmen“, um wieder aufzunehmen.</translation>
+        <source>To record again, open the “Record” tab.</source>
+        <translation>Öffnen Sie die Ansicht „Aufnehmen“, um wieder aufzunehmen.</translation>
     </message>
     <message id="IDD_STILL_LENGTH">
         <source>To %1&#xa0;s at Most</source>

@@ -674,8 +674,8 @@
         <translation>Stop the playback to open another tab.</translation>
     </message>
     <message id="IDD_KEY_ON_RECORD_TAB">
-        <source>To record again, open the Record tab.</source>
-        <translation>To record again, open the Record tab.</translation>
+        <source>To record again, open the “Record” tab.</source>
+        <translation>To record again, open the “Record” tab.</translation>
     </message>
     <message id="IDD_STILL_LENGTH">
         <source>To %1&#xa0;s at Most</source>

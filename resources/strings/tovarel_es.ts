@@ -674,7 +674,7 @@
         <translation>Detenga la reproducción para abrir otra pestaña.</translation>
     </message>
     <message id="IDD_KEY_ON_RECORD_TAB">
-        <source>To record again, open the Record tab.</source>
+        <source>To record again, open the “Record” tab.</source>
         <translation>Para volver a grabar, abra la pestaña «Grabar».</translation>
     </message>
     <message id="IDD_STILL_LENGTH">

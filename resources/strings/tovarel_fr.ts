@@ -674,7 +674,7 @@
         <translation>Arrêtez la lecture pour ouvrir un autre onglet.</translation>
     </message>
     <message id="IDD_KEY_ON_RECORD_TAB">
-        <source>To record again, open the Record tab.</source>
+        <source>To record again, open the “Record” tab.</source>
         <translation>Pour enregistrer à nouveau, ouvrez l’onglet «&#xa0;Enregistrer&#xa0;».</translation>
     </message>
     <message id="IDD_STILL_LENGTH">

@@ -669,7 +669,7 @@
         <translation>ほかのタブを開くには、再生を停止してください。</translation>
     </message>
     <message id="IDD_KEY_ON_RECORD_TAB">
-        <source>To record again, open the Record tab.</source>
+        <source>To record again, open the “Record” tab.</source>
         <translation>もう一度録画するには、「録画」タブを開いてください。</translation>
     </message>
     <message id="IDD_STILL_LENGTH">

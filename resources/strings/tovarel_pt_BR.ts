@@ -674,7 +674,7 @@
         <translation>Pare a reprodução para abrir outra guia.</translation>
     </message>
     <message id="IDD_KEY_ON_RECORD_TAB">
-        <source>To record again, open the Record tab.</source>
+        <source>To record again, open the “Record” tab.</source>
         <translation>Para gravar de novo, abra a guia “Gravar”.</translation>
     </message>
     <message id="IDD_STILL_LENGTH">

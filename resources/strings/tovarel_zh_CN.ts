@@ -669,7 +669,7 @@
         <translation>要打开其他标签页，请先停止播放。</translation>
     </message>
     <message id="IDD_KEY_ON_RECORD_TAB">
-        <source>To record again, open the Record tab.</source>
+        <source>To record again, open the “Record” tab.</source>
         <translation>要再次录制，请打开“录制”标签页。</translation>
     </message>
     <message id="IDD_STILL_LENGTH">
