@@ -221,8 +221,8 @@ void XClient::setBackgroundPixmap(bool present) {
         xcb_clear_area(get(), 0, root(), 0, 0, 0, 0);
         return;
     }
-    // Smaller than the desktop: it is to be repeated.
-    const QRect whole(0, 0, 150, 90);
+    // Smaller than the desktop: it is to be repeated, which not all compositing managers do.
+    const QRect whole = compositingManagerRuns() ? desktop() : QRect(0, 0, 150, 90);
     const auto background = pixmap(whole.size());
     drawPattern(background, whole, 77);
     show(background);

@@ -362,14 +362,15 @@ class Wayland(case.Case):
         for answer, arguments, words in (
                 ("refuse", whole, "Nothing was chosen"),
                 ("odd", whole, "no pictures"),
-                ("no node", whole, "stopped sharing"),
+                # WirePlumber says from 0.5 on that there is no such node, and only ended before.
+                ("no node", whole, "stopped sharing|no pictures .* not found"),
                 ("grant", ("record", "--region", "1280x720+1+0", "--seconds", 1), "1280 × 720"),
                 ("grant", ("record", "--screen", 1, "--seconds", 1), "dialog"),
                 ("grant", ("record", "--window", "counter", "--seconds", 1), "dialog")):
             self.session.answer_with(answer=answer)
             status, said, complained = self.run_it(*arguments)
             self.assertEqual((status, said), (3, ""), arguments)
-            self.assertIn(words, complained)
+            self.assertRegex(complained, words)
         # The question stands for as long as it takes; an interrupt ends it.
         self.session.answer_with(answer="hang")
         count = len(self.asked("Start"))
