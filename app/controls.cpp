@@ -250,13 +250,17 @@ void Controls::showWaysToLastFile() {
         controller_.fileCard->showsFile() && ui_.tabStack->currentWidget() == ui_.pageGIF;
     const bool unsaved = controller_.exporter.hasUnsavedResult();
     ui_.btnSaveResult->setVisible(unsaved && !onCard);
-    ui_.btnLastFile->setVisible(controller_.fileCard->hasFile() && !unsaved && !onCard);
+    // One that is just being made comes onto the card.
+    const bool isMade = controller_.exporter.exporting.exportRuns();
+    ui_.btnLastFile->setVisible(controller_.fileCard->hasFile() && !unsaved && !onCard && !isMade);
 }
 
 void Controls::showState() {
     const RecordStatus status = controller_.recording.m_RecordStatus();
     ui_.recordingIndicator->setState(status);
     showStateInTaskBar(controller_.shell, status, controller_.recorder.secondsToGo());
+    // Figures: the first ones matter most, and half a one says something wrong.
+    ui_.labelStatus->setLeavesPartsOut(status != RECORD_STATUS_STOP);
     ui_.btnSaveAgain->setVisible(controller_.recorder.hasMissingFrames());
     showStatus();
     refresh();

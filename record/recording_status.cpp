@@ -16,8 +16,9 @@ constexpr int decimal = 10;
 
 /// How much the last second counts in the growth that is shown.
 constexpr double weightOfASecond = 0.25;
-/// Beyond this nobody asks how long memory lasts, in seconds.
-constexpr double longest = 24 * 60 * 60;
+/// Beyond this nobody asks how long memory lasts, in seconds; the first seconds of a recording say
+/// little about it.
+constexpr double longest = 60 * 60;
 
 /// "1:05", minutes and seconds.
 QString minutesAndSeconds(double passed) {
@@ -25,6 +26,11 @@ QString minutesAndSeconds(double passed) {
     return QStringLiteral("%1:%2")
         .arg(seconds / secondsPerMinute)
         .arg(seconds % secondsPerMinute, 2, decimal, QLatin1Char('0'));
+}
+
+/// Whole minutes that are left, and never none: then a recording pauses.
+QString minutesLeft(double seconds) {
+    return QString::number(std::max(1, static_cast<int>(seconds) / secondsPerMinute));
 }
 
 } // namespace
@@ -47,7 +53,7 @@ void Recorder::showRecordingState() {
         memory ? recording.budget.secondsLeft(*memory, recording.growth) : std::optional<double>();
     text += QStringLiteral(" · ") +
             (left && *left < longest
-                 ? qtTrId("IDD_RECORDING_MEMORY_LASTS").arg(held, minutesAndSeconds(*left))
+                 ? qtTrId("IDD_RECORDING_MEMORY_LASTS").arg(held, minutesLeft(*left))
                  : qtTrId("IDD_RECORDING_MEMORY").arg(held));
     if (!fitted_.isEmpty())
         text += QStringLiteral(" · ") + qtTrId("IDD_SOURCE_RESIZED");

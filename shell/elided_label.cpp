@@ -5,9 +5,24 @@
 #include <QPainter>
 #include <QStyle>
 
+QRect ElidedLabel::textArea() const {
+    return contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+}
+
+QString ElidedLabel::shownText() const {
+    const int room = textArea().width();
+    QString shown = text();
+    for (qsizetype end = shown.size(); leavesPartsOut_ && end > 0;
+         end = shown.lastIndexOf(QStringLiteral(" · "))) {
+        shown.truncate(end);
+        if (fontMetrics().horizontalAdvance(shown) <= room)
+            break;
+    }
+    return fontMetrics().elidedText(shown, mode_, room);
+}
+
 void ElidedLabel::paintEvent(QPaintEvent *) {
     QPainter painter(this);
-    const QRect area = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
-    style()->drawItemText(&painter, area, static_cast<int>(alignment()), palette(), isEnabled(),
-                          fontMetrics().elidedText(text(), mode_, area.width()), foregroundRole());
+    style()->drawItemText(&painter, textArea(), static_cast<int>(alignment()), palette(),
+                          isEnabled(), shownText(), foregroundRole());
 }

@@ -12,6 +12,16 @@ class ElidedLabel : public QLabel {
 public:
     using QLabel::QLabel;
 
+    /// Whether parts (between " · ") are left out as a whole, from the last one, before anything is
+    /// cut.
+    void setLeavesPartsOut(bool leaves) {
+        leavesPartsOut_ = leaves;
+        update();
+    }
+
+    /// What of the text is shown in the present width.
+    QString shownText() const;
+
     /// Where it is cut; at the end unless something else is said.
     void setElideMode(Qt::TextElideMode mode) { mode_ = mode; }
 
@@ -19,5 +29,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QRect textArea() const;
+
     Qt::TextElideMode mode_ = Qt::ElideRight;
+    bool leavesPartsOut_ = false;
 };

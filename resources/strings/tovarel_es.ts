@@ -423,8 +423,8 @@
         <translation>Memoria: %1</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
-        <source>Memory: %1, enough for %2 more</source>
-        <translation>Memoria: %1, alcanza para %2 más</translation>
+        <source>Memory: %1, enough for %2&#xa0;min more</source>
+        <translation>Memoria: %1, alcanza para %2&#xa0;min más</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
         <source>The recording is complete. Frames: %1 · %2&#xa0;fps</source>

@@ -423,8 +423,8 @@
         <translation>Memória: %1</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
-        <source>Memory: %1, enough for %2 more</source>
-        <translation>Memória: %1, suficiente para mais %2</translation>
+        <source>Memory: %1, enough for %2&#xa0;min more</source>
+        <translation>Memória: %1, suficiente para mais %2&#xa0;min</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
         <source>The recording is complete. Frames: %1 · %2&#xa0;fps</source>

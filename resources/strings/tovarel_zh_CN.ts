@@ -421,8 +421,8 @@
         <translation>内存：%1</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY_LASTS">
-        <source>Memory: %1, enough for %2 more</source>
-        <translation>内存：%1，还可录 %2</translation>
+        <source>Memory: %1, enough for %2&#xa0;min more</source>
+        <translation>内存：%1，还可录 %2&#xa0;分钟</translation>
     </message>
     <message id="IDD_RECORDING_SAVED">
         <source>The recording is complete. Frames: %1 · %2&#xa0;fps</source>

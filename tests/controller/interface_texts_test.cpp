@@ -246,7 +246,7 @@ void checkStatusLine(const Ui::MainWindow &ui, Places &places) {
     const QString figures =
         qtTrId("IDD_RECORDING_FIGURES").arg(QStringLiteral("12:34"), count(12345), rate(59.9));
     const QString memory =
-        qtTrId("IDD_RECORDING_MEMORY_LASTS").arg(bytes(123'400'000), QStringLiteral("12:34"));
+        qtTrId("IDD_RECORDING_MEMORY_LASTS").arg(bytes(123'400'000), QStringLiteral("12"));
     const struct {
         RecordStatus state;
         QString text;
@@ -292,6 +292,21 @@ void checkStatusLine(const Ui::MainWindow &ui, Places &places) {
     }
 }
 
+/// The same in the smallest window: what has no room is left out, never cut within.
+void checkFiguresInNarrowWindow(TestController &controller) {
+    controller.server->picture = plainImage({64, 48}, qRgb(10, 20, 30));
+    controller.ui().btnRecordRecord->click();
+    for (QToolButton *next : {controller.ui().btnRecordPause, controller.ui().btnRecordStop}) {
+        TestController::settle();
+        const ElidedLabel &status = *controller.ui().labelStatus;
+        EXPECT_GT(status.text().size(), 20);
+        EXPECT_FALSE(status.shownText().isEmpty());
+        EXPECT_TRUE(status.text().startsWith(status.shownText()))
+            << status.shownText().toStdString();
+        next->click();
+    }
+}
+
 /// What the sheet says while something is made.
 void checkSheet(AppDelegate &controller, Places &places) {
     ProgressSheet &sheet = controller.surroundings.progress;
@@ -324,6 +339,7 @@ TEST_P(InterfaceTextsFit, theirPlacesInEveryLanguage) {
             << language.toStdString() << ": all options are seen in a window of the first size";
         const QSize smallest = AppDelegate::windowWillResizeToSize({0, 0}).toSize();
         window.resize(smallest);
+        checkFiguresInNarrowWindow(controller);
         for (int tab = 0; tab < ui.tabBar->count(); ++tab) {
             ui.tabBar->setCurrentIndex(tab);
             TestController::settle();
