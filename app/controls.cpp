@@ -24,6 +24,8 @@
 #include <QShortcut>
 #include <QTextDocument>
 
+#include <iterator>
+
 namespace {
 
 /// The arrow beside a button opens the choices for it.
@@ -32,6 +34,13 @@ void showMenuBelow(QToolButton &arrow, QMenu &menu) {
         // It returns at once: assistive technology waits for the answer to its press.
         menu.popup(arrow.mapToGlobal(arrow.rect().bottomLeft()));
     });
+}
+
+/// As wide as with the longest delay beside the icon: nothing moves when one is chosen.
+void reserveForDelay(QToolButton &button) {
+    button.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button.setText(qtTrId("IDD_SECONDS").arg(*std::rbegin(offeredDelays)));
+    button.setMinimumWidth(button.sizeHint().width());
 }
 
 QString captureModeText(const CaptureMode &mode) {
@@ -67,6 +76,7 @@ void Controls::setUp() {
     makeMenus();
     commands_ = commandTable(controller_);
     ::setUp(commands_, this);
+    reserveForDelay(*ui_.btnRecordRecord);
     offerStillLengths();
     new KeyUsers(*controller_.shell.window());
     const InterfaceStrings &texts = controller_.texts;
@@ -329,6 +339,7 @@ ExportControls exportControls(const Ui::MainWindow &ui) {
             .radioGIFCustomDimension = ui.radioGIFCustomDimension,
             .textGIFWidth = ui.textGIFWidth,
             .textGIFHeigth = ui.textGIFHeigth,
+            .labelTimes = ui.labelTimes,
             .checkGIFKeepAspectRatio = ui.checkGIFKeepAspectRatio,
             .labelDimensionHint = ui.labelDimensionHint,
             .radioGIFOriginalFPS = ui.radioGIFOriginalFPS,
@@ -350,6 +361,7 @@ ExportControls exportControls(const Ui::MainWindow &ui) {
             .labelInstructions = ui.labelInstructions,
             .btnWebPGenerate = ui.btnWebPGenerate,
             .labelFPS = ui.labelFPS,
+            .labelNote = ui.labelNote,
             .labelWebPLoops = ui.labelWebPLoops,
             .comboGIFRepeat = ui.comboGIFRepeat,
             .txtWebPLoops = ui.txtWebPLoops,

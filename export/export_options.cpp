@@ -53,6 +53,7 @@ void ExportOptions::resetGIFOptions() {
                                  ui_.radioGIFCustomDimension,
                                  ui_.textGIFWidth,
                                  ui_.textGIFHeigth,
+                                 ui_.labelTimes,
                                  ui_.checkGIFKeepAspectRatio,
                                  ui_.radioGIFOriginalFPS,
                                  ui_.radioGIFCustomFPS,
@@ -64,6 +65,7 @@ void ExportOptions::resetGIFOptions() {
                                  ui_.labelSpeed,
                                  ui_.comboGIFSpeed,
                                  ui_.labelFPS,
+                                 ui_.labelNote,
                                  ui_.labelWebPLoops,
                                  ui_.comboGIFRepeat,
                                  ui_.labelHold,
@@ -153,6 +155,7 @@ void ExportOptions::OnGIFOriginalResolution() {
     ui_.radioGIFCustomDimension->setChecked(false);
     ui_.textGIFWidth->setEnabled(false);
     ui_.textGIFHeigth->setEnabled(false);
+    ui_.labelTimes->setEnabled(false);
     ui_.checkGIFKeepAspectRatio->setEnabled(false);
     if (const std::optional<QSize> size = exporter_.originalSize()) {
         write(*ui_.textGIFWidth, QString::number(size->width()));
@@ -167,6 +170,7 @@ void ExportOptions::OnGIFCustomResolution() {
     ui_.radioGIFOriginalDimension->setChecked(false);
     ui_.textGIFWidth->setEnabled(true);
     ui_.textGIFHeigth->setEnabled(true);
+    ui_.labelTimes->setEnabled(true);
     ui_.checkGIFKeepAspectRatio->setEnabled(true);
     updateGIFDimensionHint();
 }

@@ -34,6 +34,7 @@ struct ExportControls {
     QRadioButton *radioGIFCustomDimension;
     QLineEdit *textGIFWidth;
     QLineEdit *textGIFHeigth;
+    QLabel *labelTimes;
     QCheckBox *checkGIFKeepAspectRatio;
     QLabel *labelDimensionHint;
     QRadioButton *radioGIFOriginalFPS;
@@ -55,6 +56,7 @@ struct ExportControls {
     QLabel *labelInstructions; ///< Without a recording, behind what is to be done first.
     QAbstractButton *btnWebPGenerate;
     QLabel *labelFPS;
+    QLabel *labelNote;
     QLabel *labelWebPLoops;
     QComboBox *comboGIFRepeat;
     QLineEdit *txtWebPLoops; ///< In which that list is typed.

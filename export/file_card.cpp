@@ -57,8 +57,12 @@ FileCard::FileCard(const FileCardControls &controls, Exporter &exporter, QObject
     for (const auto signal :
          {&QFileSystemWatcher::fileChanged, &QFileSystemWatcher::directoryChanged})
         connect(&watcher_, signal, this, [this] {
-            if (showsFile_ && condition() != condition_)
-                update();
+            if (!showsFile_ || condition() == condition_)
+                return;
+            update();
+            // The status line may still say where it is.
+            if (condition_ == Condition::Gone && ui_.viewFilePicture->isSeen())
+                exporter_.surroundings().showStatus({});
         });
     connect(ui_.viewFilePicture, &FilePicture::dragBegan, this, &FileCard::drag);
     connect(ui_.viewFilePicture, &FilePicture::seenChanged, this, &FileCard::updatePlaying);

@@ -6,17 +6,15 @@
 #include <QEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QStyleOption>
 
 #include <algorithm>
 
 namespace {
 
 constexpr int edgeHeight = 26; // points
-constexpr int arrowSide = 12;  // points
-constexpr qreal clearPart = 0.4;
+constexpr int besideBar = 4;   // points
 
-/// Fades out what is cut at the lower edge, and points to what is beneath it.
+/// Fades out what is cut at the lower edge.
 class MoreBelow : public QWidget {
 public:
     explicit MoreBelow(QWidget *parent) : QWidget(parent) {
@@ -28,15 +26,11 @@ protected:
         const QColor ground = palette().color(QPalette::Window);
         QColor clear = ground;
         clear.setAlpha(0);
-        QLinearGradient fade(0, 0, 0, height() * (1 - clearPart));
+        QLinearGradient fade(0, 0, 0, height());
         fade.setColorAt(0, clear);
         fade.setColorAt(1, ground);
         QPainter painter(this);
         painter.fillRect(rect(), fade);
-        QStyleOption arrow;
-        arrow.initFrom(this);
-        arrow.rect = QRect((width() - arrowSide) / 2, height() - arrowSide, arrowSide, arrowSide);
-        style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter, this);
     }
 };
 
@@ -75,7 +69,8 @@ void ScrollingOptions::resizeEvent(QResizeEvent *event) {
 
 void ScrollingOptions::arrange() {
     // As if there were always a scroll bar: it comes and goes with what is folded.
-    const int room = maximumViewportSize().width() - verticalScrollBar()->sizeHint().width();
+    const int room =
+        maximumViewportSize().width() - verticalScrollBar()->sizeHint().width() - besideBar;
     for (QBoxLayout *row : rows_) {
         const QWidget &group = *row->parentWidget();
         const int margins =
@@ -87,6 +82,8 @@ void ScrollingOptions::arrange() {
 
 void ScrollingOptions::placeEdge() {
     const QScrollBar &bar = *verticalScrollBar();
+    if (widget())
+        widget()->setContentsMargins(0, 0, bar.maximum() > 0 ? besideBar : 0, 0);
     QRect place = viewport()->geometry();
     place.setTop(place.bottom() + 1 - edgeHeight);
     edge_->setGeometry(place);

@@ -36,11 +36,14 @@ void Exporter::saveUnsavedResult() {
     if (surroundings_.alerts.isAsking() || !mayExport())
         return;
     // Neither a second panel nor an export beneath the first one.
-    const ExportMark mark(exporting);
-    if (hasUnsavedResult())
-        chooseResultsPlace();
-    else
-        forgetResult();
+    {
+        const ExportMark mark(exporting);
+        if (hasUnsavedResult())
+            chooseResultsPlace();
+        else
+            forgetResult();
+    }
+    Q_EMIT fileMoved();
 }
 
 void Exporter::takeLeftFile() {

@@ -24,6 +24,7 @@ namespace {
 
 constexpr double numberShare = 0.6; // a countdown's disc of the view, its number of the disc
 constexpr int discOpacity = 170;    // of 255: it is read on any picture
+constexpr double discEdge = 2;      // points: on black parts only it is seen
 
 /// How long after a resize the window system's exposure of it may come, in milliseconds: a resize
 /// that the program asked for makes its way through the window manager first.
@@ -145,7 +146,7 @@ void View_Record_Preview::paintNumber(QPainter &painter) const {
     QRectF disc(0, 0, side, side);
     disc.moveCenter(QRectF(rect()).center());
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
+    painter.setPen(QPen(Qt::white, discEdge));
     painter.setBrush(QColor(0, 0, 0, discOpacity));
     painter.drawEllipse(disc);
     QFont large = font();

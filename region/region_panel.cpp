@@ -23,6 +23,8 @@ namespace {
 constexpr int largest = 65535; // pixels, of any side or place
 constexpr int margin = 8;      // points, its edges among them
 constexpr int between = 4;     // points
+constexpr int apart = 10;      // points between a field and the next one's label
+constexpr int besideText = 12; // points, of a button
 
 const std::array usualSizes{QSize(320, 240), QSize(640, 480), QSize(800, 600), QSize(1280, 720),
                             QSize(1920, 1080)};
@@ -41,6 +43,8 @@ QSpinBox *addField(QBoxLayout &row, QWidget *parent, const char *name, const QSt
     field->setButtonSymbols(QAbstractSpinBox::NoButtons);
     field->setKeyboardTracking(false); // not while somebody is still typing
     field->setAccessibleName(text);
+    if (row.count() > 0)
+        row.addSpacing(apart - between);
     auto *label = new QLabel(text, parent);
     label->setObjectName(QStringLiteral("label") + QLatin1String(name));
     label->setTextFormat(Qt::PlainText);
@@ -89,6 +93,7 @@ RegionPanel::RegionPanel(QWidget *parent, int width) : QFrame(parent) {
     rest->addWidget(presets_);
     for (QPushButton *button : {pick_, use_}) {
         button->setFocusPolicy(Qt::TabFocus); // a click leaves the keys to the region
+        button->setMinimumWidth(fontMetrics().horizontalAdvance(button->text()) + 2 * besideText);
         rest->addWidget(button);
     }
     hint_ = new QLabel(qtTrId("IDD_REGION_KEYS"), this);
@@ -97,8 +102,11 @@ RegionPanel::RegionPanel(QWidget *parent, int width) : QFrame(parent) {
     fillPresets();
     mnemonics::mark(*this);
     isNarrow_ = sizeHint().width() > width;
-    if (isNarrow_)
+    if (isNarrow_) {
         rows->setDirection(QBoxLayout::TopToBottom);
+        // Else the labels would grow away from their fields.
+        fields->addStretch();
+    }
 
     const auto moved = [this] {
         Q_EMIT wanted(QRect(x_->value(), y_->value(), width_->value(), height_->value()));

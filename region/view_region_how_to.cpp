@@ -11,15 +11,12 @@
 
 namespace {
 
-constexpr QSize wholeSize(420, 190);          // points
-constexpr int regionWidth = 190;              // points, at least
-constexpr int besideWords = 16;               // points between the region's words and its edges
-constexpr double regionHeight = 86;           // points
-constexpr double arrowLength = 22;            // points
-constexpr double arrowHead = 5;               // points
-const QColor desktopColor(226, 230, 236);     // a screen with nothing on it
-const QColor desktopEdgeColor(150, 156, 166); // its frame
-const QColor inkColor(32, 36, 42);            // arrows and words
+constexpr QSize wholeSize(420, 190); // points
+constexpr int regionWidth = 190;     // points, at least
+constexpr int besideWords = 16;      // points between the region's words and its edges
+constexpr double regionHeight = 86;  // points
+constexpr double arrowLength = 22;   // points
+constexpr double arrowHead = 5;      // points
 
 /// An arrow along a diagonal, with a head at both ends: a corner goes either way.
 void drawArrow(QPainter &painter, const QPointF &from, double dx, double dy) {
@@ -47,8 +44,8 @@ void View_Region_How_To::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF screen = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(desktopEdgeColor);
-    painter.setBrush(desktopColor);
+    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+    painter.setBrush(palette().base());
     painter.drawRoundedRect(screen, 6, 6);
 
     const auto squares =
@@ -58,7 +55,7 @@ void View_Region_How_To::paintEvent(QPaintEvent *) {
         painter, region_drawing::pieces(squares, region, height(), devicePixelRatioF(), QPoint()),
         palette().color(QPalette::Highlight));
 
-    painter.setPen(QPen(inkColor, 1.5));
+    painter.setPen(QPen(palette().color(QPalette::Text), 1.5));
     const QRectF box(region.x, height() - region.y - region.height, region.width, region.height);
     constexpr double clear = 11; // from a corner to its arrow, beyond the square
     drawArrow(painter, box.topLeft() + QPointF(-clear, -clear), -1, -1);

@@ -242,6 +242,10 @@ void EdgedStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
             field && field->frame)
             drawEdgeOrRim(*painter, *option, option->state.testFlag(State_HasFocus));
         break;
+    case CC_ToolButton:
+        if (hasKeyboardFocus(*option))
+            drawEdgeOrRim(*painter, *option, true);
+        break;
     case CC_ScrollBar:
         if (isDark(option->palette)) {
             QStyleOption thumb(*option);
