@@ -9,6 +9,8 @@
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QGuiApplication>
+#include <QKeySequence>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <utility>
@@ -35,6 +37,24 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, Shortcut &shortcu
     argument >> shortcut.id >> shortcut.options;
     argument.endStructure();
     return argument;
+}
+
+/// GNOME 48 describes what it granted in the form of its settings, "Press <Control><Super>r": that
+/// becomes "Ctrl+Super+R". Other descriptions are the desktop's own words and stay.
+QString readable(const QString &trigger) {
+    static const QRegularExpression accelerator(QStringLiteral("((?:<\\w+>)+)(\\w+)$"));
+    const QRegularExpressionMatch match = accelerator.match(trigger);
+    if (!match.hasMatch())
+        return trigger;
+    QStringList keys = match.captured(1).mid(1).chopped(1).split(QStringLiteral("><"));
+    for (QString &modifier : keys)
+        if (modifier == QLatin1String("Control") || modifier == QLatin1String("Primary"))
+            modifier = QKeySequence(Qt::CTRL | Qt::Key_R)
+                           .toString(QKeySequence::NativeText)
+                           .section(QLatin1Char('+'), 0, 0);
+    const QString key = match.captured(2);
+    keys << (key.size() == 1 ? key.toUpper() : key);
+    return keys.join(QLatin1Char('+'));
 }
 
 } // namespace
@@ -140,7 +160,7 @@ void PortalShortcuts::take(const QVariantMap &results) {
         const auto key = std::ranges::find(keys_, shortcut.id, &Key::id);
         if (key != keys_.end())
             granted[static_cast<std::size_t>(key - keys_.begin())] =
-                shortcut.options.value(QStringLiteral("trigger_description")).toString();
+                readable(shortcut.options.value(QStringLiteral("trigger_description")).toString());
     }
     if (granted == granted_)
         return;

@@ -169,9 +169,10 @@ class Wayland(case.Case):
                 self.await_label(program, words)
                 self.assertIsNone(program.find("alert"))
                 self.assertEqual(program.frame().get_name(), "Tovarel")
-        self.session.answer_with(keys={"record": "Super+Ctrl+R", "pause": "Super+Ctrl+P"})
+        self.session.answer_with(
+            keys={"record": "Press <Control><Super>r", "pause": "Press <Control><Super>p"})
         self.choose(program)
-        self.await_label(program, "in any window, with Super+Ctrl: R Record · P Pause")
+        self.await_label(program, "in any window, with Ctrl+Super: R Record · P Pause")
         # The compositor draws the pointer, or not, as the switch says.
         self.assertEqual(self.asked("SelectSources")[-1]["cursor_mode"], EMBEDDED)
         act(program.await_control("check box", "Pointer"))
