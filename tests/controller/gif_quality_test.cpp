@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
+#include "export/fit_limit.h"
 #include "export/frame_timing.h"
 #include "export/gif_preset.h"
 #include "shell/number_text.h"
@@ -368,7 +369,9 @@ TEST_F(GifQuality, FitsUnderALimitAndKeepsWhatWasChosen) {
         QStringLiteral("%1 × %2").arg(size.width()).arg(size.height())))
         << ui.labelFileDrag->text().toStdString();
     EXPECT_TRUE(captions.contains(
-        qtTrId("IDD_PROGRESS_AGAIN").arg(QStringLiteral("2"), ui.comboFitUnder->currentText())));
+        qtTrId("IDD_PROGRESS_AGAIN")
+            .arg(QStringLiteral("2"),
+                 fitLimitText(*fitLimitOf(ui.comboFitUnder->currentText()).bytes))));
     limited(QByteArray::number(double(whole) * 0.7e-6, 'f', 3), "slower.gif");
     EXPECT_EQ(QImageReader(answers.savePath).size().width(), 160);
     EXPECT_FALSE(ui.labelFileDrag->text().contains(QStringLiteral("×")))
