@@ -15,6 +15,10 @@ namespace {
 // More pieces than this cost more than the box around them.
 constexpr int mostPieces = 64;
 
+// What was drawn this often, in this many pieces each time, is expected to be drawn once more.
+constexpr int timesUntilRestless = 4;
+constexpr int fewReports = 3;
+
 } // namespace
 
 ShownScreen::ShownScreen(Connection &connection, const PictureFormats &formats)
@@ -31,6 +35,7 @@ ShownScreen::ShownScreen(Connection &connection, const PictureFormats &formats)
 bool ShownScreen::onDamage(const xcb_damage_notify_event_t &event) {
     if (event.damage != object_)
         return false;
+    ++reports_;
     damage_ =
         united(damage_, QRect(event.area.x, event.area.y, event.area.width, event.area.height));
     if (damage_.rectCount() > mostPieces)
@@ -40,21 +45,44 @@ bool ShownScreen::onDamage(const xcb_damage_notify_event_t &event) {
 
 QRegion ShownScreen::takeDamage(const QRegion &where) {
     QRegion taken = damage_.intersected(where);
-    if (taken.isEmpty())
-        return taken;
+    const QRegion common = taken.intersected(again_);
+    const bool goesOn = !common.isEmpty() && (reports_ > fewReports || !restless_.isEmpty());
+    again_ = goesOn ? common : taken;
+    times_ = goesOn ? times_ + 1 : 0;
+    reports_ = 0;
+    restless_ = times_ >= timesUntilRestless ? again_ : QRegion();
+    silent_ = !restless_.isEmpty();
+    subtract(taken.subtracted(restless_));
+    return taken;
+}
+
+void ShownScreen::pictureChanged(const QRegion &where) {
+    if (restless_.subtracted(where).isEmpty())
+        return;
+    restless_ = again_ = QRegion();
+    times_ = 0;
+}
+
+void ShownScreen::takeAll(const QRegion &where) {
+    pictureChanged({});
+    subtract(damage_.intersected(where));
+}
+
+void ShownScreen::subtract(const QRegion &region) {
+    if (region.isEmpty())
+        return;
     std::vector<xcb_rectangle_t> rectangles;
-    for (const auto &r : taken)
+    for (const auto &r : region)
         rectangles.push_back({static_cast<std::int16_t>(r.x()), static_cast<std::int16_t>(r.y()),
                               static_cast<std::uint16_t>(r.width()),
                               static_cast<std::uint16_t>(r.height())});
     xcb_connection_t *c = connection_.get();
-    const xcb_xfixes_region_t region = connection_.newId();
-    xcb_xfixes_create_region(c, region, static_cast<std::uint32_t>(rectangles.size()),
+    const xcb_xfixes_region_t parts = connection_.newId();
+    xcb_xfixes_create_region(c, parts, static_cast<std::uint32_t>(rectangles.size()),
                              rectangles.data());
-    xcb_damage_subtract(c, object_, region, XCB_NONE);
-    xcb_xfixes_destroy_region(c, region);
-    damage_ -= taken;
-    return taken;
+    xcb_damage_subtract(c, object_, parts, XCB_NONE);
+    xcb_xfixes_destroy_region(c, parts);
+    damage_ -= region;
 }
 
 } // namespace x11

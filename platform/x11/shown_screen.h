@@ -25,17 +25,35 @@ public:
     const QRegion &damage() const { return damage_; }
 
     /// Takes what was drawn within `where`. What is left there is not reported again until it is
-    /// taken, so that drawing which nobody wants to see is silent.
+    /// taken, so that drawing which nobody wants to see is silent. So is what was drawn each of the
+    /// last few times in many pieces: it counts as drawn, unseen, until `pictureChanged` tells that
+    /// it was not. A report costs the server as much as a small copy.
     QRegion takeDamage(const QRegion &where);
+
+    /// Whether something counts as drawn although nothing was reported.
+    bool isRestless() const { return silent_; }
+
+    /// The picture differs from the one before only within `where`.
+    void pictureChanged(const QRegion &where);
+
+    /// From here on what is drawn there is reported again.
+    void takeAll(const QRegion &where);
 
     /// A render picture of the whole screen; remains ours.
     xcb_render_picture_t picture() const { return picture_; }
 
 private:
+    void subtract(const QRegion &region);
+
     Connection &connection_;
     xcb_render_picture_t picture_;
     xcb_damage_damage_t object_;
     QRegion damage_;
+    QRegion restless_;    // part of it that is left untaken
+    bool silent_ = false; // something was, the last time
+    QRegion again_;       // what was taken each of the last times,
+    int times_ = 0;       // which are so many
+    int reports_ = 0;     // since it was last taken
 };
 
 } // namespace x11

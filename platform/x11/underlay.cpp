@@ -72,7 +72,7 @@ void Underlay::reset() {
     ground_ = Surface::create(connection_, model_.formats(), size_);
     numbers_.clear();
     layers_ = all_ = {};
-    place_ = remembered_ = dirty_ = groundSeen_ = QRegion();
+    place_ = remembered_ = dirty_ = behind_ = groundSeen_ = QRegion();
     before_ = QRegion();
     lingering_.clear();
     leftOut_.clear();
@@ -116,7 +116,7 @@ bool Underlay::isDue() {
 }
 
 QRegion Underlay::follow(std::span<const std::uint32_t> numbers, const QRect &wanted,
-                         const Earlier &earlier) {
+                         const Earlier &earlier, const Earlier &painted) {
     QRegion changed;
     if (size_ != model_.desktop().size()) {
         reset();
@@ -128,10 +128,21 @@ QRegion Underlay::follow(std::span<const std::uint32_t> numbers, const QRect &wa
     const auto over = std::erase_if(lingering_, [now](const Lingering &each) {
         return now - each.since >= (each.repainted ? shortestEffect : longestEffect);
     });
-    if (model_.layersChanged() || over > 0 || !std::ranges::equal(numbers, numbers_))
+    if (model_.layersChanged() || over > 0 || !std::ranges::equal(numbers, numbers_)) {
+        catchUp(painted);
         changed = united(changed, arrange(numbers, earlier));
+    }
     redirectBeneath(wanted);
     return united(changed, takeDamage(wanted));
+}
+
+// A window may be about to lose what it showed.
+void Underlay::catchUp(const Earlier &painted) {
+    const QRegion known = behind_.intersected(painted.valid);
+    copyRegion(connection_, painted.picture, memory_->picture(), known);
+    remembered_ = united(remembered_, known);
+    dirty_ = united(dirty_, behind_.subtracted(known));
+    behind_ = QRegion();
 }
 
 // The layers that are asked for, in the order given. Whether that is the order on the screen, with
@@ -196,7 +207,7 @@ void Underlay::linger(std::span<const Layer> shown, std::span<const std::uint32_
     addFlights(leftOut_, before);
     if (!leaving.isEmpty()) {
         // Only what is drawn there from now on shows that it has left.
-        model_.screen().takeDamage(leaving);
+        model_.screen().takeAll(leaving);
         lingering_.push_back({leaving, Clock::now()});
     }
     for (const Lingering &each : lingering_)
@@ -335,8 +346,36 @@ QRegion Underlay::takeDamage(const QRect &wanted) {
 void Underlay::paint(xcb_render_picture_t target, const QRegion &where) {
     if (where.isEmpty())
         return;
-    compose(dirty_.intersected(where));
-    copyRegion(connection_, memory_->picture(), target, where);
+    const QRegion due = united(dirty_, behind_).intersected(where);
+    const QRegion done = paintStraight(target, due);
+    compose(due.subtracted(done));
+    copyRegion(connection_, memory_->picture(), target, where.subtracted(done));
+}
+
+// Where one window's picture is all that there is to see, it goes past what is remembered: what is
+// drawn over and over is copied once only. Tells where that was possible.
+QRegion Underlay::paintStraight(xcb_render_picture_t target, const QRegion &where) {
+    if (where.isEmpty())
+        return {};
+    const auto layers = layers_.layers();
+    QRegion single = where, done;
+    for (std::size_t i = 0; i < layers.size(); ++i)
+        if (layers[i].blended)
+            single -= layers_.visible(i);
+    for (std::size_t i = 0; i < layers.size(); ++i) {
+        const Layer &layer = layers[i];
+        if (layer.blended || layer.window == connection_.root())
+            continue;
+        const QRegion part =
+            layers_.visible(i).intersected(single).subtracted(model_.untrusted(layer));
+        if (part.isEmpty() || model_.picture(layer) == 0)
+            continue;
+        composer_.paintWindow(target, layer, part);
+        done = united(done, part);
+    }
+    dirty_ -= done;
+    behind_ = united(behind_, done);
+    return done;
 }
 
 QRegion Underlay::groundKnown() const {
@@ -392,6 +431,7 @@ void Underlay::compose(const QRegion &where) {
     }
     remembered_ = united(remembered_, where);
     dirty_ -= where;
+    behind_ -= where;
 }
 
 } // namespace x11

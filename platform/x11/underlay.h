@@ -37,10 +37,11 @@ public:
     Underlay(Connection &connection, DesktopModel &model);
 
     /// Follows the desktop for a picture of these windows, of which `wanted` is going to be looked
-    /// at. `earlier` is the last picture that was handed out. Tells where the picture changed, as
-    /// far as that is not known from what was drawn on the screen.
+    /// at. `earlier` is the last picture that was handed out, `painted` the last one that `paint`
+    /// was called for, with what it shows of the place. Tells where the picture changed, as far as
+    /// that is not known from what was drawn on the screen.
     QRegion follow(std::span<const std::uint32_t> numbers, const QRect &wanted,
-                   const Earlier &earlier);
+                   const Earlier &earlier, const Earlier &painted);
 
     /// The picture that was handed out last differs there from the one before.
     void pictureChanged(const QRegion &where);
@@ -71,6 +72,7 @@ private:
     };
 
     void rememberScreen();
+    void catchUp(const Earlier &painted);
     QRegion arrange(std::span<const std::uint32_t> numbers, const Earlier &earlier);
     bool takeAsked(std::span<const std::uint32_t> numbers, std::vector<Layer> &layers) const;
     QRegion placeOf(std::span<const Layer> shown, std::span<const std::uint32_t> numbers) const;
@@ -80,6 +82,7 @@ private:
     QRegion shadowsLeftBehind(const LayerStack &after) const;
     QRegion takeDamage(const QRect &wanted);
     void redirectBeneath(const QRect &wanted);
+    QRegion paintStraight(xcb_render_picture_t target, const QRegion &where);
     void compose(const QRegion &where);
     QRegion groundKnown() const;
     void paintGround(const QRegion &where);
@@ -98,6 +101,7 @@ private:
     QRegion place_;
     QRegion remembered_; // where `memory_` was right once, and nothing has left since
     QRegion dirty_;      // where it has to be composed again
+    QRegion behind_;     // where it shows less than what was painted past it
     QRegion groundSeen_; // where `ground_` holds
     LayerStack all_;     // all that is shown
     std::uint64_t backgroundGeneration_ = 0;

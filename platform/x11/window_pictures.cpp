@@ -141,6 +141,8 @@ void WindowPictures::redirect(xcb_window_t window, const QRegion &covered, const
     xcb_composite_redirect_window(c, window, XCB_COMPOSITE_REDIRECT_AUTOMATIC);
     // The server itself draws while it redirects: that is not the client's content.
     entry->since = xcb_damage_subtract(c, entry->damage, XCB_NONE, XCB_NONE).sequence;
+    // At once: what is drawn before the server has it is never told, and a grab may send nothing.
+    xcb_flush(c);
 }
 
 bool WindowPictures::isRedirected(xcb_window_t window) const {

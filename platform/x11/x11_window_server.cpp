@@ -121,7 +121,7 @@ std::optional<Image> X11WindowServer::composite(std::span<const std::uint32_t> n
     if (connection_->broken())
         return {};
     const bool goesOn = picture_ && part == part_;
-    const bool happened = model_.takeChanged();
+    const bool happened = model_.takeChanged() || model_.screen().isRestless();
     const bool due = underlay_.isDue();
     if (!happened && !due && goesOn && std::ranges::equal(numbers, numbers_))
         return picture_;
@@ -130,7 +130,7 @@ std::optional<Image> X11WindowServer::composite(std::span<const std::uint32_t> n
     part_ = part;
     ring_.resize(model_.desktop().size());
     const QRect wanted = part ? part->intersected(model_.desktop()) : model_.desktop();
-    follow(wanted, true);
+    follow(wanted);
     ring_.invalidate(model_.screen().takeDamage(QRegion(wanted).subtracted(underlay_.place())));
     if (goesOn && !ring_.isStale(wanted))
         return picture_;
@@ -146,6 +146,7 @@ std::optional<Image> X11WindowServer::composite(std::span<const std::uint32_t> n
                       {turn->picture->pixels(), before.width()},
                       {reinterpret_cast<const std::uint32_t *>(before.constBits()), before.width()},
                       before.size(), drawn)};
+        model_.screen().pictureChanged(change.region);
         if (change.region.isEmpty()) {
             ring_.latestIsAs(*turn, drawn);
             return picture_;
@@ -157,11 +158,17 @@ std::optional<Image> X11WindowServer::composite(std::span<const std::uint32_t> n
 }
 
 // Brings the part that is not the screen as it is to the model's state, and tells where it changed.
-QRegion X11WindowServer::follow(const QRect &wanted, bool latestIsUntouched) {
-    x11::Underlay::Earlier earlier;
-    if (const auto *latest = latestIsUntouched ? ring_.latest() : nullptr)
-        earlier = {latest->picture->picture(), QRegion(model_.desktop()).subtracted(latest->stale)};
-    QRegion changed = underlay_.follow(numbers_, wanted, earlier);
+// `begun` is the picture that was drawn for an earlier state just now.
+QRegion X11WindowServer::follow(const QRect &wanted, const x11::PictureRing::Turn *begun) {
+    const auto shownBy = [this](const x11::PictureRing::Turn *turn) {
+        return turn ? x11::Underlay::Earlier{turn->picture->picture(),
+                                             QRegion(model_.desktop()).subtracted(turn->stale)}
+                    : x11::Underlay::Earlier{};
+    };
+    const auto *latest = ring_.latest();
+    const auto *untouched = latest != begun ? latest : nullptr;
+    QRegion changed =
+        underlay_.follow(numbers_, wanted, shownBy(untouched), shownBy(begun ? begun : latest));
     ring_.invalidate(changed);
     return changed;
 }
@@ -176,7 +183,7 @@ bool X11WindowServer::draw(x11::PictureRing::Turn &turn, const QRect &part, QReg
             xcb_grab_server(connection_->get());
             connection_->roundTrip();
             model_.drain();
-            follow(part, &turn != ring_.latest());
+            follow(part, &turn);
         }
         const QRegion stale = turn.stale.intersected(part);
         drawn = united(drawn, stale);
@@ -196,7 +203,7 @@ bool X11WindowServer::draw(x11::PictureRing::Turn &turn, const QRect &part, QReg
         if (alone || (!failed && !model_.layersChanged()) ||
             model_.desktop().size() != turn.picture->size())
             break;
-        if (!follow(part, &turn != ring_.latest()).intersects(part))
+        if (!follow(part, &turn).intersects(part))
             break;
     }
     return true;

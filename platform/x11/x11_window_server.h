@@ -63,7 +63,7 @@ public:
 private:
     X11WindowServer(std::unique_ptr<x11::Connection> connection, x11::TransferMethod bestMethod);
 
-    QRegion follow(const QRect &wanted, bool latestIsUntouched);
+    QRegion follow(const QRect &wanted, const x11::PictureRing::Turn *begun = nullptr);
     bool draw(x11::PictureRing::Turn &turn, const QRect &part, QRegion &drawn);
     std::optional<Image> giveUp();
     void watchWhileIdle();

@@ -382,12 +382,13 @@ protected:
         return std::count(words, words + size.width() * size.height(), ourColor & 0xffffff);
     }
 
-    static int ourPixels(const QImage &picture, const QRect &where) {
+    static int ourPixels(const QImage &picture, const QRect &where,
+                         std::uint32_t color = ourColor) {
         int found = 0;
         const QRect looked = where.intersected(picture.rect());
         for (int y = looked.top(); y <= looked.bottom(); ++y)
             for (int x = looked.left(); x <= looked.right(); ++x)
-                found += picture.pixel(x, y) == ourColor ? 1 : 0;
+                found += picture.pixel(x, y) == color ? 1 : 0;
         return found;
     }
 };
@@ -429,6 +430,48 @@ TEST_F(NeverRedrawn, whatTheServerFillsInOfUsIsNotTheContentOfAWindowBeneath) {
     expectNothingOfOurs("drawn in a little");
     client.destroy(lowest);
     expectNothingOfOurs("gone");
+}
+
+TEST_F(NeverRedrawn, whatWasDrawnBeneathUsStaysWhenItsWindowIsRedirectedAnew) {
+    constexpr std::uint32_t color = 0xff445566;
+    const QRect place(150, 100, 250, 180);
+    const auto below = show({60, 40, 300, 200}, 1);
+    const auto aside = show({450, 300, 100, 80}, 2);
+    const auto ours = showOurs(place);
+    client.sync();
+    auto obstacle = Obstacle::NoDisplay;
+    server = X11WindowServer::create({}, obstacle);
+    grab({ours});
+    client.fill(below, {120, 80, 60, 60}, color);
+    client.sync();
+    EXPECT_EQ(ourPixels(grab({ours}), place, color), 60 * 60);
+    client.restack(below, XCB_STACK_MODE_ABOVE, aside);
+    client.sync();
+    EXPECT_EQ(ourPixels(grab({ours}), place, color), 60 * 60);
+    for (int i = 0; i < 3; ++i) {
+        client.fill(below, {200, 80 + i, 10, 1}, 0xff000000); // until all pictures had their turn
+        client.sync();
+        EXPECT_EQ(ourPixels(grab({ours}), place, color), 60 * 60);
+    }
+}
+
+TEST_F(NeverRedrawn, theScreenIsRecordedWhileAllOfItIsDrawnAgainAndAgainAndAfterwards) {
+    constexpr int count = 6, restlessSteps = 12, steps = 24;
+    std::vector<xcb_window_t> windows;
+    for (int i = 0; i < count; ++i)
+        windows.push_back(show({i * 100, i * 60, 80, 50}, 1));
+    for (int step = 0; step < steps; ++step) {
+        for (int i = 0; i < count; ++i)
+            if (step < restlessSteps || step % count == i)
+                client.drawPattern(windows[static_cast<std::size_t>(i)], {0, 0, 80, 50},
+                                   static_cast<std::uint32_t>(step * count + i));
+        client.sync();
+        ASSERT_TRUE(looksLikeScreen()) << "step " << step;
+    }
+    EXPECT_TRUE(eventually([&] {
+        const auto one = server->composite(numbers()), other = server->composite(numbers());
+        return one && other && one->sameAs(*other);
+    })) << "at rest";
 }
 
 TEST_F(NeverRedrawn, noSequenceOfEventsBeneathUsLetsAPixelOfOursBeTaken) {
