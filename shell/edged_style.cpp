@@ -3,8 +3,10 @@
 #include "shell/edged_style.h"
 
 #include "shell/contrast.h"
+#include "shell/palette_icon.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -256,6 +258,25 @@ void EdgedStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     default:
         break;
     }
+}
+
+QIcon EdgedStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
+                               const QWidget *widget) const {
+    const struct {
+        StandardPixmap icon;
+        QString themed, drawn;
+    } signs[] = {
+        {SP_MessageBoxWarning, QStringLiteral("dialog-warning"),
+         QStringLiteral(":/icons/warning.svg")},
+        {SP_MessageBoxInformation, QStringLiteral("dialog-information"),
+         QStringLiteral(":/icons/information.svg")},
+        {SP_MessageBoxQuestion, QStringLiteral("dialog-question"),
+         QStringLiteral(":/icons/question.svg")},
+    };
+    for (const auto &sign : signs)
+        if (sign.icon == icon && !QIcon::hasThemeIcon(sign.themed))
+            return paletteIcon(sign.drawn);
+    return QProxyStyle::standardIcon(icon, option, widget);
 }
 
 int EdgedStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,

@@ -12,7 +12,8 @@
 /// contrast of at least 3 to 1 with what is on either side of it. Frames around several controls,
 /// menus and tabs get it on dark windows only. A checked tool has an edge and a tint of the accent,
 /// what has the keyboard's focus a rim in the accent, and disabled menu items are drawn once
-/// instead of embossed.
+/// instead of embossed. Message boxes have drawn signs, sharp at any scale, unless the desktop's
+/// icons have some.
 class EdgedStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -29,6 +30,8 @@ public:
                      const QWidget *widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                             QPainter *painter, const QWidget *widget) const override;
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption *option,
+                       const QWidget *widget) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *data) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option,

@@ -103,6 +103,7 @@ TEST_F(FileCardTest, isNoLongerGivenAwayWhenItIsDeletedOrReplaced) {
     EXPECT_TRUE(says(qtTrId("IDD_FILE_DRAG"), true));
     ASSERT_TRUE(QFile::rename(path, path + QStringLiteral(".bak")));
     EXPECT_TRUE(says(qtTrId("IDD_FILE_GONE"), false));
+    EXPECT_EQ(ui.labelStatus->text(), QString()) << "it no longer says where the file is";
     ASSERT_TRUE(QFile::rename(path + QStringLiteral(".bak"), path));
     EXPECT_TRUE(says(qtTrId("IDD_FILE_DRAG"), true)) << "it came back";
     QFile::remove(path);
