@@ -197,7 +197,7 @@ long long checkedSize(const Frames &frames, const QTemporaryDir &folder) {
     QImage read;
     for (std::size_t frame = 0; frame < frames.size(); ++frame) {
         const QString path = file(folder, frame);
-        struct stat status {};
+        struct stat status = {};
         if (stat(qPrintable(path), &status) != 0)
             return -1;
         if (seen.insert(status.st_ino).second) {

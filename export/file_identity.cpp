@@ -7,7 +7,7 @@
 #include <sys/stat.h>
 
 std::optional<FileIdentity> identityOf(const QString &path) {
-    struct stat found {};
+    struct stat found = {};
     if (stat(QFile::encodeName(path).constData(), &found) != 0 || !S_ISREG(found.st_mode))
         return std::nullopt;
     return FileIdentity{.device = found.st_dev,

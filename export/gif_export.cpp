@@ -190,8 +190,8 @@ GifFileResult Exporter::runEncoder(GifFileJob &job) {
     const std::jthread encoder([this, &job, &stop, &result, &ended] {
         result = writeGifFile(job, stop);
         // After the last report of progress, and what wakes the loop.
-        QMetaObject::invokeMethod(
-            this, [&ended] { ended = true; }, Qt::QueuedConnection);
+        const auto tell = [&ended] { ended = true; };
+        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
     });
     while (!ended)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

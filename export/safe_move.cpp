@@ -121,7 +121,7 @@ std::optional<QString> copyOver(int from, const QByteArray &target, const QByteA
 
 /// What forbids `target` to be replaced, if anything.
 std::optional<QString> targetProblem(const QByteArray &target, const struct stat &source) {
-    struct stat found {};
+    struct stat found = {};
     if (stat(target.constData(), &found) != 0)
         return std::nullopt; // nothing, or a link that leads nowhere; opening tells the rest
     if (S_ISDIR(found.st_mode))
@@ -148,7 +148,7 @@ std::optional<QString> safeMove(const QString &source, const QString &target, Ex
     const QByteArray to = QFile::encodeName(target);
     const QByteArray folder = QFile::encodeName(QFileInfo(target).absolutePath());
     const Descriptor content(open(from.constData(), O_RDONLY | O_CLOEXEC));
-    struct stat status {};
+    struct stat status = {};
     if (content.get() < 0 || fstat(content.get(), &status) != 0)
         return systemReason();
     if (const std::optional<QString> problem = targetProblem(to, status))

@@ -35,7 +35,7 @@ void RecordingLoader::readSome() {
 
 void RecordingLoader::readNext() {
     const QString path = working_folders::frameFile(folder_, frames_.size());
-    struct stat found {};
+    struct stat found = {};
     if (stat(QFile::encodeName(path).constData(), &found) != 0) {
         failed_ = path;
         return;

@@ -92,8 +92,8 @@ void Alerts::ask(const Question &question, std::function<void(Answer)> answered)
                               : destroy && clicked == destroy ? Answer::Destroy
                                                               : Answer::Cancel;
         question_ = nullptr;
-        QMetaObject::invokeMethod(
-            this, [=] { answered(answer); }, Qt::QueuedConnection);
+        const auto tell = [=] { answered(answer); };
+        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
     });
     question_ = box;
     box->show();

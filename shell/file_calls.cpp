@@ -46,7 +46,7 @@ int linkFile(const QString &existing, const QString &path) {
 }
 
 std::optional<std::uint64_t> sizeOfOwnFile(const QString &path) {
-    struct stat found {};
+    struct stat found = {};
     if (lstat(QFile::encodeName(path).constData(), &found) != 0 || !S_ISREG(found.st_mode) ||
         found.st_uid != geteuid())
         return std::nullopt;

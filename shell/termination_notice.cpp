@@ -45,21 +45,21 @@ TerminationNotice::TerminationNotice(std::function<void()> notify) {
                              continue;
                          notify();
                      });
-    struct sigaction action {};
+    struct sigaction action = {};
     action.sa_handler = onSignal;
     sigemptyset(&action.sa_mask);
     action.sa_flags = SA_RESTART;
     sigaction(SIGTERM, &action, nullptr);
     sigaction(SIGINT, &action, nullptr);
     // Whoever started us so that it is ignored (nohup) wants us to outlive the terminal.
-    struct sigaction inherited {};
+    struct sigaction inherited = {};
     if (sigaction(SIGHUP, nullptr, &inherited) == 0 && inherited.sa_handler != SIG_IGN)
         sigaction(SIGHUP, &action, nullptr);
 }
 
 TerminationNotice::~TerminationNotice() {
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
-        struct sigaction current {};
+        struct sigaction current = {};
         if (sigaction(number, nullptr, &current) == 0 && current.sa_handler == onSignal)
             signal(number, SIG_DFL);
     }

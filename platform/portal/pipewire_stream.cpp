@@ -29,7 +29,7 @@ struct Mapping {
     static Mapping of(const spa_data &data) {
         Mapping mapping;
         mapping.length = std::size_t{data.mapoffset} + data.maxsize;
-        struct stat file {};
+        struct stat file = {};
         // A page behind the file's end would end us.
         if (data.type != SPA_DATA_MemFd || fstat(static_cast<int>(data.fd), &file) != 0 ||
             static_cast<std::size_t>(file.st_size) < mapping.length)

@@ -30,8 +30,8 @@ template <class T> T resultOf(std::future<T> &future) {
 } // namespace
 
 FrameSaver::FrameSaver(std::vector<Image> frames, QString folder, Report report)
-    : frames_(std::move(frames)), folder_(std::move(folder)),
-      report_(std::move(report)), format_{frames_.front().size(), frames_.front().hasAlpha()},
+    : frames_(std::move(frames)), folder_(std::move(folder)), report_(std::move(report)),
+      format_({frames_.front().size(), frames_.front().hasAlpha()}),
       results_(frames_.size(), pending) {
     for (std::size_t frame = 0; frame < frames_.size(); ++frame)
         if (frame == 0 || !frames_[frame].sameAs(frames_[frame - 1]))

@@ -96,13 +96,12 @@ TEST_F(GifQuality, ShowsTheVeryFramesForTheVeryTimeInBest) {
         (chosen > 0 ? ui.radioGIFCustomFPS : ui.radioGIFOriginalFPS)->click();
         ui.comboGIFFPS->setCurrentIndex(std::max(chosen, 1) - 1);
         ui.comboGIFSpeed->setCurrentIndex(ui.comboGIFSpeed->findData(speed));
+        frame_timing::Request request{
+            .kept = FrameRuns::of(0, 9), .recordedRate = recorded, .speed = speed};
+        if (chosen > 0)
+            request.chosenRate = chosen;
         std::vector<TimedFrame> wanted; // a frame that is repeated is one picture, shown longer
-        for (const TimedFrame &frame :
-             timedFrames({.kept = FrameRuns::of(0, 9),
-             .recordedRate = recorded,
-             .chosenRate = chosen > 0 ? std::optional(chosen) : std::nullopt,
-             .speed = speed},
-                         frame_timing::gifTicks)) {
+        for (const TimedFrame &frame : timedFrames(request, frame_timing::gifTicks)) {
             if (!wanted.empty() && wanted.back().source == frame.source)
                 wanted.back().delay += frame.delay;
             else

@@ -230,11 +230,11 @@ TEST_F(WebPExport, HasTheSizeTheRateAndTheSpeedThatWereChosen) {
         while (each.hasNext())
             found.push_back(each.next().captured(1).toULongLong());
         std::vector<std::uint64_t> wanted;
-        for (const auto &frame : frame_timing::timedFrames({.kept = FrameRuns::of(0, 9),
-                                 .recordedRate = 9.83,
-                                 .chosenRate = chosen > 0 ? std::optional(chosen) : std::nullopt,
-                                 .speed = speed},
-                                                           frame_timing::webpTicks))
+        frame_timing::Request request{
+            .kept = FrameRuns::of(0, 9), .recordedRate = 9.83, .speed = speed};
+        if (chosen > 0)
+            request.chosenRate = chosen;
+        for (const auto &frame : timedFrames(request, frame_timing::webpTicks))
             wanted.push_back(frame.delay);
         EXPECT_EQ(found, wanted);
     }

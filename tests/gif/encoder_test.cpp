@@ -173,8 +173,8 @@ TEST(GifEncoder, stopsSoonAndTellsHowFarItIs) {
             asked = Clock::now();
             stop.request_stop();
         });
-        const Outcome outcome = gif::encode(
-            clip, options, [](auto) { return true; }, stop.get_token());
+        const auto takesAll = [](auto) { return true; };
+        const Outcome outcome = gif::encode(clip, options, takesAll, stop.get_token());
         const auto took = Clock::now() - asked.load();
         EXPECT_EQ(outcome.end, Outcome::End::Cancelled);
         // A tenth of a second is promised; the machine may be busy with other things.

@@ -109,7 +109,7 @@ protected:
     }
     QImage frame(int number) const { return QImage(path(number), "png"); }
     ino_t inode(int number) const {
-        struct stat status {};
+        struct stat status = {};
         EXPECT_EQ(stat(QFile::encodeName(path(number)).constData(), &status), 0);
         return status.st_ino;
     }

@@ -85,7 +85,7 @@ TEST_F(LeftRecording, isFoundWhenItIsWholeAndItsNoteIsForTheUserAlone) {
     ASSERT_TRUE(found);
     EXPECT_EQ(found->frames, frames);
     EXPECT_EQ(found->size, QSize(32, 24));
-    struct stat status {};
+    struct stat status = {};
     ASSERT_EQ(stat(QFile::encodeName(left_recording::noteFile(folder.path())).constData(), &status),
               0);
     EXPECT_EQ(status.st_mode & 0777, 0600u);

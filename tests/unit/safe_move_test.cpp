@@ -47,8 +47,8 @@ class SafeMove : public testing::TestWithParam<bool> {
 protected:
     void SetUp() override {
         ASSERT_TRUE(from.isValid() && to.isValid());
-        struct stat a {
-        }, b{};
+        struct stat a = {};
+        struct stat b = {};
         stat(qPrintable(from.path()), &a);
         stat(qPrintable(to.path()), &b);
         if (GetParam() && a.st_dev == b.st_dev)
@@ -80,7 +80,7 @@ TEST_P(SafeMove, PlacesTheWholeFileAsANewOneOrOverAnOldOne) {
         EXPECT_EQ(namesIn(to).size(), 1) << "nothing of ours is left over";
     }
     umask(mask);
-    struct stat status {};
+    struct stat status = {};
     stat(qPrintable(target), &status);
     EXPECT_EQ(status.st_mode & 07777, 0640u);
 }

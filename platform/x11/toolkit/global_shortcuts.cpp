@@ -163,8 +163,8 @@ private:
                                  XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
         xcb_flush(connection_->get());
         // Events that came while we waited for answers are queued without a notice.
-        QMetaObject::invokeMethod(
-            &notifier_, [this] { read(); }, Qt::QueuedConnection);
+        const auto readLater = [this] { read(); };
+        QMetaObject::invokeMethod(&notifier_, readLater, Qt::QueuedConnection);
     }
 
     void leaveActiveWindow() {
