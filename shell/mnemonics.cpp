@@ -174,6 +174,7 @@ std::vector<QString> marked(const std::vector<Bearer> &bearers, const QString &t
     for (std::size_t bearer = 0; bearer < bearers.size(); ++bearer)
         choice.place(bearer);
     std::vector<QString> texts;
+    texts.reserve(bearers.size());
     for (std::size_t bearer = 0; bearer < bearers.size(); ++bearer)
         texts.push_back(withMark(bearers[bearer].text, choice.letterOf(bearer)));
     return texts;
