@@ -22,12 +22,12 @@ const QColor darkColor(32, 32, 32);
 const QColor dimColor(0, 0, 0, 128); // of what is not recorded
 const QColor cornerColor(0, 255, 0);
 const QColor middleColor(255, 0, 0);
-const QColor crossColor(0, 0, 0);
-constexpr double lineWidth = 1.5;  // points, of each tone
-constexpr double edgeWidth = 1.0;  // points, of each tone of a square
-constexpr double crossWidth = 1.0; // points
-constexpr double crossInset = 3.5; // points, from the middle square's edge
-constexpr double pickedWidth = 4;  // points, of the frame around a window
+const QColor tickColor(255, 255, 255);
+constexpr double lineWidth = 1.5; // points, of each tone
+constexpr double edgeWidth = 1.0; // points, of each tone of a square
+constexpr double tickWidth = 1.8; // points
+constexpr double tickInset = 3.5; // points, from the middle square's edge
+constexpr double pickedWidth = 4; // points, of the frame around a window
 
 int wholePixels(double points, double ratio) { return std::max(1, qRound(points * ratio)); }
 
@@ -107,12 +107,15 @@ void region_drawing::draw(QPainter &painter, const Pieces &pieces, const QColor 
     if (!middle.isEmpty()) {
         // Above a corner where they meet: it is the one that a click accepts.
         drawSquare(painter, middle, middleColor, edge);
-        const double inset = crossInset * pieces.ratio;
-        const QRectF cross = QRectF(middle).adjusted(inset, inset, -inset, -inset);
+        const double inset = tickInset * pieces.ratio;
+        const QRectF box = QRectF(middle).adjusted(inset, inset, -inset, -inset);
+        const QPointF tick[] = {box.topLeft() + QPointF(0, 0.55 * box.height()),
+                                box.topLeft() + QPointF(0.35 * box.width(), 0.9 * box.height()),
+                                box.topRight() + QPointF(0, 0.1 * box.height())};
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(crossColor, crossWidth * pieces.ratio));
-        painter.drawLine(cross.topLeft(), cross.bottomRight());
-        painter.drawLine(cross.topRight(), cross.bottomLeft());
+        painter.setPen(
+            QPen(tickColor, tickWidth * pieces.ratio, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPolyline(tick, std::size(tick));
     }
     painter.restore();
 }

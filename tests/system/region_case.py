@@ -156,7 +156,7 @@ class RegionCase(case.Case):
         return left, bottom, right, top
 
     def await_square(self, x, y, screen, wanted):
-        """Waits for a square of that colour around a point; beside the cross in the middle."""
+        """Waits for a square of that colour around a point; beside the tick in the middle."""
         spot = screen.pixel(x + 4, y)
         wait_for(f"a square at {spot}", lambda: self.session.picture().pixel(*spot) == wanted)
 
