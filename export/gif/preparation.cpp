@@ -110,6 +110,7 @@ void countColours(PreparedPicture &picture, const std::stop_token &stop) {
 
 void assignNearest(PreparedPicture &picture, const std::stop_token &stop) {
     std::vector<Perceived> places;
+    places.reserve(picture.table.size());
     for (const Rgb colour : picture.table)
         places.push_back(perceived(colour));
     const NearestColour search(places);

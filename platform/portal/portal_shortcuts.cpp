@@ -36,7 +36,7 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, Shortcut &shortcu
     argument.beginStructure();
     argument >> shortcut.id >> shortcut.options;
     argument.endStructure();
-    return argument;
+    return argument; // NOLINT(bugprone-return-const-ref-from-parameter): the toolkit's form
 }
 
 /// GNOME 48 describes what it granted in the form of its settings, "Press <Control><Super>r": that
