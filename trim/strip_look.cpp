@@ -3,6 +3,7 @@
 #include "trim/strip_look.h"
 
 #include "platform/image/image_scaler.h"
+#include "shell/contrast.h"
 
 #include <QPainter>
 
@@ -111,7 +112,9 @@ void drawGrip(QPainter &painter, const QRectF &grip, const QPalette &palette) {
     painter.drawRoundedRect(grown(grip, -2 * edge), gripRounding - edge, gripRounding - edge);
     const double half = grip.height() * ridgeShare / 2;
     const QPointF middle = grip.center();
-    painter.setPen(QPen(palette.color(QPalette::HighlightedText), ridgeLine));
+    const QColor accent = palette.color(QPalette::Highlight);
+    const bool isLight = contrast(lightEdge, accent) >= contrast(darkEdge, accent);
+    painter.setPen(QPen(isLight ? lightEdge : darkEdge, ridgeLine));
     for (const double x : {middle.x() - ridgeGap, middle.x() + ridgeGap})
         painter.drawLine(QPointF(x, middle.y() - half), QPointF(x, middle.y() + half));
     painter.restore();

@@ -132,10 +132,11 @@ void View_Cut_Range::paintEvent(QPaintEvent *) {
     strip_look::drawLeftOut(painter, behind(film(), right));
     strip_look::drawKept(painter, film().intersected({left, 0, right - left, double(height())}),
                          palette());
-    for (const QRectF &grip : {rectMenor_, rectMaior_})
-        strip_look::drawGrip(painter, fromLowerLeft(grip), palette());
     if (frameCount() > 0)
         strip_look::drawPlayhead(painter, fromLowerLeft(rectPlayhead_), fromLowerLeft(rectKnob_));
+    // Above the playhead's line: where both are, the grip is whole and the knob tells the rest.
+    for (const QRectF &grip : {rectMenor_, rectMaior_})
+        strip_look::drawGrip(painter, fromLowerLeft(grip), palette());
     // What moves by itself changes what can be dragged under a pointer that rests.
     if (underMouse() && !b_Mouse_Down_)
         showWhatCanBeDragged(mapFromGlobal(QPointF(QCursor::pos())));
