@@ -81,6 +81,7 @@ void DesktopKeys::press(std::size_t place) const {
 
 void DesktopKeys::grab() {
     std::vector<std::string> letters;
+    letters.reserve(keys_.size());
     for (const Key &key : keys_)
         letters.push_back(key.letters);
     grabs_ =
@@ -114,6 +115,7 @@ void DesktopKeys::grab() {
 
 void DesktopKeys::waitForSource() {
     std::vector<PortalShortcuts::Key> wanted;
+    wanted.reserve(keys_.size());
     for (const Key &key : keys_)
         wanted.push_back({.id = key.id, .description = key.name, .letter = key.letters.front()});
     bound_ = std::make_unique<PortalShortcuts>(std::move(wanted));

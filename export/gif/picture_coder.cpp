@@ -80,6 +80,7 @@ CodedPicture PictureCoder::best(const std::vector<PictureJob> &jobs, const std::
         spaces_.resize(jobs.size());
     std::vector<CodedPicture> attempts(jobs.size());
     std::vector<std::future<void>> running;
+    running.reserve(jobs.size());
     for (std::size_t i = 0; i < jobs.size(); ++i) {
         running.push_back(
             workers_.start([&, i] { attempts[i] = attempt(jobs[i], spaces_[i], stop); }, true));
