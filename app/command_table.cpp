@@ -142,11 +142,7 @@ std::vector<Command> recordCommands(AppDelegate &controller) {
          .enabled = [&recorder] { return recorder.mayBringBackPrevious(); }},
         {.button = ui.btnMoveRegion,
          .text = qtTrId("IDD_MOVE_REGION"),
-         .action =
-             [&controller] {
-                 controller.regionChooser.takeOfferedRegion();
-                 controller.surroundings.showStatus({}); // it does fit now
-             },
+         .action = [&controller] { controller.regionChooser.takeOfferedRegion(); },
          .enabled = choosing},
         {.button = ui.btnSaveAgain,
          .text = qtTrId("IDD_SAVE_AGAIN"),

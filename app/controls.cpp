@@ -219,8 +219,13 @@ void Controls::listenToRecorder() {
 
 void Controls::listenToOthers() {
     connect(&controller_.trimEditor, &TrimEditor::stateChanged, this, &Controls::showPlayback);
-    connect(&controller_.regionChooser, &RegionChooser::offerChanged, this,
-            [this] { ui_.btnMoveRegion->setVisible(controller_.regionChooser.offersRegion()); });
+    connect(&controller_.regionChooser, &RegionChooser::offerChanged, this, [this] {
+        const bool isOffered = controller_.regionChooser.offersRegion();
+        ui_.btnMoveRegion->setVisible(isOffered);
+        // That it does not fit is said no longer, whatever is recorded instead.
+        if (!isOffered)
+            controller_.surroundings.showStatus({});
+    });
     connect(&controller_.trimEditor, &TrimEditor::rangeTextChanged, ui_.labelCutRange,
             &QLabel::setText);
     connect(&controller_.trimEditor, &TrimEditor::timeTextChanged, ui_.labelCutTime,

@@ -4,6 +4,7 @@
 
 #include "app/tabs.h"
 #include "platform/global_shortcuts.h"
+#include "platform/key_names.h"
 #include "platform/portal/portal_shortcuts.h"
 #include "platform/screen_source.h"
 #include "record/recorder.h"
@@ -23,11 +24,8 @@ namespace {
 constexpr auto grantedChoice = "DesktopKeys"; // in the settings
 const QString between = QStringLiteral(" · ");
 
-/// "Super+Ctrl" as the user's keyboard has it: the toolkit knows what the second key is called.
-QString modifiers() {
-    const QString one = QKeySequence(Qt::CTRL | Qt::Key_R).toString(QKeySequence::NativeText);
-    return QStringLiteral("Super+%1").arg(one.section(QLatin1Char('+'), 0, 0));
-}
+/// "Super+Ctrl" as the user's keyboard has it.
+QString modifiers() { return QStringLiteral("Super+%1").arg(controlKeyName()); }
 
 constexpr std::size_t recordPlace = 0; // among the keys
 constexpr std::size_t stopPlace = 2;

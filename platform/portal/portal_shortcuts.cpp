@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/portal/portal_shortcuts.h"
 
+#include "platform/key_names.h"
 #include "platform/portal/portal_request.h"
 
 #include <QDBusArgument>
@@ -9,7 +10,6 @@
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QGuiApplication>
-#include <QKeySequence>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -49,9 +49,7 @@ QString readable(const QString &trigger) {
     QStringList keys = match.captured(1).mid(1).chopped(1).split(QStringLiteral("><"));
     for (QString &modifier : keys)
         if (modifier == QLatin1String("Control") || modifier == QLatin1String("Primary"))
-            modifier = QKeySequence(Qt::CTRL | Qt::Key_R)
-                           .toString(QKeySequence::NativeText)
-                           .section(QLatin1Char('+'), 0, 0);
+            modifier = controlKeyName();
     const QString key = match.captured(2);
     keys << (key.size() == 1 ? key.toUpper() : key);
     return keys.join(QLatin1Char('+'));
