@@ -91,7 +91,9 @@ void ExportOptions::listen() {
     fillRepeats();
 
     auto *passage = new ShortcutPassage(*ui_.menuitemActionGIFExport, this);
-    for (QLineEdit *edit : {ui_.textGIFWidth, ui_.textGIFHeigth, ui_.txtWebPLoops})
+    // An editable list has the focus itself, and hands on what is typed.
+    for (QWidget *edit : std::initializer_list<QWidget *>{ui_.textGIFWidth, ui_.textGIFHeigth,
+                                                          ui_.comboGIFRepeat, ui_.comboFitUnder})
         edit->installEventFilter(passage);
 
     connect(ui_.checkGIFKeepAspectRatio, &QCheckBox::toggled, this,
