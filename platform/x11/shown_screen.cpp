@@ -17,9 +17,24 @@ constexpr int mostPieces = 64;
 
 // What was drawn this often, in this many pieces each time, is expected to be drawn once more.
 constexpr int timesUntilRestless = 4;
-constexpr int fewReports = 3;
+constexpr int fewPieces = 3;
 
 } // namespace
+
+const QRegion &RestlessPlaces::expectedAfter(const QRegion &drawn) {
+    const QRegion again = drawn.intersected(common_);
+    const bool goesOn = !again.isEmpty() && (pieces_ > fewPieces || !expected_.isEmpty());
+    common_ = goesOn ? again : drawn;
+    times_ = goesOn ? times_ + 1 : 0;
+    pieces_ = 0;
+    expected_ = times_ >= timesUntilRestless ? common_ : QRegion();
+    return expected_;
+}
+
+void RestlessPlaces::calm() {
+    expected_ = common_ = QRegion();
+    times_ = 0;
+}
 
 ShownScreen::ShownScreen(Connection &connection, const PictureFormats &formats)
     : connection_(connection), picture_(connection.newId()), object_(connection.newId()) {
@@ -35,7 +50,7 @@ ShownScreen::ShownScreen(Connection &connection, const PictureFormats &formats)
 bool ShownScreen::onDamage(const xcb_damage_notify_event_t &event) {
     if (event.damage != object_)
         return false;
-    ++reports_;
+    restless_.onPiece();
     damage_ =
         united(damage_, QRect(event.area.x, event.area.y, event.area.width, event.area.height));
     if (damage_.rectCount() > mostPieces)
@@ -44,27 +59,20 @@ bool ShownScreen::onDamage(const xcb_damage_notify_event_t &event) {
 }
 
 QRegion ShownScreen::takeDamage(const QRegion &where) {
-    QRegion taken = damage_.intersected(where);
-    const QRegion common = taken.intersected(again_);
-    const bool goesOn = !common.isEmpty() && (reports_ > fewReports || !restless_.isEmpty());
-    again_ = goesOn ? common : taken;
-    times_ = goesOn ? times_ + 1 : 0;
-    reports_ = 0;
-    restless_ = times_ >= timesUntilRestless ? again_ : QRegion();
-    silent_ = !restless_.isEmpty();
-    subtract(taken.subtracted(restless_));
+    const QRegion taken = damage_.intersected(where);
+    const QRegion &left = restless_.expectedAfter(taken);
+    untaken_ = !left.isEmpty();
+    subtract(taken.subtracted(left));
     return taken;
 }
 
 void ShownScreen::pictureChanged(const QRegion &where) {
-    if (restless_.subtracted(where).isEmpty())
-        return;
-    restless_ = again_ = QRegion();
-    times_ = 0;
+    if (!restless_.expected().subtracted(where).isEmpty())
+        restless_.calm();
 }
 
 void ShownScreen::takeAll(const QRegion &where) {
-    pictureChanged({});
+    restless_.calm();
     subtract(damage_.intersected(where));
 }
 

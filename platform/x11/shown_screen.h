@@ -11,6 +11,29 @@
 
 namespace x11 {
 
+/// Tells what is drawn each time anew, in many pieces: a film, or a window that is being dragged.
+class RestlessPlaces {
+public:
+    /// One piece was drawn.
+    void onPiece() { ++pieces_; }
+
+    /// All pieces together since the last time. Which part of them can be expected to be drawn
+    /// again.
+    const QRegion &expectedAfter(const QRegion &drawn);
+
+    /// What was expected the last time.
+    const QRegion &expected() const { return expected_; }
+
+    /// Nothing is expected any more.
+    void calm();
+
+private:
+    QRegion expected_;
+    QRegion common_; // to each of the last times,
+    int times_ = 0;  // which are so many
+    int pieces_ = 0; // since the last one
+};
+
 /// The screen as it is shown: the root window with all that lies in it, whoever drew it (windows, a
 /// compositing manager, a desktop's shell), and what was drawn there since it was last asked.
 class ShownScreen {
@@ -31,7 +54,7 @@ public:
     QRegion takeDamage(const QRegion &where);
 
     /// Whether something counts as drawn although nothing was reported.
-    bool isRestless() const { return silent_; }
+    bool isRestless() const { return untaken_; }
 
     /// The picture differs from the one before only within `where`.
     void pictureChanged(const QRegion &where);
@@ -49,11 +72,8 @@ private:
     xcb_render_picture_t picture_;
     xcb_damage_damage_t object_;
     QRegion damage_;
-    QRegion restless_;    // part of it that is left untaken
-    bool silent_ = false; // something was, the last time
-    QRegion again_;       // what was taken each of the last times,
-    int times_ = 0;       // which are so many
-    int reports_ = 0;     // since it was last taken
+    RestlessPlaces restless_;
+    bool untaken_ = false; // what is expected was left, the last time
 };
 
 } // namespace x11
