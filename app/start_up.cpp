@@ -16,11 +16,18 @@
 #include "shell/working_folders.h"
 #include "ui_MainWindow.h"
 
+#include <QApplication>
+#include <QFontInfo>
 #include <QMainWindow>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace start_up {
 
 namespace {
+
+constexpr double usualLetters = 13; // pixels: 10 points on a usual screen
 
 /// False when one could not be made; the user has been notified.
 bool createWorkingFolders(Surroundings &surroundings, const QString &documentsFolder) {
@@ -45,6 +52,20 @@ bool createWorkingFolders(Surroundings &surroundings, const QString &documentsFo
     return true;
 }
 
+/// The window's sizes are made for the letters that most desktops have. Where these are larger, as
+/// on GNOME, it grows with them, or texts would be cut in its smallest size; but not beyond the
+/// screen.
+void fitSizesToLetters(QMainWindow &window, const Ui::MainWindow &ui) {
+    const int letters = QFontInfo(QApplication::font()).pixelSize();
+    const double scale = std::max(1.0, letters / usualLetters);
+    const QSize room = window.screen()->availableSize();
+    const QSize least = AppDelegate::windowWillResizeToSize({0, 0}).toSize();
+    window.setMinimumSize((least * scale).boundedTo(room).expandedTo(least));
+    window.resize((window.size() * scale).boundedTo(room));
+    ui.gifCard->setMaximumWidth(qRound(ui.gifCard->maximumWidth() * scale));
+    ui.gifCard->setMinimumWidth(qRound(ui.gifCard->minimumWidth() * scale));
+}
+
 void showMainWindow(QMainWindow &window) {
     window.setWindowTitle(QStringLiteral("Tovarel"));
     window.show();
@@ -59,7 +80,7 @@ void makeMainWindow(AppDelegate &controller) {
     auto *window = new QMainWindow; // The process ends with it: see Terminate_App.
     window->setAttribute(Qt::WA_DeleteOnClose, false);
     controller.ui->setupUi(window);
-    window->setMinimumSize(AppDelegate::windowWillResizeToSize({0, 0}).toSize());
+    fitSizesToLetters(*window, *controller.ui);
     controller.shell.setWindow(window);
     controller.shell.setTabviewMain(new TabView(
         *controller.ui->tabBar, *controller.ui->tabStack,

@@ -414,7 +414,7 @@
     </message>
     <message id="IDD_PAUSED_FOR_MEMORY">
         <source>Memory is low (%1 left). “Stop” saves the recording.</source>
-        <translation>メモリが残り少なくなりました（残り %1）。「停止」で録画を保存します。</translation>
+        <translation>メモリが残りわずかです（残り %1）。「停止」で録画を保存します。</translation>
     </message>
     <message id="IDD_RECORDING_MEMORY">
         <source>Memory: %1</source>

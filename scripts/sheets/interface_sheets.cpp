@@ -30,11 +30,10 @@ namespace {
 
 constexpr QSize recorded(1280, 800);
 constexpr int recordedFrames = 40;
-constexpr int gap = 12;      // points around each picture of a sheet
-constexpr int caption = 18;  // points above it
-constexpr int widest = 2210; // points of a row
-constexpr QSize smallest(556, 425);
-constexpr QSize first(720, 540);
+constexpr int gap = 12;         // points around each picture of a sheet
+constexpr int caption = 18;     // points above it
+constexpr int widest = 2210;    // points of a row
+constexpr int firstWidth = 720; // points
 constexpr QSize bigDialog(640, 480);
 
 struct Chosen {
@@ -133,9 +132,12 @@ public:
     }
     void TestBody() override {}
 
-    Sheet states(QSize size) {
+    enum class Size { First, Smallest };
+
+    Sheet states(Size size) {
         Sheet sheet;
-        window()->resize(size);
+        if (size == Size::Smallest)
+            window()->resize(window()->minimumSize());
         window()->show();
         const auto add = [&](const char *name) { sheet.addWidget(QLatin1String(name), *window()); };
         enter(2);
@@ -191,7 +193,7 @@ public:
         addModal(sheet, "Error", [this] {
             controller.surroundings.alerts.run(AlertKind::Error, qtTrId("IDD_NOTHING_RECORDED"));
         });
-        RegionPanel panel(nullptr, first.width());
+        RegionPanel panel(nullptr, firstWidth);
         panel.showRegion({420, 208, 640, 480}, {});
         sheet.addWidget(QStringLiteral("Beside the region"), panel);
         RegionPanel narrow(nullptr, bigDialog.width() / 2);
@@ -272,8 +274,8 @@ void makeSheets(const Chosen &chosen, const QString &language, Look look) {
             QStringLiteral("%1-%2-%3.png")
                 .arg(language, QLatin1String(lookNames[int(look)]), QLatin1String(what)));
     };
-    Program().states(smallest).save(path("smallest"));
-    Program().states(first).save(path("first"));
+    Program().states(Program::Size::Smallest).save(path("smallest"));
+    Program().states(Program::Size::First).save(path("first"));
     Program().dialogs().save(path("dialogs"));
     QCoreApplication::removeTranslator(&toolkit);
     QCoreApplication::removeTranslator(&table);

@@ -198,9 +198,15 @@ private:
     QString where_;
 };
 
+/// What a desktop gives to programs.
+struct DesktopFont {
+    const char *family;
+    double points;
+};
+
 /// A language's table, and a font that has its letters, for as long as this lives.
 struct InLanguage {
-    explicit InLanguage(QString language, double points) {
+    InLanguage(QString language, const DesktopFont &desktop) {
         TestController::installTexts();
         EXPECT_TRUE(table.load(QStringLiteral(":/strings/tovarel_%1.qm")
                                    .arg(language.replace(QLatin1Char('-'), QLatin1Char('_')))));
@@ -208,8 +214,8 @@ struct InLanguage {
         QLocale::setDefault(QLocale(language));
         QFont font(language == QLatin1String("ja")      ? QStringLiteral("Noto Sans CJK JP")
                    : language == QLatin1String("zh_CN") ? QStringLiteral("Noto Sans CJK SC")
-                                                        : QStringLiteral("DejaVu Sans"));
-        font.setPointSizeF(points);
+                                                        : QLatin1String(desktop.family));
+        font.setPointSizeF(desktop.points);
         EXPECT_EQ(QFontInfo(font).family(), font.family()) << "the font is not installed";
         QApplication::setFont(font);
     }
@@ -323,7 +329,7 @@ void checkSheet(AppDelegate &controller, Places &places) {
     }
 }
 
-class InterfaceTextsFit : public testing::TestWithParam<double> {};
+class InterfaceTextsFit : public testing::TestWithParam<DesktopFont> {};
 
 TEST_P(InterfaceTextsFit, theirPlacesInEveryLanguage) {
     for (const QString &language : strings_table::available()) {
@@ -337,7 +343,10 @@ TEST_P(InterfaceTextsFit, theirPlacesInEveryLanguage) {
         TestController::settle();
         EXPECT_EQ(ui.gifOptions->verticalScrollBar()->maximum(), 0)
             << language.toStdString() << ": all options are seen in a window of the first size";
-        const QSize smallest = AppDelegate::windowWillResizeToSize({0, 0}).toSize();
+        const QSize smallest = window.minimumSize();
+        const bool isUsual = GetParam().points <= 10;
+        EXPECT_EQ(isUsual, smallest == AppDelegate::windowWillResizeToSize({0, 0}).toSize())
+            << "larger letters make it larger, and nothing else does";
         window.resize(smallest);
         checkFiguresInNarrowWindow(controller);
         for (int tab = 0; tab < ui.tabBar->count(); ++tab) {
@@ -385,8 +394,10 @@ TEST_P(InterfaceTextsFit, theirPlacesInEveryLanguage) {
     }
 }
 
-// The sizes of the usual desktops' fonts.
-INSTANTIATE_TEST_SUITE_P(Points, InterfaceTextsFit, testing::Values(9.0, 10.0));
+// The widest of the usual desktops' fonts, and the tallest, which is GNOME's.
+INSTANTIATE_TEST_SUITE_P(Fonts, InterfaceTextsFit,
+                         testing::Values(DesktopFont{"DejaVu Sans", 10},
+                                         DesktopFont{"Cantarell", 11}));
 
 TEST(InterfaceTextsRule, whatIsNotFromTheTableIsFound) {
     EXPECT_EQ(foreign(QStringLiteral("«IDD_FPS»: 12 Tovarel /usr/bin/ffmpeg")), QString());
