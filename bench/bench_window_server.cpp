@@ -14,6 +14,8 @@
 
 #include <QCoreApplication>
 
+#include <xcb/composite.h>
+
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -46,6 +48,8 @@ struct Case {
     double bar; ///< highest ratio
 };
 constexpr std::array cases{Case{Scene::Everything, false, "everything changing", 1.3},
+                           // Of a fetch with all windows kept apart: nobody can have what lies
+                           // beneath a window for less.
                            Case{Scene::Everything, true, "the same, beneath us too", 1.8},
                            Case{Scene::Rectangle, false, "200x100 changing", 0.25},
                            Case{Scene::Nothing, false, "nothing changing", 0.03}};
@@ -179,6 +183,19 @@ private:
     void *memory_ = nullptr;
 };
 
+/// All windows of the desktop in memory of their own, as those beneath ours are.
+class KeptApart {
+public:
+    KeptApart() : connection_(x11::Connection::open()) {
+        xcb_composite_redirect_subwindows(connection_->get(), connection_->root(),
+                                          XCB_COMPOSITE_REDIRECT_AUTOMATIC);
+        connection_->roundTrip();
+    }
+
+private:
+    std::unique_ptr<x11::Connection> connection_;
+};
+
 /// What the capture does: the list, the grab of all windows in it, the last picture held.
 class Tick {
 public:
@@ -284,10 +301,11 @@ bool measureRegion(ScenePainter &painter, const std::string &size) {
 }
 
 bool measure(ScenePainter &painter, const Case &c, const std::string &size) {
-    Costs scenes, fetches, ticksOfOurs;
+    Costs scenes, fetches, fetchesApart, ticksOfOurs;
     bool right = true;
     XClient client;
     const bool composited = client.compositingManagerRuns();
+    const bool keepsApart = c.covered && !composited;
     const double bar = composited && c.bar > 1 ? barOfComposited : c.bar;
     for (int i = 0; i < repetitions; ++i) {
         xcb_window_t ours = XCB_NONE;
@@ -298,6 +316,10 @@ bool measure(ScenePainter &painter, const Case &c, const std::string &size) {
         {
             RootFetch fetch;
             fetches.add(cost(painter, c.scene, std::ref(fetch)));
+            if (keepsApart) {
+                const KeptApart apart;
+                fetchesApart.add(cost(painter, c.scene, std::ref(fetch)));
+            }
         }
         {
             Tick tick;
@@ -309,8 +331,14 @@ bool measure(ScenePainter &painter, const Case &c, const std::string &size) {
         if (ours != XCB_NONE)
             client.destroy(ours);
     }
-    const double ofFetch = fetches.lowest - scenes.lowest,
+    const double ofPlainFetch = fetches.lowest - scenes.lowest,
                  ofTick = ticksOfOurs.lowest - scenes.lowest;
+    double ofFetch = ofPlainFetch;
+    if (keepsApart) {
+        ofFetch = fetchesApart.lowest - scenes.lowest;
+        std::printf("| %-9s | %-24s | %-3s | %8.3f | %8.3f | %6.2f |      | told |\n", size.c_str(),
+                    "a fetch, all kept apart", "no", ofPlainFetch, ofFetch, ofFetch / ofPlainFetch);
+    }
     const double ratio = ofTick / ofFetch;
     std::printf("| %-9s | %-24s | %-3s | %8.3f | %8.3f | %6.2f | %4.2f | %s\n", size.c_str(),
                 c.name, composited ? "yes" : "no", ofFetch, ofTick, ratio, bar,
