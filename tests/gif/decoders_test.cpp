@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 //
-// Files as decoders that are not ours compose them: giflib here, ffmpeg and Pillow as programs.
+// Files as decoders that are not ours compose them: ffmpeg and Pillow.
 #include "tests/gif/made_clips.h"
 #include "tests/gif/promise.h"
 
-#include <gif_lib.h>
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -23,39 +22,6 @@ std::string temporaryFile() {
             ("tovarel-gif-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
              "-" + std::to_string(std::random_device()()) + ".gif"))
         .string();
-}
-
-/// The canvas after each picture; transparent pixels leave what is there.
-Canvases byGiflib(const std::string &path) {
-    Canvases canvases;
-    int error = 0;
-    GifFileType *file = DGifOpenFileName(path.c_str(), &error);
-    EXPECT_TRUE(file && DGifSlurp(file) == GIF_OK) << GifErrorString(error);
-    if (!file)
-        return canvases;
-    const auto width = std::size_t(file->SWidth);
-    std::vector<std::uint32_t> canvas(width * std::size_t(file->SHeight), SlowGif::nothing);
-    for (int i = 0; i < file->ImageCount; ++i) {
-        const SavedImage &image = file->SavedImages[i];
-        GraphicsControlBlock control;
-        EXPECT_EQ(DGifSavedExtensionToGCB(file, i, &control), GIF_OK);
-        EXPECT_EQ(control.DisposalMode, DISPOSE_DO_NOT);
-        const GifImageDesc &box = image.ImageDesc;
-        const ColorMapObject *map = box.ColorMap ? box.ColorMap : file->SColorMap;
-        for (int y = 0; y < box.Height; ++y) {
-            for (int x = 0; x < box.Width; ++x) {
-                const int index = image.RasterBits[y * box.Width + x];
-                if (index == control.TransparentColor || index >= map->ColorCount)
-                    continue;
-                const GifColorType &c = map->Colors[index];
-                canvas[std::size_t(box.Top + y) * width + std::size_t(box.Left + x)] =
-                    std::uint32_t(c.Red << 16 | c.Green << 8 | c.Blue);
-            }
-        }
-        canvases.push_back(canvas);
-    }
-    DGifCloseFile(file, &error);
-    return canvases;
 }
 
 /// What a program writes as 32 bits per pixel: red, green, blue, opacity.
@@ -96,7 +62,6 @@ void expectAllAgree(Clip &clip, float tolerance) {
     std::ofstream(path, std::ios::binary)
         .write(reinterpret_cast<const char *>(bytes.data()), std::streamsize(bytes.size()));
     const auto pixels = std::size_t(clip.width()) * std::size_t(clip.height());
-    EXPECT_EQ(byGiflib(path), shown);
     EXPECT_EQ(
         byProgram("ffmpeg -v error -nostdin -i " + path +
                       " -fps_mode passthrough -enc_time_base 0.001 -f rawvideo -pix_fmt rgba -",

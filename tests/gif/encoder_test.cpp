@@ -110,16 +110,6 @@ TEST(GifEncoder, showsStillsForAsLongAsTheyLast) {
     }
 }
 
-TEST(GifEncoder, writesOnePictureWhenNothingMoves) {
-    Clip clip(5, 5);
-    for (int i = 0; i < 9; ++i)
-        clip.add(0x123456, 7);
-    clip.encoded(gif::balancedTolerance);
-    EXPECT_EQ(clip.outcome.pictures, 1);
-    EXPECT_EQ(clip.outcome.frames, 9);
-    EXPECT_EQ(clip.outcome.delay, 63);
-}
-
 TEST(GifEncoder, saysHowOftenItIsRepeated) {
     for (const int repeats : {-1, 0, 1, 65535}) {
         Clip clip(2, 2);

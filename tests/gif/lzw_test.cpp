@@ -97,18 +97,6 @@ TEST(Lzw, comesBackForEveryCodeSizeAndEndsAtEveryEdge) {
     }
 }
 
-TEST(Lzw, comesBackAtEveryShortLength) {
-    LzwCoder coder;
-    for (int codeSize = 2; codeSize <= 8; ++codeSize) {
-        const Indices all = stream(codeSize, 700, 99);
-        for (std::size_t length = 1; length <= all.size(); length += length < 40 ? 1 : 13) {
-            const std::span part(all.data(), length);
-            const auto got = decodeSlowly(codedExactly(coder, part, codeSize), codeSize);
-            ASSERT_TRUE(got && std::ranges::equal(got->indices, part)) << codeSize << ' ' << length;
-        }
-    }
-}
-
 TEST(Lzw, takesTheIndexThatMakesTheFileShorterAndNoOther) {
     LzwCoder coder;
     std::mt19937 random(5);

@@ -15,8 +15,7 @@ struct SlowGif {
         int x, y, width, height;
         std::int64_t delay;
         std::vector<std::uint32_t> table; ///< its own or the file's
-        bool ownTable;
-        int transparent; ///< -1 for none
+        int transparent;                  ///< -1 for none
         std::vector<std::uint32_t>
             shown; ///< the whole canvas, 0xRRGGBB; `nothing` where none wrote
     };
@@ -94,11 +93,9 @@ private:
     }
 
     bool picture(std::vector<std::uint32_t> &canvas) {
-        SlowGif::Picture p{word(),  word(), word(),       word(), delay_,
-                           shared_, false,  transparent_, {}};
+        SlowGif::Picture p{word(), word(), word(), word(), delay_, shared_, transparent_, {}};
         const int flags = byte();
-        p.ownTable = flags & 0x80;
-        if (p.ownTable)
+        if (flags & 0x80)
             p.table = table(flags & 7);
         const int codeSize = byte();
         const std::size_t begin = at_;
