@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 //
-// A window with a known changing picture: a counter, coded so that it can be read back from a
-// frame and from a GIF with a palette of its own (tests/support/counter.py reads it), under a bar
-// that moves to the right with it. A picture is drawn aside and shown by one request, so that no
-// grab can see half of it.
+// A window with a known changing picture, which can be read back from a frame and from a GIF with a
+// palette of its own (tests/support/counter_picture.h). A picture is drawn aside and shown by one
+// request, so that no grab can see half of it.
 //
 //   counter_window [--at X,Y] [--size WxH] [--rate N] [--unmanaged]
 //
@@ -12,6 +11,7 @@
 // slow skips numbers. --unmanaged asks for no frame and no placing by the window manager. Where the
 // window lies on the screen, without its frame, is written to standard output whenever it changes:
 // a line "X Y WIDTH HEIGHT". The program runs until it is ended.
+#include "tests/support/counter_picture.h"
 #include "tests/support/x_client.h"
 
 #include <poll.h>
@@ -21,16 +21,6 @@
 #include <string_view>
 
 namespace {
-
-/// Digits of the counter, four colours each, the least significant first; the last cell holds the
-/// sum of the others, so that a covered or torn picture does not pass for a number.
-constexpr int digits = 8;
-constexpr int cells = digits + 1;
-constexpr std::uint32_t colours[] = {0xe00000, 0x00c000, 0x0000e0, 0xe0e000};
-constexpr std::uint32_t background = 0x202020;
-constexpr std::uint32_t barColour = 0xf0f0f0;
-/// Steps that the bar takes from one side to the other.
-constexpr int barSteps = 32;
 
 struct Options {
     int x = 0, y = 0, width = 360, height = 200; // pixels
@@ -82,22 +72,8 @@ public:
 
     void draw(std::uint32_t number) {
         number_ = number;
-        const int width = place_.width(), height = place_.height();
-        client_.fill(picture_, {0, 0, width, height}, background);
-        const int step = static_cast<int>(number % barSteps);
-        client_.fill(
-            picture_,
-            {(width - width / 8) * step / (barSteps - 1), height / 16, width / 8, height * 3 / 8},
-            barColour);
-        std::uint32_t sum = 0;
-        for (int cell = 0; cell < cells; ++cell) {
-            const std::uint32_t digit = cell < digits ? number >> (2 * cell) & 3U : sum & 3U;
-            sum += digit;
-            const int left = width * cell / cells;
-            client_.fill(picture_,
-                         {left, height / 2, width * (cell + 1) / cells - left, height - height / 2},
-                         colours[digit]);
-        }
+        for (const auto &[place, colour] : counterPicture(number, place_.size()))
+            client_.fill(picture_, place, colour);
         show();
     }
 

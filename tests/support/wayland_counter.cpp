@@ -9,6 +9,8 @@
 // A line "WxH" on its standard input gives it another size. It writes "shown" to standard output
 // once it has been drawn on the screen, and "drawn N" with its processor's clock at every N that it
 // draws if it is asked to by --log.
+#include "tests/support/counter_picture.h"
+
 #include <QGuiApplication>
 #include <QPainter>
 #include <QRasterWindow>
@@ -24,13 +26,6 @@
 #include <unistd.h>
 
 namespace {
-
-constexpr int digits = 8;
-constexpr int cells = digits + 1;
-constexpr QRgb colours[] = {0xffe00000, 0xff00c000, 0xff0000e0, 0xffe0e000};
-constexpr QRgb background = 0xff202020;
-constexpr QRgb barColour = 0xfff0f0f0;
-constexpr int barSteps = 32;
 
 struct Options {
     int width = 0, height = 0; // points; 0: the whole screen
@@ -73,19 +68,8 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override {
         QPainter painter(this);
-        const int width = this->width(), height = this->height();
-        painter.fillRect(0, 0, width, height, QColor(background));
-        const int step = static_cast<int>(number_ % barSteps);
-        painter.fillRect((width - width / 8) * step / (barSteps - 1), height / 16, width / 8,
-                         height * 3 / 8, QColor(barColour));
-        std::uint32_t sum = 0;
-        for (int cell = 0; cell < cells; ++cell) {
-            const std::uint32_t digit = cell < digits ? number_ >> (2 * cell) & 3U : sum & 3U;
-            sum += digit;
-            const int left = width * cell / cells;
-            painter.fillRect(left, height / 2, width * (cell + 1) / cells - left,
-                             height - height / 2, QColor(colours[digit]));
-        }
+        for (const auto &[place, colour] : counterPicture(number_, size()))
+            painter.fillRect(place, QColor(static_cast<QRgb>(colour)));
         if (options_.log)
             std::printf("drawn %u %lld\n", number_,
                         static_cast<long long>(
