@@ -3,12 +3,14 @@
 #include "tests/controller/export_fixture.h"
 
 #include "shell/tab_view.h"
+#include "shell/window_progress.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 
 #include <utility>
@@ -56,6 +58,22 @@ void Answerer::answer() {
     }
 }
 
+Canceller::Canceller(const AppDelegate &controller,
+                     std::function<bool(const Window_Progress &sheet)> isTheMoment, bool byKey) {
+    connect(&timer_, &QTimer::timeout, this,
+            [this, &controller, isTheMoment = std::move(isTheMoment), byKey] {
+                Window_Progress *sheet = controller.windowProgress();
+                if (since.isValid() || !sheet || !isTheMoment(*sheet))
+                    return;
+                since.start();
+                if (byKey)
+                    QTest::keyClick(sheet, Qt::Key_Escape);
+                else
+                    sheet->findChild<QPushButton *>(QStringLiteral("btnCancel"))->click();
+            });
+    timer_.start(5);
+}
+
 ExportTest::ExportTest()
     : ControllerFixture(std::nullopt, QStringLiteral("100% real %1/Döcuments")) {
     choose(GifPreset::Classic);
@@ -65,6 +83,36 @@ void ExportTest::choose(GifPreset preset) {
     const int index = ui.comboGIFQuality->findData(QString::fromLatin1(presetWord(preset)));
     ASSERT_GE(index, 0);
     ui.comboGIFQuality->setCurrentIndex(index);
+}
+
+void ExportTest::chooseSize(const QString &width, const QString &height) {
+    ui.radioGIFCustomDimension->click();
+    ui.checkGIFKeepAspectRatio->setChecked(false);
+    ui.textGIFWidth->setText(width);
+    ui.textGIFHeigth->setText(height);
+}
+
+frame_timing::Request ExportTest::chooseTimes(int frames, double recorded, int rate, double speed) {
+    controller.recording.setExactRate(recorded);
+    (rate > 0 ? ui.radioGIFCustomFPS : ui.radioGIFOriginalFPS)->click();
+    ui.comboGIFFPS->setCurrentIndex(std::max(rate, 1) - 1);
+    ui.comboGIFSpeed->setCurrentIndex(ui.comboGIFSpeed->findData(speed));
+    return {.kept = FrameRuns::of(0, static_cast<std::uint64_t>(frames)),
+            .recordedRate = recorded,
+            .chosenRate = rate > 0 ? std::optional<double>(rate) : std::nullopt,
+            .speed = speed};
+}
+
+qint64 ExportTest::makeUnder(QPushButton *button, const QString &limit, const char *name) {
+    ui.comboFitUnder->setEditText(limit);
+    answers.savePath = place(name);
+    answers.alerts.clear();
+    QFile::remove(answers.savePath);
+    button->click();
+    EXPECT_TRUE(finish());
+    QTest::qWait(50); // what an answer leads to begins when its question has gone
+    EXPECT_TRUE(finish());
+    return QFileInfo(answers.savePath).size();
 }
 
 QColor ExportTest::colourOf(int frame) { return QColor::fromHsv((frame * 67) % 360, 200, 220); }

@@ -5,12 +5,15 @@
 #include "tests/controller/controller_fixture.h"
 #include "tests/support/files.h"
 
+#include "export/frame_timing.h"
 #include "export/gif_preset.h"
 
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -41,6 +44,18 @@ private:
     QPointer<QObject> answered_; // the panel that has had its answer
 };
 
+/// Cancels an export once the moment has come, by the button of its sheet or by a key.
+class Canceller : public QObject {
+public:
+    Canceller(const AppDelegate &controller,
+              std::function<bool(const Window_Progress &sheet)> isTheMoment, bool byKey);
+
+    QElapsedTimer since; ///< valid from then on
+
+private:
+    QTimer timer_;
+};
+
 /// The controller on a recording of real frame files, in a folder whose name is full of traps.
 class ExportTest : public ControllerFixture {
 protected:
@@ -54,6 +69,14 @@ protected:
     /// Pictures of which no two pixels are alike, so that they cost an encoder time and bytes.
     static std::vector<QImage> noise(int count, QSize size);
     void choose(GifPreset preset);
+    /// A size of its own, whose sides do not follow each other.
+    void chooseSize(const QString &width, const QString &height);
+    /// Makes it a recording of this exact rate, and chooses a rate (0 for the recording's own) and
+    /// a speed: what is to become of that many frames.
+    frame_timing::Request chooseTimes(int frames, double recorded, int rate, double speed);
+    /// Makes a file of at most so many megabytes by the button, with all that is asked on the way:
+    /// its size in bytes, 0 when there is none.
+    qint64 makeUnder(QPushButton *button, const QString &limit, const char *name);
     /// An executable shell script that stands in for a tool; its last argument is `$last`.
     QString standIn(const QByteArray &script);
     /// Waits until neither a question nor an export is under way.

@@ -50,8 +50,6 @@ protected:
 };
 
 TEST_F(FileCardTest, isMadeSavedAndCopiedInOneGo) {
-    QDir().mkpath(saved);
-    settings::writeLastSaveFolder(saved);
     ui.menuitemGenerateAndCopy->trigger();
     ASSERT_TRUE(finish());
     ASSERT_EQ(names().size(), 1);

@@ -60,6 +60,8 @@ TEST_F(GifExport, WritesTheVeryFramesAndDelaysThatTheRateAndTheSpeedAskFor) {
     using namespace frame_timing;
     record(9);
     answers.savePath = place("timed.gif");
+    ui.comboGIFRepeat->setCurrentIndex(3);
+    ui.comboGIFHold->setCurrentIndex(3);
     const struct {
         double recorded;
         int chosen; // 0 for the recording's own
@@ -68,20 +70,15 @@ TEST_F(GifExport, WritesTheVeryFramesAndDelaysThatTheRateAndTheSpeedAskFor) {
                  {9.83, 24, 0.5}, {59.3, 0, 1.0}, {0.9, 0, 1.5}};
     for (const auto &[recorded, chosen, speed] : cases) {
         SCOPED_TRACE(testing::Message() << recorded << " to " << chosen << ", " << speed);
-        controller.recording.setExactRate(recorded);
-        (chosen > 0 ? ui.radioGIFCustomFPS : ui.radioGIFOriginalFPS)->click();
-        ui.comboGIFFPS->setCurrentIndex(std::max(chosen, 1) - 1);
-        ui.comboGIFSpeed->setCurrentIndex(ui.comboGIFSpeed->findData(speed));
-        const auto wanted =
-            timedFrames({.kept = FrameRuns::of(0, 9),
-                         .recordedRate = recorded,
-                         .chosenRate = chosen > 0 ? std::optional(chosen) : std::nullopt,
-                         .speed = speed},
-                        gifTicks);
+        auto request = chooseTimes(9, recorded, chosen, speed);
+        request.hold = 2.0;
+        const auto wanted = timedFrames(request, gifTicks);
+
         QFile::remove(answers.savePath);
         ui.btnGIFExport->click();
         QImageReader gif(answers.savePath);
         ASSERT_EQ(gif.imageCount(), wanted.size());
+        EXPECT_EQ(gif.loopCount(), 2) << "begun again, to be played three times";
         for (const TimedFrame &frame : wanted) {
             const QImage picture = gif.read();
             EXPECT_TRUE(alike(picture.pixelColor(20, 15), colourOf(static_cast<int>(frame.source))))
@@ -90,33 +87,6 @@ TEST_F(GifExport, WritesTheVeryFramesAndDelaysThatTheRateAndTheSpeedAskFor) {
         }
     }
 }
-
-/// Presses a button of the sheet, or a key, once the tool is at work.
-class Canceller : public QObject {
-public:
-    Canceller(AppDelegate &controller, QString sign, bool byKey)
-        : controller_(controller), sign_(std::move(sign)), byKey_(byKey) {
-        connect(&timer_, &QTimer::timeout, this, &Canceller::look);
-        timer_.start(5);
-    }
-    bool done = false;
-
-private:
-    void look() {
-        Window_Progress *sheet = controller_.windowProgress();
-        if (done || !sheet || !QFile::exists(sign_))
-            return;
-        done = true;
-        if (byKey_)
-            QTest::keyClick(sheet, Qt::Key_Escape);
-        else
-            sheet->findChild<QPushButton *>(QStringLiteral("btnCancel"))->click();
-    }
-    AppDelegate &controller_;
-    QString sign_;
-    bool byKey_;
-    QTimer timer_;
-};
 
 TEST_F(GifExport, AndTheWebPLeaveNothingWhenTheyAreCancelledInAnyRun) {
     record(4);
@@ -145,9 +115,10 @@ TEST_F(GifExport, AndTheWebPLeaveNothingWhenTheyAreCancelledInAnyRun) {
         ui.textGIFWidth->setText(QString::fromLatin1(run) == u"scaled%d.png"
                                      ? QStringLiteral("32")
                                      : QStringLiteral("64"));
-        Canceller canceller(controller, sign, byKey);
+        const Canceller canceller(
+            controller, [&sign](auto &) { return QFile::exists(sign); }, byKey);
         (webp ? ui.btnWebPGenerate : ui.btnGIFExport)->click();
-        EXPECT_TRUE(canceller.done);
+        EXPECT_TRUE(canceller.since.isValid());
         EXPECT_TRUE(answers.alerts.empty());
         EXPECT_TRUE(answers.panels.isEmpty());
         EXPECT_EQ(ui.labelStatus->text(), qtTrId("IDD_EXPORT_CANCELLED"));
@@ -165,33 +136,21 @@ TEST_F(GifExport, AndTheWebPLeaveNothingWhenTheyAreCancelledInAnyRun) {
 
 TEST_F(GifExport, FillsTheBarAtAnyRateAndSpeed) {
     record(9);
-    class Watch : public QObject {
-    public:
-        bool eventFilter(QObject *watched, QEvent *event) override {
-            // Hidden when the last run has ended.
-            if (event->type() == QEvent::Hide)
-                last = static_cast<Window_Progress *>(watched)->doubleValue();
-            return false;
-        }
-        double last = -1.0;
-    } watch;
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &look, [&] {
-        if (Window_Progress *sheet = controller.windowProgress())
-            sheet->installEventFilter(&watch);
-    });
-    look.start(1);
+    double last = -1.0;
+    const QObject here;
+    QObject::connect(&controller.surroundings.progress, &ProgressSheet::valueChanged, &here,
+                     [&last](double value) { last = value; });
     for (const double speed : {0.25, 4.0})
         for (const int chosen : {10, 30})
             for (QPushButton *button : {ui.btnGIFExport, ui.btnWebPGenerate}) {
                 ui.radioGIFCustomFPS->click();
                 ui.comboGIFFPS->setCurrentIndex(chosen - 1);
                 ui.comboGIFSpeed->setCurrentIndex(ui.comboGIFSpeed->findData(speed));
-                watch.last = -1.0;
+                last = -1.0;
                 // Saved: one that is not would be asked about first.
                 answers.savePath = place(button == ui.btnGIFExport ? "bar.gif" : "bar.webp");
                 button->click();
-                EXPECT_NEAR(watch.last, 100.0, 15.0) << speed << ' ' << chosen;
+                EXPECT_NEAR(last, 100.0, 15.0) << speed << ' ' << chosen;
             }
 }
 
@@ -209,14 +168,21 @@ TEST_F(GifExport, StagesEveryFrameAndTheFirstSixtyForThePalette) {
     EXPECT_EQ(QImageReader(exports + QStringLiteral("/output.gif")).imageCount(), 62);
 }
 
-TEST_F(GifExport, SaysHowManyFramesTheGifHoldsWhenOneIsMissing) {
+TEST_F(GifExport, AsAnyOtherEndsAtAMissingFrameAndSaysSo) {
     record(6);
     ASSERT_TRUE(QFile::remove(frameFile(3)));
-    answers.savePath = place("gap.gif");
-    ui.btnGIFExport->click();
-    const int held = QImageReader(answers.savePath).imageCount();
-    EXPECT_EQ(held, 3);
-    EXPECT_TRUE(ui.labelStatus->text().contains(qtTrId("IDD_STATUS_GAP", 6).arg(held)));
+    for (const auto &[button, name, words] :
+         {std::tuple(ui.btnGIFExport, "gap.gif", "IDD_STATUS_GAP"),
+          {ui.btnWebPGenerate, "gap.webp", "IDD_STATUS_WEBP_GAP"},
+          {ui.btnMP4Generate, "gap.mp4", "IDD_STATUS_MP4_GAP"}}) {
+        answers.savePath = place(name);
+        button->click();
+        EXPECT_TRUE(ui.labelStatus->text().contains(qtTrId(words, 6).arg(3)))
+            << ui.labelStatus->text().toStdString();
+        if (button != ui.btnMP4Generate) {
+            EXPECT_EQ(QImageReader(answers.savePath).imageCount(), 3) << name;
+        }
+    }
 }
 
 TEST_F(GifExport, AndTheWebPRefuseTooFewFramesAndAnEmptySizeBeforeTheyTouchAnything) {

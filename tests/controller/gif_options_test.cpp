@@ -33,6 +33,10 @@ protected:
         if (text.isEmpty())
             QTest::keyClick(field, Qt::Key_Delete);
     }
+    static void enter(QLineEdit *field, const QString &text) {
+        type(field, text);
+        QTest::keyClick(field, Qt::Key_Return);
+    }
     std::string summary() const { return ui.labelGIFSummary->text().toStdString(); }
     static std::string figures(int frames, double seconds, const char *rate) {
         return qtTrId("IDD_GIF_SUMMARY", frames)
@@ -64,8 +68,7 @@ TEST_F(GifOptions, BeginWithTheRecordingsOwnSizeAndRate) {
     controller.exportOptions->resetGIFOptions();
     EXPECT_EQ(size(), "641x480");
     ui.radioGIFCustomDimension->click();
-    type(ui.textGIFWidth, QStringLiteral("1282"));
-    QTest::keyClick(ui.textGIFWidth, Qt::Key_Return);
+    enter(ui.textGIFWidth, QStringLiteral("1282"));
     EXPECT_EQ(size(), "1282x960");
     EXPECT_EQ(ui.comboGIFFPS->currentText(), QStringLiteral("60")) << "never without a selection";
 }
@@ -137,22 +140,19 @@ TEST_F(GifOptions, TieTheOtherSideWhenAFieldSendsItsAction) {
     ui.textGIFWidth->setFocus();
     EXPECT_EQ(size(), "801x450") << "an edited field sends it when editing ends";
     for (const char16_t *nothing : {u"0", u"abc", u""}) {
-        type(ui.textGIFWidth, QString::fromUtf16(nothing));
-        QTest::keyClick(ui.textGIFWidth, Qt::Key_Return);
+        enter(ui.textGIFWidth, QString::fromUtf16(nothing));
         EXPECT_EQ(ui.textGIFHeigth->text(), QStringLiteral("450"));
         EXPECT_EQ(ui.textGIFWidth->text(), QString::fromUtf16(nothing));
     }
     ASSERT_TRUE(QFile::remove(frameFile(0)));
-    type(ui.textGIFWidth, QStringLiteral("100"));
-    QTest::keyClick(ui.textGIFWidth, Qt::Key_Return);
+    enter(ui.textGIFWidth, QStringLiteral("100"));
     EXPECT_EQ(size(), "100x450") << "without an original size there is no ratio";
 }
 
 TEST_F(GifOptions, StayForTheNextRecordingThatTheyFit) {
     enterTab({800, 600});
     chooseCustomSize(true);
-    type(ui.textGIFWidth, QStringLiteral("400"));
-    QTest::keyClick(ui.textGIFWidth, Qt::Key_Return);
+    enter(ui.textGIFWidth, QStringLiteral("400"));
     ui.comboGIFSpeed->setCurrentIndex(4);
     enterTab({800, 400});
     EXPECT_EQ(size(), "400x200") << "the ratio is the new recording's";
@@ -165,8 +165,7 @@ TEST_F(GifOptions, StayForTheNextRecordingThatTheyFit) {
 TEST_F(GifOptions, DeriveNothingWhileTheSizeIsFree) {
     enterTab();
     chooseCustomSize(false);
-    type(ui.textGIFWidth, QStringLiteral("320.7"));
-    QTest::keyClick(ui.textGIFWidth, Qt::Key_Return);
+    enter(ui.textGIFWidth, QStringLiteral("320.7"));
     EXPECT_EQ(size(), "320.7x768");
     ui.checkGIFKeepAspectRatio->click();
     EXPECT_EQ(size(), "320x181") << "tying derives the height from the width at once";

@@ -84,11 +84,6 @@ TEST_F(RecordPreview, storesNothingWhenItIsOnlyPainted) {
     view().render(&canvas);
     view().update();
     view().repaint();
-    view().setStyleSheet(QStringLiteral("color: red"));
-    QPalette palette = view().palette();
-    palette.setColor(QPalette::Window, Qt::blue);
-    view().setPalette(palette);
-    view().setToolTip(QStringLiteral("a tip"));
     EXPECT_EQ(stored(), 0u);
     // Not even while a redisplay is due, which still happens once.
     window()->resize(window()->size() + QSize(40, 30));

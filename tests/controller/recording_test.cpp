@@ -132,7 +132,9 @@ TEST_F(Recording, countsFramesPerSecondAcrossPausesFromItsStart) {
     delegate->OnRecordStop(nullptr);
     ASSERT_TRUE(waitForSave());
 
+    delegate->trim.setF_Cut_Percent_Maior(50.0f);
     delegate->OnRecordRecord(nullptr);
+    EXPECT_EQ(delegate->trim.f_Cut_Percent_Maior(), 100.0f) << "a new one is kept whole";
     EXPECT_FALSE(QFile::exists(frameFile(0)));
     EXPECT_EQ(frames(), 0u);
     EXPECT_TRUE(delegate->recording.array_Images->empty());
@@ -204,6 +206,21 @@ TEST_F(Recording, savesTheVeryFramesAgainWhenSomethingStoodInTheWay) {
         EXPECT_EQ(QImage(frameFile(i)).pixel(5, 5), qRgb(i, i, i)) << i;
 }
 
+TEST_F(Recording, saysAgainOnlyWhatHasChangedOfItsArea) {
+    QSignalSpy modes(&delegate->recorder, &Recorder::captureModeChanged);
+    tick(3);
+    EXPECT_EQ(modes.count(), 0);
+    delegate->region.setRect_Screen_Region({1, 2, 20, 10});
+    delegate->region.setScreenOfRegion(coordinates::Screen{.height = 48});
+    delegate->region.setI_Type_Screen_Capture(CAPTURE_REGION);
+    tick(3);
+    EXPECT_EQ(modes.count(), 1);
+    EXPECT_EQ(delegate->recorder.captureMode().area, QRect(1, 36, 20, 10));
+    // The place follows what it depends on, also when only that has changed.
+    delegate->region.setRect_Screen_Region({1, 3, 20, 10});
+    EXPECT_EQ(delegate->regionChooser.place().inGrab, QRect(1, 35, 20, 10));
+}
+
 class WithoutAScreen : public Recording {
 protected:
     WithoutAScreen() : Recording(Obstacle::NoComposite) {}
@@ -257,40 +274,30 @@ TEST_F(Recording, theCaptureTimerRunsAtTheRateChosenInTheDialogAndOnlyAfterOK) {
 }
 
 TEST_F(Recording, theSheetShowsFractionsAndIgnoresWhatWouldDismissIt) {
-    delegate->surroundings.progress.setValue(50.0); // Without a sheet nothing happens.
-    delegate->surroundings.progress.show(QStringLiteral("Busy"));
+    ProgressSheet &progress = delegate->surroundings.progress;
+    progress.show(QStringLiteral("Busy"));
     Window_Progress *sheet = delegate->windowProgress();
-    EXPECT_EQ(sheet->labelDescription()->text(), QStringLiteral("Busy"));
-    const auto share = [sheet] {
+    const auto share = [&](double value) {
+        progress.setValue(value);
         return sheet->progressBar()->value() / static_cast<double>(sheet->progressBar()->maximum());
     };
-    EXPECT_EQ(share(), 0.0);
-    delegate->surroundings.progress.setValue(12.5);
-    EXPECT_EQ(share(), 0.125);
-    for (const double notFinite : {std::nan(""), HUGE_VAL, -HUGE_VAL}) {
-        delegate->surroundings.progress.setValue(notFinite);
-        EXPECT_EQ(share(), 0.125);
-    }
-    delegate->surroundings.progress.setValue(130.0);
-    EXPECT_EQ(share(), 1.0);
-    delegate->surroundings.progress.setValue(-1.0);
-    EXPECT_EQ(share(), 0.0);
-    delegate->surroundings.progress.setRange(0.0, 40.0);
-    delegate->surroundings.progress.setValue(10.0);
-    EXPECT_EQ(share(), 0.25);
-    delegate->surroundings.progress.paint();
+    EXPECT_EQ(share(12.5), 0.125);
+    for (const double notFinite : {std::nan(""), HUGE_VAL, -HUGE_VAL})
+        EXPECT_EQ(share(notFinite), 0.125);
+    EXPECT_EQ(share(130.0), 1.0);
+    EXPECT_EQ(share(-1.0), 0.0);
+    progress.setRange(0.0, 40.0);
+    EXPECT_EQ(share(10.0), 0.25);
+
     sheet->close();
     sheet->reject();
     QTest::keyClick(sheet, Qt::Key_Escape);
     EXPECT_TRUE(sheet->isVisible());
-    delegate->surroundings.progress.close();
-    EXPECT_EQ(delegate->windowProgress(), nullptr);
+    progress.close();
     EXPECT_FALSE(sheet->isVisible());
-    // Nothing of the first sheet carries over.
-    delegate->surroundings.progress.show(QStringLiteral("Again"));
-    EXPECT_EQ(delegate->windowProgress()->maxValue(), 100.0);
-    EXPECT_EQ(delegate->windowProgress()->doubleValue(), 0.0);
-    delegate->surroundings.progress.close();
+    progress.show(QStringLiteral("Again"));
+    EXPECT_EQ(delegate->windowProgress()->maxValue(), 100.0) << "nothing of the first carries over";
+    progress.close();
 }
 
 TEST_F(Recording, isPausedForWantOfMemoryWithTheReasonAndLosesNothing) {

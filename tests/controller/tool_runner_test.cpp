@@ -46,6 +46,42 @@ TEST_F(ToolRunner, MovesTheBarByWhatArrivesInOneChunk) {
     EXPECT_EQ(controller.Return_Seconds_From_VOB_Duration_Str(QStringLiteral("00:01:05.97")), 65u);
 }
 
+TEST_F(ToolRunner, EndsAnyExportWithOneAlertWhateverGoesWrong) {
+    record(3);
+    answers.savePath = place("never");
+    const struct {
+        const char *what;
+        QString tool;
+        QString reason; // the result's name where it is empty
+    } faults[] = {
+        {"missing", {}, QStringLiteral("missing")},
+        {"failing", standIn("echo no memory >&2; exit 3"), QStringLiteral("no memory")},
+        {"crashing", standIn("kill -ABRT $$"), QStringLiteral("signal 6")},
+        {"silent", standIn("exit 0"), {}},
+        {"empty", standIn(": > \"$last\""), {}},
+    };
+    for (const auto &[button, encoder, result] :
+         {std::tuple(ui.btnGIFExport, "ffmpeg", u"output.gif"),
+          {ui.btnWebPGenerate, "img2webp", u"output.webp"},
+          {ui.btnMP4Generate, "ffmpeg", u"output.mp4"}})
+        for (const auto &[what, tool, reason] : faults) {
+            SCOPED_TRACE(testing::Message() << encoder << ' ' << what);
+            const QString name = QString::fromUtf16(result);
+            // One of an earlier run must not pass for the result.
+            put(controller.shell.s_Export_Folder() + u'/' + name, "stale");
+            controller.shell.setSffmpegPath(tool);
+            controller.shell.setSimg2webpPath(tool);
+            answers.alerts.clear();
+            button->click();
+            ASSERT_EQ(answers.alerts.size(), 1u);
+            EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
+            const QString &text = answers.alerts[0].text;
+            EXPECT_TRUE(text.contains(QLatin1String(encoder)));
+            EXPECT_TRUE(text.contains(reason.isEmpty() ? name : reason)) << text.toStdString();
+        }
+    EXPECT_TRUE(answers.panels.isEmpty());
+}
+
 TEST_F(ToolRunner, IsDeafAfterTheEnd) {
     controller.surroundings.progress.show(QStringLiteral("a test"));
     EXPECT_TRUE(controller.RunToolWithProgress(standIn("exit 0"), {}).succeeded());

@@ -71,46 +71,6 @@ TEST_F(WebPExport, HoldsTheRecordingsOwnPixels) {
     }
 }
 
-TEST_F(WebPExport, EndsAtTheFirstMissingFrameAndSaysSo) {
-    record(8);
-    ASSERT_TRUE(QFile::remove(frameFile(4)));
-    controller.trim.setUFirstFrame(2);
-    ui.btnWebPGenerate->click();
-    EXPECT_TRUE(answers.alerts.empty()) << "a cancelled panel is followed by no alert";
-    EXPECT_EQ(run("webpinfo", {output()}).count(QStringLiteral("Chunk ANMF")), 2);
-    EXPECT_TRUE(ui.labelStatus->text().contains(qtTrId("IDD_STATUS_WEBP_GAP", 6).arg(2)));
-}
-
-TEST_F(WebPExport, EndsWithOneAlertWhateverGoesWrong) {
-    record(3);
-    const struct {
-        const char *what;
-        QString tool;
-        QString reason;
-    } cases[] = {
-        {"missing", {}, QStringLiteral("missing")},
-        {"failing", standIn("echo no memory >&2; exit 3"), QStringLiteral("no memory")},
-        {"crashing", standIn("kill -ABRT $$"), QStringLiteral("signal 6")},
-        {"silent", standIn("exit 0"), QStringLiteral("output.webp")},
-        {"empty", standIn(": > \"$last\""), QStringLiteral("output.webp")},
-    };
-    answers.savePath = place("never.webp");
-    for (const auto &[what, tool, reason] : cases) {
-        SCOPED_TRACE(what);
-        answers.alerts.clear();
-        // One of an earlier run must not pass for the result.
-        put(output(), "stale");
-        controller.shell.setSimg2webpPath(tool);
-        ui.btnWebPGenerate->click();
-        ASSERT_EQ(answers.alerts.size(), 1u);
-        EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
-        EXPECT_TRUE(answers.alerts[0].text.contains(QStringLiteral("img2webp")));
-        EXPECT_TRUE(answers.alerts[0].text.contains(reason))
-            << answers.alerts[0].text.toStdString();
-    }
-    EXPECT_TRUE(answers.panels.isEmpty());
-}
-
 TEST_F(WebPExport, HoldsMoreFramesThanFitOnACommandLine) {
     constexpr int many = 2500;
     record(3);
@@ -146,9 +106,7 @@ TEST_F(WebPExport, TakesTheSmallerCodingUnlessItMustBeExact) {
         EXPECT_EQ(info.contains(QStringLiteral("Chunk VP8L")), exact) << info.toStdString();
     }
     EXPECT_LT(bytes[false], bytes[true]);
-    ui.radioGIFCustomDimension->click();
-    ui.checkGIFKeepAspectRatio->setChecked(false);
-    ui.textGIFWidth->setText(QStringLiteral("16384"));
+    chooseSize(QStringLiteral("16384"), QStringLiteral("48"));
     answers.alerts.clear();
     ui.btnWebPGenerate->click();
     ASSERT_EQ(answers.alerts.size(), 1u);
@@ -172,16 +130,10 @@ TEST_F(WebPExport, FitsUnderALimit) {
     recordNoise(9, {120, 80});
     controller.recording.setExactRate(20);
     const auto limited = [&](qint64 bytes) {
-        ui.comboFitUnder->setEditText(
-            bytes > 0 ? QString::number(static_cast<double>(bytes) / 1e6, 'f', 6) : QString());
-        answers.savePath = place("fits.webp");
-        QFile::remove(answers.savePath);
-        answers.alerts.clear();
-        ui.btnWebPGenerate->click();
-        EXPECT_TRUE(finish());
-        QTest::qWait(50); // what an answer leads to begins when its question has gone
-        EXPECT_TRUE(finish());
-        return QFileInfo(answers.savePath).size();
+        return makeUnder(ui.btnWebPGenerate,
+                         bytes > 0 ? QString::number(static_cast<double>(bytes) / 1e6, 'f', 6)
+                                   : QString(),
+                         "fits.webp");
     };
     const auto expectWithin = [](qint64 bytes, qint64 limit) {
         EXPECT_LE(bytes, limit);
@@ -210,16 +162,10 @@ TEST_F(WebPExport, FitsUnderALimit) {
 
 TEST_F(WebPExport, HasTheSizeTheRateAndTheSpeedThatWereChosen) {
     record(9);
-    controller.recording.setExactRate(9.83);
     answers.savePath = place("timed.webp");
-    ui.radioGIFCustomDimension->click();
-    ui.checkGIFKeepAspectRatio->setChecked(false);
-    ui.textGIFWidth->setText(QStringLiteral("40"));
-    ui.textGIFHeigth->setText(QStringLiteral("20"));
+    chooseSize(QStringLiteral("40"), QStringLiteral("20"));
     for (const auto &[chosen, speed] : {std::pair(0, 1.0), {0, 2.0}, {5, 1.0}}) {
-        (chosen > 0 ? ui.radioGIFCustomFPS : ui.radioGIFOriginalFPS)->click();
-        ui.comboGIFFPS->setCurrentIndex(std::max(chosen, 1) - 1);
-        ui.comboGIFSpeed->setCurrentIndex(ui.comboGIFSpeed->findData(speed));
+        const auto request = chooseTimes(9, 9.83, chosen, speed);
         QFile::remove(answers.savePath);
         ui.btnWebPGenerate->click();
         const QString info = run("webpinfo", {answers.savePath});
@@ -230,10 +176,6 @@ TEST_F(WebPExport, HasTheSizeTheRateAndTheSpeedThatWereChosen) {
         while (each.hasNext())
             found.push_back(each.next().captured(1).toULongLong());
         std::vector<std::uint64_t> wanted;
-        frame_timing::Request request{
-            .kept = FrameRuns::of(0, 9), .recordedRate = 9.83, .speed = speed};
-        if (chosen > 0)
-            request.chosenRate = chosen;
         for (const auto &frame : timedFrames(request, frame_timing::webpTicks))
             wanted.push_back(frame.delay);
         EXPECT_EQ(found, wanted);

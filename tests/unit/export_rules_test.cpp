@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "export/aspect_ratio.h"
-#include "export/encoder_arguments.h"
 #include "export/loops_text.h"
 #include "export/progress_parser.h"
 #include "export/size_text.h"
@@ -14,63 +13,6 @@
 namespace {
 
 using Limits = std::numeric_limits<std::uint64_t>;
-
-TEST(EncoderArguments, AreTheThreeRunsInOrder) {
-    using namespace encoder_arguments;
-    const QString exports = QStringLiteral("/d/Ex");
-    const QString palette = QStringLiteral("/d/Pal");
-    EXPECT_EQ(paletteVideoArguments(palette).join(u'|').toStdString(),
-              "-i|/d/Pal/image%d.png|-vf|scale=640x480|/d/Pal/output.mp4");
-    EXPECT_EQ(paletteArguments(palette).join(u'|').toStdString(),
-              "-i|/d/Pal/output.mp4|-vf|scale=320:-1:flags=lanczos,palettegen|/d/Pal/palette.png");
-    const frame_timing::TimedFrame frames[] = {{0, 33}, {1, 34}, {2, 33}};
-    EXPECT_EQ(gifArguments(exports, palette, frames, QStringLiteral("320px"), QStringLiteral("%1"))
-                  .join(u'|')
-                  .toStdString(),
-              "-f|image2|-framerate|100|-i|/d/Ex/image%d.png|-i|/d/Pal/palette.png|-filter_complex|"
-              "setpts=floor((200*N+3)/6),scale=320pxx%1:flags=lanczos[x];[x][1:v]paletteuse|"
-              "-fps_mode|passthrough|-final_delay|33|/d/Ex/output.gif");
-    // Held for two seconds, and played three times: begun again twice.
-    const frame_timing::TimedFrame held[] = {{0, 33}, {1, 34}, {2, 233}};
-    const QStringList ending =
-        gifArguments(exports, palette, held, {}, {}, {.repeats = repeatsOf(u"3"), .held = 200});
-    EXPECT_TRUE(ending.join(u'|').contains(QStringLiteral("floor((200*N+3)/6)")));
-    EXPECT_EQ(ending.mid(12).join(u'|').toStdString(), "-final_delay|233|-loop|2|/d/Ex/output.gif");
-    EXPECT_TRUE(gifArguments(exports, palette, frames, {}, {}, {.repeats = repeatsOf(u" 1 ")})
-                    .contains(QStringLiteral("-1")))
-        << "once";
-    EXPECT_EQ(repeatsOf(u"forever"), 0);
-    EXPECT_EQ(repeatsOf(u"70000"), 65534);
-}
-
-TEST(EncoderArguments, KeepAPercentSignOfTheFolderFromBeingTakenForANumber) {
-    using namespace encoder_arguments;
-    const QString folder = QStringLiteral("/100% a/%1");
-    const QStringList video = paletteVideoArguments(folder);
-    EXPECT_EQ(video[1], QStringLiteral("/100%% a/%%1/image%d.png"));
-    EXPECT_EQ(video.last(), QStringLiteral("/100% a/%1/output.mp4"));
-    EXPECT_EQ(paletteArguments(folder)[1], QStringLiteral("/100% a/%1/output.mp4"));
-    EXPECT_EQ(paletteArguments(folder).mid(4).join(u'|').toStdString(),
-              "-update|1|/100% a/%1/palette.png");
-    EXPECT_EQ(gifArguments(folder, folder, {}, {}, {}).mid(6, 4).join(u'|').toStdString(),
-              "-f|png_pipe|-i|/100% a/%1/palette.png");
-}
-
-TEST(EncoderArguments, TakeTheLoopCountThatTheTextBeginsWith) {
-    const struct {
-        const char16_t *text;
-        const char *loops;
-    } cases[] = {{u"3", "3"},   {u"", "0"},    {u"abc", "0"},
-                 {u" 7x", "7"}, {u"-2", "-2"}, {u"99999999999", "2147483647"}};
-    const encoder_arguments::WebPFrame frames[] = {
-        {QStringLiteral("a"), 17}, {QStringLiteral("b"), 17}, {QStringLiteral("c"), 16}};
-    for (const auto &[text, loops] : cases)
-        EXPECT_EQ(encoder_arguments::webpArguments(text, frames, {.lossy = true, .quality = 90},
-                                                   QStringLiteral("out"))
-                      .join(u'|')
-                      .toStdString(),
-                  std::string("-v|-loop|") + loops + "|-lossy|-q|90|-d|17|a|b|-d|16|c|-o|out");
-}
 
 TEST(ProgressParser, TakesTheLastCompleteStampOfAChunk) {
     const struct {
@@ -127,13 +69,6 @@ TEST(ProgressParser, TakesTheLastFrameThatTheWebPEncoderHasAdded) {
         EXPECT_EQ(secondsOfAddedFrame(chunk), seconds) << chunk;
 }
 
-TEST(ProgressParser, ComputesThePercentageInSinglePrecision) {
-    EXPECT_EQ(progressPercentage(1, 3), static_cast<double>(33.333332f));
-    EXPECT_EQ(progressPercentage(8, 4), 200.0);
-    EXPECT_FALSE(std::isfinite(progressPercentage(1, 0)));
-    EXPECT_FALSE(std::isfinite(progressPercentage(0, 0)));
-}
-
 TEST(AspectRatio, RoundsTheDerivedSideUp) {
     using namespace aspect_ratio;
     EXPECT_EQ(heightForWidth(800.0f, ratio(1366, 768)), 450);
@@ -173,6 +108,13 @@ TEST(LoopsText, NamesWhatTheEncoderRefusesAndWhatIsNoNumber) {
         {u"-", Problem::NotNumber}};
     for (const auto &[text, problem] : cases)
         EXPECT_EQ(loopsTextProblem(text), problem) << QString::fromUtf16(text).toStdString();
+}
+
+TEST(LoopsText, BeginsAGifAgainOnceLessThanItIsToBePlayed) {
+    EXPECT_EQ(repeatsOf(u"3"), 2);
+    EXPECT_EQ(repeatsOf(u" 1 "), std::nullopt);
+    EXPECT_EQ(repeatsOf(u"forever"), 0);
+    EXPECT_EQ(repeatsOf(u"70000"), 65534);
 }
 
 TEST(ToolFailure, ShowsTheLastLinesThatSaySomething) {

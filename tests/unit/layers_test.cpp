@@ -86,10 +86,3 @@ TEST(Layers, changeWhereTheyExchangePlaces) {
                     .isEmpty())
         << "one that comes between exchanges nothing";
 }
-
-TEST(Layers, whatHappensBeneathAnOpaqueOneIsNoChange) {
-    const Layer cover = layer(1, {0, 0, 50, 50});
-    EXPECT_TRUE(changedBetween(stack({cover, layer(2, {0, 0, 20, 20})}),
-                               stack({cover, layer(2, {20, 20, 20, 20}), layer(3, {5, 5, 9, 9})}))
-                    .isEmpty());
-}

@@ -51,18 +51,6 @@ TEST(PaletteIcon, takesThePalettesColoursAtTheMomentOfPainting) {
     }
 }
 
-TEST(PaletteIcon, isDrawnForTheScreensScaleAndStaysSquareInAnOblongPlace) {
-    const QImage once = drawn(paletteIcon(record));
-    const QImage twice = drawn(paletteIcon(record), QIcon::Normal, 2);
-    QImage stretched = once.scaled(48, 48);
-    stretched.setDevicePixelRatio(2);
-    ASSERT_EQ(twice.size(), stretched.size());
-    EXPECT_NE(twice, stretched);
-    const QImage oblong = paletteIcon(record).pixmap(QSize(48, 24)).toImage();
-    EXPECT_EQ(oblong.pixelColor(6, 12).alpha(), 0);
-    EXPECT_EQ(oblong.pixelColor(24, 12).alpha(), 255);
-}
-
 TEST(PaletteIcon, everyDrawingShowsAndHasNoColourOfItsOwn) {
     const PaletteForNow theme(Qt::green, Qt::gray);
     const QStringList files = QDir(QStringLiteral(":/icons")).entryList({QStringLiteral("*.svg")});

@@ -8,17 +8,6 @@
 
 using namespace range_rules;
 
-TEST(RangeRules, handlesStandInsideTheirPercentagesAndTheBandFillsWhatIsLeft) {
-    const Handles whole{0.0f, 100.0f};
-    EXPECT_EQ(lowerHandle(whole.menor, 600).x, 0.0);
-    EXPECT_EQ(upperHandle(whole.maior, 600).x, 588.0);
-    EXPECT_EQ(bandBetween(whole, 600).x, 12.0);
-    EXPECT_EQ(bandBetween(whole, 600).width, 576.0);
-    // Places are single precision: a third of 1000 points is the float next to it.
-    EXPECT_EQ(lowerHandle(33.333332f, 1000).x, static_cast<double>(333.33332f));
-    EXPECT_LT(bandBetween({50.0f, 50.5f}, 600).width, 0.0);
-}
-
 TEST(RangeRules, aPressGoesToTheNearerHandleWithinReachAndToTheOneThatCanStillMove) {
     constexpr Handle menor = Handle::Menor;
     constexpr Handle maior = Handle::Maior;

@@ -41,28 +41,6 @@ TEST(Fitting, growsAndShrinksInFiftiethsAndStopsAsTheRuleSays) {
     }
 }
 
-TEST(Fitting, takesItsStepsAndOffsetsInSinglePrecision) {
-    // A third has no exact form: the height follows the width through the rounded ratio.
-    const FittingFrame frame = bestFitFrame(100, 300, 1000, 330);
-    const double ratio = 100.0f / 300.0f;
-    EXPECT_EQ(frame.width, 110.0);
-    EXPECT_EQ(frame.height, 110.0 / ratio);
-    EXPECT_EQ(frame.y, static_cast<double>(static_cast<float>((330 - 110.0 / ratio) * 0.5)));
-}
-
-TEST(Fitting, endsForSizesThatNoPictureHas) {
-    const double odd[] = {0.0, -1.0, -1e9, 1e-30, 1e300, infinite, undefined};
-    for (const double width : odd) {
-        for (const double other : {100.0, width}) {
-            bestFitFrame(width, other, 300, 200);
-            bestFitFrame(other, width, 300, 200);
-            bestFitFrame(100, 50, width, other);
-            const FittingFrame frame = bestFitFrame(100, 50, other, width);
-            EXPECT_TRUE(std::isfinite(frame.width));
-        }
-    }
-}
-
 TEST(MeasuredRate, isStoredFramesByTheSecondsRecordedUnrounded) {
     constexpr std::uint64_t chosen = 24;
     const struct {
@@ -99,12 +77,6 @@ TEST(MeasuredRate, fallsBehindWhenMoreThanOneFrameIsMissing) {
     EXPECT_TRUE(fellBehind({3, 2.0}, 5));
     EXPECT_FALSE(fellBehind({3, 0.9}, 5)) << "too short to say so";
     EXPECT_FALSE(fellBehind({0, 10.0}, 5));
-}
-
-TEST(CaptureInterval, isComputedInSinglePrecision) {
-    EXPECT_EQ(captureInterval(5), 0.20000000298023224);
-    EXPECT_EQ(captureInterval(60), static_cast<double>(1.0f / 60.0f));
-    EXPECT_EQ(captureInterval(0), infinite);
 }
 
 TEST(RecordingClock, leavesPausesOut) {

@@ -92,44 +92,6 @@ TEST(RegionGeometry, aDraggedCornerTakesItsNeighboursAlongAndKeepsFractions) {
     EXPECT_EQ(untouched, startOn(1440, 900));
 }
 
-TEST(RegionGeometry, anyDragsLeaveARectangleWithItsMiddleHalfwayAndTheOppositeCornerInPlace) {
-    std::mt19937 random(20261124);
-    std::uniform_int_distribution<int> anyCorner(0, 3);
-    std::uniform_real_distribution<double> anyX(-500, 4500);
-    std::uniform_real_distribution<double> anyY(-500, 2700);
-    Squares squares = startOn(3840, 2160);
-    for (int step = 0; step < 20'000; ++step) {
-        constexpr int corners[] = {lowerLeft, lowerRight, upperLeft, upperRight};
-        const int corner = corners[anyCorner(random)];
-        const Point opposite = squares[at(oppositeOf(corner))];
-        // Every third one to a whole place, and some onto the opposite corner itself.
-        Point pointer{anyX(random), anyY(random)};
-        if (step % 3 == 0)
-            pointer = {std::floor(pointer.x), std::floor(pointer.y)};
-        if (step % 101 == 0)
-            pointer = opposite;
-        drag(squares, corner, pointer);
-
-        ASSERT_EQ(squares[at(corner)], pointer);
-        ASSERT_EQ(squares[at(oppositeOf(corner))], opposite);
-        ASSERT_EQ(squares[at(lowerLeft)].x, squares[at(upperLeft)].x);
-        ASSERT_EQ(squares[at(lowerRight)].x, squares[at(upperRight)].x);
-        ASSERT_EQ(squares[at(lowerLeft)].y, squares[at(lowerRight)].y);
-        ASSERT_EQ(squares[at(upperLeft)].y, squares[at(upperRight)].y);
-        // Within one point of halfway: three numbers lose their fractions on the way.
-        ASSERT_NEAR(squares[at(middle)].x, (pointer.x + opposite.x) / 2, 1.5);
-        ASSERT_NEAR(squares[at(middle)].y, (pointer.y + opposite.y) / 2, 1.5);
-        const Region region = boundingRegion(squares);
-        ASSERT_GE(region.width, 0);
-        ASSERT_GE(region.height, 0);
-        // Fractions are cut off towards zero, so an edge on either side of it adds up to two.
-        ASSERT_NEAR(region.width, std::abs(pointer.x - opposite.x), 2);
-        ASSERT_NEAR(region.height, std::abs(pointer.y - opposite.y), 2);
-        ASSERT_NEAR(region.x - squareInset, std::min(pointer.x, opposite.x), 1);
-        ASSERT_NEAR(region.y - squareInset, std::min(pointer.y, opposite.y), 1);
-    }
-}
-
 TEST(RegionGeometry, aCornerIsNamedByWhereItLiesNow) {
     Squares squares = startOn(1440, 900);
     EXPECT_TRUE(placeOf(squares, lowerLeft).left && placeOf(squares, lowerLeft).lower);

@@ -2,50 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "app/single_instance.h"
 
-#include <QCoreApplication>
+#include <QLocalServer>
 #include <QLocalSocket>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <future>
 #include <memory>
 
 TEST(SingleInstance, aFolderThatCannotBeUsedNeverKeepsTheProgramFromStarting) {
     const SingleInstance instance(QStringLiteral("/nonexistent/folder"));
     EXPECT_TRUE(instance.isFirst());
-}
-
-/// Speaks to the first instance from another thread while its event loop turns here.
-template <class Ask> auto answered(Ask ask) {
-    auto answer = std::async(std::launch::async, ask);
-    while (answer.wait_for(std::chrono::milliseconds(1)) != std::future_status::ready)
-        QCoreApplication::processEvents();
-    return answer.get();
-}
-
-TEST(SingleInstance, isToldWishesAndTakesSilenceForThatOfASecondStart) {
-    const QTemporaryDir folder;
-    EXPECT_EQ(SingleInstance::tell(folder.path(), wishes::stop), std::nullopt) << "nobody there";
-    SingleInstance first(folder.path());
-    QStringList heard;
-    first.listen([&heard](const QString &wish) {
-        heard << wish;
-        return wish == wishes::stop ? WishAnswer::NotRecording : WishAnswer::Done;
-    });
-    const auto tell = [&folder](QLatin1StringView wish) {
-        return answered([&folder, wish] { return SingleInstance::tell(folder.path(), wish); });
-    };
-    EXPECT_EQ(tell(wishes::toggle), WishAnswer::Done);
-    EXPECT_EQ(tell(wishes::stop), WishAnswer::NotRecording);
-    EXPECT_TRUE(answered([&folder] {
-        constexpr int patience = 10000; // milliseconds
-        QLocalSocket silent;
-        silent.connectToServer(folder.filePath(QStringLiteral("tovarel.socket")));
-        return silent.waitForConnected(patience) && silent.waitForReadyRead(patience);
-    }));
-    EXPECT_EQ(heard, (QStringList{wishes::toggle, wishes::stop, wishes::comeForward}));
 }
 
 TEST(SingleInstance, aFirstOneThatEndsWhenItIsAskedHasNotComeForward) {

@@ -12,18 +12,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-TEST(WorkingFolders, frameFilesAreNumberedWithEightDigitsOrMoreWhateverTheFolderIsCalled) {
-    EXPECT_EQ(working_folders::recordingFolder(QStringLiteral("/d/My %1 Docs/")),
-              QStringLiteral("/d/My %1 Docs/Pallomar"));
-    const QString folder = QStringLiteral("/d/a %1 b");
-    EXPECT_EQ(working_folders::frameFile(folder, 0), QStringLiteral("/d/a %1 b/frame00000000.png"));
-    EXPECT_EQ(working_folders::frameFile(folder, 123),
-              folder + QStringLiteral("/frame00000123.png"));
-    EXPECT_EQ(working_folders::frameFile(folder, 100'000'000),
-              folder + QStringLiteral("/frame100000000.png"));
-    EXPECT_EQ(working_folders::stagedFile(folder, 7), folder + QStringLiteral("/image7.png"));
-}
-
 TEST(WorkingFolders, aFolderIsMadeWithThoseAboveItAndAnythingOfItsNameCountsAsPresent) {
     const QTemporaryDir top;
     const QString deep = top.filePath(QStringLiteral("a/b/c"));
