@@ -11,6 +11,7 @@
 // slow skips numbers. --unmanaged asks for no frame and no placing by the window manager. Where the
 // window lies on the screen, without its frame, is written to standard output whenever it changes:
 // a line "X Y WIDTH HEIGHT". The program runs until it is ended.
+#include "tests/support/counter_options.h"
 #include "tests/support/counter_picture.h"
 #include "tests/support/x_client.h"
 
@@ -18,41 +19,12 @@
 
 #include <chrono>
 #include <cstdio>
-#include <string_view>
 
 namespace {
 
-struct Options {
-    int x = 0, y = 0, width = 360, height = 200; // pixels
-    double rate = 30;                            // steps a second, above 0
-    bool unmanaged = false;
-};
-
-Options parse(int argc, char **argv) {
-    Options options;
-    for (int i = 1; i < argc; ++i) {
-        const std::string_view name = argv[i];
-        if (name == "--unmanaged") {
-            options.unmanaged = true;
-            continue;
-        }
-        const char *value = i + 1 < argc ? argv[++i] : "";
-        const bool good =
-            (name == "--at" && std::sscanf(value, "%d,%d", &options.x, &options.y) == 2) ||
-            (name == "--size" &&
-             std::sscanf(value, "%dx%d", &options.width, &options.height) == 2) ||
-            (name == "--rate" && std::sscanf(value, "%lf", &options.rate) == 1);
-        if (!good) {
-            std::fprintf(stderr, "counter_window: cannot read %s %s\n", name.data(), value);
-            std::exit(2);
-        }
-    }
-    return options;
-}
-
 class CounterWindow {
 public:
-    explicit CounterWindow(const Options &options)
+    explicit CounterWindow(const CounterOptions &options)
         : place_(options.x, options.y, options.width, options.height),
           window_(client_.create({.place = place_, .overrideRedirect = options.unmanaged})),
           picture_(client_.pixmap(place_.size())) {
@@ -120,7 +92,7 @@ private:
 
 int main(int argc, char **argv) {
     using namespace std::chrono;
-    const Options options = parse(argc, argv);
+    const CounterOptions options = parse(argc, argv, {.width = 360, .height = 200});
     CounterWindow window(options);
     window.draw(0);
     const auto start = steady_clock::now();

@@ -9,6 +9,7 @@
 // A line "WxH" on its standard input gives it another size. It writes "shown" to standard output
 // once it has been drawn on the screen, and "drawn N" with its processor's clock at every N that it
 // draws if it is asked to by --log.
+#include "tests/support/counter_options.h"
 #include "tests/support/counter_picture.h"
 
 #include <QGuiApplication>
@@ -21,43 +22,14 @@
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
-#include <string_view>
 
 #include <unistd.h>
 
 namespace {
 
-struct Options {
-    int width = 0, height = 0; // points; 0: the whole screen
-    double rate = 30;          // steps a second, above 0
-    int screen = 0;
-    bool log = false;
-};
-
-Options parse(int argc, char **argv) {
-    Options options;
-    for (int i = 1; i < argc; ++i) {
-        const std::string_view name = argv[i];
-        if (name == "--log") {
-            options.log = true;
-            continue;
-        }
-        const char *value = i + 1 < argc ? argv[++i] : "";
-        const bool good = (name == "--size" &&
-                           std::sscanf(value, "%dx%d", &options.width, &options.height) == 2) ||
-                          (name == "--rate" && std::sscanf(value, "%lf", &options.rate) == 1) ||
-                          (name == "--screen" && std::sscanf(value, "%d", &options.screen) == 1);
-        if (!good) {
-            std::fprintf(stderr, "wayland_counter: cannot read %s %s\n", name.data(), value);
-            std::exit(2);
-        }
-    }
-    return options;
-}
-
 class CounterWindow : public QRasterWindow {
 public:
-    explicit CounterWindow(const Options &options) : options_(options) {
+    explicit CounterWindow(const CounterOptions &options) : options_(options) {
         setTitle(QStringLiteral("counter"));
         setFlags(Qt::FramelessWindowHint);
         timer_.setTimerType(Qt::PreciseTimer);
@@ -93,7 +65,7 @@ private:
         update();
     }
 
-    Options options_;
+    CounterOptions options_;
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     std::uint32_t number_ = 0;
     bool told_ = false;
@@ -104,7 +76,7 @@ private:
 
 int main(int argc, char **argv) {
     QGuiApplication application(argc, argv);
-    const Options options = parse(argc, argv);
+    const CounterOptions options = parse(argc, argv, {}); // 0 by 0: the whole screen
     CounterWindow window(options);
     QScreen *screen = QGuiApplication::screens().value(options.screen);
     window.setScreen(screen);
