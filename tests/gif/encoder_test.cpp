@@ -20,19 +20,6 @@ SlowGif readBack(const std::vector<std::uint8_t> &bytes) {
     return gif.value_or(SlowGif());
 }
 
-/// Pictures that take the encoder a while.
-Clip noise(int width, int height, int frames) {
-    std::mt19937 random(3);
-    Clip clip(width, height);
-    for (int i = 0; i < frames; ++i) {
-        Clip::Pixels pixels(std::size_t(width) * std::size_t(height));
-        for (auto &pixel : pixels)
-            pixel = std::uint32_t(random()) & 0xFFFFFF;
-        clip.add(std::move(pixels));
-    }
-    return clip;
-}
-
 } // namespace
 
 TEST(Colour, differsAsOthersMeasure) {

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <random>
 
 /// A clip of one of several kinds, made of the numbers that `draw` gives: noise, flat areas, few
 /// colours, about as many as a table holds, a gradient, single pixels and squares that change.
@@ -41,6 +42,19 @@ inline Clip madeClip(const std::function<unsigned()> &draw) {
         if (kind == 5)
             pixels[step % pixels.size()] ^= 0x102030;
         clip.add(pixels, 2 + int(draw() % 20));
+    }
+    return clip;
+}
+
+/// Pictures that take the encoder a while.
+inline Clip noise(int width, int height, int frames) {
+    std::mt19937 random(3);
+    Clip clip(width, height);
+    for (int i = 0; i < frames; ++i) {
+        Clip::Pixels pixels(std::size_t(width) * std::size_t(height));
+        for (auto &pixel : pixels)
+            pixel = std::uint32_t(random()) & 0xFFFFFF;
+        clip.add(std::move(pixels));
     }
     return clip;
 }
