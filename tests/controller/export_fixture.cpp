@@ -75,7 +75,12 @@ Canceller::Canceller(const AppDelegate &controller,
 }
 
 ExportTest::ExportTest()
-    : ControllerFixture(std::nullopt, QStringLiteral("100% real %1/Döcuments")) {
+    // What the encoders take for a number (a second one would make them take none) or a pattern,
+    // what a shell and a settings file read, a line's end, and letters beyond ASCII.
+    : ControllerFixture(
+          std::nullopt,
+          QStringLiteral("100% %1 a %3d of %%d [*?]/'quotes' \"both\" $HOME `x` \\ ;#&|/"
+                         "a\nnew line/-<b>ünï 日本</b>")) {
     choose(GifPreset::Classic);
 }
 

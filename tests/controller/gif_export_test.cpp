@@ -227,7 +227,9 @@ TEST_F(GifExport, NamesTheSizeThatTheEncoderRefused) {
 TEST_F(GifExport, KeepsTheResultWhenItCannotBePlaced) {
     record(3);
     const QString gif = controller.shell.s_Export_Folder() + QStringLiteral("/output.gif");
-    answers.savePath = controller.shell.s_Output_Folder() + QStringLiteral("/x.gif");
+    // By a way around: what the panel is given must not hold quotation marks.
+    ASSERT_TRUE(QFile::link(controller.shell.s_Output_Folder(), place("link")));
+    answers.savePath = place("link/x.gif");
     ui.btnGIFExport->click();
     ASSERT_TRUE(finish());
     ASSERT_EQ(answers.alerts.size(), 1u);

@@ -5,6 +5,7 @@
 #include "shell/tab_view.h"
 #include "shell/window_progress.h"
 #include "tests/controller/controller_fixture.h"
+#include "tests/support/files.h"
 
 #include <QDir>
 #include <QFile>
@@ -219,6 +220,23 @@ TEST_F(Recording, saysAgainOnlyWhatHasChangedOfItsArea) {
     // The place follows what it depends on, also when only that has changed.
     delegate->region.setRect_Screen_Region({1, 3, 20, 10});
     EXPECT_EQ(delegate->regionChooser.place().inGrab, QRect(1, 35, 20, 10));
+}
+
+TEST_F(Recording, isNotLostWhereAFileStandsInTheFoldersPlace) {
+    delegate->OnRecordRecord(nullptr);
+    tick(3);
+    const QString frameFolder = delegate->shell.s_Output_Folder();
+    ASSERT_TRUE(QDir(frameFolder).removeRecursively());
+    put(frameFolder, "in the way");
+    delegate->OnRecordStop(nullptr);
+    ASSERT_TRUE(waitForSave());
+    EXPECT_EQ(ui().labelStatus->text(), qtTrId("IDD_FRAMES_MISSING", 3)
+                                            .arg(QStringLiteral("3"), frameFolder,
+                                                 QString::fromLocal8Bit(strerror(ENOTDIR))));
+    ASSERT_TRUE(QFile::remove(frameFolder));
+    ui().btnSaveAgain->click();
+    ASSERT_TRUE(waitForSave());
+    EXPECT_TRUE(QFile::exists(frameFile(2)));
 }
 
 class WithoutAScreen : public Recording {

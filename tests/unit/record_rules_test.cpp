@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Tovarel authors
 // SPDX-License-Identifier: MIT
 #include "record/fitting.h"
-#include "record/grab_geometry.h"
 #include "record/rates.h"
 #include "record/recording_clock.h"
 #include "record/stepping_aside.h"
@@ -111,24 +110,4 @@ TEST(SteppingAside, waitsForPicturesWithoutOurWindows) {
         EXPECT_EQ(isGoneFromPictures(left + milliseconds(newest), left, left + milliseconds(now)),
                   gone)
             << newest << ' ' << now;
-}
-
-TEST(GrabGeometry, scalesTheLargerSideAndLetsTheOtherFollow) {
-    const ScaledSize landscape = scaledByPercentage(2880, 1800, 50);
-    EXPECT_EQ(landscape.width, 1440.0f);
-    EXPECT_EQ(landscape.height, 900.0f);
-    const ScaledSize portrait = scaledByPercentage(1000, 2000, 50);
-    EXPECT_EQ(portrait.width, 500.0f);
-    EXPECT_EQ(portrait.height, 1000.0f);
-}
-
-TEST(GrabGeometry, countsARegionsPixelsFromTheUpperLeft) {
-    const PixelRectangle cut = pixelsToCut(10.4, 20, 641.6, 480.9, 600);
-    EXPECT_EQ(cut.left, 10);
-    EXPECT_EQ(cut.top, 99);
-    EXPECT_EQ(cut.width, 641);
-    EXPECT_EQ(cut.height, 480);
-    EXPECT_EQ(pixelsToCut(-5, 550, 20, 100, 600).top, -50);
-    for (const double odd : {0.0, -3.0, 1e12, infinite, undefined})
-        EXPECT_EQ(pixelsToCut(0, 0, odd, 10, 600).width, 0);
 }
