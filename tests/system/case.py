@@ -86,6 +86,30 @@ class Case(unittest.TestCase):
         return {"PATH": f"{folder}:{self.session.environment['PATH']}"}
 
 
+    def recording(self, seconds=0.5, environment=None):
+        """A program that records."""
+        program = driver.Program(self.session, environment)
+        program.press("Record")
+        program.recording_for(seconds)
+        return program
+
+    def saving(self, environment=None):
+        """A program whose saving stands still after the frames that are being written, as long as
+        the file `hold` is there."""
+        self.hold = self.session.folder / "hold"
+        self.hold.unlink(missing_ok=True)
+        program = self.recording(1.5, {
+            "LD_PRELOAD": str(self.session.build / "tests/system/libhold_rename.so"),
+            "HOLD_RENAME": str(self.hold),
+            **(environment or {}),
+            # A sanitizer's run-time library wants to be the first one otherwise.
+            "ASAN_OPTIONS": "detect_leaks=0:verify_asan_link_order=0",
+        })
+        self.hold.touch()
+        program.press("Stop")
+        program.await_control("progress bar")
+        return program
+
     def exporting(self, environment=None):
         """A program whose GIF export has just been asked for."""
         program = driver.Program(self.session, environment)

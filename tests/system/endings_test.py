@@ -47,28 +47,6 @@ class Endings(case.Case):
 
     # States ----------------------------------------------------------------------------------
 
-    def recording(self, seconds=0.5, environment=None):
-        program = Program(self.session, environment)
-        program.press("Record")
-        program.recording_for(seconds)
-        return program
-
-    def saving(self, environment=None):
-        """A program whose saving stands still after the frames that are being written."""
-        self.hold = self.session.folder / "hold"
-        self.hold.unlink(missing_ok=True)
-        program = self.recording(1.5, {
-            "LD_PRELOAD": str(self.session.build / "tests/system/libhold_rename.so"),
-            "HOLD_RENAME": str(self.hold),
-            **(environment or {}),
-            # A sanitizer's run-time library wants to be the first one otherwise.
-            "ASAN_OPTIONS": "detect_leaks=0:verify_asan_link_order=0",
-        })
-        self.hold.touch()
-        program.press("Stop")
-        program.await_control("progress bar")
-        return program
-
     def encoding(self, run, environment=None):
         """A program whose encoder stands still in this run."""
         program = self.exporting({
@@ -159,14 +137,6 @@ class Endings(case.Case):
         for road in ("SIGTERM", "SIGINT", "closing the window"):
             with self.subTest(road):
                 self.check_end(self.encoding_itself(), road)
-        # Nothing of it is left for the next start, and its files are whole.
-        program = self.encoding_itself()
-        self.session.xdotool("key", "Escape")
-        program.wait_for("the end", lambda: program.enabled("Generate GIF")
-                         and not program.find("progress bar"))
-        self.assertEqual(list((self.session.documents / "PallomarExport").iterdir()), [])
-        self.assertGreaterEqual(len(self.frame_files()), 3)
-        self.check_end(program, "SIGTERM")
 
     def test_under_an_alert_and_a_save_panel(self):
         program = self.exporting(self.stand_in("exit 1"))

@@ -17,11 +17,6 @@ def cut_out(x, y, width, height, block):
                  for channel in colour(column * block, row * block, block))
 
 
-def brightness(pixel):
-    red, green, blue = pixel
-    return 0.3 * red + 0.59 * green + 0.11 * blue
-
-
 class Screen:
     """Where a display lies on the desktop, in pixels, and the overlay's arithmetic on it."""
 

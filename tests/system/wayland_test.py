@@ -99,6 +99,15 @@ class Wayland(case.Case):
         self.assertEqual(numbers, sorted(numbers))
         return numbers
 
+    def edges_from(self, left):
+        """Where the cells of a counter that fills the screen begin, counted from there."""
+        return {self.screen[0] * cell // counter.CELLS - left for cell in range(counter.CELLS)}
+
+    def edges_in(self, picture):
+        """Where the colour changes along a row that is in the counter's cells."""
+        return {x for x in range(1, picture.width)
+                if picture.pixel(x, 150) != picture.pixel(x - 1, 150)}
+
     def await_words(self, terminal, words):
         said = ""
 
@@ -245,15 +254,13 @@ class Wayland(case.Case):
         self.session.answer_with(connector="Meta-1", size=[1024, 576])
         self.show_counter("--screen", "1")
         place = (100, 300, 300, 200)
-        # The counter's cells begin in the middle of the screen, and are a ninth of it wide.
-        edges = {self.screen[0] * cell // counter.CELLS - 100 for cell in range(counter.CELLS)}
         seen = set()
         for frame in self.region_frames(place):
             self.assertEqual(frame.pixel(20, 59), (0x20, 0x20, 0x20))
             self.assertIn(frame.pixel(20, 60), counter.COLOURS)
-            seen |= {x for x in range(1, 300) if frame.pixel(x, 150) != frame.pixel(x - 1, 150)}
+            seen |= self.edges_in(frame)
         self.assertTrue(seen)
-        self.assertLessEqual(seen, edges)
+        self.assertLessEqual(seen, self.edges_from(place[0]))
 
     def test_at_a_broken_scale_a_region_is_where_it_was_framed(self):
         # The toolkit draws everything at the scale 2, and the compositor makes 1.5 of it.
@@ -350,12 +357,9 @@ class Wayland(case.Case):
         os.close(terminal)
         self.assertEqual((process.returncode, said), (0, f"{target}\n"))
         self.assertIn("restore_data", self.asked("SelectSources")[-1])
-        edges = {self.screen[0] * cell // counter.CELLS - x for cell in range(counter.CELLS)}
         for picture in counter.decode(str(target)):
             self.assertEqual((picture.width, picture.height), (width, height))
-            seen = {at for at in range(1, width)
-                    if picture.pixel(at, 150) != picture.pixel(at - 1, 150)}
-            self.assertLessEqual(seen, edges)
+            self.assertLessEqual(self.edges_in(picture), self.edges_from(x))
         self.assertEqual([], list(self.session.folder.glob("Tovarel-*")), "nothing is left behind")
 
     def test_a_script_is_told_what_cannot_be_recorded(self):

@@ -3,7 +3,6 @@
 #include "tests/system/unrest.h"
 #include "tests/system/window_server_fixture.h"
 
-#include <atomic>
 #include <random>
 
 // The picture against the slow reference, pixel by pixel, after everything that windows do.
@@ -132,45 +131,6 @@ TEST_F(WindowPicture, keepsTheOrderAboveAWindowThatWasGoneBeforeItWasLookedAt) {
     client.restack(below, XCB_STACK_MODE_ABOVE);
     client.destroy(guest);
     EXPECT_TRUE(looksLikeReference());
-}
-
-TEST_F(WindowPicture, knowsShapesAndTheirChanges) {
-    const auto below = client.show({.place = {10, 10, 320, 300}}, 1);
-    const auto shaped = client.show({.place = {50, 50, 200, 160}, .border = 6}, 2);
-    client.setShape(shaped, {{-6, -6, 80, 60}, {100, 40, 60, 100}, {40, 100, 20, 90}});
-    EXPECT_TRUE(looksLikeReference());
-    client.moveResize(shaped, {90, 40, 200, 160});
-    EXPECT_TRUE(looksLikeReference()) << "moved";
-    client.drawPattern(below, {0, 0, 320, 300}, 3);
-    EXPECT_TRUE(looksLikeReference()) << "drawing seen through the gaps";
-    client.setShape(shaped, {{20, 20, 500, 30}});
-    EXPECT_TRUE(looksLikeReference()) << "another shape, wider than the window";
-    client.setShape(shaped, {});
-    EXPECT_TRUE(looksLikeReference()) << "no shape";
-}
-
-TEST_F(WindowPicture, blendsAlphaWhereACompositingManagerRunsAndShowsItRawWhereNot) {
-    const bool realOne = client.compositingManagerRuns();
-    client.show({.place = {10, 10, 400, 300}}, 1);
-    const auto lower = client.show({.place = {30, 30, 200, 200}, .border = 4, .alpha = true}, 2);
-    const auto upper = client.show({.place = {100, 100, 220, 150}, .alpha = true}, 3);
-    EXPECT_TRUE(looksLikeReference());
-    if (!realOne) {
-        // It composes nothing, so that only what is composed here is blended.
-        client.actAsCompositingManager(true);
-    }
-    EXPECT_TRUE(looksLikeReference({client.root()})) << "over nothing";
-    const std::set<xcb_window_t> hidden{realOne ? xcb_window_t{XCB_NONE} : client.root()};
-    client.drawPattern(lower, {50, 50, 150, 150}, 4);
-    EXPECT_TRUE(looksLikeReference(hidden)) << "drawing beneath";
-    client.restack(upper, XCB_STACK_MODE_BELOW, lower);
-    EXPECT_TRUE(looksLikeReference(hidden)) << "exchanged";
-    client.setShape(lower, {{10, 10, 150, 80}});
-    EXPECT_TRUE(looksLikeReference(hidden)) << "with a shape";
-    if (!realOne) {
-        client.actAsCompositingManager(false);
-        EXPECT_TRUE(looksLikeReference()) << "it went";
-    }
 }
 
 TEST_F(WindowPicture, showsTheBackgroundAlsoBeneathWindows) {
@@ -314,27 +274,6 @@ TEST_P(WindowPictureByMethod, isRightAfterAnySequenceOfEvents) {
     }
 }
 
-TEST_P(WindowPictureByMethod, survivesWindowsThatVanishResizeAndHideThroughoutGrabs) {
-    const unsigned seed = seedOfThisRun(std::random_device()());
-    SCOPED_TRACE("TOVAREL_TEST_SEED=" + std::to_string(seed));
-    // On a thread and a connection of its own, and left standing when it ends.
-    XClient other;
-    constexpr int enoughActs = 1500, enoughGrabs = 100;
-    std::atomic<int> acts = 0;
-    std::atomic<bool> go = true;
-    std::thread vandal([&] {
-        for (Unrest unrest(other, seed); go; ++acts) {
-            unrest.act();
-            other.sync();
-        }
-    });
-    for (int grabs = 0; grabs < enoughGrabs || acts < enoughActs; ++grabs)
-        EXPECT_EQ(grab().size(), client.desktop().size());
-    go = false;
-    vandal.join();
-    EXPECT_TRUE(client.compositingManagerRuns() ? looksLikeScreen() : looksLikeReference());
-}
-
 namespace {
 
 /// Windows of a client that draws once and never again, and one of ours on them. Nobody keeps any
@@ -394,43 +333,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(NeverRedrawn, whatTheServerFillsInOfUsIsNotTheContentOfAWindowBeneath) {
-    const QRect place(150, 100, 250, 180);
-    const auto below = show({60, 40, 300, 200}, 1);
-    const auto lowest = show({300, 150, 200, 200}, 2);
-    client.restack(lowest, XCB_STACK_MODE_BELOW);
-    const auto ours = showOurs(place);
-    client.sync();
-    auto obstacle = Obstacle::NoDisplay;
-    server =
-        X11WindowServer::create({}, obstacle); // too late to redirect them before they are covered
-    const auto expectNothingOfOurs = [&](const char *what) {
-        for (int i = 0; i < 3; ++i) {
-            client.sync();
-            EXPECT_EQ(ourPixels(grab({ours}), place), 0) << what;
-        }
-    };
-    expectNothingOfOurs("at rest");
-    EXPECT_GT(ourPixels(client.reference({ours}), place), 1000) << "what the server keeps is ours";
-    client.moveResize(below, {100, 80, 300, 200});
-    expectNothingOfOurs("moved beneath");
-    client.moveResize(below, {100, 80, 320, 150});
-    client.moveResize(below, {100, 80, 320, 180});
-    expectNothingOfOurs("resized beneath");
-    client.moveResize(below, {90, 70, 340, 230});
-    expectNothingOfOurs("resized and moved");
-    client.restack(lowest, XCB_STACK_MODE_ABOVE);
-    client.restack(ours, XCB_STACK_MODE_ABOVE);
-    expectNothingOfOurs("raised beneath");
-    client.unmap(below);
-    client.map(below);
-    expectNothingOfOurs("shown again beneath");
-    client.fill(lowest, {0, 0, 20, 20}, 0xff445566);
-    expectNothingOfOurs("drawn in a little");
-    client.destroy(lowest);
-    expectNothingOfOurs("gone");
-}
 
 TEST_F(NeverRedrawn, whatWasDrawnBeneathUsStaysWhenItsWindowIsRedirectedAnew) {
     constexpr std::uint32_t color = 0xff445566;
@@ -497,6 +399,12 @@ TEST_F(NeverRedrawn, noSequenceOfEventsBeneathUsLetsAPixelOfOursBeTaken) {
             for (std::uint32_t i = 1; i < 5; ++i)
                 windows.push_back(show(anyPlace(), i));
             ours = showOurs(place);
+            client.sync();
+            // Half of the time it comes too late to see them before they are covered.
+            if (upTo(2) == 0) {
+                auto obstacle = Obstacle::NoDisplay;
+                server = X11WindowServer::create({}, obstacle);
+            }
         }
         const auto window = windows[random() % windows.size()];
         const auto other = windows[random() % windows.size()];
