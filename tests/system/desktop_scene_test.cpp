@@ -273,6 +273,7 @@ TEST_F(DesktopScene, isTheScreenAndBeneathOurWindowsWhatIsThere) {
             allowance("TOVAREL_MISSED_DRAWN"));
 
     minimise(below);
+    EXPECT_TRUE(eventually([&] { return !described(top(below)); }));
     screen = screenWithOurs();
     seen = grabAtRest({top(ours)}, screen, place);
     EXPECT_EQ(ofColor(seen, colorBelow), 0) << "what was minimised beneath us is forgotten";
