@@ -47,15 +47,20 @@ void drawFilm(QPainter &painter, const QRectF &film, const std::vector<QImage> &
     painter.fillRect(film, blank);
     const double share =
         film.width() / static_cast<double>(std::max<std::size_t>(pictures.size(), 1));
+    const double ratio = painter.device()->devicePixelRatioF();
     for (std::size_t place = 0; place < pictures.size(); ++place) {
-        const QRectF part(film.left() + static_cast<double>(place) * share, film.top(), share,
-                          film.height());
+        // Parts meet on whole pixels of the device, where what is drawn ends too.
+        const auto edgeAt = [&](std::size_t left) {
+            const QPointF corner(film.left() + static_cast<double>(left) * share, film.top());
+            return ImageScaler::onGrid(corner, ratio).x();
+        };
+        const QRectF part(QPointF(edgeAt(place), film.top()),
+                          QPointF(edgeAt(place + 1), film.bottom()));
         const QImage &picture = pictures[place];
         if (picture.isNull()) {
             drawWithin(painter, part, edge / 2, palette.color(QPalette::Dark));
             continue;
         }
-        const double ratio = picture.devicePixelRatio();
         const QSizeF size = picture.deviceIndependentSize();
         const QPointF corner = ImageScaler::onGrid(
             part.center() - QPointF(size.width() / 2, size.height() / 2), ratio);

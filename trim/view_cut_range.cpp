@@ -13,6 +13,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -94,7 +95,9 @@ void View_Cut_Range::requestPictures() {
                 editor_->surroundings().shell.s_Output_Folder(), source.frame);
     }
     const double ratio = devicePixelRatioF();
-    pictures_->request(std::move(sources), (bounds * ratio).toSize(), ratio, first.identity());
+    // One more pixel than its place has: none of the background is seen between two pictures.
+    const QSize pixels(qCeil(bounds.width() * ratio) + 1, qCeil(bounds.height() * ratio) + 1);
+    pictures_->request(std::move(sources), pixels, ratio, first.identity());
 }
 
 void View_Cut_Range::place() {

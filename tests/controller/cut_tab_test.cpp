@@ -94,6 +94,19 @@ TEST_F(CutTab, withoutARecordingItSaysSoInWhiteOnBlack) {
     EXPECT_EQ(delegate->trim.m_PlayStatus(), PLAY_STATUS_STOP);
 }
 
+TEST_F(CutTab, noBackgroundIsSeenBetweenThePictures) {
+    haveRecording(1, 5);
+    // Where the pictures' places are a little wider than whole pixels, and one that is much wider.
+    for (const int width : {640, 711, 782, 800}) {
+        window()->resize(window()->width() + width - strip->width(), 540);
+        settlePictures();
+        ASSERT_EQ(strip->width(), width);
+        const QImage shown = strip->grab().toImage();
+        for (int x = strip_look::knobWidth; x < shown.width() - strip_look::knobWidth; ++x)
+            ASSERT_EQ(shown.pixelColor(x, filmMiddle), colourOf(0)) << x << " of " << width;
+    }
+}
+
 TEST_F(CutTab, thePicturesAreOfTheirTimesAndPartsThatAreLeftOutAreDarkened) {
     haveRecording(10, 5);
     settlePictures();
