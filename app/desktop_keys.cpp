@@ -102,8 +102,11 @@ void DesktopKeys::grab() {
     QStringList sentences;
     if (!granted.isEmpty())
         sentences << qtTrId("IDD_KEYS_GRANTED").arg(modifiers(), granted.join(between));
+    if (granted.isEmpty())
+        for (QString &key : taken)
+            key.prepend(modifiers() + QLatin1Char('+'));
     if (!taken.isEmpty())
-        sentences << qtTrId("IDD_KEYS_TAKEN").arg(modifiers(), taken.join(between));
+        sentences << qtTrId("IDD_KEYS_TAKEN").arg(taken.join(between));
     surroundings_.showHint(sentences.join(QStringLiteral(" – ")));
     if (const std::optional<char> stop = grabs_->granted(stopPlace))
         recorder_.setStopKey(QStringLiteral("%1+%2").arg(modifiers(), nameOf(*stop)));

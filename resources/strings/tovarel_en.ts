@@ -277,8 +277,8 @@
         <translation>Shortcuts in any window: %1</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
-        <source>Used by another program, with %1: %2</source>
-        <translation>Used by another program, with %1: %2</translation>
+        <source>Already in use: %1</source>
+        <translation>Already in use: %1</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">

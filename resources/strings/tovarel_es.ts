@@ -277,8 +277,8 @@
         <translation>Atajos en cualquier ventana: %1</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
-        <source>Used by another program, with %1: %2</source>
-        <translation>En uso por otro programa, con %1: %2</translation>
+        <source>Already in use: %1</source>
+        <translation>Ya en uso: %1</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">

@@ -277,8 +277,8 @@
         <translation>Raccourcis partout&#xa0;: %1</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
-        <source>Used by another program, with %1: %2</source>
-        <translation>Pris par un autre programme, avec %1&#xa0;: %2</translation>
+        <source>Already in use: %1</source>
+        <translation>Déjà pris&#xa0;: %1</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">

@@ -275,8 +275,8 @@
         <translation>どこでも使えるショートカットキー: %1</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
-        <source>Used by another program, with %1: %2</source>
-        <translation>他のプログラムが使用中（%1 と同時押し）: %2</translation>
+        <source>Already in use: %1</source>
+        <translation>使用中: %1</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">

@@ -275,8 +275,8 @@
         <translation>全局快捷键：%1</translation>
     </message>
     <message id="IDD_KEYS_TAKEN">
-        <source>Used by another program, with %1: %2</source>
-        <translation>已被其他程序占用（与 %1 同时按）：%2</translation>
+        <source>Already in use: %1</source>
+        <translation>已被占用：%1</translation>
     </message>
     <!-- platform -->
     <message id="IDD_REASON_NO_DISPLAY">

@@ -92,7 +92,7 @@ class DesktopKeys(case.Case):
         with self.taken("p"):
             program = self.start()
             self.assertIn("Shortcuts in any window, with Super+Ctrl: R Record · A Pause · S Stop"
-                          " – Used by another program, with Super+Ctrl: P", program.labels())
+                          " – Already in use: P", program.labels())
             self.press("r")
             self.press("p")
             program.recording_for(1)
