@@ -4,6 +4,7 @@
 
 #include "shell/message_box.h"
 #include "shell/surroundings.h"
+#include "shell/title_text.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -35,7 +36,8 @@ void showAbout(const Surroundings &surroundings) {
     };
     QMessageBox about(shell.window());
     about.setObjectName(QStringLiteral("about"));
-    about.setWindowTitle(surroundings.texts.s_IDD_ABOUT() + QLatin1Char(' ') + shell.s_App_Name());
+    about.setWindowTitle(
+        titleText(surroundings.texts.s_IDD_ABOUT() + QLatin1Char(' ') + shell.s_App_Name()));
     about.setIconPixmap(QApplication::windowIcon().pixmap(QSize(iconSide, iconSide),
                                                           shell.window()->devicePixelRatio()));
     setPlainTexts(about, shell.s_App_Name(), lines.join(QLatin1Char('\n')));

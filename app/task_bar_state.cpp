@@ -4,6 +4,7 @@
 
 #include "shell/palette_icon.h"
 #include "shell/shell_fields.h"
+#include "shell/title_text.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -23,13 +24,13 @@ void showStateInTaskBar(const ShellFields &shell, RecordStatus status, int secon
     QIcon icon = QApplication::windowIcon();
     for (const auto &each : states)
         if (each.state == status) {
-            // The word first, where a narrow task bar does not cut it off. No sign before it: one
-            // window manager (marco) draws no title that begins with a character like "●".
+            // The word first, where a narrow task bar does not cut it off.
             title = QStringLiteral("%1 – %2").arg(each.words, title);
             icon = each.icon;
         }
     if (secondsToGo > 0)
         title = QStringLiteral("%1 – %2").arg(secondsToGo).arg(title);
+    title = titleText(title);
     // Also asked for every second; the window manager hears of changes only.
     if (shell.window()->windowTitle() == title)
         return;

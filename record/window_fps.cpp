@@ -8,6 +8,7 @@
 #include "shell/line_breaks.h"
 #include "shell/mnemonics.h"
 #include "shell/surroundings.h"
+#include "shell/title_text.h"
 #include "ui_Window_FPS.h"
 
 #include <QMainWindow>
@@ -29,7 +30,7 @@ void Window_FPS::windowDidLoad() {
     const InterfaceStrings &texts = recorder_.surroundings().texts;
     ui_->labelFPS->setText(texts.s_IDD_FPS());
     ui_->labelNote->setText(line_breaks::atPhrases(texts.s_IDD_NOTE()));
-    setWindowTitle(texts.s_IDD_FPS());
+    setWindowTitle(titleText(texts.s_IDD_FPS()));
     ui_->comboScreenFPS->setAccessibleName(texts.s_IDD_FPS());
     ui_->btnOK->setText(qtTrId("IDD_OK"));
     ui_->btnCancel->setText(qtTrId("IDD_CANCEL"));

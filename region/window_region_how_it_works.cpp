@@ -6,6 +6,7 @@
 #include "shell/line_breaks.h"
 #include "shell/mnemonics.h"
 #include "shell/settings.h"
+#include "shell/title_text.h"
 #include "ui_Window_Region_How_It_Works.h"
 
 Window_Region_How_It_Works::Window_Region_How_It_Works(QWidget *parent, RegionFields &region,
@@ -22,7 +23,7 @@ QCheckBox *Window_Region_How_It_Works::checkDontShowAgain() const {
 }
 
 void Window_Region_How_It_Works::windowDidLoad(bool picksWindows) {
-    setWindowTitle(qtTrId("IDD_REGION_HOW_TO_TITLE"));
+    setWindowTitle(titleText(qtTrId("IDD_REGION_HOW_TO_TITLE")));
     ui_->labelText->setText(line_breaks::atPhrases(qtTrId("IDD_REGION_HOW_TO_TEXT")));
     ui_->labelWindow->setText(line_breaks::atPhrases(qtTrId("IDD_REGION_HOW_TO_WINDOW")));
     ui_->labelWindow->setVisible(picksWindows);

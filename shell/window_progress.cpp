@@ -3,6 +3,7 @@
 #include "shell/window_progress.h"
 
 #include "platform/close_requests.h"
+#include "shell/title_text.h"
 #include "ui_Window_Progress.h"
 
 #include <QCloseEvent>
@@ -42,7 +43,7 @@ Window_Progress::Window_Progress(QWidget &anchor, const QString &caption)
 Window_Progress::~Window_Progress() = default;
 
 void Window_Progress::setCaption(const QString &caption) {
-    setWindowTitle(caption);
+    setWindowTitle(titleText(caption));
     ui_->labelDescription->setText(caption);
     ui_->progressBar->setAccessibleName(caption);
 }
