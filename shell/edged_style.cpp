@@ -284,6 +284,15 @@ int EdgedStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWid
     return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
 }
 
+QSize EdgedStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
+                                   const QSize &contents, const QWidget *widget) const {
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    // Whether a text must be cut the toolkit finds out with the "&" in "(&R)", which makes no room.
+    if (type == CT_MenuItem)
+        size.rwidth() += option->fontMetrics.horizontalAdvance(QLatin1Char('&'));
+    return size;
+}
+
 int EdgedStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                             const QWidget *widget) const {
     const int own = QProxyStyle::pixelMetric(metric, option, widget);

@@ -13,7 +13,7 @@
 /// menus and tabs get it on dark windows only. A checked tool has an edge and a tint of the accent,
 /// what has the keyboard's focus a rim in the accent, and disabled menu items are drawn once
 /// instead of embossed. Message boxes have drawn signs, sharp at any scale, unless the desktop's
-/// icons have some.
+/// icons have some. A menu has room for all of its texts.
 class EdgedStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -34,6 +34,8 @@ public:
                        const QWidget *widget) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *data) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                           const QWidget *widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override;
 };

@@ -89,6 +89,25 @@ TEST_P(EdgedStyleIn, disabledItemsOfMenusAreDrawnOnce) {
             ASSERT_NE(picture.pixelColor(x, y), QColor(Qt::red)) << x << ',' << y;
 }
 
+TEST(EdgedStyle, aMenuHasRoomForItsWidestText) {
+    EdgedStyle style;
+    QMenu menu;
+    menu.setStyle(&style);
+    QFont font = menu.font();
+    for (const int points : {9, 11, 14}) {
+        font.setPointSize(points);
+        menu.setFont(font);
+        menu.clear();
+        QAction *item = menu.addAction(QStringLiteral("プライバシーポリシー(&R)"));
+        const QRect text = menu.actionGeometry(item).adjusted(0, 0, -4, 0);
+        menu.resize(menu.sizeHint());
+        const QImage shown = menu.grab(text).toImage();
+        menu.setMinimumWidth(menu.width() + 100);
+        EXPECT_EQ(shown, menu.grab(text).toImage()) << points;
+        menu.setMinimumWidth(0);
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Looks, EdgedStyleIn, testing::Values("light", "dark", "contrast"));
 
 } // namespace
