@@ -199,6 +199,12 @@ TEST_F(CutTab, whatIsInHandShowsItsFrameAndPausesPlayback) {
     QTest::keyClick(strip, Qt::Key_Left);
     EXPECT_EQ(shownFrame(), 6);
     EXPECT_EQ(dragAndShow(2, W * 0.25), 3);
+    for (const Qt::Key key : {Qt::Key_End, Qt::Key_Home, Qt::Key_PageUp, Qt::Key_PageDown}) {
+        QTest::keyClick(strip, key);
+        EXPECT_LE(strip->frameOf(StripPart::Menor), strip->frameOf(StripPart::Maior)) << key;
+    }
+    strip->moveToFrame(StripPart::Menor, 3);
+    strip->moveToFrame(StripPart::Maior, 6);
     EXPECT_EQ(dragAndShow(W * 0.25 + 2, W * 0.85), 9) << "past the other one: now the upper handle";
     EXPECT_EQ(dragAndShow(W * 0.85 - 3, W + 30), 9) << "beyond the strip's end it is at the end";
     EXPECT_EQ(delegate->trim.f_Cut_Percent_Maior(), 100.0f);

@@ -5,6 +5,7 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -14,6 +15,20 @@
 TEST(SingleInstance, aFolderThatCannotBeUsedNeverKeepsTheProgramFromStarting) {
     const SingleInstance instance(QStringLiteral("/nonexistent/folder"));
     EXPECT_TRUE(instance.isFirst());
+}
+
+TEST(SingleInstance, takesSilenceForTheWishOfASecondStart) {
+    const QTemporaryDir folder;
+    SingleInstance first(folder.path());
+    QStringList heard;
+    first.listen([&heard](const QString &wish) {
+        heard << wish;
+        return WishAnswer::Done;
+    });
+    QLocalSocket silent;
+    silent.connectToServer(folder.filePath(QStringLiteral("tovarel.socket")));
+    EXPECT_TRUE(QTest::qWaitFor([&silent] { return silent.bytesAvailable() > 0; }, 10'000));
+    EXPECT_EQ(heard, QStringList(wishes::comeForward));
 }
 
 TEST(SingleInstance, aFirstOneThatEndsWhenItIsAskedHasNotComeForward) {
