@@ -41,17 +41,3 @@ TEST(WindowStack, putsAConfiguredWindowRightAboveItsSibling) {
         EXPECT_EQ(stack.find(c.window)->outer, QRect(5, 5, 20, 20));
     }
 }
-
-TEST(WindowStack, keepsWhatAConfiguredWindowIsAndTakesAUsedNumberForAnotherWindow) {
-    auto stack = stackOf({1, 2, 3});
-    EXPECT_TRUE(stack.setMapped(1, true));
-    EXPECT_TRUE(stack.configure({.number = 1, .outer = {1, 1, 1, 1}}, 2));
-    EXPECT_TRUE(stack.find(1)->mapped);
-    stack.add({.number = 1, .outer = {}});
-    EXPECT_FALSE(stack.find(1)->mapped);
-
-    EXPECT_TRUE(stack.remove(2));
-    EXPECT_FALSE(stack.remove(2) || stack.setMapped(2, true) || stack.circulate(2, true) ||
-                 stack.configure({.number = 2, .outer = {}}, 0));
-    EXPECT_EQ(order(stack), (std::vector<std::uint32_t>{3, 1}));
-}
