@@ -24,17 +24,6 @@ LayerStack stack(std::vector<Layer> layers) { return {std::move(layers), desktop
 
 } // namespace
 
-TEST(Layers, areSeenWhereNoOpaqueOneIsInFrontAndWithinTheDesktop) {
-    const auto s = stack({layer(1, {0, 0, 50, 50}), layer(2, {0, 0, 60, 60}, true),
-                          layer(3, {40, 40, 90, 20}), layer(4, {0, 0, 30, 30})});
-    EXPECT_EQ(s.visible(0), QRegion(0, 0, 50, 50));
-    EXPECT_EQ(s.visible(1), QRegion(0, 0, 60, 60) - QRegion(0, 0, 50, 50));
-    EXPECT_EQ(s.visible(2), QRegion(40, 40, 60, 20) - QRegion(0, 0, 50, 50))
-        << "through the blended one, and cut at the edge";
-    EXPECT_TRUE(s.visible(3).isEmpty());
-    EXPECT_EQ(s.bare(), QRegion(desktop) - QRegion(0, 0, 50, 50) - QRegion(40, 40, 60, 20));
-}
-
 TEST(Layers, changeWhereTheyComeGoMoveOrShowAnotherPicture) {
     const Layer front = layer(1, {0, 0, 20, 20}), back = layer(2, {10, 10, 30, 30});
     const auto both = stack({front, back});
