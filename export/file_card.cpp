@@ -141,10 +141,10 @@ bool FileCard::isUnsaved() const {
 void FileCard::update() {
     watch();
     showsFile_ = showsFile_ && exporter_.exporting.finished;
-    ui_.cardStack->setCurrentIndex(showsFile_ ? File : Estimate);
-    ui_.fileButtons->setVisible(showsFile_);
     if (showsFile_)
         updateFile();
+    ui_.cardStack->setCurrentIndex(showsFile_ ? File : Estimate);
+    ui_.fileButtons->setVisible(showsFile_);
     updatePlaying();
     if (!showsFile_)
         showFirstKeptPicture();
@@ -158,8 +158,9 @@ void FileCard::updateFile() {
     const FinishedFile &file = *exporter_.exporting.finished;
     condition_ = condition();
     pictured_.clear();
-    ui_.btnFileCopy->setVisible(!isUnsaved());
-    ui_.btnFileSave->setVisible(isUnsaved());
+    // What goes goes first: beside each other they would make the card wider for a moment.
+    (isUnsaved() ? ui_.btnFileCopy : ui_.btnFileSave)->hide();
+    (isUnsaved() ? ui_.btnFileSave : ui_.btnFileCopy)->show();
     ui_.labelFileName->setText(isUnsaved() ? qtTrId("IDD_FILE_UNSAVED")
                                            : QFileInfo(file.path).fileName());
     ui_.labelFileName->setToolTip(isUnsaved() ? QString() : Qt::convertFromPlainText(file.path));

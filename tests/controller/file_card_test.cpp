@@ -10,12 +10,14 @@
 #include <QImage>
 #include <QImageReader>
 #include <QMimeData>
+#include <QResizeEvent>
 #include <QStandardPaths>
 #include <QTest>
 #include <QUrl>
 
 #include <algorithm>
 #include <cstdlib>
+#include <set>
 
 namespace {
 
@@ -49,12 +51,39 @@ protected:
     const QString saved = place("saved #1 %41");
 };
 
+/// All widths that a widget had.
+class Widths : public QObject {
+public:
+    explicit Widths(QWidget &of) : seen{of.width()} { of.installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() == QEvent::Resize)
+            seen.insert(static_cast<QResizeEvent *>(event)->size().width());
+        return false;
+    }
+    std::set<int> seen;
+};
+
 TEST_F(FileCardTest, isMadeSavedAndCopiedInOneGo) {
     ui.menuitemGenerateAndCopy->trigger();
     ASSERT_TRUE(finish());
     ASSERT_EQ(names().size(), 1);
     EXPECT_EQ(QGuiApplication::clipboard()->mimeData()->urls(),
               QList<QUrl>{QUrl::fromLocalFile(QDir(saved).filePath(names().first()))});
+}
+
+TEST_F(FileCardTest, keepsItsWidthWhateverItShows) {
+    window()->show();
+    ui.tabBar->setCurrentIndex(2);
+    settle();
+    const Widths widths(*ui.gifCard);
+    for (const char *name : {"/one.gif", "", "/two.gif"}) {
+        answers.savePath = *name ? saved + QLatin1String(name) : QString();
+        generate();
+        settle();
+        EXPECT_EQ(ui.btnFileSave->isVisible(), !*name);
+        EXPECT_EQ(ui.btnFileCopy->isVisible(), *name != 0);
+    }
+    EXPECT_EQ(widths.seen.size(), 1u);
 }
 
 TEST_F(FileCardTest, isTheFileThatOtherProgramsTakeFromTheClipboard) {
