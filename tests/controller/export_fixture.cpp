@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QTest>
 
@@ -164,4 +165,14 @@ QString ExportTest::standIn(const QByteArray &script) {
     put(path, "#!/bin/bash\nlast=\"${@: -1}\"\n" + script + '\n');
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return path;
+}
+
+QByteArray ExportTest::run(const char *command, const QStringList &more) {
+    QStringList words = QString::fromLatin1(command).split(u' ');
+    const QString program = words.takeFirst();
+    QProcess process;
+    process.start(program, words + more);
+    process.waitForFinished(-1);
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    return process.readAllStandardOutput();
 }

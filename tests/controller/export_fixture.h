@@ -82,6 +82,11 @@ protected:
     /// Waits until neither a question nor an export is under way.
     bool finish();
     QString place(const char *name) const { return folder.filePath(QString::fromLatin1(name)); }
+    QString exportFile(const char *name) const {
+        return controller.shell.s_Export_Folder() + u'/' + QLatin1String(name);
+    }
+    /// What a program says that gets the words of this command line, and then these.
+    static QByteArray run(const char *command, const QStringList &more);
 
     AppDelegate &controller = *delegate;
     Ui::MainWindow &ui = *delegate->ui;

@@ -187,7 +187,7 @@ TEST_F(GifExport, AsAnyOtherEndsAtAMissingFrameAndSaysSo) {
 
 TEST_F(GifExport, AndTheWebPRefuseTooFewFramesAndAnEmptySizeBeforeTheyTouchAnything) {
     record(3);
-    const QString kept = controller.shell.s_Export_Folder() + QStringLiteral("/kept");
+    const QString kept = exportFile("kept");
     put(kept, "kept");
     const auto exportBoth = [this] {
         answers.alerts.clear();
@@ -226,7 +226,7 @@ TEST_F(GifExport, NamesTheSizeThatTheEncoderRefused) {
 // What else can be wrong with a place is SafeMove's to test.
 TEST_F(GifExport, KeepsTheResultWhenItCannotBePlaced) {
     record(3);
-    const QString gif = controller.shell.s_Export_Folder() + QStringLiteral("/output.gif");
+    const QString gif = exportFile("output.gif");
     // By a way around: what the panel is given must not hold quotation marks.
     ASSERT_TRUE(QFile::link(controller.shell.s_Output_Folder(), place("link")));
     answers.savePath = place("link/x.gif");

@@ -64,9 +64,6 @@ protected:
     QStringList exported() const {
         return QDir(controller.shell.s_Export_Folder()).entryList(QDir::Files);
     }
-    QString output() const {
-        return controller.shell.s_Export_Folder() + QStringLiteral("/output.gif");
-    }
     std::string status() const { return ui.labelStatus->text().toStdString(); }
 
     std::vector<QImage> pictures;
@@ -112,7 +109,7 @@ TEST_F(GifQuality, LaysOutNothingButTheFileWhichIsTheUsersAlone) {
     // And what the next start finds it by.
     EXPECT_EQ(exported(),
               QStringList({QStringLiteral("output.gif"), QStringLiteral("output.gif.txt")}));
-    EXPECT_EQ(QFile::permissions(output()) & ~(QFile::ReadUser | QFile::WriteUser),
+    EXPECT_EQ(QFile::permissions(exportFile("output.gif")) & ~(QFile::ReadUser | QFile::WriteUser),
               QFile::ReadOwner | QFile::WriteOwner);
     EXPECT_TRUE(QDir(controller.shell.s_Pallete_Folder()).isEmpty());
     EXPECT_TRUE(ui.btnFileSave->isVisible());
@@ -216,7 +213,7 @@ TEST_F(GifQuality, IsCancelledAtOnceAndLeavesNothing) {
 TEST_F(GifQuality, RefusesSizesBeforeItTouchesAnything) {
     record(3);
     choose(GifPreset::Balanced);
-    const QString kept = controller.shell.s_Export_Folder() + QStringLiteral("/kept");
+    const QString kept = exportFile("kept");
     put(kept, "kept");
     controller.recording.memory = [] { return MemoryState{8'000'000'000, 160'000'000}; };
     const struct {

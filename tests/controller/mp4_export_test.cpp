@@ -2,19 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/controller/export_fixture.h"
 
-#include <QProcess>
-
 namespace {
 
 class MP4Export : public ExportTest {};
-
-QByteArray run(const char *program, const QStringList &arguments) {
-    QProcess process;
-    process.start(QString::fromLatin1(program), arguments);
-    process.waitForFinished(-1);
-    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
-    return process.readAllStandardOutput();
-}
 
 TEST_F(MP4Export, PlaysTheFramesInAnySizeForAsLongAsTheyTook) {
     record(9);
@@ -32,11 +22,9 @@ TEST_F(MP4Export, PlaysTheFramesInAnySizeForAsLongAsTheyTook) {
         const int wide = width + width % 2;
         const int high = height + height % 2;
         const QList<QByteArray> said =
-            run("ffprobe",
-                {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-count_frames"),
-                 QStringLiteral("-show_entries"),
-                 QStringLiteral("stream=codec_name,width,height,pix_fmt,duration,nb_read_frames"),
-                 QStringLiteral("-of"), QStringLiteral("csv=p=0"), answers.savePath})
+            run("ffprobe -v error -count_frames -show_entries "
+                "stream=codec_name,width,height,pix_fmt,duration,nb_read_frames -of csv=p=0",
+                {answers.savePath})
                 .trimmed()
                 .split(',');
         ASSERT_EQ(said.size(), 6);
@@ -46,10 +34,10 @@ TEST_F(MP4Export, PlaysTheFramesInAnySizeForAsLongAsTheyTook) {
         EXPECT_EQ(said[3], "yuv420p");
         EXPECT_NEAR(said[4].toDouble(), 9 / 59.3, 0.002);
         EXPECT_EQ(said[5].toInt(), 9);
-        const QByteArray pixels = run(
-            "ffmpeg", {QStringLiteral("-v"), QStringLiteral("error"), QStringLiteral("-i"),
-                       answers.savePath, QStringLiteral("-f"), QStringLiteral("rawvideo"),
-                       QStringLiteral("-pix_fmt"), QStringLiteral("rgb24"), QStringLiteral("-")});
+        const QByteArray pixels =
+            run("ffmpeg -v error -i",
+                {answers.savePath, QStringLiteral("-f"), QStringLiteral("rawvideo"),
+                 QStringLiteral("-pix_fmt"), QStringLiteral("rgb24"), QStringLiteral("-")});
         ASSERT_EQ(pixels.size(), 9 * wide * high * 3);
         for (int frame = 0; frame < 9; ++frame)
             for (const int at : {0, wide * high - 1}) { // the added corner has the colour, too

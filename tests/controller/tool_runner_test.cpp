@@ -61,14 +61,13 @@ TEST_F(ToolRunner, EndsAnyExportWithOneAlertWhateverGoesWrong) {
         {"empty", standIn(": > \"$last\""), {}},
     };
     for (const auto &[button, encoder, result] :
-         {std::tuple(ui.btnGIFExport, "ffmpeg", u"output.gif"),
-          {ui.btnWebPGenerate, "img2webp", u"output.webp"},
-          {ui.btnMP4Generate, "ffmpeg", u"output.mp4"}})
+         {std::tuple(ui.btnGIFExport, "ffmpeg", "output.gif"),
+          {ui.btnWebPGenerate, "img2webp", "output.webp"},
+          {ui.btnMP4Generate, "ffmpeg", "output.mp4"}})
         for (const auto &[what, tool, reason] : faults) {
             SCOPED_TRACE(testing::Message() << encoder << ' ' << what);
-            const QString name = QString::fromUtf16(result);
             // One of an earlier run must not pass for the result.
-            put(controller.shell.s_Export_Folder() + u'/' + name, "stale");
+            put(exportFile(result), "stale");
             controller.shell.setSffmpegPath(tool);
             controller.shell.setSimg2webpPath(tool);
             answers.alerts.clear();
@@ -77,7 +76,8 @@ TEST_F(ToolRunner, EndsAnyExportWithOneAlertWhateverGoesWrong) {
             EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Error"));
             const QString &text = answers.alerts[0].text;
             EXPECT_TRUE(text.contains(QLatin1String(encoder)));
-            EXPECT_TRUE(text.contains(reason.isEmpty() ? name : reason)) << text.toStdString();
+            EXPECT_TRUE(text.contains(reason.isEmpty() ? QString::fromLatin1(result) : reason))
+                << text.toStdString();
         }
     EXPECT_TRUE(answers.panels.isEmpty());
 }

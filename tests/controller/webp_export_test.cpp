@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QImageReader>
 #include <QLabel>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -24,19 +23,7 @@ protected:
             ASSERT_TRUE(pictures[static_cast<std::size_t>(frame)].save(frameFile(frame)));
         controller.exportOptions->resetGIFOptions();
     }
-    QString output() const {
-        return controller.shell.s_Export_Folder() + QStringLiteral("/output.webp");
-    }
 };
-
-QString run(const char *program, const QStringList &arguments) {
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QString::fromLatin1(program), arguments);
-    process.waitForFinished(-1);
-    EXPECT_EQ(process.exitCode(), 0) << program;
-    return QString::fromUtf8(process.readAll());
-}
 
 TEST_F(WebPExport, HoldsTheRecordingsOwnPixels) {
     record(6);
@@ -55,20 +42,14 @@ TEST_F(WebPExport, HoldsTheRecordingsOwnPixels) {
         QStringLiteral("Select a folder to save the WebP image|Tovarel 2")));
     EXPECT_TRUE(answers.panels[0].endsWith(QStringLiteral(".webp")));
     EXPECT_TRUE(ui.labelStatus->text().contains(answers.savePath));
-    EXPECT_FALSE(QFile::exists(output()));
-    const QString info = run("webpinfo", {answers.savePath});
-    EXPECT_TRUE(info.contains(QStringLiteral("Loop count      : 3"))) << info.toStdString();
-    EXPECT_EQ(info.count(QStringLiteral("Chunk ANMF")), 4);
-    for (int number = 1; number <= 4; ++number) {
-        const QString frame = place("frame.webp");
-        const QString picture = place("frame.png");
-        run("webpmux", {QStringLiteral("-get"), QStringLiteral("frame"), QString::number(number),
-                        answers.savePath, QStringLiteral("-o"), frame});
-        run("dwebp", {frame, QStringLiteral("-o"), picture});
-        EXPECT_EQ(QImage(picture).convertToFormat(QImage::Format_RGB32),
-                  QImage(frameFile(number + 1)).convertToFormat(QImage::Format_RGB32))
-            << number;
-    }
+    EXPECT_FALSE(QFile::exists(exportFile("output.webp")));
+    EXPECT_TRUE(run("webpinfo", {answers.savePath}).contains("Loop count      : 3"));
+    QImageReader webp(answers.savePath);
+    ASSERT_EQ(webp.imageCount(), 4);
+    for (int frame = 2; frame < 6; ++frame)
+        EXPECT_EQ(webp.read().convertToFormat(QImage::Format_RGB32),
+                  QImage(frameFile(frame)).convertToFormat(QImage::Format_RGB32))
+            << frame;
 }
 
 TEST_F(WebPExport, HoldsMoreFramesThanFitOnACommandLine) {
@@ -90,7 +71,7 @@ TEST_F(WebPExport, HoldsMoreFramesThanFitOnACommandLine) {
     ASSERT_EQ(answers.alerts.size(), 1u);
     EXPECT_EQ(answers.alerts[0].title, QStringLiteral("Success"))
         << answers.alerts[0].text.toStdString();
-    EXPECT_EQ(run("webpinfo", {answers.savePath}).count(QStringLiteral("Chunk ANMF")), many);
+    EXPECT_EQ(run("webpinfo", {answers.savePath}).count("Chunk ANMF"), many);
 }
 
 TEST_F(WebPExport, TakesTheSmallerCodingUnlessItMustBeExact) {
@@ -102,8 +83,8 @@ TEST_F(WebPExport, TakesTheSmallerCodingUnlessItMustBeExact) {
         answers.savePath = place(exact ? "exact.webp" : "small.webp");
         ui.btnWebPGenerate->click();
         bytes[exact] = QFileInfo(answers.savePath).size();
-        const QString info = run("webpinfo", {answers.savePath});
-        EXPECT_EQ(info.contains(QStringLiteral("Chunk VP8L")), exact) << info.toStdString();
+        const QByteArray info = run("webpinfo", {answers.savePath});
+        EXPECT_EQ(info.contains("Chunk VP8L"), exact) << info.toStdString();
     }
     EXPECT_LT(bytes[false], bytes[true]);
     chooseSize(QStringLiteral("16384"), QStringLiteral("48"));
@@ -168,11 +149,11 @@ TEST_F(WebPExport, HasTheSizeTheRateAndTheSpeedThatWereChosen) {
         const auto request = chooseTimes(9, 9.83, chosen, speed);
         QFile::remove(answers.savePath);
         ui.btnWebPGenerate->click();
-        const QString info = run("webpinfo", {answers.savePath});
-        EXPECT_TRUE(info.contains(QStringLiteral("Canvas size 40 x 20"))) << info.toStdString();
+        const QByteArray info = run("webpinfo", {answers.savePath});
+        EXPECT_TRUE(info.contains("Canvas size 40 x 20")) << info.toStdString();
         std::vector<std::uint64_t> found;
         static const QRegularExpression duration(QStringLiteral("Duration: (\\d+)"));
-        auto each = duration.globalMatch(info);
+        auto each = duration.globalMatch(QString::fromLatin1(info));
         while (each.hasNext())
             found.push_back(each.next().captured(1).toULongLong());
         std::vector<std::uint64_t> wanted;

@@ -147,6 +147,13 @@ class Program:
         """Everything that stands as text in the window."""
         return [content(item) for item in self.all("label")]
 
+    def says(self, words):
+        """Whether these words stand somewhere in the window."""
+        return any(words in text for text in self.labels())
+
+    def await_label(self, words):
+        self.wait_for(f"the words {words!r}", lambda: self.says(words))
+
     def click(self, item, button=1):
         """Clicks the middle of a control with the pointer."""
         x, y = middle(item)

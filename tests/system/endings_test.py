@@ -112,8 +112,7 @@ class Endings(case.Case):
         self.check_is_kept()
         program = self.saving()
         self.close(program)
-        program.wait_for("the reason", lambda: any(
-            "as soon as the recording is saved" in text for text in program.labels()))
+        program.await_label("as soon as the recording is saved")
         self.assertIsNotNone(program.find("progress bar"))
         self.hold.unlink()
         self.assertEqual(program.status(), 0)

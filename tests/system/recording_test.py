@@ -89,8 +89,7 @@ class Recording(case.Case):
         program = Program(self.session)
         self.session.remember("ShowClicks", 0)
         act(program.await_control("check box", "Keys"))
-        program.wait_for("the warning", lambda: any(
-            text.startswith("Shortcuts that you press are shown") for text in program.labels()))
+        program.await_label("Shortcuts that you press are shown")
         window = program.window()
         self.session.xdotool("windowmove", "--sync", window, 40 * SCALE, 300 * SCALE)
         program.press("Record")

@@ -234,12 +234,6 @@ class RegionCase(case.Case):
             self.check_recorded(program, tuple(x // self.block for x in area))
             program.end()
 
-    def await_label(self, program, wanted):
-        with contextlib.suppress(Late):
-            wait_for(wanted, lambda: any(wanted in text for text in program.labels()), 5)
-        self.assertTrue(any(wanted in text for text in program.labels()),
-                        f"{wanted!r} is not among {program.labels()}")
-
     def await_see_through(self, screen, edges):
         def seen():
             try:

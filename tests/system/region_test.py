@@ -82,7 +82,7 @@ class Region(RegionCase):
                     self.await_square(60 - 4, 900 - 530, screen, GREEN)
                     self.session.xdotool("mousemove", "--sync", 160, 590, "click", 1)
                     self.await_no_overlay()
-                    self.await_label(program, "200 × 120 at 60,\u00a0530")
+                    program.await_label("200 × 120 at 60,\u00a0530")
             self.check_recorded(program, (60, 530, 200, 120))
 
     def test_a_region_that_no_encoder_takes_is_not_accepted(self):
@@ -90,14 +90,14 @@ class Region(RegionCase):
         screen = Screen(0, 0, *self.screen, 1)
         left, bottom, right, top = self.open_overlay(program, screen)
         self.drag(screen.pixel(left, bottom), screen.pixel(right - 1, top - 1))
-        wait_for("the reason", lambda: any("Too small" in text for text in program.labels()))
+        program.await_label("Too small")
         self.session.xdotool("key", "Return", "key", "shift+Up",
                              "key", "shift+Left")
-        wait_for("the reason to go", lambda: not any("Too small" in text for text in program.labels()))
+        wait_for("the reason to go", lambda: not program.says("Too small"))
         self.assertTrue(self.overlay())
         self.session.xdotool("key", "Escape")
         self.await_no_overlay()
-        self.await_label(program, FULL_SCREEN)
+        program.await_label(FULL_SCREEN)
 
     def test_a_window_is_picked_and_a_width_is_typed(self):
         x, y, width, height = self.session.counter("--at", "60,80", "--size", "240x160")
@@ -119,7 +119,7 @@ class Region(RegionCase):
         self.session.xdotool("key", "ctrl+a", "type", "200")
         self.session.xdotool("key", "Return")
         self.await_no_overlay()
-        self.await_label(program, f"200 × {high} at {left},\u00a0{top}")
+        program.await_label(f"200 × {high} at {left},\u00a0{top}")
 
     def test_one_monitor_is_recorded_alone_and_remembered(self):
         self.addCleanup(self.monitors)
@@ -131,7 +131,7 @@ class Region(RegionCase):
             self.session.remember("Monitor", name)
             program = Program(self.session, remembering=True)
             self.put_aside(program, 20, 20)
-            self.await_label(program, f"{name} · 700 × 900")
+            program.await_label(f"{name} · 700 × 900")
             self.check_recorded(program, (500, 0, 700, 900))
             program.end()
 
@@ -145,7 +145,7 @@ class Region(RegionCase):
                 left, bottom, right, top = region
                 self.session.xdotool("key", "Down", "key", "Escape")
                 self.await_no_overlay()
-                self.await_label(program, shown)
+                program.await_label(shown)
                 self.assertEqual(self.open_overlay(program, screen, region), region)
                 # Lower right first, then on to the upper right, then back.
                 for key in ("Right", "shift+Down", "Tab", "shift+Up", "Up", "shift+Tab", "Left",
@@ -156,7 +156,7 @@ class Region(RegionCase):
                 region = left, bottom - 10, right - 1, top + 11
                 width, height = region[2] - left, region[3] - region[1]
                 shown = f"{width} × {height} at {left},\u00a0{900 - region[3]}"
-                self.await_label(program, shown)
+                program.await_label(shown)
 
     def test_another_screen_ends_the_overlay_and_the_same_one_does_not(self):
         self.addCleanup(self.monitors)
@@ -179,7 +179,7 @@ class Region(RegionCase):
                 self.assertTrue(self.overlay())
                 self.monitors(*places)
                 self.await_no_overlay()
-                self.await_label(program, FULL_SCREEN)
+                program.await_label(FULL_SCREEN)
                 self.assertEqual(program.end(), 0)
 
     def test_a_compositing_manager_may_come_and_go_and_the_program_may_end(self):

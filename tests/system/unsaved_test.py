@@ -15,8 +15,7 @@ class Unsaved(case.Case):
         self.session.counter("--at", "60,80")
         program = self.exporting()
         program.cancel_panel()
-        program.wait_for("the status line to say so", lambda: any(
-            UNSAVED in text for text in program.labels()))
+        program.await_label(UNSAVED)
         program.process.kill()
         program.process.wait()
         program = Program(self.session, recover=True)

@@ -70,10 +70,7 @@ class Wayland(case.Case):
 
     def choose(self, program, what="Monitor"):
         program.press(CHOOSE)
-        self.await_label(program, what)
-
-    def await_label(self, program, words):
-        program.wait_for(words, lambda: any(words in label for label in program.labels()))
+        program.await_label(what)
 
     def asked(self, method):
         """The options of the portal's questions of this test."""
@@ -154,14 +151,14 @@ class Wayland(case.Case):
 
         # The stream was given back with the tab, and is taken again without a question.
         program.enter("Record")
-        self.await_label(program, "Monitor")
+        program.await_label("Monitor")
         self.assertIn("restore_data", self.asked("SelectSources")[-1])
         program.end()
         self.assertIn(TOKEN, self.settings.read_text())
         # A later start remembers, though it asks for nothing by itself.
         count = len(self.asked("Start"))
         program = self.start_program()
-        self.await_label(program, "Your desktop asks")
+        program.await_label("Your desktop asks")
         self.assertEqual(len(self.asked("Start")), count)
         self.choose(program)
         self.assertIn("restore_data", self.asked("SelectSources")[-1])
@@ -175,18 +172,18 @@ class Wayland(case.Case):
             self.session.answer_with(answer=answer)
             for button in (CHOOSE, "Record"):
                 program.press(button)
-                self.await_label(program, words)
+                program.await_label(words)
                 self.assertIsNone(program.find("alert"))
                 self.assertEqual(program.frame().get_name(), "Tovarel")
         self.session.answer_with(
             keys={"record": "Press <Control><Super>r", "pause": "Press <Control><Super>p"})
         self.choose(program)
-        self.await_label(program, "in any window, with Ctrl+Super: R Record · P Pause")
+        program.await_label("in any window, with Ctrl+Super: R Record · P Pause")
         # The compositor draws the pointer, or not, as the switch says.
         self.assertEqual(self.asked("SelectSources")[-1]["cursor_mode"], EMBEDDED)
         act(program.await_control("check box", "Pointer"))
         wait_for("a session without it", lambda: self.asked("SelectSources")[-1]["cursor_mode"] == HIDDEN)
-        self.await_label(program, "Monitor")
+        program.await_label("Monitor")
 
     def test_keys_of_the_desktop_record_and_stop(self):
         keys = {"record": "Super+Ctrl+R", "stop": "F9"}
@@ -196,7 +193,7 @@ class Wayland(case.Case):
         program = self.start_program()
         self.assertEqual(self.asked("BindShortcuts"), [])
         self.choose(program)
-        self.await_label(program, "Shortcuts in any window: Super+Ctrl+R Record · F9 Stop")
+        program.await_label("Shortcuts in any window: Super+Ctrl+R Record · F9 Stop")
         self.assertEqual(self.asked("BindShortcuts"), [
             {"record": "LOGO+CTRL+r", "pause": "LOGO+CTRL+p", "stop": "LOGO+CTRL+s"}])
         self.session.press_key("record", keys=keys)
@@ -224,8 +221,7 @@ class Wayland(case.Case):
         program.await_control("dialog", "Select a Region")
         for name, value in zip(("X", "Y", "Width", "Height"), place):
             program.await_control("spin button", name).set_current_value(value)
-        self.await_label(
-            program, "Region {2} × {3} at {0},\xa0{1}".format(*place))
+        program.await_label("Region {2} × {3} at {0},\xa0{1}".format(*place))
         program.press("Use Region")
         program.wait_for("the end of it", lambda: not program.find("dialog", "Select a Region"))
         program.press("Record")
@@ -283,14 +279,14 @@ class Wayland(case.Case):
         program = self.start_program()
         self.session.answer_with(answer="hang")
         program.press(CHOOSE)
-        self.await_label(program, "in the desktop’s dialog")
+        program.await_label("in the desktop’s dialog")
         wait_for("the question", lambda: self.asked("Start"))
         self.session.end_casts()
-        self.await_label(program, "stopped sharing")
+        program.await_label("stopped sharing")
         self.session.answer_with()
         self.choose(program)
         self.session.end_casts()
-        self.await_label(program, "stopped sharing")
+        program.await_label("stopped sharing")
 
         self.show_counter()
         self.choose(program)
@@ -302,7 +298,7 @@ class Wayland(case.Case):
         program.await_tab("Cut")
         self.check_frames(self.frames(), 3)
         program.enter("Record")
-        self.await_label(program, "stopped sharing")
+        program.await_label("stopped sharing")
 
     def test_a_window_is_recorded_where_it_is_and_in_its_first_size(self):
         self.session.answer_with(kind="window")
@@ -313,7 +309,7 @@ class Wayland(case.Case):
         program.recording_for(1)
         window.stdin.write(b"600x300\n")
         window.stdin.flush()
-        self.await_label(program, "Size changed")
+        program.await_label("Size changed")
         time.sleep(1)
         program.press("Stop")
         program.await_tab("Cut")
@@ -391,9 +387,9 @@ class Wayland(case.Case):
         for name in ("wireplumber", "pipewire"):
             for number in self.session.processes(name):
                 os.kill(number, signal.SIGKILL)
-        self.await_label(program, "no pictures")
+        program.await_label("no pictures")
         program.press(CHOOSE)
-        self.await_label(program, "no pictures")
+        program.await_label("no pictures")
 
 
 class WithoutAPart(case.Case):
