@@ -78,6 +78,9 @@ class Session:
             started = self.folder / "window-manager-started"
             self.start("openbox", ["openbox", "--startup", f"touch {started}"])
             wait_for("the window manager", started.exists)
+            # With the first key that is sent the server tells of another keyboard, whereupon the
+            # window manager lets go of all its keys for a moment: one sent then would be lost.
+            self.xdotool("key", "Shift_L")
         self._share_environment()
 
     # What every kind of session begins with
