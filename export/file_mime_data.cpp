@@ -22,7 +22,9 @@ FileMimeData::FileMimeData(const QString &path) : path_(path) {
     setUrls({address});
     // The toolkit would write blanks into it, and two words are no address.
     setText(address.toString(QUrl::FullyEncoded));
-    setData(QStringLiteral("x-special/gnome-copied-files"), "copy\n" + address.toEncoded());
+    for (const char *desktop : {"gnome", "mate"})
+        setData(QStringLiteral("x-special/%1-copied-files").arg(QLatin1String(desktop)),
+                "copy\n" + address.toEncoded());
 }
 
 QStringList FileMimeData::formats() const {

@@ -7,9 +7,9 @@
 
 /// A file as other programs take it from the clipboard or from a drag: its address (RFC 2483,
 /// `text/uri-list`, and as plain text, percent-encoded as well), the same as file managers copy
-/// files
-/// (`x-special/gnome-copied-files`: the word "copy" and an address, a line each), and for programs
-/// that take pictures the file's content under its own type and its first picture.
+/// files (`x-special/gnome-copied-files`, which MATE's gave a name of its own: the word "copy" and
+/// an address, a line each), and for programs that take pictures the file's content under its own
+/// type and its first picture.
 class FileMimeData : public QMimeData {
     Q_OBJECT
 

@@ -96,8 +96,9 @@ TEST_F(FileCardTest, isTheFileThatOtherProgramsTakeFromTheClipboard) {
     emptyExportFolder();
     const QMimeData *copied = QGuiApplication::clipboard()->mimeData();
     ASSERT_EQ(copied->urls(), QList<QUrl>{QUrl::fromLocalFile(answers.savePath)});
-    EXPECT_EQ(copied->data(QStringLiteral("x-special/gnome-copied-files")),
-              "copy\n" + copied->urls().first().toEncoded());
+    for (const char *format : {"x-special/gnome-copied-files", "x-special/mate-copied-files"})
+        EXPECT_EQ(copied->data(QLatin1String(format)),
+                  "copy\n" + copied->urls().first().toEncoded());
     EXPECT_EQ(copied->text().toUtf8(), copied->urls().first().toEncoded());
     EXPECT_EQ(copied->data(QStringLiteral("image/gif")), contentOf(answers.savePath));
     EXPECT_EQ(qvariant_cast<QImage>(copied->imageData()).size(), QSize(64, 48));
