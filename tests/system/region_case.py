@@ -192,16 +192,18 @@ class RegionCase(case.Case):
         """The line is around what is recorded and not in it, where the desktop shows unchanged;
         outside it is dimmed where that can be."""
         left, bottom, right, top = edges
-        picture = self.session.picture()
         (x, y), (end, below) = screen.pixel(left, top), screen.pixel(right, bottom)
         line, dim = math.floor(LINE * screen.scale + 0.5), DIM if self.session.composited() else 1
         row, column = below - round(30 * screen.scale), x + round(30 * screen.scale)
+        # A window that has come to a screen of another density takes its size there a little later.
+        for within in ((x, row), (end - 1, row), (column, y)):
+            wait_for(f"the desktop at {within}", lambda at=within:
+                     self.session.picture().pixel(*at) == colour(*at, self.block))
+        picture = self.session.picture()
         for outwards, spot in (((-1, 0), (x - 1, row)), ((1, 0), (end, row)), ((0, -1), (column, y - 1))):
             for away, wanted in ((0, LIGHT), (line - 1, LIGHT), (line, DARK), (2 * line - 1, DARK)):
                 there = tuple(at + by * away for at, by in zip(spot, outwards))
                 self.assertEqual(picture.pixel(*there), wanted, f"no line at {there}")
-            within = tuple(at - by for at, by in zip(spot, outwards))
-            self.assertEqual(picture.pixel(*within), colour(*within, self.block), within)
         beyond = round(20 * screen.scale)  # the squares
         for spot in ((x - beyond, below + beyond), (x - beyond, y - beyond), (x - 2 * line - 1, row)):
             for seen, shown in zip(picture.pixel(*spot), colour(*spot, self.block)):
