@@ -174,8 +174,15 @@ void DesktopModel::handleExtension(const xcb_generic_event_t &event) {
     const Extensions &extensions = connection_.extensions();
     if (event.response_type == extensions.damageEvent + XCB_DAMAGE_NOTIFY) {
         const auto &damage = as<xcb_damage_notify_event_t>(event);
-        changed_ =
-            screen_.onDamage(damage) || pictures_.onDamage(damage, event.full_sequence) || changed_;
+        if (screen_.onRepaint(damage)) {
+            drawingShown_ = true;
+            ++repaints_;
+        } else if (pictures_.onDamage(damage, event.full_sequence)) {
+            drawingShown_ = false;
+            changed_ = true;
+        } else {
+            changed_ = screen_.onDamage(damage) || changed_;
+        }
     } else if (event.response_type == extensions.shapeEvent + XCB_SHAPE_NOTIFY) {
         if (pictures_.onShape(as<xcb_shape_notify_event_t>(event)))
             stackChanged();

@@ -57,6 +57,11 @@ public:
     /// Whether somebody composes the screen from the windows' pictures, with effects of their own.
     bool isComposited() const { return compositingManager_; }
 
+    /// Whether the screen was drawn after a window was: while `screen` tells of repaints.
+    bool isDrawingShown() const { return drawingShown_; }
+    /// How often it was.
+    std::uint64_t repaints() const { return repaints_; }
+
     /// Lets the server keep a window's pixels apart from the screen's, so that they can be had
     /// where it is covered; and gives them back.
     void redirect(std::uint32_t window);
@@ -123,6 +128,8 @@ private:
     bool compositingManager_ = false;
     bool changed_ = true;
     bool failures_ = false;
+    bool drawingShown_ = true;
+    std::uint64_t repaints_ = 0;
     bool listChanged_ = true;
     bool layersChanged_ = true;
     std::vector<WindowDescription> windows_;

@@ -6,6 +6,7 @@
 
 #include <xcb/xfixes.h>
 
+#include <utility>
 #include <vector>
 
 namespace x11 {
@@ -45,6 +46,27 @@ ShownScreen::ShownScreen(Connection &connection, const PictureFormats &formats)
     // The rectangles that are new among those that were not taken: a place is reported once.
     xcb_damage_create(connection_.get(), object_, connection_.root(),
                       XCB_DAMAGE_REPORT_LEVEL_DELTA_RECTANGLES);
+}
+
+void ShownScreen::tellRepaints(bool tell) {
+    if (tell == (repaints_ != 0))
+        return;
+    if (tell) {
+        repaints_ = connection_.newId();
+        xcb_damage_create(connection_.get(), repaints_, connection_.root(),
+                          XCB_DAMAGE_REPORT_LEVEL_NON_EMPTY);
+        xcb_flush(connection_.get());
+    } else {
+        xcb_damage_destroy(connection_.get(), std::exchange(repaints_, 0));
+    }
+}
+
+bool ShownScreen::onRepaint(const xcb_damage_notify_event_t &event) {
+    if (repaints_ == 0 || event.damage != repaints_)
+        return false;
+    xcb_damage_subtract(connection_.get(), repaints_, XCB_NONE, XCB_NONE);
+    xcb_flush(connection_.get());
+    return true;
 }
 
 bool ShownScreen::onDamage(const xcb_damage_notify_event_t &event) {

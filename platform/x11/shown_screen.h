@@ -41,6 +41,13 @@ public:
     /// Reports of drawing arrive from here on.
     ShownScreen(Connection &connection, const PictureFormats &formats);
 
+    /// Whether it is told each time that somebody, such as a compositing manager, has drawn on it:
+    /// at once, and once for what is drawn in one go.
+    void tellRepaints(bool tell);
+
+    /// Whether the event tells that.
+    bool onRepaint(const xcb_damage_notify_event_t &event);
+
     /// False when the event is about something else.
     bool onDamage(const xcb_damage_notify_event_t &event);
 
@@ -71,6 +78,7 @@ private:
     Connection &connection_;
     xcb_render_picture_t picture_;
     xcb_damage_damage_t object_;
+    xcb_damage_damage_t repaints_ = 0;
     QRegion damage_;
     RestlessPlaces restless_;
     bool untaken_ = false; // what is expected was left, the last time

@@ -30,6 +30,11 @@ constexpr auto keptAfterwards = 300ms;
 constexpr auto shortestEffect = 500ms;
 constexpr auto longestEffect = 2s;
 
+// A compositing manager that has not drawn for so long does not show what windows draw.
+constexpr auto longestDelay = 100ms;
+// So long after something beneath was drawn, and looked at, both are expected to happen again.
+constexpr auto drawingLasts = 1s;
+
 // A look at the whole screen is repeated when windows came meanwhile, but not forever.
 constexpr int mostLooks = 3;
 
@@ -76,6 +81,7 @@ void Underlay::reset() {
     before_ = QRegion();
     lingering_.clear();
     leftOut_.clear();
+    ahead_ = keptUp_ = QRegion();
 }
 
 // Windows of ours that are about to come will lie on what is on the screen now.
@@ -106,6 +112,8 @@ void Underlay::rememberScreen() {
 
 bool Underlay::isDue() {
     const auto now = Clock::now();
+    if (!ahead_.isEmpty() || !keptUp_.isEmpty())
+        return true;
     for (Lingering &each : lingering_) {
         each.repainted = each.repainted || model_.screen().damage().intersects(each.region);
         if (now - each.since >= (each.repainted ? shortestEffect : longestEffect))
@@ -133,7 +141,11 @@ QRegion Underlay::follow(std::span<const std::uint32_t> numbers, const QRect &wa
         changed = united(changed, arrange(numbers, earlier));
     }
     redirectBeneath(wanted);
-    return united(changed, takeDamage(wanted));
+    wanted_ = wanted;
+    followed_ = now;
+    changed = united(united(changed, std::exchange(keptUp_, {})), takeDamage());
+    model_.screen().tellRepaints(mustKeepUp());
+    return changed;
 }
 
 // A window may be about to lose what it showed.
@@ -326,8 +338,8 @@ void Underlay::redirectBeneath(const QRect &wanted) {
 
 // Damage that nobody can see stays untaken: the server does not repeat itself about it, so that a
 // film running beneath another window is silent until it comes into sight.
-QRegion Underlay::takeDamage(const QRect &wanted) {
-    const QRegion looked = place_.intersected(wanted);
+QRegion Underlay::takeDamage() {
+    const QRegion looked = place_.intersected(wanted_);
     if (looked.isEmpty())
         return {};
     QRegion damage;
@@ -339,15 +351,49 @@ QRegion Underlay::takeDamage(const QRect &wanted) {
         damage = united(damage, seen.intersected(place_));
         model_.takeDamage(layer);
     }
-    dirty_ = united(dirty_, damage);
-    return damage;
+    const QRegion shown = shownOf(damage);
+    dirty_ = united(dirty_, shown);
+    return shown;
+}
+
+// What of it, and of what was held back before, is on the screen by now.
+QRegion Underlay::shownOf(const QRegion &drawn) {
+    const auto now = Clock::now();
+    if (!drawn.isEmpty())
+        drawn_ = now;
+    const bool wasRepainted = std::exchange(repaintsSeen_, model_.repaints()) != repaintsSeen_;
+    if (!model_.isComposited() || model_.isDrawingShown() ||
+        (!ahead_.isEmpty() && now - aheadSince_ > longestDelay)) {
+        aheadSince_ = now;
+        return united(std::exchange(ahead_, {}), drawn);
+    }
+    if (ahead_.isEmpty())
+        aheadSince_ = now;
+    // What was drawn again meanwhile is ahead again.
+    const QRegion shown = wasRepainted ? ahead_.subtracted(drawn) : QRegion();
+    ahead_ = united(ahead_.subtracted(shown), drawn);
+    return shown;
+}
+
+bool Underlay::mustKeepUp() const {
+    return isReady() && model_.isComposited() && !place_.isEmpty() &&
+           Clock::now() - std::min(drawn_, followed_) < drawingLasts;
+}
+
+void Underlay::keepUp() {
+    if (model_.layersChanged())
+        return;
+    const QRegion shown = takeDamage();
+    compose(shown.intersected(place_).intersected(wanted_));
+    keptUp_ = united(keptUp_, shown);
+    xcb_flush(connection_.get());
 }
 
 void Underlay::paint(xcb_render_picture_t target, const QRegion &where) {
     if (where.isEmpty())
         return;
     const QRegion due = united(dirty_, behind_).intersected(where);
-    const QRegion done = paintStraight(target, due);
+    const QRegion done = model_.isComposited() ? QRegion() : paintStraight(target, due);
     compose(due.subtracted(done));
     copyRegion(connection_, memory_->picture(), target, where.subtracted(done));
 }

@@ -43,6 +43,14 @@ public:
     QRegion follow(std::span<const std::uint32_t> numbers, const QRect &wanted,
                    const Earlier &earlier, const Earlier &painted);
 
+    /// Whether what happens between two pictures has to be heeded as it happens, by `keepUp`. A
+    /// window's own picture is ahead of a compositing manager's screen until that was drawn again,
+    /// and would tear where it meets the screen.
+    bool mustKeepUp() const;
+
+    /// Remembers what the windows beneath show, if that is what the screen shows by now.
+    void keepUp();
+
     /// The picture that was handed out last differs there from the one before.
     void pictureChanged(const QRegion &where);
 
@@ -80,7 +88,8 @@ private:
     void linger(std::span<const Layer> shown, std::span<const std::uint32_t> numbers,
                 QRegion &place);
     QRegion shadowsLeftBehind(const LayerStack &after) const;
-    QRegion takeDamage(const QRect &wanted);
+    QRegion takeDamage();
+    QRegion shownOf(const QRegion &drawn);
     void redirectBeneath(const QRect &wanted);
     QRegion paintStraight(xcb_render_picture_t target, const QRegion &where);
     void compose(const QRegion &where);
@@ -100,10 +109,17 @@ private:
     LayerStack layers_; // those that are asked for
     QRegion place_;
     QRegion remembered_; // where `memory_` was right once, and nothing has left since
-    QRegion dirty_;      // where it has to be composed again
-    QRegion behind_;     // where it shows less than what was painted past it
-    QRegion groundSeen_; // where `ground_` holds
-    LayerStack all_;     // all that is shown
+    QRect wanted_;
+    QRegion ahead_;  // drawn beneath, and not yet shown by the compositing manager
+    QRegion keptUp_; // what `keepUp` composed and nobody was told of
+    Clock::time_point aheadSince_;
+    std::uint64_t repaintsSeen_ = 0;
+    Clock::time_point drawn_;    // when something beneath was, the last time
+    Clock::time_point followed_; // and when somebody looked
+    QRegion dirty_;              // where it has to be composed again
+    QRegion behind_;             // where it shows less than what was painted past it
+    QRegion groundSeen_;         // where `ground_` holds
+    LayerStack all_;             // all that is shown
     std::uint64_t backgroundGeneration_ = 0;
     Clock::time_point groundDoubted_; // until then: whether it changed will show
 

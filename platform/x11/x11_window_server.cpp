@@ -76,8 +76,12 @@ void X11WindowServer::watchWhileIdle() {
     QObject::connect(&idle_, &QTimer::timeout, notifier_.get(),
                      [this] { notifier_->setEnabled(!connection_->broken()); });
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, &idle_, [this] {
-        notifier_->setEnabled(false);
         model_.drain();
+        if (!connection_->broken() && underlay_.mustKeepUp()) {
+            underlay_.keepUp();
+            return;
+        }
+        notifier_->setEnabled(false);
         idle_.start();
     });
     idle_.start();
@@ -131,6 +135,8 @@ std::optional<Image> X11WindowServer::composite(std::span<const std::uint32_t> n
     ring_.resize(model_.desktop().size());
     const QRect wanted = part ? part->intersected(model_.desktop()) : model_.desktop();
     follow(wanted);
+    if (notifier_ && underlay_.mustKeepUp())
+        notifier_->setEnabled(true);
     ring_.invalidate(model_.screen().takeDamage(QRegion(wanted).subtracted(underlay_.place())));
     if (goesOn && !ring_.isStale(wanted))
         return picture_;
