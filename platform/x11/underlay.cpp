@@ -30,8 +30,6 @@ constexpr auto keptAfterwards = 300ms;
 constexpr auto shortestEffect = 500ms;
 constexpr auto longestEffect = 2s;
 
-// A compositing manager that has not drawn for so long does not show what windows draw.
-constexpr auto longestDelay = 100ms;
 // So long after something beneath was drawn, and looked at, both are expected to happen again.
 constexpr auto drawingLasts = 1s;
 
@@ -81,7 +79,8 @@ void Underlay::reset() {
     before_ = QRegion();
     lingering_.clear();
     leftOut_.clear();
-    ahead_ = keptUp_ = QRegion();
+    keptUp_ = QRegion();
+    ahead_.clear();
 }
 
 // Windows of ours that are about to come will lie on what is on the screen now.
@@ -340,10 +339,8 @@ void Underlay::redirectBeneath(const QRect &wanted) {
 // film running beneath another window is silent until it comes into sight.
 QRegion Underlay::takeDamage() {
     const QRegion looked = place_.intersected(wanted_);
-    if (looked.isEmpty())
-        return {};
     QRegion damage;
-    for (std::size_t i = 0; i < layers_.layers().size(); ++i) {
+    for (std::size_t i = 0; !looked.isEmpty() && i < layers_.layers().size(); ++i) {
         const Layer &layer = layers_.layers()[i];
         const QRegion seen = model_.damage(layer).intersected(layers_.visible(i));
         if (!seen.intersects(looked))
@@ -351,27 +348,11 @@ QRegion Underlay::takeDamage() {
         damage = united(damage, seen.intersected(place_));
         model_.takeDamage(layer);
     }
-    const QRegion shown = shownOf(damage);
+    if (!damage.isEmpty())
+        drawn_ = Clock::now();
+    const bool isShown = !model_.isComposited() || model_.isDrawingShown() || looked.isEmpty();
+    const QRegion shown = ahead_.shown(damage, isShown, model_.repaints());
     dirty_ = united(dirty_, shown);
-    return shown;
-}
-
-// What of it, and of what was held back before, is on the screen by now.
-QRegion Underlay::shownOf(const QRegion &drawn) {
-    const auto now = Clock::now();
-    if (!drawn.isEmpty())
-        drawn_ = now;
-    const bool wasRepainted = std::exchange(repaintsSeen_, model_.repaints()) != repaintsSeen_;
-    if (!model_.isComposited() || model_.isDrawingShown() ||
-        (!ahead_.isEmpty() && now - aheadSince_ > longestDelay)) {
-        aheadSince_ = now;
-        return united(std::exchange(ahead_, {}), drawn);
-    }
-    if (ahead_.isEmpty())
-        aheadSince_ = now;
-    // What was drawn again meanwhile is ahead again.
-    const QRegion shown = wasRepainted ? ahead_.subtracted(drawn) : QRegion();
-    ahead_ = united(ahead_.subtracted(shown), drawn);
     return shown;
 }
 

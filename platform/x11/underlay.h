@@ -4,6 +4,7 @@
 
 #include "platform/x11/composer.h"
 #include "platform/x11/desktop_model.h"
+#include "platform/x11/drawn_ahead.h"
 #include "platform/x11/layers.h"
 #include "platform/x11/surface.h"
 
@@ -89,7 +90,6 @@ private:
                 QRegion &place);
     QRegion shadowsLeftBehind(const LayerStack &after) const;
     QRegion takeDamage();
-    QRegion shownOf(const QRegion &drawn);
     void redirectBeneath(const QRect &wanted);
     QRegion paintStraight(xcb_render_picture_t target, const QRegion &where);
     void compose(const QRegion &where);
@@ -110,10 +110,8 @@ private:
     QRegion place_;
     QRegion remembered_; // where `memory_` was right once, and nothing has left since
     QRect wanted_;
-    QRegion ahead_;  // drawn beneath, and not yet shown by the compositing manager
-    QRegion keptUp_; // what `keepUp` composed and nobody was told of
-    Clock::time_point aheadSince_;
-    std::uint64_t repaintsSeen_ = 0;
+    DrawnAhead ahead_;
+    QRegion keptUp_;             // what `keepUp` composed and nobody was told of
     Clock::time_point drawn_;    // when something beneath was, the last time
     Clock::time_point followed_; // and when somebody looked
     QRegion dirty_;              // where it has to be composed again
