@@ -183,18 +183,15 @@ private:
     void *memory_ = nullptr;
 };
 
-/// All windows of the desktop in memory of their own, as those beneath ours are.
-class KeptApart {
-public:
-    KeptApart() : connection_(x11::Connection::open()) {
-        xcb_composite_redirect_subwindows(connection_->get(), connection_->root(),
-                                          XCB_COMPOSITE_REDIRECT_AUTOMATIC);
-        connection_->roundTrip();
-    }
-
-private:
-    std::unique_ptr<x11::Connection> connection_;
-};
+/// All windows of the desktop in memory of their own, as those beneath ours are, for as long as the
+/// connection lives.
+std::unique_ptr<x11::Connection> keepApart() {
+    auto connection = x11::Connection::open();
+    xcb_composite_redirect_subwindows(connection->get(), connection->root(),
+                                      XCB_COMPOSITE_REDIRECT_AUTOMATIC);
+    connection->roundTrip();
+    return connection;
+}
 
 /// What the capture does: the list, the grab of all windows in it, the last picture held.
 class Tick {
@@ -317,7 +314,7 @@ bool measure(ScenePainter &painter, const Case &c, const std::string &size) {
             RootFetch fetch;
             fetches.add(cost(painter, c.scene, std::ref(fetch)));
             if (keepsApart) {
-                const KeptApart apart;
+                const auto apart = keepApart();
                 fetchesApart.add(cost(painter, c.scene, std::ref(fetch)));
             }
         }

@@ -204,6 +204,10 @@ struct DesktopFont {
     double points;
 };
 
+void PrintTo(const DesktopFont &font, std::ostream *out) {
+    *out << font.family << ' ' << font.points;
+}
+
 /// A language's table, and a font that has its letters, for as long as this lives.
 struct InLanguage {
     InLanguage(QString language, const DesktopFont &desktop) {
